@@ -1,0 +1,22 @@
+# One interface target carries the warnings and sanitizers that every target of the project uses.
+add_library(zantroq_settings INTERFACE)
+target_include_directories(zantroq_settings INTERFACE ${CMAKE_SOURCE_DIR}/src)
+target_compile_options(zantroq_settings INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wunused
+    # Results must be the same on every build: no fused multiply-add, no reordering of floating-point terms.
+    -ffp-contract=off -fno-fast-math)
+target_compile_definitions(zantroq_settings INTERFACE ASIO_STANDALONE ASIO_NO_DEPRECATED)
+if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+    target_compile_options(zantroq_settings INTERFACE -Wthread-safety)
+endif()
+if(ZANTROQ_WERROR)
+    target_compile_options(zantroq_settings INTERFACE -Werror)
+endif()
+if(ZANTROQ_SANITIZE)
+    target_compile_options(zantroq_settings INTERFACE -fsanitize=${ZANTROQ_SANITIZE} -fno-omit-frame-pointer)
+    target_link_options(zantroq_settings INTERFACE -fsanitize=${ZANTROQ_SANITIZE})
+    if(ZANTROQ_SANITIZE MATCHES "undefined")
+        # Division by zero and float overflow are defined by IEEE 754 and part of the studies' arithmetic.
+        target_compile_options(zantroq_settings INTERFACE -fno-sanitize-recover=undefined -fno-sanitize=float-divide-by-zero)
+    endif()
+endif()

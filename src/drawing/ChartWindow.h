@@ -1,0 +1,99 @@
+// What panes, studies and trendlines ask of their chart window. Everything here is the window's own state; the interface keeps
+// the drawing side free of the window. Chart window's thread.
+#pragma once
+
+#include "drawing/Chart2D.h"
+#include "settings/ChartSettings.h"
+
+#include <string>
+
+namespace zantroq {
+
+// The stretch of the series on show. Indices count from 0; `last` is `first + shown - 1`.
+struct sDisplayRange
+{
+    int first = 0;
+    int last = 0;
+    int shown = 120;    // points shown: an entry of DisplayMaxPoints, or fewer for a shorter series
+    int ptsIndex = 3;   // place in DisplayMaxPoints
+    int scrollPos = 0;  // the scroll position last asked for
+    int knownCount = 0; // points that the panes have been told of
+};
+
+class IChartWindow
+{
+public:
+    virtual ~IChartWindow() = default;
+
+    virtual const sChartSettings& Settings() const = 0;
+    virtual sDisplayRange& Range() = 0;
+    virtual const sDisplayRange& Range() const = 0;
+
+    // The client width of the panes in pixels, and the pane of a number (0 the price pane, k study k).
+    virtual int ChartPixelWidth() const = 0;
+    virtual CChart2D& Pane(int number) = 0;
+    // True for a pane that shows only its title: minimised with none maximised, or another pane is maximised.
+    virtual bool IsCollapsed(int pane) const = 0;
+
+    // The marker: the displayed point number, or NoPoint.
+    virtual int SelectedPoint() const = 0;
+    virtual void SetSelectedPoint(int point) = 0;
+
+    // The one-shot request to fit a fixed value axis again.
+    virtual bool ResetScale() const = 0;
+    virtual void ClearResetScale() = 0;
+
+    // Repaint suspension of all panes, nested; and of the price pane alone.
+    virtual void BeginBatch() = 0;
+    virtual void EndBatch() = 0;
+    virtual void BeginPriceBatch() = 0;
+    virtual void EndPriceBatch() = 0;
+
+    // The scroll bar's limit: range maximum - page + 1.
+    virtual int ScrollLimit() const = 0;
+    virtual bool ScrollBarVisible() const = 0;
+    // Shows or hides the scroll bar and lays the panes out again (their sizes only).
+    virtual void SetScrollBarVisible(bool visible) = 0;
+    virtual void UpdateZoomButtons() = 0;
+
+    // Text of the status bar's first part; held back while a trendline mode is armed.
+    virtual void SetStatusText(const std::string& text) = 0;
+};
+
+// Suspends repainting of all panes for a scope.
+class CBatch
+{
+public:
+    explicit CBatch(IChartWindow& window) : m_window(window) { m_window.BeginBatch(); }
+    ~CBatch() { m_window.EndBatch(); }
+    CBatch(const CBatch&) = delete;
+    CBatch& operator=(const CBatch&) = delete;
+
+private:
+    IChartWindow& m_window;
+};
+
+// Suspends repainting of the price pane for a scope.
+class CPriceBatch
+{
+public:
+    explicit CPriceBatch(IChartWindow& window) : m_window(window) { m_window.BeginPriceBatch(); }
+    ~CPriceBatch() { m_window.EndPriceBatch(); }
+    CPriceBatch(const CPriceBatch&) = delete;
+    CPriceBatch& operator=(const CPriceBatch&) = delete;
+
+private:
+    IChartWindow& m_window;
+};
+
+// The trendlines as the price pane and the draw manager see them.
+class ITrendLayer
+{
+public:
+    virtual ~ITrendLayer() = default;
+    virtual int SeriesCount() const = 0;   // the last series number taken in group 2 of the price pane, at least 3
+    virtual int LabelCount() const = 0;    // labels in use on the price pane, at least 9
+    virtual void DrawAll() = 0;            // every line, list by list
+};
+
+} // namespace zantroq

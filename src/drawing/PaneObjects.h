@@ -1,0 +1,494 @@
+// The objects of a pane's tree. Each holds plain values under the name that the rest of the system uses for it and tells its
+// scene of every change. All on the chart window's thread.
+#pragma once
+
+#include "settings/ChartSettings.h"
+
+#include <cstdint>
+#include <limits>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace zantroq {
+
+class CChart2D;
+
+enum LinePattern : int { LineNone = 1, LineSolid = 2, LineLongDashes = 3, LineShortDashes = 5 };
+enum SymbolShape : int { SymbolNone = 1, SymbolMark = 3 };
+enum ChartType : int { ChartLines = 1, ChartBars = 2, ChartBarsFromOrigin = 5, ChartHiLoOpenClose = 7, ChartCandles = 8 };
+enum AnchorSide : int { AnchorAboveRight = 0x11, AnchorAboveLeft = 0x12, AnchorBelowRight = 0x21, AnchorBelowLeft = 0x22 };
+enum AttachmentMethod : int { AttachToPixel = 0, AttachToPaneTopLeft = 1, AttachToData = 2 };
+
+inline constexpr int GeometryFound = -100; // the answer of PixelToData and PickPoint when they found something
+inline constexpr int FocusAny = 3;         // PickPoint: the nearest point of any series
+inline constexpr int FocusX = 1;           // PickPoint: the nearest in x only
+
+struct sPixelRect
+{
+    int Left = 0, Top = 0, Right = 0, Bottom = 0; // Right and Bottom are exclusive
+    int Width() const { return Right - Left; }
+    int Height() const { return Bottom - Top; }
+};
+
+// A node that knows its scene.
+class CPaneNode
+{
+public:
+    explicit CPaneNode(CChart2D* chart) : m_chart(chart) {}
+
+protected:
+    void Touch();
+    CChart2D* m_chart;
+};
+
+class CPaneInterior : public CPaneNode
+{
+public:
+    using CPaneNode::CPaneNode;
+    void SetBackground(Colour colour) { m_background = colour; Touch(); }
+    void SetForeground(Colour colour) { m_foreground = colour; Touch(); } // also the colour of axis text
+    Colour Background() const { return m_background; }
+    Colour Foreground() const { return m_foreground; }
+
+private:
+    Colour m_background = 0xFFFFFF, m_foreground = 0x000000;
+};
+
+// A size or margin in pixels.
+class CPixelValue : public CPaneNode
+{
+public:
+    CPixelValue(CChart2D* chart, int value) : CPaneNode(chart), m_value(value) {}
+    int Value() const { return m_value; }
+    void SetValue(int pixels) { m_value = pixels; m_automatic = false; Touch(); }
+    void SetAutomatic(bool automatic) { m_automatic = automatic; }
+    bool Automatic() const { return m_automatic; }
+
+private:
+    int m_value;
+    bool m_automatic = true;
+};
+
+class CAreaBox : public CPaneNode
+{
+public:
+    explicit CAreaBox(CChart2D* chart) : CPaneNode(chart), m_left(chart, 0), m_width(chart, 0), m_height(chart, 0) {}
+    CPixelValue& Left() { return m_left; }
+    CPixelValue& Width() { return m_width; }
+    CPixelValue& Height() { return m_height; }
+    const CPixelValue& Left() const { return m_left; }
+    const CPixelValue& Width() const { return m_width; }
+    const CPixelValue& Height() const { return m_height; }
+
+private:
+    CPixelValue m_left, m_width, m_height;
+};
+
+class CPlotFrame : public CPaneNode
+{
+public:
+    explicit CPlotFrame(CChart2D* chart)
+        : CPaneNode(chart), m_interior(chart), m_top(chart, 17), m_bottom(chart, 4), m_left(chart, 58), m_right(chart, 23)
+    {
+    }
+    CPaneInterior& Interior() { return m_interior; }
+    CPixelValue& TopMargin() { return m_top; }
+    CPixelValue& BottomMargin() { return m_bottom; }
+    CPixelValue& LeftMargin() { return m_left; }
+    CPixelValue& RightMargin() { return m_right; }
+    const CPaneInterior& Interior() const { return m_interior; }
+    const CPixelValue& TopMargin() const { return m_top; }
+    const CPixelValue& BottomMargin() const { return m_bottom; }
+    const CPixelValue& LeftMargin() const { return m_left; }
+    const CPixelValue& RightMargin() const { return m_right; }
+
+private:
+    CPaneInterior m_interior;
+    CPixelValue m_top, m_bottom, m_left, m_right;
+};
+
+class CBarLook : public CPaneNode
+{
+public:
+    using CPaneNode::CPaneNode;
+    void SetBarWidth(int pixels) { m_width = pixels; Touch(); }
+    int BarWidth() const { return m_width; }
+
+private:
+    int m_width = 1;
+};
+
+class CCandleLook : public CPaneNode
+{
+public:
+    using CPaneNode::CPaneNode;
+    void SetFilled(bool filled) { m_filled = filled; Touch(); }
+    bool Filled() const { return m_filled; }
+
+private:
+    bool m_filled = false;
+};
+
+class CLineLook : public CPaneNode
+{
+public:
+    using CPaneNode::CPaneNode;
+    void SetPattern(int pattern) { m_pattern = pattern; Touch(); }
+    void SetColour(Colour colour) { m_colour = colour; Touch(); }
+    void SetWidth(int pixels) { m_width = pixels; Touch(); }
+    int Pattern() const { return m_pattern; }
+    Colour LineColour() const { return m_colour; }
+    int Width() const { return m_width; }
+
+private:
+    int m_pattern = LineSolid, m_width = 1;
+    Colour m_colour = 0;
+};
+
+class CFillLook : public CPaneNode
+{
+public:
+    using CPaneNode::CPaneNode;
+    void SetPattern(int pattern) { m_pattern = pattern; Touch(); }
+    void SetColour(Colour colour) { m_colour = colour; Touch(); }
+    int Pattern() const { return m_pattern; }
+    Colour FillColour() const { return m_colour; }
+
+private:
+    int m_pattern = 0;
+    Colour m_colour = 0;
+};
+
+class CSymbolLook : public CPaneNode
+{
+public:
+    using CPaneNode::CPaneNode;
+    void SetShape(int shape) { m_shape = shape; Touch(); }
+    void SetColour(Colour colour) { m_colour = colour; Touch(); }
+    void SetSize(int pixels) { m_size = pixels; Touch(); }
+    int Shape() const { return m_shape; }
+    Colour SymbolColour() const { return m_colour; }
+    int Size() const { return m_size; }
+
+private:
+    int m_shape = SymbolNone, m_size = 1;
+    Colour m_colour = 0;
+};
+
+class CSeriesStyle : public CPaneNode
+{
+public:
+    explicit CSeriesStyle(CChart2D* chart) : CPaneNode(chart), m_line(chart), m_fill(chart), m_symbol(chart) {}
+    CLineLook& LineLook() { return m_line; }
+    CFillLook& FillLook() { return m_fill; }
+    CSymbolLook& SymbolLook() { return m_symbol; }
+    const CLineLook& LineLook() const { return m_line; }
+    const CFillLook& FillLook() const { return m_fill; }
+    const CSymbolLook& SymbolLook() const { return m_symbol; }
+
+private:
+    CLineLook m_line;
+    CFillLook m_fill;
+    CSymbolLook m_symbol;
+};
+
+// One end or spacing of an axis. Setting a value ends automatic mode.
+class CAxisBound : public CPaneNode
+{
+public:
+    CAxisBound(CChart2D* chart, double value) : CPaneNode(chart), m_value(value) {}
+    double Value() const { return m_value; }
+    void SetValue(double value) { m_value = value; m_automatic = false; Touch(); }
+    bool Automatic() const { return m_automatic; }
+    void SetKind(int kind) { m_kind = kind; } // kept with the scene, without effect of its own
+    int Kind() const { return m_kind; }
+
+private:
+    double m_value;
+    bool m_automatic = true;
+    int m_kind = 0;
+};
+
+struct sTickLabel
+{
+    double Value = 0;
+    std::string Text;
+    bool operator==(const sTickLabel&) const = default;
+};
+
+class CTickLabels : public CPaneNode
+{
+public:
+    using CPaneNode::CPaneNode;
+    int Count() const { return static_cast<int>(m_labels.size()); }
+    const sTickLabel& Item(int number) const; // from 1; std::invalid_argument otherwise
+    void Add(double value, std::string text) { m_labels.push_back({value, std::move(text)}); Touch(); }
+    void RemoveAll() { m_labels.clear(); Touch(); }
+    const std::vector<sTickLabel>& All() const { return m_labels; }
+
+private:
+    std::vector<sTickLabel> m_labels;
+};
+
+class CAxisGrid : public CPaneNode
+{
+public:
+    explicit CAxisGrid(CChart2D* chart) : CPaneNode(chart), m_line(chart) {}
+    void SetSpacing(double spacing) { m_spacing = spacing; Touch(); } // 0 hides the grid
+    double Spacing() const { return m_spacing; }
+    CLineLook& LineLook() { return m_line; }
+    const CLineLook& LineLook() const { return m_line; }
+
+private:
+    double m_spacing = 0;
+    CLineLook m_line;
+};
+
+class CPaneAxis : public CPaneNode
+{
+public:
+    explicit CPaneAxis(CChart2D* chart);
+    CAxisBound& AxisOrigin() { return m_origin; } // automatic: bars start from 0
+    CAxisBound& DataLow() { return m_dataLow; }
+    CAxisBound& DataHigh() { return m_dataHigh; }
+    CAxisBound& ViewLow() { return m_viewLow; }
+    CAxisBound& ViewHigh() { return m_viewHigh; }
+    CAxisBound& TickSpacing() { return m_tickSpacing; }
+    CAxisBound& TickMarkSpacing() { return m_tickMarkSpacing; }
+    CTickLabels& TickLabels() { return m_tickLabels; }
+    CAxisGrid& AxisGrid() { return m_grid; }
+    const CAxisBound& AxisOrigin() const { return m_origin; }
+    const CAxisBound& DataLow() const { return m_dataLow; }
+    const CAxisBound& DataHigh() const { return m_dataHigh; }
+    const CAxisBound& ViewLow() const { return m_viewLow; }
+    const CAxisBound& ViewHigh() const { return m_viewHigh; }
+    const CAxisBound& TickSpacing() const { return m_tickSpacing; }
+    const CAxisBound& TickMarkSpacing() const { return m_tickMarkSpacing; }
+    const CTickLabels& TickLabels() const { return m_tickLabels; }
+    const CAxisGrid& AxisGrid() const { return m_grid; }
+    void SetLabelMethod(int method) { m_labelMethod = method; Touch(); }
+    int LabelMethod() const { return m_labelMethod; }
+    void SetShown(bool shown) { m_shown = shown; Touch(); }
+    bool Shown() const { return m_shown; }
+    // Settings 19, 21 and 22 and the multiplier of "y2": kept with the scene, without effect of their own.
+    void SetSetting19(int value) { m_setting19 = value; }
+    void SetSetting21(int value) { m_setting21 = value; }
+    void SetSetting22(int value) { m_setting22 = value; }
+    int Setting19() const { return m_setting19; }
+    int Setting21() const { return m_setting21; }
+    int Setting22() const { return m_setting22; }
+    void SetMultiplier(double multiplier) { m_multiplier = multiplier; }
+    double Multiplier() const { return m_multiplier; }
+
+private:
+    CAxisBound m_origin, m_dataLow, m_dataHigh, m_viewLow, m_viewHigh, m_tickSpacing, m_tickMarkSpacing;
+    CTickLabels m_tickLabels;
+    CAxisGrid m_grid;
+    int m_labelMethod = 0, m_setting19 = 2, m_setting21 = 2, m_setting22 = 0;
+    bool m_shown = true;
+    double m_multiplier = 1.0;
+};
+
+class CPaneAxes : public CPaneNode
+{
+public:
+    explicit CPaneAxes(CChart2D* chart) : CPaneNode(chart), m_x(chart), m_y(chart), m_y2(chart) {}
+    CPaneAxis& Item(const std::string& name); // "x", "y" or "y2"; std::invalid_argument otherwise
+    CPaneAxis& X() { return m_x; }
+    CPaneAxis& Y() { return m_y; }
+    CPaneAxis& Y2() { return m_y2; }
+    const CPaneAxis& X() const { return m_x; }
+    const CPaneAxis& Y() const { return m_y; }
+    const CPaneAxis& Y2() const { return m_y2; }
+
+private:
+    CPaneAxis m_x, m_y, m_y2;
+};
+
+inline constexpr int NoPoint = -1000000; // a marker that stands nowhere
+
+class CPaneMarker : public CPaneNode
+{
+public:
+    explicit CPaneMarker(CChart2D* chart) : CPaneNode(chart), m_line(chart) {}
+    void SetShown(bool shown) { m_shown = shown; Touch(); }
+    bool Shown() const { return m_shown; }
+    void SetLock(int lock) { m_lock = lock; } // always 1: locked to a point
+    int Lock() const { return m_lock; }
+    CLineLook& LineLook() { return m_line; }
+    const CLineLook& LineLook() const { return m_line; }
+    void SetPoint(int point) { m_point = point; Touch(); }
+    int Point() const { return m_point; } // NoPoint: none
+
+private:
+    bool m_shown = false;
+    int m_lock = 1, m_point = NoPoint;
+    CLineLook m_line;
+};
+
+class CPaneArea : public CPaneNode
+{
+public:
+    explicit CPaneArea(CChart2D* chart)
+        : CPaneNode(chart), m_box(chart), m_interior(chart), m_frame(chart), m_bar(chart), m_candle(chart), m_marker(chart), m_axes(chart)
+    {
+    }
+    CAreaBox& AreaBox() { return m_box; }
+    CPaneInterior& Interior() { return m_interior; }
+    CPlotFrame& PlotFrame() { return m_frame; }
+    CBarLook& BarLook() { return m_bar; }
+    CCandleLook& CandleLook() { return m_candle; }
+    CPaneMarker& PaneMarkers(const std::string& name); // "x"; std::invalid_argument otherwise
+    CPaneAxes& PaneAxes() { return m_axes; }
+    const CAreaBox& AreaBox() const { return m_box; }
+    const CPaneInterior& Interior() const { return m_interior; }
+    const CPlotFrame& PlotFrame() const { return m_frame; }
+    const CBarLook& BarLook() const { return m_bar; }
+    const CCandleLook& CandleLook() const { return m_candle; }
+    const CPaneMarker& Marker() const { return m_marker; }
+    const CPaneAxes& PaneAxes() const { return m_axes; }
+
+private:
+    CAreaBox m_box;
+    CPaneInterior m_interior;
+    CPlotFrame m_frame;
+    CBarLook m_bar;
+    CCandleLook m_candle;
+    CPaneMarker m_marker;
+    CPaneAxes m_axes;
+};
+
+// The vectors of a group. The layout is always 1: one x vector, and with it one point count, shared by all series of the group.
+// Setting the point count of any series sizes all of them; points that come into being so hold the hole value. Numbers out of
+// range are not examined by callers: a getter then gives 0 (PointY the hole value), a setter does nothing.
+class CPaneData : public CPaneNode
+{
+public:
+    explicit CPaneData(CChart2D* chart) : CPaneNode(chart) {}
+    static constexpr double HoleValue() { return 1e+308; }
+
+    void SetLayout(int layout) { m_layout = layout; }
+    int Layout() const { return m_layout; }
+    int SeriesCount() const { return static_cast<int>(m_y.size()); }
+    void SetSeriesCount(int count);
+    void SetFirstShownSeries(int series) { m_firstShown = series; Touch(); }
+    int FirstShownSeries() const { return m_firstShown; }
+    void SetLastShownSeries(int series) { m_lastShown = series; Touch(); } // 0: no limit
+    int LastShownSeries() const { return m_lastShown; }
+    int PointCount(int series) const;
+    void SetPointCount(int series, int count);
+    void SetFirstPoint(int series, int point);
+    int FirstPoint(int series) const;
+    int DrawnTo(int series) const;
+    void SetDrawnTo(int series, int point);
+    bool AdvanceDrawn(int series, int count); // moves the marker on; false past the end
+    double PointX(int series, int point) const;
+    void SetPointX(int series, int point, double x);
+    double PointY(int series, int point) const;
+    void SetPointY(int series, int point, double y);
+    // Moves count points that begin at firstSource to the series' beginning. x moves with series 1 only.
+    bool ShiftPoints(int series, int count, int firstSource);
+    // Bulk loads: fewer values than PointCount are refused with false.
+    bool SetXVector(int series, std::span<const double> x);
+    bool SetXVector(int series, std::span<const int> x);
+    bool SetYVector(int series, std::span<const double> y);
+    bool GetXVector(int series, std::vector<double>& x) const;
+
+    // For the painter and for whole-vector readers: no copies.
+    std::span<const double> X() const { return m_x; }
+    std::span<const double> Y(int series) const;
+
+private:
+    friend struct sSceneAccess;
+    bool Has(int series) const { return series >= 1 && series <= SeriesCount(); }
+    bool Has(int series, int point) const { return Has(series) && point >= 1 && point <= static_cast<int>(m_x.size()); }
+
+    int m_layout = 1, m_firstShown = 1, m_lastShown = 0;
+    std::vector<double> m_x;
+    std::vector<std::vector<double>> m_y;
+    std::vector<int> m_firstPoint, m_drawnTo;
+};
+
+class CPaneGroup : public CPaneNode
+{
+public:
+    explicit CPaneGroup(CChart2D* chart) : CPaneNode(chart), m_data(chart) {}
+    void SetChartType(int type) { m_type = type; Touch(); }
+    int Type() const { return m_type; }
+    CPaneData& PaneData() { return m_data; }
+    const CPaneData& PaneData() const { return m_data; }
+    void CommitPaneData() { Touch(); } // the data object put back: commits bulk loads of several vectors at once
+    CSeriesStyle& SeriesStyles(int series); // from 1; a style exists as soon as it is asked for
+    const CSeriesStyle* FindStyle(int series) const; // null where none was ever asked for
+    int StyleCount() const { return static_cast<int>(m_styles.size()); }
+
+    // GeometryFound when the pixel lies in the plot region; x and y are set in either case.
+    int PixelToData(int pixelX, int pixelY, double& x, double& y) const;
+    void DataToPixel(double x, double y, int& pixelX, int& pixelY) const;
+    // GeometryFound when a point was found: the nearest in pixels, the earliest on a tie. Outside the plot region nothing is.
+    int PickPoint(int pixelX, int pixelY, int focus, int& series, int& point, int& distance) const;
+    // Pixel y is -1 where the point is a hole or off the plot.
+    void PointToPixel(int series, int point, int& pixelX, int& pixelY) const;
+
+private:
+    int m_type = ChartLines;
+    CPaneData m_data;
+    std::vector<std::unique_ptr<CSeriesStyle>> m_styles;
+};
+
+// A text in the pane.
+class CPaneLabel : public CPaneNode
+{
+public:
+    explicit CPaneLabel(CChart2D* chart) : CPaneNode(chart), m_interior(chart) {}
+    void SetBoxAttachment(int kind) { m_boxAttachment = kind; }
+    void SetBoxEdge(int kind) { m_boxEdge = kind; }
+    int BoxAttachment() const { return m_boxAttachment; }
+    int BoxEdge() const { return m_boxEdge; }
+    CPaneInterior& Interior() { return m_interior; }
+    const CPaneInterior& Interior() const { return m_interior; }
+    void SetText(std::string text) { m_text = std::move(text); Touch(); } // lines separated by newline
+    const std::string& Text() const { return m_text; }
+    void SetPixelAnchor(int x, int y) { m_pixelX = x; m_pixelY = y; Touch(); }
+    int PixelX() const { return m_pixelX; }
+    int PixelY() const { return m_pixelY; }
+    void SetDataAnchor(double x, double y) { m_dataX = x; m_dataY = y; Touch(); }
+    double DataX() const { return m_dataX; }
+    double DataY() const { return m_dataY; }
+    void SetShown(bool shown) { m_shown = shown; Touch(); }
+    bool Shown() const { return m_shown; }
+    void SetRepaintSuspended(bool suspended);
+    void SetAttachment(int method) { m_attachment = method; Touch(); }
+    int Attachment() const { return m_attachment; }
+    void SetAnchorSide(int side) { m_anchorSide = side; Touch(); }
+    int Side() const { return m_anchorSide; }
+    void SetBorder(int kind) { m_border = kind; Touch(); } // 1: a 1-pixel border
+    int Border() const { return m_border; }
+
+private:
+    CPaneInterior m_interior;
+    std::string m_text;
+    int m_boxAttachment = 0, m_boxEdge = 4, m_pixelX = 0, m_pixelY = 0, m_attachment = AttachToPixel, m_anchorSide = AnchorBelowRight, m_border = 0;
+    double m_dataX = 0, m_dataY = 0;
+    bool m_shown = false;
+};
+
+class CPaneLabels : public CPaneNode
+{
+public:
+    using CPaneNode::CPaneNode;
+    int Count() const { return static_cast<int>(m_labels.size()); }
+    CPaneLabel& Item(int number); // from 1; std::invalid_argument otherwise
+    const CPaneLabel& Item(int number) const;
+    CPaneLabel& Add();
+    void Remove(int number); // the ones behind it move down; std::invalid_argument out of range
+    void RemoveAll();
+
+private:
+    std::vector<std::unique_ptr<CPaneLabel>> m_labels;
+};
+
+} // namespace zantroq

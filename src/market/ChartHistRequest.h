@@ -1,0 +1,103 @@
+// One history request: its parameters, the series that its replies fill, and its state. The chart window's thread fills the
+// parameters and reads the series; the worker thread appends to it and amends it. DataLock stands between the two.
+#pragma once
+
+#include "market/HistoryRecords.h"
+#include "platform/ThreadAnnotations.h"
+
+#include <atomic>
+#include <cstdint>
+#include <mutex>
+#include <string>
+
+namespace zantroq {
+
+// Numbers of the series arrays. 0 and 1 are two names of the time array.
+enum SeriesField : int {
+    FieldTime = 0, FieldTimeAlias = 1, FieldOpen = 2, FieldHigh = 3, FieldLow = 4, FieldClose = 5, FieldLast = 6, FieldBid = 7,
+    FieldBidSize = 8, FieldAsk = 9, FieldAskSize = 10, FieldOpenInterest = 11, FieldSize = 12, FieldTotalVolume = 13,
+    FieldTickId = 14, FieldBasis = 15, FieldConditions = 16, FieldCount = 17
+};
+
+class CChartHistRequest
+{
+public:
+    CChartHistRequest();
+    ~CChartHistRequest();
+    CChartHistRequest(const CChartHistRequest&) = delete;
+    CChartHistRequest& operator=(const CChartHistRequest&) = delete;
+
+    // The number that stands for this request on the wire: 1 to 2147483647, never used twice in a process.
+    std::int32_t Handle() const { return m_handle; }
+
+    // Parameters. Setters take the lock; getters return copies and take none, so they belong to the window's thread.
+    void SetSymbol(std::string symbol);
+    void SetDatapoints(std::int32_t count);
+    void SetIntervalSeconds(std::int32_t seconds);
+    void SetDays(std::int32_t days);
+    void SetDataDirection(std::string direction);
+    void SetBeginDate(std::string date);
+    void SetBeginTime(std::string time);
+    void SetBeginFilterTime(std::string time);
+    void SetEndDate(std::string date);
+    void SetEndTime(std::string time);
+    void SetEndFilterTime(std::string time);
+    void SetRequestKind(std::int32_t kind);
+    void SetNotifyWindow(void* window);
+    std::string GetSymbol() const;
+    std::int32_t GetDatapoints() const;
+    std::int32_t GetIntervalSeconds() const;
+    std::int32_t GetDays() const;
+    std::string GetDataDirection() const;
+    std::string GetBeginDate() const;
+    std::string GetBeginTime() const;
+    std::string GetBeginFilterTime() const;
+    std::string GetEndDate() const;
+    std::string GetEndTime() const;
+    std::string GetEndFilterTime() const;
+    std::int32_t GetRequestKind() const;
+
+    // Flags: single reads and writes, no lock, either thread.
+    void SetComplete(bool complete);
+    bool IsComplete() const;
+    void SetPriceFormat(std::int32_t code);
+    std::int32_t GetPriceFormat() const;
+    void SetUseExchangeFormat(bool use);
+    bool UsesExchangeFormat() const;
+    void MarkDead();
+    bool IsAlive() const;
+    bool HasBidAskUpdates() const;
+    void SetExtendedTrades(bool extended);
+    bool HasExtendedTrades() const;
+
+    // The series. Every operation takes the lock for itself unless it says otherwise.
+    void AppendPoint(const sHIST_POINT& point);            // dropped when outside the request's date and time bounds
+    void UpdatePoint(int index, const sHIST_POINT& point); // std::invalid_argument outside the series; no range check
+    void GetPoint(int index, sHIST_POINT& point) const;    // index clamped; std::invalid_argument on an empty series
+    void GetChartPoint(int index, sHIST_DATA& point) const;
+    int GetCount(int field) const;     // std::invalid_argument for a field outside 0 to 16
+    int GetLastIndex(int field) const; // GetCount - 1
+    sTIME_W_MILLISECONDS GetTimeAt(int index) const; // outside: 1 January 1980 12:00:00
+    double GetLastAt(int index) const;               // this and the following: 0 outside
+    std::int32_t GetSizeAt(int index) const;
+    std::int64_t GetTotalVolumeAt(int index) const;
+    double GetOpenAt(int index) const;
+    double GetCloseAt(int index) const;
+    double GetHighAt(int index) const;
+    double GetLowAt(int index) const;
+    void RemovePoint(int index); // from each of the sixteen arrays that is longer than index
+    void ResetSeries();
+    void ClearSeries(); // all arrays to length 0; closes the race with an appending worker by taking the lock
+
+    // Bulk reads: as many as exist of `count` elements from `first`, copied under one lock. Return how many were copied;
+    // a negative first or an empty overlap copies nothing. CopyDoubles takes fields 2 to 7 and 9; CopyIntegers fields 8, 10
+    // to 14 (widened with their sign); CopyTimes field 0.
+    int CopyDoubles(int field, int first, int count, double* out) const;
+    int CopyIntegers(int field, int first, int count, std::int64_t* out) const;
+    int CopyTimes(int first, int count, sTIME_W_MILLISECONDS* out) const;
+
+private:
+    const std::int32_t m_handle;
+};
+
+} // namespace zantroq

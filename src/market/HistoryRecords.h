@@ -1,0 +1,62 @@
+// The records of one point and the ten kinds of history request. Plain data, no thread of its own.
+#pragma once
+
+#include "platform/CalendarTime.h"
+
+#include <cstdint>
+#include <string>
+
+namespace zantroq {
+
+// The request kinds; the number is also the first digit of the request identifier on the wire.
+enum RequestKind : std::int32_t {
+    NoRequestKind = -1,
+    TicksByDatapoints = 0,     // HTX
+    TicksByDays = 1,           // HTD
+    TicksByRange = 2,          // HTT
+    IntervalsByDatapoints = 3, // HIX
+    IntervalsByDays = 4,       // HID
+    IntervalsByRange = 5,      // HIT
+    DailyByDatapoints = 6,     // HDX
+    DailyByRange = 7,          // HDT
+    WeeklyByDatapoints = 8,    // HWX
+    MonthlyByDatapoints = 9    // HMX
+};
+
+constexpr bool IsTickKind(int kind) { return kind >= 0 && kind <= 2; }
+constexpr bool IsIntervalKind(int kind) { return kind >= 3 && kind <= 5; }
+constexpr bool IsDayKind(int kind) { return kind >= 6 && kind <= 9; }
+
+// What the user chooses to see.
+enum DataType : std::int32_t { TickData = 0, MinuteData = 1, DailyData = 2, WeeklyData = 3, MonthlyData = 4 };
+
+// 30 December 1980 13:00:00, the time of a default-constructed chart point. Panes can see it for a point past the end.
+inline constexpr double DefaultPointTime = 29585.0 + 13.0 / 24.0;
+
+// The chart-facing point.
+struct sHIST_DATA
+{
+    bool Flag = false; // true: the point is marked deleted and draws nothing
+    double Open = 0, Close = 0, High = 0, Low = 0;
+    std::int32_t Volume = 0;
+    sTIME_W_MILLISECONDS Time{DefaultPointTime, TimeValid, 0};
+};
+
+// One record as the feed sent it, before it is stored.
+struct sHIST_POINT
+{
+    sTIME_W_MILLISECONDS Time;
+    double Last = 0;
+    std::uint32_t LastSize = 0; // for interval bars the period volume
+    double Bid = 0, Ask = 0;
+    std::int64_t TotalVolume = 0;
+    double Open = 0, High = 0, Low = 0;
+    std::string Basis;
+    std::uint32_t BidSize = 0, AskSize = 0;
+    std::uint32_t TickId = 0;
+    double Close = 0;
+    std::string Conditions;
+    std::uint32_t OpenInterest = 0;
+};
+
+} // namespace zantroq

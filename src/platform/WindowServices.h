@@ -1,0 +1,139 @@
+// What the chart window asks of the desktop, each service behind a small interface named for its role. The face implements them
+// with widgets, tests with a few lines. All are called on the chart window's thread.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace zantroq {
+
+// Periodic timers by number; each tick ends in the window's OnTimer(id).
+class IWindowTimer
+{
+public:
+    virtual ~IWindowTimer() = default;
+    virtual void Start(int id, int milliseconds) = 0; // restarts a running one
+    virtual void Stop(int id) = 0;
+};
+
+// The status bar's three parts, numbered from 0.
+class IStatusBar
+{
+public:
+    virtual ~IStatusBar() = default;
+    virtual void SetPart(int part, const std::string& text) = 0;
+};
+
+enum class BoxButtons { Ok, YesNo };
+enum class BoxIcon { None, Error, Question };
+enum class BoxAnswer { Ok, Cancel, Yes, No };
+
+class IMessageBox
+{
+public:
+    virtual ~IMessageBox() = default;
+    // Modal: returns when answered; timers go on meanwhile.
+    virtual BoxAnswer Ask(const std::string& text, const std::string& caption, BoxButtons buttons, BoxIcon icon) = 0;
+};
+
+// The horizontal scroll bar. A position handed in is held between 0 and the larger of 0 and Limit().
+class IScrollBar
+{
+public:
+    virtual ~IScrollBar() = default;
+    virtual void SetRange(int minimum, int maximum) = 0;
+    virtual void SetPage(int page) = 0;
+    virtual void SetPosition(int position) = 0;
+    virtual int Position() const = 0;
+    virtual int Maximum() const = 0;
+    virtual int Page() const = 0;
+    virtual void SetVisible(bool visible) = 0;
+    virtual bool Visible() const = 0;
+    int Limit() const { return Maximum() - Page() + 1; }
+};
+
+// Toolbar buttons and menu items by command number.
+class ICommandBar
+{
+public:
+    virtual ~ICommandBar() = default;
+    virtual void Enable(int command, bool enabled) = 0;
+    virtual void Check(int command, bool checked) = 0;
+    virtual bool IsEnabled(int command) const = 0;
+    virtual bool IsChecked(int command) const = 0;
+};
+
+// The symbol box: an edit text over a list of recent symbols.
+class ISymbolBox
+{
+public:
+    virtual ~ISymbolBox() = default;
+    virtual std::string Text() const = 0;
+    virtual void SetText(const std::string& text) = 0;
+    virtual std::vector<std::string> Items() const = 0;
+    virtual void SetItems(const std::vector<std::string>& items) = 0;
+    virtual int Selection() const = 0; // -1: none
+    virtual void Select(int item) = 0;
+    virtual void FocusAtEnd() = 0;     // takes the keyboard, the caret behind the text
+};
+
+// The type box or the interval box.
+class IChoiceBox
+{
+public:
+    virtual ~IChoiceBox() = default;
+    virtual int Selection() const = 0; // -1: none
+    virtual void Select(int item) = 0;
+    virtual void SetEnabled(bool enabled) = 0;
+    virtual bool Enabled() const = 0;
+};
+
+struct sWindowRect
+{
+    std::int32_t Left = 0, Top = 0, Right = 0, Bottom = 0;
+    bool operator==(const sWindowRect&) const = default;
+};
+
+// The host's top-level window.
+class ITopLevelWindow
+{
+public:
+    virtual ~ITopLevelWindow() = default;
+    virtual std::string Title() const = 0;
+    virtual void SetTitle(const std::string& title) = 0;
+    virtual sWindowRect NormalRect() const = 0; // the restored rectangle, whatever the window's state
+    virtual bool Maximized() const = 0;
+    virtual void SetCaption(const std::string& caption) = 0; // the chart's own caption
+    virtual std::string Caption() const = 0;
+};
+
+// Sizes for the layout, in pixels; the face moves its widgets when Place is called.
+class IPaneHost
+{
+public:
+    virtual ~IPaneHost() = default;
+    virtual int ClientWidth() const = 0;
+    virtual int ClientHeight() const = 0;
+    virtual int ToolBarHeight() const = 0;
+    virtual void PlacePane(int pane, bool visible, int left, int top, int width, int height) = 0;
+    virtual void PlaceBars(int scrollTop, int statusTop) = 0;
+    virtual void SetControlsEnabled(bool enabled) = 0; // the bars as a whole, while a chart loads
+};
+
+struct sWindowServices
+{
+    IWindowTimer& Timer;
+    IStatusBar& Status;
+    IMessageBox& Box;
+    IScrollBar& Scroll;
+    ICommandBar& Commands;
+    ISymbolBox& Symbol;
+    IChoiceBox& Type;
+    IChoiceBox& Interval;
+    ITopLevelWindow& Top;
+    IPaneHost& Host;
+};
+
+} // namespace zantroq

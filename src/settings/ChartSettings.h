@@ -1,0 +1,139 @@
+// All settings of one chart window in memory, with the defaults of a fresh store. The table in SettingsTable ties each member
+// to its stored name. Lives on the window's thread.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+namespace zantroq {
+
+using Colour = std::uint32_t; // red in the low byte: 0x00BBGGRR
+
+// The studies in the order of every ten-entry array.
+enum StudyKind : int {
+    StudyRSI = 0, StudyMomentum, StudyROC, StudyOBV, StudyMACD, StudyStochastics, StudyVolume, StudyMoneyFlow, StudyMFI, StudyADX,
+    StudyKinds = 10
+};
+
+// Trendline kinds in the order of the trend lists.
+enum TrendKind : int {
+    TrendHorizontal = 0, TrendSloping, TrendParallel, TrendPitchfork, TrendFibonacciFan, TrendFibonacciRetracements,
+    TrendSpeedResistance, TrendKinds = 7
+};
+
+struct sTrendStyle
+{
+    Colour Color = 0;
+    std::int32_t Width = 1;
+    std::int32_t Extendable = 1;
+};
+
+enum class AxisSide { Left, Right };
+
+// What to ask the feed for. One entry each for ticks, intervals, daily, weekly and monthly.
+struct sRequestSettings
+{
+    std::int32_t DataType = 0;      // "RequestDataType", 0 to 4
+    std::int32_t RequestType = 0;   // "ReqestType"
+    std::int32_t IntervalIndex = 0; // 0 to 10, an index into IntervalMinutes
+    bool UseExchangeFormat = true;
+    std::array<std::int32_t, 5> RequestKinds{0, 3, 6, 8, 9};
+    std::array<std::int32_t, 5> DatapointCounts{1000, 1000, 1000, 1000, 1000};
+    std::array<std::int32_t, 5> DayCounts{};
+    std::array<bool, 5> TimeFilterOn{};
+    std::array<bool, 5> ExtendedTrades{};
+    std::array<std::string, 5> BeginDates, EndDates; // %Y%m%d, today in a fresh store
+    std::array<std::string, 5> BeginTimes{"093000", "093000", "093000", "093000", "093000"};
+    std::array<std::string, 5> BeginFilterTimes{"093000", "093000", "093000", "093000", "093000"};
+    std::array<std::string, 5> EndTimes{"160000", "160000", "160000", "160000", "160000"};
+    std::array<std::string, 5> EndFilterTimes{"160000", "160000", "160000", "160000", "160000"};
+};
+
+inline constexpr std::array<int, 11> IntervalMinutes{1, 2, 3, 4, 5, 10, 15, 30, 45, 60, 120};
+
+// The choices of how many points to show, by PtsIndex.
+inline constexpr std::array<int, 15> DisplayMaxPoints{30,   60,   90,    120,   240,   480,   960,   1920,
+                                                      3840, 7680, 15360, 30720, 61440, 122880, 245760};
+
+// The price pane's averages and bands.
+struct sOverlaySettings
+{
+    std::int32_t ShowAverages = 0; // "MAs SHOW"
+    std::int32_t Exponential = 0;
+    std::array<std::int32_t, 3> AverageSelected{1, 1, 1};
+    std::array<std::int32_t, 3> AveragePoints{5, 10, 15};
+    std::array<Colour, 3> AverageColors{0x0000FF, 0xFF0000, 0x00FFFF};
+    std::int32_t ShowBands = 0; // "BB STUDY SHOW"
+    Colour BandColor = 0xCECECE;
+    std::int32_t BandPeriod = 20;
+    double BandDeviations = 2.0;
+};
+
+// The ten studies.
+struct sStudySettings
+{
+    std::array<std::int32_t, StudyKinds> Periods{21, 20, 20, 9, 18, 5, 10, 14, 14, 14};       // "STUDY AVG PERIOD"
+    std::array<std::int32_t, StudyKinds> CustomPeriods{21, 20, 20, 9, 18, 5, 500, 9, 9, 10};  // "STUDY CUSTOM AVG PERIOD"
+    std::array<Colour, StudyKinds> DataColors{};  // "Study Data Color %d"
+    std::array<Colour, StudyKinds> LabelColors{}; // "Study Label Color %d"
+    std::int32_t RsiRadio = 1, RsiUpperLevel = 70, RsiLowerLevel = 30;
+    Colour RsiUpperColor = 0xD8BFD8, RsiLowerColor = 0x8CB4D2;
+    std::int32_t ObvRadio = 1;
+    Colour ObvZeroColor = 0xFFFFFF;
+    std::int32_t MomRadio = 1;
+    Colour MomZeroColor = 0xD9BB8A;
+    std::int32_t RocRadio = 1;
+    Colour Roc100Color = 0xBB39C6;
+    std::int32_t MacdRadio = 1, MacdShort = 8, MacdLong = 17, MacdCustomShort = 38, MacdCustomLong = 78;
+    Colour MacdSignalColor = 0xC080FF, MacdHistogramColor = 0xB48246;
+    std::int32_t StoRadio = 0, StoFast = 0, StoUpperLevel = 80, StoLowerLevel = 20;
+    Colour StoUpperColor = 0xD8BFD8, StoLowerColor = 0x8CB4D2, StoKColor = 0x000000, StoDColor = 0x8000FF;
+    std::int32_t ShowVolumeAverage = 1, VolumeAverageAllData = 1;
+    Colour VolumeAverageColor = 0x0000FF;
+    std::int32_t MfRadio = 1;
+    Colour MfNegativeColor = 0x0000FF, MfPositiveColor = 0xB48246;
+    std::int32_t MfiRadio = 1, MfiUpperLevel = 80, MfiLowerLevel = 20;
+    Colour MfiUpperColor = 0xD8BFD8, MfiLowerColor = 0x8CB4D2;
+    std::int32_t AdxRadio = 1;
+    Colour AdxNegativeColor = 0x0000FF, AdxPositiveColor = 0xB48246;
+};
+
+// The stack of panes: which studies show and where the borders stand.
+struct sPaneStack
+{
+    std::int32_t StudyCount = 1;                      // 0 to 10
+    std::array<std::int32_t, 10> StudyTypes{StudyVolume};
+    std::array<double, 12> Bounds{0.0, 0.66, 1.0};    // Bounds[0] is 0; Bounds[k + 1] is the bottom of pane k
+    std::int32_t MaximizedIndex = 999;                // 999: none
+    std::array<std::int32_t, 11> Minimized{};
+};
+
+struct sChartSettings
+{
+    std::int32_t ShowPriceBar = 1;
+    std::int32_t ShowLevel1 = 1;
+    std::int32_t PtsIndex = 3; // 0 to 14
+    std::int32_t Grid = 1;
+    std::int32_t GridStyle = 0; // 0 short dashes, 1 line
+    bool ScrollByItems = true;
+    std::int32_t ScrollItems = 1, ScrollPercent = 20; // both stand on the one unnamed value
+    bool AxisOnRight = false; // "Y Axis Orientation"
+    bool FixedScale = false;  // "Price Bar Show/Hide"
+    std::int32_t CandleStyle = 1; // 0 H/L/O/C, 1 candles
+    sRequestSettings Request;
+    sOverlaySettings Overlays;
+    std::array<sTrendStyle, TrendKinds> Trends{{{0x8080FF}, {0xA8A800}, {0xA09E5F}, {0x4F52DF}, {0xF37B3A}, {0xFF0080}, {0x38B88B}}};
+    sStudySettings Studies;
+    sPaneStack Panes;
+    Colour BackgroundColor = 0xFFFFFF;
+    Colour PriceLabelColor = 0x000000;
+    Colour PriceDataColor = 0x000000;
+    Colour GridColor = 0xC0C0C0;
+    Colour UpCandleColor = 0x00FF00, DownCandleColor = 0x0000FF;
+    Colour PriceBarColor = 0xC0C0C0;
+
+    AxisSide ValueAxisSide() const { return AxisOnRight ? AxisSide::Right : AxisSide::Left; }
+};
+
+} // namespace zantroq
