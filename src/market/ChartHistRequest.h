@@ -2,12 +2,14 @@
 // parameters and reads the series; the worker thread appends to it and amends it. DataLock stands between the two.
 #pragma once
 
+#include "market/ConditionArray.h"
+#include "market/GrowableArray.h"
 #include "market/HistoryRecords.h"
-#include "platform/ThreadAnnotations.h"
+#include "market/SeriesBounds.h"
+#include "platform/Lock.h"
 
 #include <atomic>
 #include <cstdint>
-#include <mutex>
 #include <string>
 
 namespace zantroq {
@@ -27,7 +29,8 @@ public:
     CChartHistRequest(const CChartHistRequest&) = delete;
     CChartHistRequest& operator=(const CChartHistRequest&) = delete;
 
-    // The number that stands for this request on the wire: 1 to 2147483647, never used twice in a process.
+    // The number that stands for this request on the wire: 1 to 2147483647, never used twice in a process. Only a request that
+    // CreateRequest (RequestTable.h) made can be found by its number.
     std::int32_t Handle() const { return m_handle; }
 
     // Parameters. Setters take the lock; getters return copies and take none, so they belong to the window's thread.
@@ -85,7 +88,8 @@ public:
     double GetCloseAt(int index) const;
     double GetHighAt(int index) const;
     double GetLowAt(int index) const;
-    void RemovePoint(int index); // from each of the sixteen arrays that is longer than index
+    // From each of the sixteen arrays that is longer than index; std::invalid_argument for a negative index.
+    void RemovePoint(int index);
     void ResetSeries();
     void ClearSeries(); // all arrays to length 0; closes the race with an appending worker by taking the lock
 
@@ -96,8 +100,48 @@ public:
     int CopyIntegers(int field, int first, int count, std::int64_t* out) const;
     int CopyTimes(int first, int count, sTIME_W_MILLISECONDS* out) const;
 
+    // Whether live trades may extend or amend this series: a request that is bounded at its end takes none, nor do weekly and
+    // monthly ones. Reads the parameters under the lock, so it may be asked on the worker.
+    bool AcceptsUpdates() const;
+
 private:
+    // Sets of arrays that grow together: room for one more point, and the stores that then cannot fail.
+    void AppendTick(const sHIST_POINT& point) REQUIRES(DataLock);
+    void AppendInterval(const sHIST_POINT& point) REQUIRES(DataLock);
+    void AppendDay(const sHIST_POINT& point) REQUIRES(DataLock);
+    void AppendPrices(const sHIST_POINT& point) REQUIRES(DataLock);
+    void PreparePrices() REQUIRES(DataLock);
+    int ClampedIndex(int index) const REQUIRES(DataLock);
+    void Empty() REQUIRES(DataLock);
+    void SetText(std::string& member, std::string text);
+    void SetBound(CSeriesBound& bound, std::string text);
+
     const std::int32_t m_handle;
+
+    // Written by the window's thread under the lock; read by it without, and by the worker with it.
+    std::string Symbol GUARDED_BY(DataLock);
+    std::string DataDirection GUARDED_BY(DataLock) = "0";
+    sSeriesBounds Bounds GUARDED_BY(DataLock);
+    void* NotifyWindow GUARDED_BY(DataLock) = nullptr; // kept for the window, read by nothing
+
+    // Single numbers and flags, read and written by both threads.
+    std::atomic<std::int32_t> Datapoints{0}, IntervalSeconds{0}, Days{0}, Kind{NoRequestKind};
+    std::atomic<std::int32_t> PriceFormat{14}; // 10 plus the number of decimals, or a code of the feed
+    std::atomic<bool> Complete{false}, UseExchangeFormat{false}, Alive{true}, ExtendedTrades{false};
+    // Lets bid and ask updates through the live filter. Nothing sets it; the filter still asks.
+    std::atomic<bool> BidAskUpdates{false};
+
+    // Guards the parameters and the series, for the span of one operation.
+    mutable CLock DataLock;
+
+    CGrowableArray<sTIME_W_MILLISECONDS> m_time GUARDED_BY(DataLock);
+    CGrowableArray<double> m_open GUARDED_BY(DataLock), m_high GUARDED_BY(DataLock), m_low GUARDED_BY(DataLock),
+        m_close GUARDED_BY(DataLock), m_last GUARDED_BY(DataLock), m_bid GUARDED_BY(DataLock), m_ask GUARDED_BY(DataLock);
+    CGrowableArray<std::int32_t> m_bidSize GUARDED_BY(DataLock), m_askSize GUARDED_BY(DataLock),
+        m_openInterest GUARDED_BY(DataLock), m_size GUARDED_BY(DataLock), m_tickId GUARDED_BY(DataLock);
+    CGrowableArray<std::int64_t> m_totalVolume GUARDED_BY(DataLock);
+    CGrowableArray<char> m_basis GUARDED_BY(DataLock);
+    CConditionArray m_conditions GUARDED_BY(DataLock);
 };
 
 } // namespace zantroq

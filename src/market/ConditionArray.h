@@ -1,0 +1,68 @@
+// The conditions array of a series. No feed line carries conditions, so the texts that exist are kept apart
+// from the count and an empty one costs nothing. Guarded by its owner. Every index is checked and fails with
+// std::invalid_argument.
+#pragma once
+
+#include <map>
+#include <stdexcept>
+#include <string>
+
+namespace zantroq {
+
+class CConditionArray
+{
+public:
+    int Count() const { return m_count; }
+
+    void Clear()
+    {
+        m_texts.clear();
+        m_count = 0;
+    }
+
+    void Add(const std::string& text)
+    {
+        if (!text.empty())
+            m_texts[m_count] = text;
+        ++m_count;
+    }
+
+    std::string Get(int index) const
+    {
+        Check(index);
+        const auto found = m_texts.find(index);
+        return found == m_texts.end() ? std::string() : found->second;
+    }
+
+    void SetAt(int index, const std::string& text)
+    {
+        Check(index);
+        if (text.empty())
+            m_texts.erase(index);
+        else
+            m_texts[index] = text;
+    }
+
+    void RemoveAt(int index)
+    {
+        Check(index);
+        std::map<int, std::string> kept;
+        for (auto& [at, text] : m_texts)
+            if (at != index)
+                kept.emplace(at < index ? at : at - 1, std::move(text));
+        m_texts = std::move(kept);
+        --m_count;
+    }
+
+    void Check(int index) const
+    {
+        if (index < 0 || index >= m_count)
+            throw std::invalid_argument("array index outside the array");
+    }
+
+private:
+    std::map<int, std::string> m_texts; // the texts that are not empty, by index
+    int m_count = 0;
+};
+
+} // namespace zantroq
