@@ -1,10 +1,14 @@
 #include "drawing/Chart2D.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 namespace zantroq {
 
-CChart2D::CChart2D() : m_interior(this), m_area(this), m_groups{CPaneGroup(this), CPaneGroup(this)}, m_labels(this) {}
+CChart2D::CChart2D()
+    : m_interior(this), m_area(this), m_groups{CPaneGroup(this), CPaneGroup(this)}, m_labels(this)
+{
+}
 CChart2D::~CChart2D() = default;
 
 CPaneGroup& CChart2D::PaneGroups(int number)
@@ -14,7 +18,10 @@ CPaneGroup& CChart2D::PaneGroups(int number)
     return m_groups[number - 1];
 }
 
-const CPaneGroup& CChart2D::PaneGroups(int number) const { return const_cast<CChart2D*>(this)->PaneGroups(number); }
+const CPaneGroup& CChart2D::PaneGroups(int number) const
+{
+    return const_cast<CChart2D*>(this)->PaneGroups(number);
+}
 
 void CChart2D::SetBatched(bool batched)
 {
@@ -28,6 +35,17 @@ void CChart2D::SetBatched(bool batched)
 
 void CChart2D::Touch()
 {
+    ++m_revision;
+    Tell();
+}
+
+void CChart2D::TouchData()
+{
+    Tell();
+}
+
+void CChart2D::Tell()
+{
     if (m_batched || !m_view) {
         m_changed = true;
         return;
@@ -35,11 +53,21 @@ void CChart2D::Touch()
     m_view->PaneChanged();
 }
 
+bool CChart2D::DrawToDevice(IPrintDevice& device, int, int, int left, int top, int width, int height) const
+{
+    return device.PaintPane(*this, left, top, width, height);
+}
+
 sPixelRect CChart2D::PlotRect() const
 {
+    const auto pixel = [](int value) { return std::clamp(value, -FarPixel, FarPixel); };
     const CPlotFrame& frame = m_area.PlotFrame();
-    return {frame.LeftMargin().Value(), frame.TopMargin().Value(), PixelWidth() - frame.RightMargin().Value(),
-            PixelHeight() - frame.BottomMargin().Value()};
+    sPixelRect plot{pixel(frame.LeftMargin().Value()), pixel(frame.TopMargin().Value()),
+                    pixel(PixelWidth()) - pixel(frame.RightMargin().Value()),
+                    pixel(PixelHeight()) - pixel(frame.BottomMargin().Value())};
+    plot.Right = std::max(plot.Left, plot.Right);
+    plot.Bottom = std::max(plot.Top, plot.Bottom);
+    return plot;
 }
 
 } // namespace zantroq

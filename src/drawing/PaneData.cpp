@@ -5,16 +5,91 @@
 
 namespace zantroq {
 
+namespace {
+
+constexpr std::size_t KeptChanges = 8;
+
+} // namespace
+
+void CPaneData::NoteWhole()
+{
+    m_wholeRevision = ++m_revision;
+    m_changes.clear();
+    TouchData();
+}
+
+void CPaneData::NotePoints(int first, int last)
+{
+    ++m_revision;
+    if (!m_changes.empty() && m_changes.back().Revision > m_askedRevision) {
+        sChange& change = m_changes.back(); // nobody has asked since: one record for all of it
+        change = {m_revision, std::min(change.First, first), std::max(change.Last, last)};
+    } else {
+        if (m_changes.size() == KeptChanges) {
+            m_wholeRevision = m_changes.front().Revision;
+            m_changes.erase(m_changes.begin());
+        }
+        m_changes.push_back({m_revision, first, last});
+    }
+    TouchData();
+}
+
+sPointChanges CPaneData::ChangesSince(std::uint64_t revision) const
+{
+    m_askedRevision = m_revision;
+    sPointChanges changes;
+    if (revision < m_wholeRevision || revision > m_revision) {
+        changes.Whole = true;
+        return changes;
+    }
+    for (const sChange& change : m_changes) {
+        if (change.Revision <= revision)
+            continue;
+        const bool any = changes.Last >= changes.First;
+        changes.First = any ? std::min(changes.First, change.First) : change.First;
+        changes.Last = any ? std::max(changes.Last, change.Last) : change.Last;
+    }
+    return changes;
+}
+
+int CPaneData::FirstVisible() const
+{
+    return std::max(m_firstShown, 1);
+}
+
+int CPaneData::LastVisible() const
+{
+    return m_lastShown <= 0 ? SeriesCount() : std::min(m_lastShown, SeriesCount());
+}
+
+bool CPaneData::XAscending() const
+{
+    if (m_ascending < 0) {
+        m_ascending = 1;
+        for (std::size_t i = 0; i < m_x.size() && m_ascending == 1;
+             ++i) // a not-a-number is no place in an order
+            m_ascending = i == 0 ? m_x[0] == m_x[0] : m_x[i - 1] <= m_x[i];
+    }
+    return m_ascending == 1;
+}
+
 void CPaneData::SetSeriesCount(int count)
 {
-    const auto n = static_cast<std::size_t>(std::max(count, 0));
+    const auto n = static_cast<std::size_t>(std::clamp(count, 0, MaxSeries));
+    if (n == m_y.size())
+        return;
+    if (n == 0)
+        m_x.clear();
     m_y.resize(n, std::vector<double>(m_x.size(), HoleValue()));
     m_firstPoint.resize(n, 1);
     m_drawnTo.resize(n, 0);
-    Touch();
+    NoteWhole();
 }
 
-int CPaneData::PointCount(int series) const { return Has(series) ? static_cast<int>(m_x.size()) : 0; }
+int CPaneData::PointCount(int series) const
+{
+    return Has(series) ? static_cast<int>(m_x.size()) : 0;
+}
 
 void CPaneData::SetPointCount(int series, int count)
 {
@@ -22,73 +97,100 @@ void CPaneData::SetPointCount(int series, int count)
         return;
     const auto n = static_cast<std::size_t>(std::max(count, 0));
     const std::size_t had = m_x.size();
+    if (n == had)
+        return;
+    m_ascending = -1;
     m_x.resize(n);
     if (n > had)
         std::iota(m_x.begin() + static_cast<std::ptrdiff_t>(had), m_x.end(), static_cast<double>(had + 1));
     for (auto& y : m_y)
         y.resize(n, HoleValue());
-    Touch();
+    NoteWhole();
 }
 
 void CPaneData::SetFirstPoint(int series, int point)
 {
-    if (Has(series))
-        m_firstPoint[static_cast<std::size_t>(series - 1)] = point;
+    if (!Has(series) || FirstPoint(series) == point)
+        return;
+    m_firstPoint[static_cast<std::size_t>(series - 1)] = point;
+    NoteWhole();
 }
 
-int CPaneData::FirstPoint(int series) const { return Has(series) ? m_firstPoint[static_cast<std::size_t>(series - 1)] : 0; }
+int CPaneData::FirstPoint(int series) const
+{
+    return Has(series) ? m_firstPoint[static_cast<std::size_t>(series - 1)] : 0;
+}
 
-int CPaneData::DrawnTo(int series) const { return Has(series) ? m_drawnTo[static_cast<std::size_t>(series - 1)] : 0; }
+int CPaneData::DrawnTo(int series) const
+{
+    return Has(series) ? m_drawnTo[static_cast<std::size_t>(series - 1)] : 0;
+}
 
 void CPaneData::SetDrawnTo(int series, int point)
 {
-    if (!Has(series))
-        return;
-    m_drawnTo[static_cast<std::size_t>(series - 1)] = point;
-    Touch();
+    if (Has(series))
+        m_drawnTo[static_cast<std::size_t>(series - 1)] = point;
 }
 
 bool CPaneData::AdvanceDrawn(int series, int count)
 {
-    if (!Has(series) || count < 0 || DrawnTo(series) + count > PointCount(series))
+    if (!Has(series) || count < 0 || static_cast<std::int64_t>(DrawnTo(series)) + count > PointCount(series))
         return false;
     m_drawnTo[static_cast<std::size_t>(series - 1)] += count;
-    Touch();
     return true;
 }
 
-double CPaneData::PointX(int series, int point) const { return Has(series, point) ? m_x[static_cast<std::size_t>(point - 1)] : 0.0; }
+double CPaneData::PointX(int series, int point) const
+{
+    return Has(series, point) ? m_x[static_cast<std::size_t>(point - 1)] : 0.0;
+}
 
 void CPaneData::SetPointX(int series, int point, double x)
 {
     if (!Has(series, point))
         return;
-    m_x[static_cast<std::size_t>(point - 1)] = x;
-    Touch();
+    const auto i = static_cast<std::size_t>(point - 1);
+    if (IsSame(m_x[i], x))
+        return;
+    // A change that fits between its neighbours leaves the order as it was.
+    if (m_ascending == 1 &&
+        !(x == x && (i == 0 || m_x[i - 1] <= x) && (i + 1 == m_x.size() || x <= m_x[i + 1])))
+        m_ascending = -1;
+    else if (m_ascending == 0)
+        m_ascending = -1;
+    m_x[i] = x;
+    NoteWhole();
 }
 
 double CPaneData::PointY(int series, int point) const
 {
-    return Has(series, point) ? m_y[static_cast<std::size_t>(series - 1)][static_cast<std::size_t>(point - 1)] : HoleValue();
+    return Has(series, point) ? m_y[static_cast<std::size_t>(series - 1)][static_cast<std::size_t>(point - 1)]
+                              : HoleValue();
 }
 
 void CPaneData::SetPointY(int series, int point, double y)
 {
     if (!Has(series, point))
         return;
-    m_y[static_cast<std::size_t>(series - 1)][static_cast<std::size_t>(point - 1)] = y;
-    Touch();
+    double& held = m_y[static_cast<std::size_t>(series - 1)][static_cast<std::size_t>(point - 1)];
+    if (IsSame(held, y))
+        return;
+    held = y;
+    NotePoints(point, point);
 }
 
 bool CPaneData::ShiftPoints(int series, int count, int firstSource)
 {
-    if (!Has(series) || count < 0 || firstSource < 1 || firstSource - 1 + count > PointCount(series))
+    if (!Has(series) || count < 0 || firstSource < 1 ||
+        static_cast<std::int64_t>(firstSource) - 1 + count > PointCount(series))
         return false;
     auto& y = m_y[static_cast<std::size_t>(series - 1)];
     std::copy_n(y.begin() + (firstSource - 1), count, y.begin());
-    if (series == 1)
+    if (series == 1) {
         std::copy_n(m_x.begin() + (firstSource - 1), count, m_x.begin());
-    Touch();
+        m_ascending = -1;
+    }
+    NoteWhole();
     return true;
 }
 
@@ -96,8 +198,11 @@ bool CPaneData::SetXVector(int series, std::span<const double> x)
 {
     if (!Has(series) || x.size() < m_x.size())
         return false;
+    if (std::equal(m_x.begin(), m_x.end(), x.begin()))
+        return true;
     std::copy_n(x.begin(), m_x.size(), m_x.begin());
-    Touch();
+    m_ascending = -1;
+    NoteWhole();
     return true;
 }
 
@@ -105,8 +210,11 @@ bool CPaneData::SetXVector(int series, std::span<const int> x)
 {
     if (!Has(series) || x.size() < m_x.size())
         return false;
+    if (std::equal(m_x.begin(), m_x.end(), x.begin()))
+        return true;
     std::copy_n(x.begin(), m_x.size(), m_x.begin());
-    Touch();
+    m_ascending = -1;
+    NoteWhole();
     return true;
 }
 
@@ -115,7 +223,7 @@ bool CPaneData::SetYVector(int series, std::span<const double> y)
     if (!Has(series) || y.size() < m_x.size())
         return false;
     std::copy_n(y.begin(), m_x.size(), m_y[static_cast<std::size_t>(series - 1)].begin());
-    Touch();
+    NoteWhole();
     return true;
 }
 

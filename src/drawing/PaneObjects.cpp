@@ -7,7 +7,14 @@
 
 namespace zantroq {
 
-void CPaneNode::Touch() { m_chart->Touch(); }
+void CPaneNode::Touch()
+{
+    m_chart->Touch();
+}
+void CPaneNode::TouchData()
+{
+    m_chart->TouchData();
+}
 
 const sTickLabel& CTickLabels::Item(int number) const
 {
@@ -52,19 +59,41 @@ CSeriesStyle& CPaneGroup::SeriesStyles(int series)
 {
     if (series < 1)
         throw std::invalid_argument("series style " + std::to_string(series));
+    if (series > MaxSeries)
+        throw std::invalid_argument("series style " + std::to_string(series));
     while (StyleCount() < series)
         m_styles.push_back(std::make_unique<CSeriesStyle>(m_chart));
     return *m_styles[static_cast<std::size_t>(series - 1)];
 }
 
+void CPaneGroup::RemoveStyles()
+{
+    if (m_styles.empty())
+        return;
+    m_styles.clear();
+    Touch();
+}
+
 const CSeriesStyle* CPaneGroup::FindStyle(int series) const
 {
-    return series >= 1 && series <= StyleCount() ? m_styles[static_cast<std::size_t>(series - 1)].get() : nullptr;
+    return series >= 1 && series <= StyleCount() ? m_styles[static_cast<std::size_t>(series - 1)].get()
+                                                 : nullptr;
 }
 
 void CPaneLabel::SetRepaintSuspended(bool suspended)
 {
-    if (!suspended)
+    m_suspended = suspended;
+    if (!suspended && m_waiting) {
+        m_waiting = false;
+        Touch();
+    }
+}
+
+void CPaneLabel::TouchOwn()
+{
+    if (m_suspended)
+        m_waiting = true;
+    else
         Touch();
 }
 
@@ -75,7 +104,10 @@ CPaneLabel& CPaneLabels::Item(int number)
     return *m_labels[static_cast<std::size_t>(number - 1)];
 }
 
-const CPaneLabel& CPaneLabels::Item(int number) const { return const_cast<CPaneLabels*>(this)->Item(number); }
+const CPaneLabel& CPaneLabels::Item(int number) const
+{
+    return const_cast<CPaneLabels*>(this)->Item(number);
+}
 
 CPaneLabel& CPaneLabels::Add()
 {
@@ -93,6 +125,8 @@ void CPaneLabels::Remove(int number)
 
 void CPaneLabels::RemoveAll()
 {
+    if (m_labels.empty())
+        return;
     m_labels.clear();
     Touch();
 }

@@ -1,30 +1,64 @@
-// The objects of a pane's tree. Each holds plain values under the name that the rest of the system uses for it and tells its
-// scene of every change. All on the chart window's thread.
+// The objects of a pane's tree. Each holds plain values under the name that the rest of the system uses for
+// it and tells its scene of every change. All on the chart window's thread.
 #pragma once
 
 #include "settings/ChartSettings.h"
 
+#include <bit>
 #include <cstdint>
 #include <limits>
 #include <memory>
 #include <optional>
 #include <span>
 #include <string>
+#include <type_traits>
+#include <utility>
 #include <vector>
 
 namespace zantroq {
 
 class CChart2D;
 
-enum LinePattern : int { LineNone = 1, LineSolid = 2, LineLongDashes = 3, LineShortDashes = 5 };
-enum SymbolShape : int { SymbolNone = 1, SymbolMark = 3 };
-enum ChartType : int { ChartLines = 1, ChartBars = 2, ChartBarsFromOrigin = 5, ChartHiLoOpenClose = 7, ChartCandles = 8 };
-enum AnchorSide : int { AnchorAboveRight = 0x11, AnchorAboveLeft = 0x12, AnchorBelowRight = 0x21, AnchorBelowLeft = 0x22 };
-enum AttachmentMethod : int { AttachToPixel = 0, AttachToPaneTopLeft = 1, AttachToData = 2 };
+enum LinePattern : int
+{
+    LineNone = 1,
+    LineSolid = 2,
+    LineLongDashes = 3,
+    LineShortDashes = 5
+};
+enum SymbolShape : int
+{
+    SymbolNone = 1,
+    SymbolMark = 3
+};
+enum ChartType : int
+{
+    ChartLines = 1,
+    ChartBars = 2,
+    ChartBarsFromOrigin = 5,
+    ChartHiLoOpenClose = 7,
+    ChartCandles = 8
+};
+enum AnchorSide : int
+{
+    AnchorAboveRight = 0x11,
+    AnchorAboveLeft = 0x12,
+    AnchorBelowRight = 0x21,
+    AnchorBelowLeft = 0x22
+};
+enum AttachmentMethod : int
+{
+    AttachToPixel = 0,
+    AttachToPaneTopLeft = 1,
+    AttachToData = 2
+};
 
-inline constexpr int GeometryFound = -100; // the answer of PixelToData and PickPoint when they found something
-inline constexpr int FocusAny = 3;         // PickPoint: the nearest point of any series
-inline constexpr int FocusX = 1;           // PickPoint: the nearest in x only
+inline constexpr int GeometryFound =
+    -100;                                // the answer of PixelToData and PickPoint when they found something
+inline constexpr int FarPixel = 1 << 20; // no pixel of a pane lies further out than this
+inline constexpr int MaxSeries = 100000; // of a group
+inline constexpr int FocusAny = 3;       // PickPoint: the nearest point of any series
+inline constexpr int FocusX = 1;         // PickPoint: the nearest in x only
 
 struct sPixelRect
 {
@@ -32,6 +66,16 @@ struct sPixelRect
     int Width() const { return Right - Left; }
     int Height() const { return Bottom - Top; }
 };
+
+// Whether writing b over a would change nothing. Numbers are compared bit by bit: a not-a-number equals
+// itself, and a zero's sign counts.
+template<class T> bool IsSame(const T& a, const T& b)
+{
+    if constexpr (std::is_same_v<T, double>)
+        return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b);
+    else
+        return a == b;
+}
 
 // A node that knows its scene.
 class CPaneNode
@@ -41,6 +85,15 @@ public:
 
 protected:
     void Touch();
+    void TouchData(); // a change of points alone
+    // Writes a member and tells the scene, unless the member held that value already.
+    template<class T> void Assign(T& member, std::type_identity_t<T> value)
+    {
+        if (IsSame<T>(member, value))
+            return;
+        member = std::move(value);
+        Touch();
+    }
     CChart2D* m_chart;
 };
 
@@ -48,8 +101,8 @@ class CPaneInterior : public CPaneNode
 {
 public:
     using CPaneNode::CPaneNode;
-    void SetBackground(Colour colour) { m_background = colour; Touch(); }
-    void SetForeground(Colour colour) { m_foreground = colour; Touch(); } // also the colour of axis text
+    void SetBackground(Colour colour) { Assign(m_background, colour); }
+    void SetForeground(Colour colour) { Assign(m_foreground, colour); } // also the colour of axis text
     Colour Background() const { return m_background; }
     Colour Foreground() const { return m_foreground; }
 
@@ -63,7 +116,11 @@ class CPixelValue : public CPaneNode
 public:
     CPixelValue(CChart2D* chart, int value) : CPaneNode(chart), m_value(value) {}
     int Value() const { return m_value; }
-    void SetValue(int pixels) { m_value = pixels; m_automatic = false; Touch(); }
+    void SetValue(int pixels)
+    {
+        m_automatic = false;
+        Assign(m_value, pixels);
+    }
     void SetAutomatic(bool automatic) { m_automatic = automatic; }
     bool Automatic() const { return m_automatic; }
 
@@ -75,7 +132,10 @@ private:
 class CAreaBox : public CPaneNode
 {
 public:
-    explicit CAreaBox(CChart2D* chart) : CPaneNode(chart), m_left(chart, 0), m_width(chart, 0), m_height(chart, 0) {}
+    explicit CAreaBox(CChart2D* chart)
+        : CPaneNode(chart), m_left(chart, 0), m_width(chart, 0), m_height(chart, 0)
+    {
+    }
     CPixelValue& Left() { return m_left; }
     CPixelValue& Width() { return m_width; }
     CPixelValue& Height() { return m_height; }
@@ -91,7 +151,12 @@ class CPlotFrame : public CPaneNode
 {
 public:
     explicit CPlotFrame(CChart2D* chart)
-        : CPaneNode(chart), m_interior(chart), m_top(chart, 17), m_bottom(chart, 4), m_left(chart, 58), m_right(chart, 23)
+        : CPaneNode(chart),
+          m_interior(chart),
+          m_top(chart, 17),
+          m_bottom(chart, 4),
+          m_left(chart, 58),
+          m_right(chart, 23)
     {
     }
     CPaneInterior& Interior() { return m_interior; }
@@ -114,7 +179,7 @@ class CBarLook : public CPaneNode
 {
 public:
     using CPaneNode::CPaneNode;
-    void SetBarWidth(int pixels) { m_width = pixels; Touch(); }
+    void SetBarWidth(int pixels) { Assign(m_width, pixels); }
     int BarWidth() const { return m_width; }
 
 private:
@@ -125,7 +190,7 @@ class CCandleLook : public CPaneNode
 {
 public:
     using CPaneNode::CPaneNode;
-    void SetFilled(bool filled) { m_filled = filled; Touch(); }
+    void SetFilled(bool filled) { Assign(m_filled, filled); }
     bool Filled() const { return m_filled; }
 
 private:
@@ -136,9 +201,9 @@ class CLineLook : public CPaneNode
 {
 public:
     using CPaneNode::CPaneNode;
-    void SetPattern(int pattern) { m_pattern = pattern; Touch(); }
-    void SetColour(Colour colour) { m_colour = colour; Touch(); }
-    void SetWidth(int pixels) { m_width = pixels; Touch(); }
+    void SetPattern(int pattern) { Assign(m_pattern, pattern); }
+    void SetColour(Colour colour) { Assign(m_colour, colour); }
+    void SetWidth(int pixels) { Assign(m_width, pixels); }
     int Pattern() const { return m_pattern; }
     Colour LineColour() const { return m_colour; }
     int Width() const { return m_width; }
@@ -152,8 +217,8 @@ class CFillLook : public CPaneNode
 {
 public:
     using CPaneNode::CPaneNode;
-    void SetPattern(int pattern) { m_pattern = pattern; Touch(); }
-    void SetColour(Colour colour) { m_colour = colour; Touch(); }
+    void SetPattern(int pattern) { Assign(m_pattern, pattern); }
+    void SetColour(Colour colour) { Assign(m_colour, colour); }
     int Pattern() const { return m_pattern; }
     Colour FillColour() const { return m_colour; }
 
@@ -166,9 +231,9 @@ class CSymbolLook : public CPaneNode
 {
 public:
     using CPaneNode::CPaneNode;
-    void SetShape(int shape) { m_shape = shape; Touch(); }
-    void SetColour(Colour colour) { m_colour = colour; Touch(); }
-    void SetSize(int pixels) { m_size = pixels; Touch(); }
+    void SetShape(int shape) { Assign(m_shape, shape); }
+    void SetColour(Colour colour) { Assign(m_colour, colour); }
+    void SetSize(int pixels) { Assign(m_size, pixels); }
     int Shape() const { return m_shape; }
     Colour SymbolColour() const { return m_colour; }
     int Size() const { return m_size; }
@@ -181,7 +246,9 @@ private:
 class CSeriesStyle : public CPaneNode
 {
 public:
-    explicit CSeriesStyle(CChart2D* chart) : CPaneNode(chart), m_line(chart), m_fill(chart), m_symbol(chart) {}
+    explicit CSeriesStyle(CChart2D* chart) : CPaneNode(chart), m_line(chart), m_fill(chart), m_symbol(chart)
+    {
+    }
     CLineLook& LineLook() { return m_line; }
     CFillLook& FillLook() { return m_fill; }
     CSymbolLook& SymbolLook() { return m_symbol; }
@@ -201,8 +268,17 @@ class CAxisBound : public CPaneNode
 public:
     CAxisBound(CChart2D* chart, double value) : CPaneNode(chart), m_value(value) {}
     double Value() const { return m_value; }
-    void SetValue(double value) { m_value = value; m_automatic = false; Touch(); }
+    void SetValue(double value)
+    {
+        Assign(m_automatic, false);
+        Assign(m_value, value);
+    }
     bool Automatic() const { return m_automatic; }
+    void Restore(double value, bool automatic) // a saved state
+    {
+        Assign(m_automatic, automatic);
+        Assign(m_value, value);
+    }
     void SetKind(int kind) { m_kind = kind; } // kept with the scene, without effect of its own
     int Kind() const { return m_kind; }
 
@@ -225,8 +301,18 @@ public:
     using CPaneNode::CPaneNode;
     int Count() const { return static_cast<int>(m_labels.size()); }
     const sTickLabel& Item(int number) const; // from 1; std::invalid_argument otherwise
-    void Add(double value, std::string text) { m_labels.push_back({value, std::move(text)}); Touch(); }
-    void RemoveAll() { m_labels.clear(); Touch(); }
+    void Add(double value, std::string text)
+    {
+        m_labels.push_back({value, std::move(text)});
+        Touch();
+    }
+    void RemoveAll()
+    {
+        if (m_labels.empty())
+            return;
+        m_labels.clear();
+        Touch();
+    }
     const std::vector<sTickLabel>& All() const { return m_labels; }
 
 private:
@@ -237,7 +323,7 @@ class CAxisGrid : public CPaneNode
 {
 public:
     explicit CAxisGrid(CChart2D* chart) : CPaneNode(chart), m_line(chart) {}
-    void SetSpacing(double spacing) { m_spacing = spacing; Touch(); } // 0 hides the grid
+    void SetSpacing(double spacing) { Assign(m_spacing, spacing); } // 0 hides the grid
     double Spacing() const { return m_spacing; }
     CLineLook& LineLook() { return m_line; }
     const CLineLook& LineLook() const { return m_line; }
@@ -269,9 +355,9 @@ public:
     const CAxisBound& TickMarkSpacing() const { return m_tickMarkSpacing; }
     const CTickLabels& TickLabels() const { return m_tickLabels; }
     const CAxisGrid& AxisGrid() const { return m_grid; }
-    void SetLabelMethod(int method) { m_labelMethod = method; Touch(); }
+    void SetLabelMethod(int method) { Assign(m_labelMethod, method); }
     int LabelMethod() const { return m_labelMethod; }
-    void SetShown(bool shown) { m_shown = shown; Touch(); }
+    void SetShown(bool shown) { Assign(m_shown, shown); }
     bool Shown() const { return m_shown; }
     // Settings 19, 21 and 22 and the multiplier of "y2": kept with the scene, without effect of their own.
     void SetSetting19(int value) { m_setting19 = value; }
@@ -314,13 +400,13 @@ class CPaneMarker : public CPaneNode
 {
 public:
     explicit CPaneMarker(CChart2D* chart) : CPaneNode(chart), m_line(chart) {}
-    void SetShown(bool shown) { m_shown = shown; Touch(); }
+    void SetShown(bool shown) { Assign(m_shown, shown); }
     bool Shown() const { return m_shown; }
     void SetLock(int lock) { m_lock = lock; } // always 1: locked to a point
     int Lock() const { return m_lock; }
     CLineLook& LineLook() { return m_line; }
     const CLineLook& LineLook() const { return m_line; }
-    void SetPoint(int point) { m_point = point; Touch(); }
+    void SetPoint(int point) { Assign(m_point, point); }
     int Point() const { return m_point; } // NoPoint: none
 
 private:
@@ -333,7 +419,14 @@ class CPaneArea : public CPaneNode
 {
 public:
     explicit CPaneArea(CChart2D* chart)
-        : CPaneNode(chart), m_box(chart), m_interior(chart), m_frame(chart), m_bar(chart), m_candle(chart), m_marker(chart), m_axes(chart)
+        : CPaneNode(chart),
+          m_box(chart),
+          m_interior(chart),
+          m_frame(chart),
+          m_bar(chart),
+          m_candle(chart),
+          m_marker(chart),
+          m_axes(chart)
     {
     }
     CAreaBox& AreaBox() { return m_box; }
@@ -361,9 +454,17 @@ private:
     CPaneAxes m_axes;
 };
 
-// The vectors of a group. The layout is always 1: one x vector, and with it one point count, shared by all series of the group.
-// Setting the point count of any series sizes all of them; points that come into being so hold the hole value. Numbers out of
-// range are not examined by callers: a getter then gives 0 (PointY the hole value), a setter does nothing.
+// Which points changed after a revision of a CPaneData. Empty (Last below First) when none did.
+struct sPointChanges
+{
+    bool Whole = false;      // sizes or x values or a bulk load: everything has to be looked at again
+    int First = 1, Last = 0; // else the points, from 1
+};
+
+// The vectors of a group. The layout is always 1: one x vector, and with it one point count, shared by all
+// series of the group. Setting the point count of any series sizes all of them; points that come into being
+// so hold the hole value. Numbers out of range are not examined by callers: a getter then gives 0 (PointY the
+// hole value), a setter does nothing.
 class CPaneData : public CPaneNode
 {
 public:
@@ -374,14 +475,15 @@ public:
     int Layout() const { return m_layout; }
     int SeriesCount() const { return static_cast<int>(m_y.size()); }
     void SetSeriesCount(int count);
-    void SetFirstShownSeries(int series) { m_firstShown = series; Touch(); }
+    void SetFirstShownSeries(int series) { Assign(m_firstShown, series); }
     int FirstShownSeries() const { return m_firstShown; }
-    void SetLastShownSeries(int series) { m_lastShown = series; Touch(); } // 0: no limit
+    void SetLastShownSeries(int series) { Assign(m_lastShown, series); } // 0: no limit
     int LastShownSeries() const { return m_lastShown; }
     int PointCount(int series) const;
     void SetPointCount(int series, int count);
     void SetFirstPoint(int series, int point);
     int FirstPoint(int series) const;
+    // How far the series is drawn, kept for who asks. A pane shows all its points whatever the marker says.
     int DrawnTo(int series) const;
     void SetDrawnTo(int series, int point);
     bool AdvanceDrawn(int series, int count); // moves the marker on; false past the end
@@ -400,40 +502,84 @@ public:
     // For the painter and for whole-vector readers: no copies.
     std::span<const double> X() const { return m_x; }
     std::span<const double> Y(int series) const;
+    // The series that a painter shows: FirstShownSeries to LastShownSeries as far as they exist; the last is
+    // below the first when there are none.
+    int FirstVisible() const;
+    int LastVisible() const;
+    // Whether no x is below the one before it, which lets a search for x halve its way. Worked out once per
+    // change of x.
+    bool XAscending() const;
+
+    // Change tracking for who keeps a picture of the points: remember Revision(), later ask what changed
+    // since.
+    std::uint64_t Revision() const { return m_revision; }
+    sPointChanges ChangesSince(std::uint64_t revision) const;
 
 private:
-    friend struct sSceneAccess;
+    struct sChange
+    {
+        std::uint64_t Revision;
+        int First, Last;
+    };
+    void NoteWhole();
+    void NotePoints(int first, int last);
     bool Has(int series) const { return series >= 1 && series <= SeriesCount(); }
-    bool Has(int series, int point) const { return Has(series) && point >= 1 && point <= static_cast<int>(m_x.size()); }
+    bool Has(int series, int point) const
+    {
+        return Has(series) && point >= 1 && point <= static_cast<int>(m_x.size());
+    }
 
     int m_layout = 1, m_firstShown = 1, m_lastShown = 0;
     std::vector<double> m_x;
     std::vector<std::vector<double>> m_y;
     std::vector<int> m_firstPoint, m_drawnTo;
+    mutable signed char m_ascending = 1; // -1: to be found out
+    std::uint64_t m_revision = 0;
+    std::uint64_t m_wholeRevision = 0;         // before it single changes are not known
+    mutable std::uint64_t m_askedRevision = 0; // the newest that anybody has been told of
+    std::vector<sChange> m_changes;            // oldest first, a few
 };
 
 class CPaneGroup : public CPaneNode
 {
 public:
     explicit CPaneGroup(CChart2D* chart) : CPaneNode(chart), m_data(chart) {}
-    void SetChartType(int type) { m_type = type; Touch(); }
+    void SetChartType(int type) { Assign(m_type, type); }
     int Type() const { return m_type; }
     CPaneData& PaneData() { return m_data; }
     const CPaneData& PaneData() const { return m_data; }
-    void CommitPaneData() { Touch(); } // the data object put back: commits bulk loads of several vectors at once
-    CSeriesStyle& SeriesStyles(int series); // from 1; a style exists as soon as it is asked for
+    void CommitPaneData()
+    {
+        TouchData();
+    } // the data object put back: commits bulk loads of several vectors at once
+    CSeriesStyle& SeriesStyles(int series);          // from 1; a style exists as soon as it is asked for
     const CSeriesStyle* FindStyle(int series) const; // null where none was ever asked for
+    void RemoveStyles();
     int StyleCount() const { return static_cast<int>(m_styles.size()); }
 
-    // GeometryFound when the pixel lies in the plot region; x and y are set in either case.
+    // The low end of an axis's view lies in the first pixel of the plot (y: the bottom one), the high end in
+    // the last; between them a value goes to the nearest pixel, halves to the right and down. PixelToData
+    // gives the value in the middle of the pixel, so DataToPixel leads back to the pixel it came from. An
+    // axis whose view has no extent or is not finite maps every value to the middle of the plot, and every
+    // pixel to its low end.
+    //
+    // GeometryFound when the pixel lies in the plot region, 0 when not; x and y are set in either case.
     int PixelToData(int pixelX, int pixelY, double& x, double& y) const;
+    // Off the plot the pixels go on as far as FarPixel. An infinity gives the pane's edge, a not-a-number or
+    // hole -1.
     void DataToPixel(double x, double y, int& pixelX, int& pixelY) const;
-    // GeometryFound when a point was found: the nearest in pixels, the earliest on a tie. Outside the plot region nothing is.
+    // GeometryFound when a point was found, 0 when not: then series and point are 0 and distance is -1. Only
+    // points inside the plot count. FocusAny takes the nearest point of the shown series in whole pixels, cut
+    // to an integer; on a tie the earliest series, in it the earliest point; holes are not points. FocusX
+    // takes the nearest in x of the first shown series, the earliest on a tie, whatever its y. Outside the
+    // plot region nothing is found.
     int PickPoint(int pixelX, int pixelY, int focus, int& series, int& point, int& distance) const;
-    // Pixel y is -1 where the point is a hole or off the plot.
+    // Pixel y is -1 where the point is a hole or off the plot; both are -1 where there is no such point.
     void PointToPixel(int series, int point, int& pixelX, int& pixelY) const;
 
 private:
+    friend class CChart2D;
+    friend struct sSceneAccess;
     int m_type = ChartLines;
     CPaneData m_data;
     std::vector<std::unique_ptr<CSeriesStyle>> m_styles;
@@ -450,28 +596,49 @@ public:
     int BoxEdge() const { return m_boxEdge; }
     CPaneInterior& Interior() { return m_interior; }
     const CPaneInterior& Interior() const { return m_interior; }
-    void SetText(std::string text) { m_text = std::move(text); Touch(); } // lines separated by newline
+    void SetText(std::string text) { AssignOwn(m_text, std::move(text)); } // lines separated by newline
     const std::string& Text() const { return m_text; }
-    void SetPixelAnchor(int x, int y) { m_pixelX = x; m_pixelY = y; Touch(); }
+    void SetPixelAnchor(int x, int y)
+    {
+        AssignOwn(m_pixelX, x);
+        AssignOwn(m_pixelY, y);
+    }
     int PixelX() const { return m_pixelX; }
     int PixelY() const { return m_pixelY; }
-    void SetDataAnchor(double x, double y) { m_dataX = x; m_dataY = y; Touch(); }
+    void SetDataAnchor(double x, double y)
+    {
+        AssignOwn(m_dataX, x);
+        AssignOwn(m_dataY, y);
+    }
     double DataX() const { return m_dataX; }
     double DataY() const { return m_dataY; }
-    void SetShown(bool shown) { m_shown = shown; Touch(); }
+    void SetShown(bool shown) { AssignOwn(m_shown, shown); }
     bool Shown() const { return m_shown; }
     void SetRepaintSuspended(bool suspended);
-    void SetAttachment(int method) { m_attachment = method; Touch(); }
+    bool RepaintSuspended() const { return m_suspended; }
+    void SetAttachment(int method) { AssignOwn(m_attachment, method); }
     int Attachment() const { return m_attachment; }
-    void SetAnchorSide(int side) { m_anchorSide = side; Touch(); }
+    void SetAnchorSide(int side) { AssignOwn(m_anchorSide, side); }
     int Side() const { return m_anchorSide; }
-    void SetBorder(int kind) { m_border = kind; Touch(); } // 1: a 1-pixel border
+    void SetBorder(int kind) { AssignOwn(m_border, kind); } // 1: a 1-pixel border
     int Border() const { return m_border; }
 
 private:
     CPaneInterior m_interior;
     std::string m_text;
-    int m_boxAttachment = 0, m_boxEdge = 4, m_pixelX = 0, m_pixelY = 0, m_attachment = AttachToPixel, m_anchorSide = AnchorBelowRight, m_border = 0;
+    // While suspended, changes wait; they are told once when the suspension ends.
+    template<class T> void AssignOwn(T& member, std::type_identity_t<T> value)
+    {
+        if (IsSame<T>(member, value))
+            return;
+        member = std::move(value);
+        TouchOwn();
+    }
+    void TouchOwn();
+
+    bool m_suspended = false, m_waiting = false;
+    int m_boxAttachment = 0, m_boxEdge = 4, m_pixelX = 0, m_pixelY = 0, m_attachment = AttachToPixel,
+        m_anchorSide = AnchorBelowRight, m_border = 0;
     double m_dataX = 0, m_dataY = 0;
     bool m_shown = false;
 };

@@ -1,0 +1,561 @@
+#include "drawing/PaneFile.h"
+
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <cmath>
+#include <fstream>
+#include <iterator>
+#include <limits>
+#include <sstream>
+#include <stdexcept>
+#include <string_view>
+
+namespace zantroq {
+
+using nlohmann::json;
+
+namespace {
+
+// ----------------------------------------------------------------------------------------------------------------
+// writing
+
+json NumberToJson(double value)
+{
+    if (value == CPaneData::HoleValue())
+        return nullptr;
+    if (std::isnan(value))
+        return "nan";
+    if (std::isinf(value))
+        return value > 0 ? "inf" : "-inf";
+    return value;
+}
+
+json NumbersToJson(std::span<const double> values)
+{
+    json::array_t list;
+    list.reserve(values.size());
+    for (const double value : values)
+        list.push_back(NumberToJson(value));
+    return list;
+}
+
+json ToJson(const CLineLook& line)
+{
+    return {{"pattern", line.Pattern()}, {"color", line.LineColour()}, {"width", line.Width()}};
+}
+
+json ToJson(const CPaneInterior& interior)
+{
+    return {{"background", interior.Background()}, {"foreground", interior.Foreground()}};
+}
+
+json ToJson(const CSeriesStyle& style)
+{
+    return {{"line", ToJson(style.LineLook())},
+            {"fill", {{"pattern", style.FillLook().Pattern()}, {"color", style.FillLook().FillColour()}}},
+            {"symbol",
+             {{"shape", style.SymbolLook().Shape()},
+              {"color", style.SymbolLook().SymbolColour()},
+              {"size", style.SymbolLook().Size()}}}};
+}
+
+const std::pair<const char*, const CAxisBound& (CPaneAxis::*)() const> Bounds[] = {
+    {"origin", &CPaneAxis::AxisOrigin},
+    {"dataLow", &CPaneAxis::DataLow},
+    {"dataHigh", &CPaneAxis::DataHigh},
+    {"viewLow", &CPaneAxis::ViewLow},
+    {"viewHigh", &CPaneAxis::ViewHigh},
+    {"tickSpacing", &CPaneAxis::TickSpacing},
+    {"tickMarkSpacing", &CPaneAxis::TickMarkSpacing},
+};
+
+json ToJson(const CPaneAxis& axis)
+{
+    json labels = json::array(), automatic = json::array(), kinds = json::object();
+    for (const sTickLabel& label : axis.TickLabels().All())
+        labels.push_back({NumberToJson(label.Value), label.Text});
+    json object = {{"shown", axis.Shown()},
+                   {"labelMethod", axis.LabelMethod()},
+                   {"gridSpacing", NumberToJson(axis.AxisGrid().Spacing())},
+                   {"gridLine", ToJson(axis.AxisGrid().LineLook())},
+                   {"tickLabels", std::move(labels)}};
+    for (const auto& [name, member] : Bounds) {
+        const CAxisBound& bound = (axis.*member)();
+        object[name] = NumberToJson(bound.Value());
+        if (bound.Automatic())
+            automatic.push_back(name);
+        if (bound.Kind() != 0)
+            kinds[name] = bound.Kind();
+    }
+    if (axis.AxisOrigin().Automatic())
+        object["origin"] = nullptr;
+    object["more"] = {{"automatic", std::move(automatic)}, {"kinds", std::move(kinds)},
+                      {"setting19", axis.Setting19()},     {"setting21", axis.Setting21()},
+                      {"setting22", axis.Setting22()},     {"multiplier", NumberToJson(axis.Multiplier())}};
+    return object;
+}
+
+json ToJson(const CPaneGroup& group, bool withVectors)
+{
+    const CPaneData& data = group.PaneData();
+    CChart2D none;
+    const CSeriesStyle unset(&none); // the look of a series whose style nobody asked for
+    json series = json::array(), styles = json::array();
+    const json x = withVectors ? NumbersToJson(data.X()) : json::array();
+    for (int number = 1; number <= data.SeriesCount(); ++number) {
+        const CSeriesStyle* style = group.FindStyle(number);
+        json object = ToJson(style ? *style : unset);
+        object["pointCount"] = data.PointCount(number);
+        object["drawnTo"] = data.DrawnTo(number);
+        object["x"] = x;
+        object["y"] = withVectors ? NumbersToJson(data.Y(number)) : json::array();
+        object["more"] = {{"firstPoint", data.FirstPoint(number)}};
+        series.push_back(std::move(object));
+    }
+    for (int number = data.SeriesCount() + 1; number <= group.StyleCount(); ++number)
+        styles.push_back(ToJson(*group.FindStyle(number)));
+    return {{"type", group.Type()},
+            {"firstShownSeries", data.FirstShownSeries()},
+            {"lastShownSeries", data.LastShownSeries()},
+            {"series", std::move(series)},
+            {"more", {{"layout", data.Layout()}, {"styles", std::move(styles)}}}};
+}
+
+json ToJson(const CPaneLabel& label)
+{
+    return {{"shown", label.Shown()},
+            {"text", label.Text()},
+            {"background", label.Interior().Background()},
+            {"foreground", label.Interior().Foreground()},
+            {"attachment", label.Attachment()},
+            {"pixel", {label.PixelX(), label.PixelY()}},
+            {"data", {NumberToJson(label.DataX()), NumberToJson(label.DataY())}},
+            {"anchorSide", label.Side()},
+            {"more",
+             {{"border", label.Border()},
+              {"boxAttachment", label.BoxAttachment()},
+              {"boxEdge", label.BoxEdge()}}}};
+}
+
+// withVectors false leaves the x and y arrays empty, for a writer that fills them in itself.
+json SceneToJson(const CChart2D& chart, const sPanePlace& place, bool withVectors)
+{
+    const CPaneArea& area = chart.PaneArea();
+    const CAreaBox& box = area.AreaBox();
+    const CPlotFrame& frame = area.PlotFrame();
+    sPixelRect rect = place.Rect;
+    if (rect.Width() == 0 && rect.Height() == 0)
+        rect = {box.Left().Value(), 0, box.Left().Value() + box.Width().Value(), box.Height().Value()};
+    json labels = json::array(), fixed = json::array();
+    for (int number = 1; number <= chart.PaneLabels().Count(); ++number)
+        labels.push_back(ToJson(chart.PaneLabels().Item(number)));
+    const std::pair<const char*, const CPixelValue*> pixels[] = {
+        {"boxLeft", &box.Left()},         {"boxWidth", &box.Width()},      {"boxHeight", &box.Height()},
+        {"left", &frame.LeftMargin()},    {"right", &frame.RightMargin()}, {"top", &frame.TopMargin()},
+        {"bottom", &frame.BottomMargin()}};
+    for (const auto& [name, value] : pixels)
+        if (!value->Automatic())
+            fixed.push_back(name);
+    return {{"control", place.Control},
+            {"study", place.Study ? json(*place.Study) : json(nullptr)},
+            {"visible", place.Visible},
+            {"rect", {rect.Left, rect.Top, rect.Width(), rect.Height()}},
+            {"plot",
+             {{"left", frame.LeftMargin().Value()},
+              {"right", frame.RightMargin().Value()},
+              {"top", frame.TopMargin().Value()},
+              {"bottom", frame.BottomMargin().Value()}}},
+            {"barWidth", area.BarLook().BarWidth()},
+            {"interior", ToJson(chart.PaneInterior())},
+            {"axes",
+             {{"x", ToJson(area.PaneAxes().X())},
+              {"y", ToJson(area.PaneAxes().Y())},
+              {"y2", ToJson(area.PaneAxes().Y2())}}},
+            {"groups", {ToJson(chart.PaneGroups(1), withVectors), ToJson(chart.PaneGroups(2), withVectors)}},
+            {"labels", std::move(labels)},
+            {"marker",
+             {{"shown", area.Marker().Shown()},
+              {"point", area.Marker().Point()},
+              {"line", ToJson(area.Marker().LineLook())}}},
+            {"more",
+             {{"box", {box.Left().Value(), box.Width().Value(), box.Height().Value()}},
+              {"areaInterior", ToJson(area.Interior())},
+              {"plotInterior", ToJson(frame.Interior())},
+              {"filledCandles", area.CandleLook().Filled()},
+              {"markerLock", area.Marker().Lock()},
+              {"fixed", std::move(fixed)}}}};
+}
+
+// ----------------------------------------------------------------------------------------------------------------
+// reading
+
+[[noreturn]] void Wrong(const std::string& field, const std::string& what)
+{
+    throw std::runtime_error("pane file: " + field + ": " + what);
+}
+
+// A field of an object, with its place in the file for messages.
+class CField
+{
+public:
+    CField(const json& value, std::string path) : m_value(value), m_path(std::move(path)) {}
+
+    CField At(const char* name) const
+    {
+        const auto found = Object().find(name);
+        if (found == m_value.end())
+            Wrong(m_path, std::string("\"") + name + "\" is missing");
+        return {*found, m_path + "." + name};
+    }
+    bool Has(const char* name) const { return Object().contains(name); }
+    CField At(std::size_t index) const
+    {
+        return {m_value.at(index), m_path + "[" + std::to_string(index) + "]"};
+    }
+    std::size_t Size() const
+    {
+        if (!m_value.is_array())
+            Wrong(m_path, "not a list");
+        return m_value.size();
+    }
+    void NeedSize(std::size_t size) const
+    {
+        if (Size() != size)
+            Wrong(m_path, std::to_string(Size()) + " entries where there are to be " + std::to_string(size));
+    }
+    bool IsNull() const { return m_value.is_null(); }
+    bool Bool() const
+    {
+        if (!m_value.is_boolean())
+            Wrong(m_path, "neither true nor false");
+        return m_value.get<bool>();
+    }
+    std::string Text() const
+    {
+        if (!m_value.is_string())
+            Wrong(m_path, "not a text");
+        return m_value.get<std::string>();
+    }
+    int Int(std::int64_t low = std::numeric_limits<int>::min(),
+            std::int64_t high = std::numeric_limits<int>::max()) const
+    {
+        return static_cast<int>(Integer(low, high));
+    }
+    Colour Color() const { return static_cast<Colour>(Integer(0, std::numeric_limits<Colour>::max())); }
+    double Number() const
+    {
+        if (m_value.is_number())
+            return m_value.get<double>();
+        if (m_value.is_null())
+            return CPaneData::HoleValue();
+        if (m_value.is_string()) {
+            const std::string& text = m_value.get_ref<const std::string&>();
+            if (text == "nan")
+                return std::numeric_limits<double>::quiet_NaN();
+            if (text == "inf" || text == "-inf")
+                return text == "inf" ? std::numeric_limits<double>::infinity()
+                                     : -std::numeric_limits<double>::infinity();
+        }
+        Wrong(m_path, "not a number");
+    }
+    std::vector<double> Numbers() const
+    {
+        std::vector<double> numbers(Size());
+        for (std::size_t i = 0; i < numbers.size(); ++i) {
+            const json& value = m_value[i];
+            numbers[i] = value.is_number_float() ? *value.get_ptr<const double*>() : At(i).Number();
+        }
+        return numbers;
+    }
+    const json& Value() const { return m_value; }
+
+private:
+    const json& Object() const
+    {
+        if (!m_value.is_object())
+            Wrong(m_path, "not an object");
+        return m_value;
+    }
+    std::int64_t Integer(std::int64_t low, std::int64_t high) const
+    {
+        if (!m_value.is_number_integer())
+            Wrong(m_path, "not a whole number");
+        // The unsigned form holds numbers that the signed one cannot.
+        const bool huge = m_value.is_number_unsigned() &&
+                          m_value.get<std::uint64_t>() >
+                              static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
+        const std::int64_t number =
+            huge ? std::numeric_limits<std::int64_t>::max() : m_value.get<std::int64_t>();
+        if (huge || number < low || number > high)
+            Wrong(m_path,
+                  m_value.dump() + " is not between " + std::to_string(low) + " and " + std::to_string(high));
+        return number;
+    }
+
+    const json& m_value;
+    std::string m_path;
+};
+
+constexpr int LargestPixel = FarPixel;
+
+void Read(const CField& field, CLineLook& line)
+{
+    line.SetPattern(field.At("pattern").Int());
+    line.SetColour(field.At("color").Color());
+    line.SetWidth(field.At("width").Int());
+}
+
+void Read(const CField& field, CPaneInterior& interior)
+{
+    interior.SetBackground(field.At("background").Color());
+    interior.SetForeground(field.At("foreground").Color());
+}
+
+void Read(const CField& field, CSeriesStyle& style)
+{
+    Read(field.At("line"), style.LineLook());
+    style.FillLook().SetPattern(field.At("fill").At("pattern").Int());
+    style.FillLook().SetColour(field.At("fill").At("color").Color());
+    style.SymbolLook().SetShape(field.At("symbol").At("shape").Int());
+    style.SymbolLook().SetColour(field.At("symbol").At("color").Color());
+    style.SymbolLook().SetSize(field.At("symbol").At("size").Int());
+}
+
+bool Lists(const CField& list, const char* name)
+{
+    list.Size();
+    return std::any_of(list.Value().begin(), list.Value().end(),
+                       [&](const json& entry) { return entry == name; });
+}
+
+void Read(const CField& field, CPaneAxis& axis)
+{
+    axis.SetShown(field.At("shown").Bool());
+    axis.SetLabelMethod(field.At("labelMethod").Int());
+    axis.AxisGrid().SetSpacing(field.At("gridSpacing").Number());
+    Read(field.At("gridLine"), axis.AxisGrid().LineLook());
+    const CField labels = field.At("tickLabels");
+    const std::size_t count = labels.Size();
+    axis.TickLabels().RemoveAll();
+    for (std::size_t i = 0; i < count; ++i) {
+        labels.At(i).NeedSize(2);
+        axis.TickLabels().Add(labels.At(i).At(std::size_t{0}).Number(),
+                              labels.At(i).At(std::size_t{1}).Text());
+    }
+    const bool more = field.Has("more");
+    for (const auto& [name, member] : Bounds) {
+        CAxisBound& bound = const_cast<CAxisBound&>((axis.*member)());
+        const CField value = field.At(name);
+        const bool automatic = more ? Lists(field.At("more").At("automatic"), name)
+                                    : std::string_view(name) == "origin" && value.IsNull();
+        bound.Restore(automatic && value.IsNull() ? 0.0 : value.Number(), automatic);
+        const bool kind = more && field.At("more").At("kinds").Has(name);
+        bound.SetKind(kind ? field.At("more").At("kinds").At(name).Int() : 0);
+    }
+    axis.SetSetting19(more ? field.At("more").At("setting19").Int() : 2);
+    axis.SetSetting21(more ? field.At("more").At("setting21").Int() : 2);
+    axis.SetSetting22(more ? field.At("more").At("setting22").Int() : 0);
+    axis.SetMultiplier(more ? field.At("more").At("multiplier").Number() : 1.0);
+}
+
+void ReadData(const CField& series, CPaneData& data)
+{
+    const std::size_t count = series.Size();
+    if (count > static_cast<std::size_t>(MaxSeries))
+        Wrong("groups.series", std::to_string(count) + " series are more than a pane holds");
+    data.SetSeriesCount(0);
+    data.SetSeriesCount(static_cast<int>(count));
+    for (std::size_t i = 0; i < count; ++i) {
+        const CField field = series.At(i);
+        const int number = static_cast<int>(i) + 1;
+        const int points = field.At("pointCount").Int(0);
+        field.At("x").NeedSize(static_cast<std::size_t>(points));
+        field.At("y").NeedSize(static_cast<std::size_t>(points));
+        if (i == 0) {
+            data.SetPointCount(number, points);
+            data.SetXVector(number, std::span<const double>(field.At("x").Numbers()));
+        } else if (field.At("x").Value() != series.At(std::size_t{0}).At("x").Value()) {
+            Wrong("groups.series",
+                  "the x values of series " + std::to_string(number) + " differ from those of series 1");
+        }
+        data.SetYVector(number, field.At("y").Numbers());
+        data.SetDrawnTo(number, field.At("drawnTo").Int());
+        data.SetFirstPoint(number, field.Has("more") ? field.At("more").At("firstPoint").Int() : 1);
+    }
+}
+
+void Read(const CField& field, CPaneGroup& group)
+{
+    group.SetChartType(field.At("type").Int());
+    CPaneData& data = group.PaneData();
+    data.SetFirstShownSeries(field.At("firstShownSeries").Int());
+    data.SetLastShownSeries(field.At("lastShownSeries").Int());
+    const bool more = field.Has("more");
+    data.SetLayout(more ? field.At("more").At("layout").Int() : 1);
+    const CField series = field.At("series");
+    ReadData(series, data);
+    group.RemoveStyles();
+    for (std::size_t i = 0; i < series.Size(); ++i)
+        Read(series.At(i), group.SeriesStyles(static_cast<int>(i) + 1));
+    if (!more)
+        return;
+    const CField styles = field.At("more").At("styles");
+    for (std::size_t i = 0; i < styles.Size(); ++i) {
+        if (series.Size() + i >= static_cast<std::size_t>(MaxSeries))
+            Wrong("groups.more.styles", "more styles than a pane holds");
+        Read(styles.At(i), group.SeriesStyles(static_cast<int>(series.Size() + i) + 1));
+    }
+}
+
+void Read(const CField& field, CPaneLabel& label)
+{
+    label.SetShown(field.At("shown").Bool());
+    label.SetText(field.At("text").Text());
+    label.Interior().SetBackground(field.At("background").Color());
+    label.Interior().SetForeground(field.At("foreground").Color());
+    label.SetAttachment(field.At("attachment").Int());
+    field.At("pixel").NeedSize(2);
+    label.SetPixelAnchor(field.At("pixel").At(std::size_t{0}).Int(),
+                         field.At("pixel").At(std::size_t{1}).Int());
+    field.At("data").NeedSize(2);
+    label.SetDataAnchor(field.At("data").At(std::size_t{0}).Number(),
+                        field.At("data").At(std::size_t{1}).Number());
+    label.SetAnchorSide(field.At("anchorSide").Int());
+    if (field.Has("more")) {
+        label.SetBorder(field.At("more").At("border").Int());
+        label.SetBoxAttachment(field.At("more").At("boxAttachment").Int());
+        label.SetBoxEdge(field.At("more").At("boxEdge").Int());
+    }
+}
+
+void Read(const CField& field, CPixelValue& value, const CField* fixed, const char* name)
+{
+    value.SetValue(field.Int(-LargestPixel, LargestPixel));
+    value.SetAutomatic(!fixed || !Lists(*fixed, name));
+}
+
+void ReadSizes(const CField& pane, CPaneArea& area)
+{
+    std::optional<CField> fixed, box;
+    pane.At("rect").NeedSize(4);
+    for (std::size_t i = 0; i < 4; ++i)
+        pane.At("rect").At(i).Int(-LargestPixel, LargestPixel);
+    if (pane.Has("more")) {
+        fixed.emplace(pane.At("more").At("fixed"));
+        box.emplace(pane.At("more").At("box"));
+        box->NeedSize(3);
+    }
+    const CField* names = fixed ? &*fixed : nullptr;
+    Read(box ? box->At(std::size_t{0}) : pane.At("rect").At(std::size_t{0}), area.AreaBox().Left(), names,
+         "boxLeft");
+    Read(box ? box->At(std::size_t{1}) : pane.At("rect").At(std::size_t{2}), area.AreaBox().Width(), names,
+         "boxWidth");
+    Read(box ? box->At(std::size_t{2}) : pane.At("rect").At(std::size_t{3}), area.AreaBox().Height(), names,
+         "boxHeight");
+    const CField plot = pane.At("plot");
+    Read(plot.At("left"), area.PlotFrame().LeftMargin(), names, "left");
+    Read(plot.At("right"), area.PlotFrame().RightMargin(), names, "right");
+    Read(plot.At("top"), area.PlotFrame().TopMargin(), names, "top");
+    Read(plot.At("bottom"), area.PlotFrame().BottomMargin(), names, "bottom");
+}
+
+void Read(const CField& pane, CChart2D& chart)
+{
+    pane.At("control").Int();
+    if (!pane.At("study").IsNull())
+        pane.At("study").Int();
+    pane.At("visible").Bool();
+    CPaneArea& area = chart.PaneArea();
+    ReadSizes(pane, area);
+    area.BarLook().SetBarWidth(pane.At("barWidth").Int());
+    Read(pane.At("interior"), chart.PaneInterior());
+    Read(pane.At("axes").At("x"), area.PaneAxes().X());
+    Read(pane.At("axes").At("y"), area.PaneAxes().Y());
+    Read(pane.At("axes").At("y2"), area.PaneAxes().Y2());
+    pane.At("groups").NeedSize(2);
+    for (std::size_t i = 0; i < 2; ++i)
+        Read(pane.At("groups").At(i), chart.PaneGroups(static_cast<int>(i) + 1));
+    const CField labels = pane.At("labels");
+    const std::size_t count = labels.Size();
+    chart.PaneLabels().RemoveAll();
+    for (std::size_t i = 0; i < count; ++i)
+        Read(labels.At(i), chart.PaneLabels().Add());
+    CPaneMarker& marker = area.PaneMarkers("x");
+    marker.SetShown(pane.At("marker").At("shown").Bool());
+    marker.SetPoint(pane.At("marker").At("point").Int());
+    Read(pane.At("marker").At("line"), marker.LineLook());
+    if (!pane.Has("more")) {
+        area.Interior().SetBackground(chart.PaneInterior().Background());
+        area.Interior().SetForeground(chart.PaneInterior().Foreground());
+        area.PlotFrame().Interior().SetBackground(chart.PaneInterior().Background());
+        area.PlotFrame().Interior().SetForeground(chart.PaneInterior().Foreground());
+        return;
+    }
+    const CField more = pane.At("more");
+    Read(more.At("areaInterior"), area.Interior());
+    Read(more.At("plotInterior"), area.PlotFrame().Interior());
+    area.CandleLook().SetFilled(more.At("filledCandles").Bool());
+    marker.SetLock(more.At("markerLock").Int());
+}
+
+} // namespace
+
+json PaneToJson(const CChart2D& chart, const sPanePlace& place)
+{
+    return SceneToJson(chart, place, true);
+}
+
+void PaneFromJson(const json& pane, CChart2D& chart)
+{
+    CChart2D trial; // the first reading is the check
+    Read(CField(pane, "pane"), trial);
+    const bool batched = chart.Batched();
+    if (!batched)
+        chart.SetBatched(true);
+    Read(CField(pane, "pane"), chart);
+    if (!batched)
+        chart.SetBatched(false);
+}
+
+std::string PaneToText(const CChart2D& chart)
+{
+    return PaneToJson(chart).dump(-1, ' ', false, json::error_handler_t::replace);
+}
+
+void PaneFromText(const std::string& text, CChart2D& chart)
+{
+    json pane;
+    try {
+        pane = json::parse(text);
+    } catch (const json::exception& error) {
+        throw std::runtime_error(std::string("pane file: not JSON: ") + error.what());
+    }
+    PaneFromJson(pane, chart);
+}
+
+bool CChart2D::SaveToFile(const std::string& path) const
+{
+    std::ofstream file(path, std::ios::binary | std::ios::trunc);
+    file << PaneToText(*this) << '\n';
+    file.close();
+    return !file.fail();
+}
+
+bool CChart2D::LoadFromFile(const std::string& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    if (!file)
+        return false;
+    std::string text(std::istreambuf_iterator<char>(file), {});
+    if (file.bad())
+        return false;
+    try {
+        PaneFromText(text, *this);
+    } catch (const std::runtime_error&) {
+        return false;
+    }
+    return true;
+}
+
+} // namespace zantroq

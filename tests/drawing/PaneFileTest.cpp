@@ -1,0 +1,318 @@
+#include "drawing/PaneFile.h"
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <cmath>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <limits>
+#include <unistd.h>
+
+namespace zantroq {
+namespace {
+
+using nlohmann::json;
+const double Infinity = std::numeric_limits<double>::infinity();
+
+// A pane with every value away from its default.
+void Fill(CChart2D& chart)
+{
+    CPaneArea& area = chart.PaneArea();
+    area.AreaBox().Left().SetValue(3);
+    area.AreaBox().Width().SetValue(640);
+    area.AreaBox().Height().SetValue(480);
+    area.PlotFrame().LeftMargin().SetValue(23);
+    area.PlotFrame().TopMargin().SetValue(18);
+    area.BarLook().SetBarWidth(7);
+    area.CandleLook().SetFilled(true);
+    chart.PaneInterior().SetBackground(0x232323);
+    chart.PaneInterior().SetForeground(0xffffff);
+    area.Interior().SetBackground(0x010203);
+    area.PlotFrame().Interior().SetForeground(0x0a0b0c);
+    CPaneAxis& y = area.PaneAxes().Y();
+    y.AxisOrigin().SetValue(-0.0);
+    y.DataLow().SetValue(0.1);
+    y.DataHigh().SetValue(1.0 / 3.0);
+    y.DataHigh().SetKind(1);
+    y.ViewHigh().SetValue(5e-324);
+    y.SetLabelMethod(4);
+    y.SetShown(false);
+    y.SetSetting21(0);
+    y.SetMultiplier(2.5);
+    y.AxisGrid().SetSpacing(25);
+    y.AxisGrid().LineLook().SetPattern(LineShortDashes);
+    y.TickLabels().Add(10.5, "10\xC2\xBD");
+    y.TickLabels().Add(11.0, "11");
+    for (int number = 1; number <= 2; ++number) {
+        CPaneGroup& group = chart.PaneGroups(number);
+        group.SetChartType(number == 1 ? ChartCandles : ChartBarsFromOrigin);
+        CPaneData& data = group.PaneData();
+        data.SetSeriesCount(number + 1);
+        data.SetPointCount(1, 6);
+        data.SetLastShownSeries(2);
+        data.SetYVector(2, std::vector<double>{1.0, CPaneData::HoleValue(), Infinity, -Infinity, 0.1 + 0.2,
+                                               std::nan("")});
+        data.SetDrawnTo(2, 4);
+        data.SetFirstPoint(1, 2);
+        group.SeriesStyles(5).FillLook().SetColour(0xc0ffee);
+        group.SeriesStyles(1).LineLook().SetWidth(3);
+        group.SeriesStyles(1).SymbolLook().SetShape(SymbolMark);
+    }
+    CPaneLabel& label = chart.PaneLabels().Add();
+    label.SetShown(true);
+    label.SetText("two\nlines \"quoted\"");
+    label.Interior().SetBackground(0x112233);
+    label.SetAttachment(AttachToData);
+    label.SetPixelAnchor(-5, 7);
+    label.SetDataAnchor(3.25, -Infinity);
+    label.SetAnchorSide(AnchorAboveLeft);
+    label.SetBorder(1);
+    label.SetBoxAttachment(2);
+    label.SetBoxEdge(3);
+    CPaneMarker& marker = area.PaneMarkers("x");
+    marker.SetShown(true);
+    marker.SetPoint(4);
+    marker.LineLook().SetColour(0x00ff00);
+}
+
+// A file of this process that goes with the test.
+struct sScratchFile
+{
+    sScratchFile()
+        : Path((std::filesystem::temp_directory_path() /
+                ("zantroq-pane-" + std::to_string(getpid()) + ".json"))
+                   .string())
+    {
+    }
+    ~sScratchFile() { std::remove(Path.c_str()); }
+    void Write(const std::string& text) const { std::ofstream(Path) << text; }
+    std::string Path;
+};
+
+TEST(PaneFile, HasTheFieldsOfASnapshotPane)
+{
+    CChart2D chart;
+    Fill(chart);
+    const json pane = PaneToJson(chart, {342, 6, false, {1, 2, 641, 482}});
+    EXPECT_EQ(pane["control"], 342);
+    EXPECT_EQ(pane["study"], 6);
+    EXPECT_EQ(pane["visible"], false);
+    EXPECT_EQ(pane["rect"], json({1, 2, 640, 480}));
+    EXPECT_EQ(pane["plot"], json({{"left", 23}, {"right", 23}, {"top", 18}, {"bottom", 4}}));
+    EXPECT_EQ(pane["barWidth"], 7);
+    EXPECT_EQ(pane["interior"], json({{"background", 0x232323}, {"foreground", 0xffffff}}));
+    const json& y = pane["axes"]["y"];
+    EXPECT_EQ(y["shown"], false);
+    EXPECT_EQ(y["dataLow"], 0.1);
+    EXPECT_EQ(y["origin"], 0.0);
+    EXPECT_EQ(pane["axes"]["x"]["origin"], nullptr);
+    EXPECT_EQ(y["labelMethod"], 4);
+    EXPECT_EQ(y["gridSpacing"], 25.0);
+    EXPECT_EQ(y["gridLine"], json({{"pattern", 5}, {"color", 0}, {"width", 1}}));
+    EXPECT_EQ(y["tickLabels"], json({{10.5, "10\xC2\xBD"}, {11.0, "11"}}));
+    for (const char* name : {"viewLow", "viewHigh", "dataHigh", "tickSpacing", "tickMarkSpacing"})
+        EXPECT_TRUE(y.contains(name)) << name;
+    const json& group = pane["groups"][0];
+    EXPECT_EQ(group["type"], 8);
+    EXPECT_EQ(group["firstShownSeries"], 1);
+    EXPECT_EQ(group["lastShownSeries"], 2);
+    const json& series = group["series"][1];
+    EXPECT_EQ(series["pointCount"], 6);
+    EXPECT_EQ(series["drawnTo"], 4);
+    EXPECT_EQ(series["x"], json({1.0, 2.0, 3.0, 4.0, 5.0, 6.0}));
+    EXPECT_EQ(series["y"], json({1.0, nullptr, "inf", "-inf", 0.1 + 0.2, "nan"}));
+    EXPECT_EQ(series["line"], json({{"pattern", 2}, {"color", 0}, {"width", 1}}));
+    EXPECT_EQ(series["fill"], json({{"pattern", 0}, {"color", 0}}));
+    EXPECT_EQ(group["series"][0]["symbol"], json({{"shape", 3}, {"color", 0}, {"size", 1}}));
+    const json& label = pane["labels"][0];
+    EXPECT_EQ(label["text"], "two\nlines \"quoted\"");
+    EXPECT_EQ(label["attachment"], 2);
+    EXPECT_EQ(label["pixel"], json({-5, 7}));
+    EXPECT_EQ(label["data"], json({3.25, "-inf"}));
+    EXPECT_EQ(label["anchorSide"], 0x12);
+    EXPECT_EQ(label["background"], 0x112233);
+    EXPECT_EQ(pane["marker"]["point"], 4);
+    EXPECT_EQ(pane["marker"]["shown"], true);
+    EXPECT_EQ(pane["marker"]["line"]["color"], 0x00ff00);
+    EXPECT_EQ(PaneToJson(chart)["study"], nullptr);
+}
+
+TEST(PaneFile, ASavedPaneLoadsBackWhole)
+{
+    CChart2D chart, copy;
+    Fill(chart);
+    const sScratchFile file;
+    ASSERT_TRUE(chart.SaveToFile(file.Path));
+    ASSERT_TRUE(copy.LoadFromFile(file.Path));
+    EXPECT_EQ(PaneToText(copy), PaneToText(chart));
+    EXPECT_TRUE(std::isnan(copy.PaneGroups(1).PaneData().PointY(2, 6)));
+    EXPECT_TRUE(std::signbit(copy.PaneArea().PaneAxes().Y().AxisOrigin().Value()));
+    EXPECT_EQ(copy.PaneGroups(2).FindStyle(5)->FillLook().FillColour(), 0xc0ffeeu);
+    EXPECT_EQ(copy.PaneArea().PaneAxes().Y().Setting21(), 0);
+    EXPECT_EQ(copy.PaneLabels().Item(1).BoxEdge(), 3);
+    EXPECT_FALSE(copy.PaneArea().AreaBox().Width().Automatic());
+    EXPECT_TRUE(copy.PaneArea().PlotFrame().BottomMargin().Automatic());
+}
+
+TEST(PaneFile, LoadingReplacesWhatWasThere)
+{
+    CChart2D empty, chart;
+    Fill(chart);
+    PaneFromText(PaneToText(empty), chart);
+    EXPECT_EQ(PaneToText(chart), PaneToText(empty));
+}
+
+TEST(PaneFile, TextAndObjectAgree)
+{
+    CChart2D chart;
+    Fill(chart);
+    EXPECT_EQ(PaneToText(chart), PaneToJson(chart).dump());
+}
+
+TEST(PaneFile, EveryDoubleReadsBackExactly)
+{
+    CChart2D chart, copy;
+    CPaneData& data = chart.PaneGroups(1).PaneData();
+    const std::vector<double> values{0.0,
+                                     -0.0,
+                                     1.0,
+                                     1e21,
+                                     123456789012345678.0,
+                                     5e-324,
+                                     1.7976931348623157e308,
+                                     1e307,
+                                     0.1,
+                                     1.0 / 3.,
+                                     100.07,
+                                     -2.5e-7,
+                                     1e-5,
+                                     9007199254740993.0,
+                                     1e15,
+                                     1e16,
+                                     1e17,
+                                     123456.5,
+                                     4294967296.0};
+    data.SetSeriesCount(1);
+    data.SetPointCount(1, static_cast<int>(values.size()));
+    data.SetYVector(1, values);
+    EXPECT_EQ(PaneToText(chart), PaneToJson(chart).dump());
+    PaneFromText(PaneToText(chart), copy);
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        EXPECT_EQ(copy.PaneGroups(1).PaneData().Y(1)[i], values[i]);
+        EXPECT_EQ(std::signbit(copy.PaneGroups(1).PaneData().Y(1)[i]), std::signbit(values[i]));
+    }
+}
+
+TEST(PaneFile, AFileWithTheSnapshotFieldsAloneLoads)
+{
+    CChart2D chart, copy;
+    Fill(chart);
+    json pane = PaneToJson(chart);
+    const std::function<void(json&)> strip = [&](json& value) {
+        if (value.is_object())
+            value.erase("more");
+        for (json& inner : value)
+            if (inner.is_structured())
+                strip(inner);
+    };
+    strip(pane);
+    PaneFromJson(pane, copy);
+    EXPECT_EQ(copy.PixelWidth(), 640);
+    EXPECT_EQ(copy.PixelHeight(), 480);
+    EXPECT_EQ(copy.PaneGroups(1).PaneData().PointY(2, 1), 1.0);
+    EXPECT_TRUE(copy.PaneArea().PaneAxes().X().AxisOrigin().Automatic());
+    EXPECT_EQ(copy.PaneArea().PlotFrame().Interior().Background(), 0x232323u);
+}
+
+TEST(PaneFile, ABadFileLeavesThePaneAsItWas)
+{
+    CChart2D chart;
+    Fill(chart);
+    const std::string before = PaneToText(chart);
+    const json good = json::parse(before);
+    const auto with = [&](const char* pointer, const json& value) {
+        json bad = good;
+        bad[json::json_pointer(pointer)] = value;
+        return bad.dump();
+    };
+    json without = good;
+    without["axes"]["y2"].erase("viewLow");
+    const std::vector<std::string> bad{"",
+                                       "[]",
+                                       "null",
+                                       "{}",
+                                       "{\"a\":",
+                                       before.substr(0, before.size() / 2),
+                                       without.dump(),
+                                       with("/barWidth", 1.5),
+                                       with("/barWidth", "7"),
+                                       with("/barWidth", 4294967296),
+                                       with("/interior/background", -1),
+                                       with("/interior/background", 1e10),
+                                       with("/visible", 1),
+                                       with("/rect", json::array({1, 2, 3})),
+                                       with("/rect/2", 1 << 30),
+                                       with("/groups", json::array()),
+                                       with("/groups/0/series/0/pointCount", 7),
+                                       with("/groups/0/series/0/pointCount", -1),
+                                       with("/groups/0/series/1/x/3", 99.0),
+                                       with("/groups/0/series/1/y/3", "infinity"),
+                                       with("/groups/0/series/1/y/3", true),
+                                       with("/groups/1/series/0/line/width", nullptr),
+                                       with("/axes/x/tickLabels/0", json::array({1})),
+                                       with("/axes/y/tickLabels/0/1", 5),
+                                       with("/labels/0/text", 5),
+                                       with("/labels/0/pixel", json::array({1})),
+                                       with("/labels/0/pixel/0", 18446744073709551615u),
+                                       with("/marker/point", "none"),
+                                       with("/marker", nullptr),
+                                       with("/more/fixed", 3),
+                                       with("/more/box", json::array({1}))};
+    const sScratchFile file;
+    for (const std::string& text : bad) {
+        EXPECT_THROW(PaneFromText(text, chart), std::runtime_error) << text.substr(0, 100);
+        file.Write(text);
+        EXPECT_FALSE(chart.LoadFromFile(file.Path)) << text.substr(0, 100);
+        ASSERT_EQ(PaneToText(chart), before) << text.substr(0, 100);
+    }
+}
+
+TEST(PaneFile, FilesThatCannotBeReadOrWrittenAreToldByFalse)
+{
+    CChart2D chart;
+    EXPECT_FALSE(chart.LoadFromFile("/no/such/folder/pane.json"));
+    EXPECT_FALSE(chart.SaveToFile("/no/such/folder/pane.json"));
+}
+
+TEST(PaneFile, AMessageNamesTheField)
+{
+    CChart2D chart;
+    json pane = PaneToJson(chart);
+    pane["axes"]["y"]["labelMethod"] = "four";
+    try {
+        PaneFromJson(pane, chart);
+        FAIL();
+    } catch (const std::runtime_error& error) {
+        EXPECT_STREQ(error.what(), "pane file: pane.axes.y.labelMethod: not a whole number");
+    }
+}
+
+TEST(PaneFile, LoadingTellsTheViewOnce)
+{
+    struct CView : IPaneView
+    {
+        void PaneChanged() override { ++Times; }
+        int Times = 0;
+    } view;
+    CChart2D chart, loaded;
+    Fill(chart);
+    loaded.SetView(&view);
+    PaneFromText(PaneToText(chart), loaded);
+    EXPECT_EQ(view.Times, 1);
+}
+
+} // namespace
+} // namespace zantroq
