@@ -1,5 +1,5 @@
-// What the chart window asks of the desktop, each service behind a small interface named for its role. The face implements them
-// with widgets, tests with a few lines. All are called on the chart window's thread.
+// What the chart window asks of the desktop, each service behind a small interface named for its role. The
+// face implements them with widgets, tests with a few lines. All are called on the chart window's thread.
 #pragma once
 
 #include <cstdint>
@@ -26,16 +26,32 @@ public:
     virtual void SetPart(int part, const std::string& text) = 0;
 };
 
-enum class BoxButtons { Ok, YesNo };
-enum class BoxIcon { None, Error, Question };
-enum class BoxAnswer { Ok, Cancel, Yes, No };
+enum class BoxButtons
+{
+    Ok,
+    YesNo
+};
+enum class BoxIcon
+{
+    None,
+    Error,
+    Question
+};
+enum class BoxAnswer
+{
+    Ok,
+    Cancel,
+    Yes,
+    No
+};
 
 class IMessageBox
 {
 public:
     virtual ~IMessageBox() = default;
     // Modal: returns when answered; timers go on meanwhile.
-    virtual BoxAnswer Ask(const std::string& text, const std::string& caption, BoxButtons buttons, BoxIcon icon) = 0;
+    virtual BoxAnswer Ask(const std::string& text, const std::string& caption, BoxButtons buttons,
+                          BoxIcon icon) = 0;
 };
 
 // The horizontal scroll bar. A position handed in is held between 0 and the larger of 0 and Limit().
@@ -65,7 +81,8 @@ public:
     virtual bool IsChecked(int command) const = 0;
 };
 
-// The symbol box: an edit text over a list of recent symbols.
+// The symbol box: an edit text over a list of recent symbols. What the window sets itself is not told back to
+// it.
 class ISymbolBox
 {
 public:
@@ -76,7 +93,7 @@ public:
     virtual void SetItems(const std::vector<std::string>& items) = 0;
     virtual int Selection() const = 0; // -1: none
     virtual void Select(int item) = 0;
-    virtual void FocusAtEnd() = 0;     // takes the keyboard, the caret behind the text
+    virtual void FocusAtEnd() = 0; // takes the keyboard, the caret behind the text
 };
 
 // The type box or the interval box.
@@ -107,6 +124,53 @@ public:
     virtual bool Maximized() const = 0;
     virtual void SetCaption(const std::string& caption) = 0; // the chart's own caption
     virtual std::string Caption() const = 0;
+    virtual void MoveTo(const sWindowRect& rect) = 0;
+    virtual void Maximize() = 0;
+    virtual sWindowRect VirtualScreen() const = 0; // the bounding rectangle of all screens
+};
+
+enum class CursorShape
+{
+    Arrow,
+    Split
+};
+
+// What a drag of a pane border shows: the pointer's shape and the line at the new place.
+class IPointerFeedback
+{
+public:
+    virtual ~IPointerFeedback() = default;
+    virtual void SetCursor(CursorShape shape) = 0;
+    // The line across the panes, 5 pixels high, centred on y pixels below the top of the first pane; moves
+    // one that is shown.
+    virtual void ShowDragLine(int y) = 0;
+    virtual void HideDragLine() = 0;
+};
+
+// A context menu as data. A separator has no command; an item with items of its own is a submenu.
+struct sMenuItem
+{
+    int Command = 0;
+    std::string Text;
+    bool Enabled = true;
+    bool Separator = false;
+    std::vector<sMenuItem> Items;
+};
+
+struct sContextMenu
+{
+    int Number = 0; // 129 over the price pane, 212 over a study pane
+    int Pane = 0;   // 0 the price pane, k study k
+    std::vector<sMenuItem> Items;
+};
+
+class IContextMenu
+{
+public:
+    virtual ~IContextMenu() = default;
+    // Opens the menu at a pixel of the menu's pane. What the user picks comes back through the window's
+    // OnMenuCommand.
+    virtual void Open(const sContextMenu& menu, int x, int y) = 0;
 };
 
 // Sizes for the layout, in pixels; the face moves its widgets when Place is called.
@@ -119,7 +183,9 @@ public:
     virtual int ToolBarHeight() const = 0;
     virtual void PlacePane(int pane, bool visible, int left, int top, int width, int height) = 0;
     virtual void PlaceBars(int scrollTop, int statusTop) = 0;
-    virtual void SetControlsEnabled(bool enabled) = 0; // the bars as a whole, while a chart loads
+    // False while a chart loads: the scroll bar and the toolbar rest. The symbol, type and interval boxes
+    // stay usable.
+    virtual void SetControlsEnabled(bool enabled) = 0;
 };
 
 struct sWindowServices
@@ -134,6 +200,8 @@ struct sWindowServices
     IChoiceBox& Interval;
     ITopLevelWindow& Top;
     IPaneHost& Host;
+    IPointerFeedback& Pointer;
+    IContextMenu& Menu;
 };
 
 } // namespace zantroq

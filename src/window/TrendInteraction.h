@@ -1,0 +1,51 @@
+// The drawing and deleting of trendlines by mouse, as the chart window sees it. Chart window's thread.
+#pragma once
+
+#include "drawing/ChartWindow.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace zantroq {
+
+// One trendline for the window's snapshot. The optional members exist only for the kinds that have them.
+struct sTrendRecord
+{
+    std::string Kind;   // "horizontal", "sloping", "parallel", "pitchfork", "fibonacci-fan", ...
+    int StartIndex = 0; // data indices, from 0
+    int EndIndex = 0;
+    double Value = 0;
+    double EndValue = 0;
+    std::vector<int> Series; // series numbers in group 2 of the price pane
+    Colour Color = 0;
+    int Width = 1;
+    int Extendable = 1;
+    std::optional<double> Offset;
+    std::optional<int> ThirdIndex;
+    std::optional<double> ThirdValue;
+    std::optional<int> FirstLabel;
+};
+
+class ITrendInteraction
+{
+public:
+    virtual ~ITrendInteraction() = default;
+    virtual int State() const = 0; // 0: no mode armed
+    virtual void ResetState() = 0; // state 0, without a prompt
+    virtual void RemoveAll() = 0;  // all lines and the one being drawn
+    virtual int Count() const = 0; // lines in all lists
+    // The trendline commands (32779, 32782 to 32786, 32788 to 32790).
+    virtual void OnCommand(int command) = 0;
+    // A press or move while a mode is armed (State() not 0); x and y in the control's pixels, button 1 left,
+    // 2 right.
+    virtual void OnMouseDown(int control, int button, int x, int y) = 0;
+    virtual void OnMouseMove(int control, int x, int y) = 0;
+    virtual void OnTimer() = 0; // timer 108, which flashes a line
+    virtual ITrendLayer* Layer() = 0;
+    virtual std::vector<sTrendRecord> Records() const = 0; // list by list
+    // Takes the colours, widths and flags of the settings over to the lines that stand.
+    virtual void ApplyStyles() = 0;
+};
+
+} // namespace zantroq
