@@ -1,0 +1,41 @@
+// The diagonal between two anchors and nine level lines at Fibonacci ratios of their price range, measured
+// downward from the higher price whichever was clicked first, each with a percentage label. Levels run from
+// the left anchor to the last displayed point whatever the extendable flag says; the lowest can be negative.
+#pragma once
+
+#include "trends/SlopingTrend.h"
+
+#include <array>
+
+namespace zantroq {
+
+class CFibonacciRetracementsTrend : public CSlopingTrend
+{
+public:
+    static constexpr int Levels = 9;
+
+    CFibonacciRetracementsTrend(int series, const std::array<int, Levels>& levelSeries, int startIndex,
+                                double value, const sTrendStyle& style);
+    TrendKind Kind() const override { return TrendFibonacciRetracements; }
+    std::vector<int> AllSeries() const override;
+    void Draw() override;
+    void Erase() override; // also removes its nine labels
+    int HitDistance(int x, int y) const override;
+    int GetFirstLabel() const override { return m_firstLabel; }
+    void SetFirstLabel(int label) override { m_firstLabel = label; }
+
+    // Adds the nine labels, hidden, to the price pane; answers the number of the first.
+    static int AddLabels(IChartWindow& window);
+
+    std::array<int, Levels> m_levelSeries;
+    int m_firstLabel = 0;
+
+private:
+    double LevelPrice(int level) const;
+    void DrawLevel(int level, const sSpan& span);
+    // Puts the label of a level beside its line; shownPixelY is the pixel y of the last label shown so far,
+    // and is moved on.
+    void PlaceLabel(int level, const sSpan& span, int& shownPixelY);
+};
+
+} // namespace zantroq

@@ -1,0 +1,24 @@
+// A sloping line with a copy at a price offset.
+#pragma once
+
+#include "trends/SlopingTrend.h"
+
+namespace zantroq {
+
+class CParallelTrend : public CSlopingTrend
+{
+public:
+    CParallelTrend(int series, int series2, int startIndex, double value, const sTrendStyle& style);
+    TrendKind Kind() const override { return TrendParallel; }
+    std::vector<int> AllSeries() const override { return {m_series, m_series2}; }
+    void Draw() override;
+    int HitDistance(int x, int y) const override;
+    double GetOffset() const override { return m_offset; }
+    void SetOffset(double offset) override { m_offset = offset; }
+
+    int m_series2;
+    double m_offset =
+        0.0; // price distance of the second line from the first; not finite when both anchors share an index
+};
+
+} // namespace zantroq

@@ -1,0 +1,31 @@
+// Andrew's pitchfork: a base line through two anchors, a handle from a third point to the middle of the base
+// line, and two prongs through the base line's ends with the handle's slope. Prongs run to the last displayed
+// point whatever the extendable flag says.
+#pragma once
+
+#include "trends/SlopingTrend.h"
+
+namespace zantroq {
+
+class CPitchforkTrend : public CSlopingTrend
+{
+public:
+    // series2 is the handle's, series3 and series4 those of the prongs through the left and the right anchor.
+    CPitchforkTrend(int series, int series2, int series3, int series4, int startIndex, double value,
+                    const sTrendStyle& style);
+    TrendKind Kind() const override { return TrendPitchfork; }
+    std::vector<int> AllSeries() const override { return {m_series, m_series2, m_series3, m_series4}; }
+    void Draw() override;
+    int HitDistance(int x, int y) const override;
+    void SetThirdPoint(int index, double value) override;
+
+    int m_series2;
+    int m_thirdIndex = 0;
+    double m_thirdValue = -1.0; // below 0: there is no third point yet, and no fork is drawn
+    int m_series3, m_series4;
+
+private:
+    void HandlePositions(int& third, int& middle) const;
+};
+
+} // namespace zantroq

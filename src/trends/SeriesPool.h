@@ -1,0 +1,33 @@
+// The series numbers of group 2 of the price pane that trendlines draw into. Numbers 1 to 3 belong to the
+// price pane; a number given back is used again, first in first out, before any new one.
+#pragma once
+
+#include "drawing/ChartWindow.h"
+
+#include <deque>
+
+namespace zantroq {
+
+class CSeriesPool
+{
+public:
+    static constexpr int FirstSeries = 4;
+
+    explicit CSeriesPool(IChartWindow& window) : m_window(window) {}
+    // A free number; a never-used one is set up first: solid line, grey marks of size 3.
+    int Allocate();
+    void GiveBack(int series) { m_freeSeries.push_back(series); }
+    void Reset();
+    int Next() const { return m_nextSeries; }
+    const std::deque<int>& Free() const { return m_freeSeries; }
+
+private:
+    IChartWindow& m_window;
+    int m_nextSeries = FirstSeries; // the next never-used number
+    std::deque<int> m_freeSeries;
+};
+
+// The look of a new trendline series; the price pane's rebuild uses it too.
+void SetUpTrendSeries(IChartWindow& window, int series);
+
+} // namespace zantroq

@@ -1,0 +1,42 @@
+// The trendlines of one kind, in the order in which they were drawn. Chart window's thread.
+#pragma once
+
+#include "trends/BaseTrend.h"
+#include "trends/SeriesPool.h"
+
+#include <memory>
+#include <vector>
+
+namespace zantroq {
+
+class CTrendList
+{
+public:
+    CTrendList(IChartWindow& window, CSeriesPool& pool) : m_owner(window), m_pool(pool) {}
+
+    CBaseTrend* Add(std::unique_ptr<CBaseTrend> trend);
+    // The first member with the strictly smallest distance, or null with distance -1.
+    CBaseTrend* FindNearest(int x, int y, int* distance) const;
+    void DrawAll();
+    void RemoveAll(); // erases and deletes from last to first, and empties the series pool
+    void SetAllColors(Colour color);
+    void SetAllWidths(int width);
+    void SetAllExtendable(int flag);
+    // If the trendline is a member: erases it and gives its first series back.
+    bool ReleaseFirstSeries(CBaseTrend* trend);
+    int AllocateSeries() { return m_pool.Allocate(); }
+    // Takes a member out and deletes it, without touching the pane.
+    void Remove(CBaseTrend* trend);
+
+    bool Holds(const CBaseTrend* trend) const { return IndexOf(trend) >= 0; }
+    int IndexOf(const CBaseTrend* trend) const; // -1: not a member
+    int Count() const { return static_cast<int>(m_trends.size()); }
+    CBaseTrend& Item(int index) const { return *m_trends[static_cast<std::size_t>(index)]; } // from 0
+
+private:
+    IChartWindow& m_owner;
+    CSeriesPool& m_pool;
+    std::vector<std::unique_ptr<CBaseTrend>> m_trends;
+};
+
+} // namespace zantroq

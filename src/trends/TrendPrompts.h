@@ -1,0 +1,79 @@
+// The commands, states and prompts of drawing trendlines with the mouse, as tables. Plain data.
+#pragma once
+
+#include "settings/ChartSettings.h"
+
+namespace zantroq {
+
+enum TrendState : int
+{
+    TrendIdle = 0,
+    HorizontalStart = 1,
+    HorizontalEnd = 2,
+    SlopingStart = 3,
+    SlopingEnd = 4,
+    ParallelStart = 5,
+    ParallelEnd = 6,
+    ParallelSecondLine = 7,
+    PitchforkFirst = 8,
+    PitchforkSecond = 9,
+    PitchforkThird = 10,
+    FanStart = 11,
+    FanEnd = 12,
+    RetracementsStart = 13,
+    RetracementsEnd = 14,
+    SpeedStart = 15,
+    SpeedEnd = 16,
+    DeleteTrend = 17,
+    TrendStates = 18
+};
+
+enum TrendCommand : int
+{
+    CommandHorizontal = 32779,
+    CommandDeleteTrend = 32782,
+    CommandDeleteAllTrends = 32783,
+    CommandSloping = 32784,
+    CommandParallel = 32785,
+    CommandPitchfork = 32786,
+    CommandSpeedResistance = 32788,
+    CommandFan = 32789,
+    CommandRetracements = 32790
+};
+
+// What a state waits for.
+enum class TrendStep
+{
+    None,
+    FirstPoint,
+    EndPoint,
+    FinalPoint,
+    Delete
+};
+
+// One row a state: what a left click does in it, where it leads and the prompt that it writes.
+struct sTrendStateRow
+{
+    TrendStep Step;
+    TrendKind Kind;     // the kind being drawn
+    TrendState Next;    // after an accepted left click
+    const char* Prompt; // written by that click
+};
+
+// Row of a state, 0 to 17.
+const sTrendStateRow& TrendRow(int state);
+
+struct sTrendCommandRow
+{
+    int Command;
+    const char* MenuText;
+    TrendState State;
+    const char* Prompt;
+};
+
+// Row of a command that arms a mode; null for any other command.
+const sTrendCommandRow* FindTrendCommand(int command);
+
+inline constexpr const char* PromptDelete = "Click on a trendline to delete (Right click to cancel)";
+
+} // namespace zantroq
