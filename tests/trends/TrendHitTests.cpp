@@ -145,8 +145,10 @@ RC_GTEST_FIXTURE_PROP(TrendHit, DistanceIsNeverBelowTheTrueOneByMoreThanItsRound
     for (int n = 0; n < 40; ++n) {
         const int x = *rc::gen::inRange(58, 577), y = *rc::gen::inRange(17, 369);
         const int hit = trend.HitDistance(x, y);
+        // A pixel more than the rounding of the rule: a pitchfork clicked from right to left is hit along a
+        // part of its prong, whose end has a rounding of its own.
         if (hit != NotHittable)
-            RC_ASSERT(hit >= std::min(RuleDistance(trend, x, y), SegmentsDistance(trend, x, y)) - 1.5);
+            RC_ASSERT(hit >= std::min(RuleDistance(trend, x, y), SegmentsDistance(trend, x, y)) - 2.5);
     }
 }
 
