@@ -1,5 +1,5 @@
-// All settings of one chart window in memory, with the defaults of a fresh store. The table in SettingsTable ties each member
-// to its stored name. Lives on the window's thread.
+// All settings of one chart window in memory, with the defaults of a fresh store. The table in SettingsTable
+// ties each member to its stored name. Lives on the window's thread.
 #pragma once
 
 #include <array>
@@ -11,15 +11,32 @@ namespace zantroq {
 using Colour = std::uint32_t; // red in the low byte: 0x00BBGGRR
 
 // The studies in the order of every ten-entry array.
-enum StudyKind : int {
-    StudyRSI = 0, StudyMomentum, StudyROC, StudyOBV, StudyMACD, StudyStochastics, StudyVolume, StudyMoneyFlow, StudyMFI, StudyADX,
+enum StudyKind : int
+{
+    StudyRSI = 0,
+    StudyMomentum,
+    StudyROC,
+    StudyOBV,
+    StudyMACD,
+    StudyStochastics,
+    StudyVolume,
+    StudyMoneyFlow,
+    StudyMFI,
+    StudyADX,
     StudyKinds = 10
 };
 
 // Trendline kinds in the order of the trend lists.
-enum TrendKind : int {
-    TrendHorizontal = 0, TrendSloping, TrendParallel, TrendPitchfork, TrendFibonacciFan, TrendFibonacciRetracements,
-    TrendSpeedResistance, TrendKinds = 7
+enum TrendKind : int
+{
+    TrendHorizontal = 0,
+    TrendSloping,
+    TrendParallel,
+    TrendPitchfork,
+    TrendFibonacciFan,
+    TrendFibonacciRetracements,
+    TrendSpeedResistance,
+    TrendKinds = 7
 };
 
 struct sTrendStyle
@@ -29,7 +46,11 @@ struct sTrendStyle
     std::int32_t Extendable = 1;
 };
 
-enum class AxisSide { Left, Right };
+enum class AxisSide
+{
+    Left,
+    Right
+};
 
 // What to ask the feed for. One entry each for ticks, intervals, daily, weekly and monthly.
 struct sRequestSettings
@@ -53,7 +74,7 @@ struct sRequestSettings
 inline constexpr std::array<int, 11> IntervalMinutes{1, 2, 3, 4, 5, 10, 15, 30, 45, 60, 120};
 
 // The choices of how many points to show, by PtsIndex.
-inline constexpr std::array<int, 15> DisplayMaxPoints{30,   60,   90,    120,   240,   480,   960,   1920,
+inline constexpr std::array<int, 15> DisplayMaxPoints{30,   60,   90,    120,   240,   480,    960,   1920,
                                                       3840, 7680, 15360, 30720, 61440, 122880, 245760};
 
 // The price pane's averages and bands.
@@ -73,10 +94,11 @@ struct sOverlaySettings
 // The ten studies.
 struct sStudySettings
 {
-    std::array<std::int32_t, StudyKinds> Periods{21, 20, 20, 9, 18, 5, 10, 14, 14, 14};       // "STUDY AVG PERIOD"
-    std::array<std::int32_t, StudyKinds> CustomPeriods{21, 20, 20, 9, 18, 5, 500, 9, 9, 10};  // "STUDY CUSTOM AVG PERIOD"
-    std::array<Colour, StudyKinds> DataColors{};  // "Study Data Color %d"
-    std::array<Colour, StudyKinds> LabelColors{}; // "Study Label Color %d"
+    std::array<std::int32_t, StudyKinds> Periods{21, 20, 20, 9, 18, 5, 10, 14, 14, 14}; // "STUDY AVG PERIOD"
+    std::array<std::int32_t, StudyKinds> CustomPeriods{21, 20,  20, 9, 18,
+                                                       5,  500, 9,  9, 10}; // "STUDY CUSTOM AVG PERIOD"
+    std::array<Colour, StudyKinds> DataColors{};                            // "Study Data Color %d"
+    std::array<Colour, StudyKinds> LabelColors{};                           // "Study Label Color %d"
     std::int32_t RsiRadio = 1, RsiUpperLevel = 70, RsiLowerLevel = 30;
     Colour RsiUpperColor = 0xD8BFD8, RsiLowerColor = 0x8CB4D2;
     std::int32_t ObvRadio = 1;
@@ -102,10 +124,10 @@ struct sStudySettings
 // The stack of panes: which studies show and where the borders stand.
 struct sPaneStack
 {
-    std::int32_t StudyCount = 1;                      // 0 to 10
+    std::int32_t StudyCount = 1; // 0 to 10
     std::array<std::int32_t, 10> StudyTypes{StudyVolume};
-    std::array<double, 12> Bounds{0.0, 0.66, 1.0};    // Bounds[0] is 0; Bounds[k + 1] is the bottom of pane k
-    std::int32_t MaximizedIndex = 999;                // 999: none
+    std::array<double, 12> Bounds{0.0, 0.66, 1.0}; // Bounds[0] is 0; Bounds[k + 1] is the bottom of pane k
+    std::int32_t MaximizedIndex = 999;             // 999: none
     std::array<std::int32_t, 11> Minimized{};
 };
 
@@ -117,13 +139,15 @@ struct sChartSettings
     std::int32_t Grid = 1;
     std::int32_t GridStyle = 0; // 0 short dashes, 1 line
     bool ScrollByItems = true;
-    std::int32_t ScrollItems = 1, ScrollPercent = 20; // both stand on the one unnamed value
-    bool AxisOnRight = false; // "Y Axis Orientation"
-    bool FixedScale = false;  // "Price Bar Show/Hide"
+    // Both stand on the one unnamed value, so loading leaves them equal: 1 in a fresh store, never 20.
+    std::int32_t ScrollItems = 1, ScrollPercent = 20;
+    bool AxisOnRight = false;     // "Y Axis Orientation"
+    bool FixedScale = false;      // "Price Bar Show/Hide"
     std::int32_t CandleStyle = 1; // 0 H/L/O/C, 1 candles
     sRequestSettings Request;
     sOverlaySettings Overlays;
-    std::array<sTrendStyle, TrendKinds> Trends{{{0x8080FF}, {0xA8A800}, {0xA09E5F}, {0x4F52DF}, {0xF37B3A}, {0xFF0080}, {0x38B88B}}};
+    std::array<sTrendStyle, TrendKinds> Trends{
+        {{0x8080FF}, {0xA8A800}, {0xA09E5F}, {0x4F52DF}, {0xF37B3A}, {0xFF0080}, {0x38B88B}}};
     sStudySettings Studies;
     sPaneStack Panes;
     Colour BackgroundColor = 0xFFFFFF;
@@ -132,6 +156,7 @@ struct sChartSettings
     Colour GridColor = 0xC0C0C0;
     Colour UpCandleColor = 0x00FF00, DownCandleColor = 0x0000FF;
     Colour PriceBarColor = 0xC0C0C0;
+    Colour VolumeLabelColor = 0x000000; // of the settings sheet alone
 
     AxisSide ValueAxisSide() const { return AxisOnRight ? AxisSide::Right : AxisSide::Left; }
 };

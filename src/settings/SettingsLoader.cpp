@@ -1,0 +1,161 @@
+#include "settings/SettingsLoader.h"
+
+#include "settings/NumberText.h"
+#include "settings/SettingText.h"
+#include "settings/SettingsStore.h"
+#include "settings/SettingsTable.h"
+#include "settings/SettingsWriter.h"
+
+namespace zantroq {
+namespace {
+
+constexpr int TypeOfPaneId = 32883, TopOfPaneId = 32884, MaximizedId = 32895, MinimizedId = 32896;
+constexpr int OldPeriodId = 32802, OldCustomPeriodId = 32803, PeriodId = 32905;
+constexpr int MostStudies = 10;
+
+const sSettingRow& RowOf(int id)
+{
+    return *FindSetting(id);
+}
+
+// A row's value as text is what the store would hold, so the default of a missing one is in the record
+// already.
+void LoadSingle(CSettingsStore& store, sChartSettings& settings, const sSettingRow& row)
+{
+    const sSettingPlace place{&row};
+    const std::string current = SettingText(settings, place);
+    if (row.Type == SettingType::Bool)
+        TakeStoredInt(settings, place, store.LoadBool(row.Id, current == "1") ? 1 : 0);
+    else if (row.Type == SettingType::Double)
+        TakeStoredDouble(settings, place, store.LoadDouble(row.Id, DoubleFromText(current)));
+    else
+        TakeStoredInt(settings, place, store.LoadInt(row.Id, IntFromText(current)));
+}
+
+void LoadDataTypeList(CSettingsStore& store, sChartSettings& settings, const sSettingRow& row)
+{
+    if (std::string text; store.ReadString(row.Name, text))
+        TakeStoredList(settings, {&row}, text);
+}
+
+// The list that came to stand for ten single values takes them over the first time it is missed.
+void LoadPeriodList(CSettingsStore& store, sChartSettings& settings, const sSettingRow& row)
+{
+    if (std::string text; store.ReadString(row.Name, text) && !text.empty()) {
+        TakeStoredList(settings, {&row}, text);
+        return;
+    }
+    const sSettingRow& old = RowOf(row.Id == PeriodId ? OldPeriodId : OldCustomPeriodId);
+    auto& periods = row.Id == PeriodId ? settings.Studies.Periods : settings.Studies.CustomPeriods;
+    for (int study = old.FirstNumber; study <= old.LastNumber; ++study) {
+        const std::string name = SettingName(old, study);
+        if (const std::int32_t value = store.ReadInt(name); value != MissingInt)
+            periods[static_cast<std::size_t>(study)] = value;
+        store.DeleteValue(name);
+    }
+    store.WriteString(row.Name, SettingText(settings, {&row}));
+}
+
+bool AscendsToOne(const sPaneStack& panes)
+{
+    const auto last = static_cast<std::size_t>(panes.StudyCount) + 1;
+    for (std::size_t i = 1; i <= last; ++i)
+        if (!(panes.Bounds[i] > panes.Bounds[i - 1]))
+            return false;
+    return panes.Bounds[last] <= 1.0;
+}
+
+void SpreadEvenly(sPaneStack& panes)
+{
+    const auto last = static_cast<std::size_t>(panes.StudyCount) + 1;
+    for (std::size_t i = 1; i <= last; ++i)
+        panes.Bounds[i] = static_cast<double>(i) / static_cast<double>(last);
+}
+
+void LoadPaneStack(CSettingsStore& store, sPaneStack& panes, const sSettingRow& row)
+{
+    const std::int32_t stored = store.ReadInt(row.Name);
+    if (stored == MissingInt) {
+        store.WriteInt(row.Name, panes.StudyCount);
+        store.WriteInt(SettingName(RowOf(TypeOfPaneId), 0), panes.StudyTypes[0]);
+        for (const int number : {1, 2})
+            store.WriteDouble(SettingName(RowOf(TopOfPaneId), number),
+                              panes.Bounds[static_cast<std::size_t>(number)]);
+        return;
+    }
+    panes.StudyCount = 0;
+    panes.Bounds[1] = store.ReadDouble(SettingName(RowOf(TopOfPaneId), 1));
+    while (panes.StudyCount < std::min(stored, MostStudies)) {
+        const std::int32_t type = store.ReadInt(SettingName(RowOf(TypeOfPaneId), panes.StudyCount));
+        if (type < 0 || type >= StudyKinds)
+            break;
+        panes.StudyTypes[static_cast<std::size_t>(panes.StudyCount)] = type;
+        ++panes.StudyCount;
+        const int border = panes.StudyCount + 1;
+        panes.Bounds[static_cast<std::size_t>(border)] =
+            store.ReadDouble(SettingName(RowOf(TopOfPaneId), border));
+    }
+    if (!AscendsToOne(panes))
+        SpreadEvenly(panes);
+}
+
+void LoadIndexed(CSettingsStore& store, sChartSettings& settings, const sSettingRow& row)
+{
+    // Types and borders came with their count.
+    if (row.Id == TypeOfPaneId || row.Id == TopOfPaneId)
+        return;
+    const int last = row.Id == MinimizedId ? settings.Panes.StudyCount : row.LastNumber;
+    for (int number = row.FirstNumber; number <= last; ++number)
+        if (const std::int32_t value = store.ReadInt(SettingName(row, number)); value != MissingInt)
+            TakeStoredInt(settings, {&row, number}, value);
+}
+
+void LoadRow(CSettingsStore& store, sChartSettings& settings, const sSettingRow& row)
+{
+    switch (row.Form) {
+    case SettingForm::Single:
+    case SettingForm::Unnamed:
+        LoadSingle(store, settings, row);
+        break;
+    case SettingForm::DataTypeList:
+        LoadDataTypeList(store, settings, row);
+        break;
+    case SettingForm::PeriodList:
+        LoadPeriodList(store, settings, row);
+        break;
+    case SettingForm::PaneCount:
+        LoadPaneStack(store, settings.Panes, row);
+        break;
+    case SettingForm::Indexed:
+        LoadIndexed(store, settings, row);
+        break;
+    case SettingForm::OldIndexed:
+    case SettingForm::SheetOnly:
+    case SettingForm::Unused:
+        break;
+    }
+    auto& panes = settings.Panes;
+    if (row.Id == MaximizedId && (panes.MaximizedIndex < 0 || panes.MaximizedIndex > panes.StudyCount))
+        panes.MaximizedIndex = 999;
+}
+
+} // namespace
+
+sChartSettings DefaultChartSettings(const std::string& today)
+{
+    sChartSettings settings;
+    settings.Request.BeginDates.fill(today);
+    settings.Request.EndDates.fill(today);
+    return settings;
+}
+
+sChartSettings LoadChartSettings(ISettingsKey& key, const std::string& today)
+{
+    CSettingsStore store(key);
+    sChartSettings settings = DefaultChartSettings(today);
+    for (const sSettingRow& row : SettingsTable())
+        LoadRow(store, settings, row);
+    return settings;
+}
+
+} // namespace zantroq
