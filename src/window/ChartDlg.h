@@ -16,9 +16,9 @@
 #include "platform/SettingsKey.h"
 #include "platform/WindowServices.h"
 #include "window/ChartFeed.h"
-#include "window/TrendInteraction.h"
 #include "window/WindowCommands.h"
 #include "window/WindowDialogs.h"
+#include "window/WindowTrends.h"
 
 #include <functional>
 #include <memory>
@@ -50,7 +50,7 @@ public:
     CChartDlg& operator=(const CChartDlg&) = delete;
 
     // Before Initialise; not owned.
-    void AttachTrends(ITrendInteraction* trends);
+    void AttachTrends(IWindowTrends* trends);
     // Fills boxes, bars and panes, lays out, and stands idle ("Ready..."). The settings were loaded by the
     // constructor. False when the login check refuses; the window then stays empty.
     bool Initialise();
@@ -115,7 +115,7 @@ public:
     CHistChartDrawManager& DrawManager();
     const CHistChartDrawManager& DrawManager() const;
     const CChartsResizer& Resizer() const;
-    ITrendInteraction* Trends() const;
+    IWindowTrends* Trends() const;
     const sWindowServices& Services() const;
     const std::string& CurrentSymbol() const;
     int Loading() const;                           // 1 while a chart loads

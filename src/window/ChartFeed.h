@@ -15,9 +15,9 @@ public:
     virtual void WatchSymbol(CChartHistRequest& request) = 0;
     virtual void UnwatchSymbol(CChartHistRequest& request) = 0;
     virtual void SendHistoryRequest(CChartHistRequest& request) = 0;
-    // Takes over a request that is marked dead while its reply may still come; the worker frees it at the
-    // reply's end.
-    virtual void Abandon(std::unique_ptr<CChartHistRequest> request) = 0;
+    // The window's last word on a request: marks it dead, frees it at once where no reply is on its way, and
+    // leaves it to the worker otherwise, which frees it at the reply's end.
+    virtual void Release(std::unique_ptr<CChartHistRequest> request) = 0;
 };
 
 // The check that a user is logged in, made once when a window starts.

@@ -27,10 +27,10 @@ struct sTrendRecord
     std::optional<int> FirstLabel;
 };
 
-class ITrendInteraction
+class IWindowTrends
 {
 public:
-    virtual ~ITrendInteraction() = default;
+    virtual ~IWindowTrends() = default;
     virtual int State() const = 0; // 0: no mode armed
     virtual void ResetState() = 0; // state 0, without a prompt
     virtual void RemoveAll() = 0;  // all lines and the one being drawn

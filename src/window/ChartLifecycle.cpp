@@ -1,0 +1,223 @@
+#include "window/ChartLifecycle.h"
+
+#include "window/RequestBuilder.h"
+#include "window/WindowCommands.h"
+#include "window/WindowTexts.h"
+#include "window/WindowTrends.h"
+
+#include <utility>
+
+namespace zantroq {
+
+namespace {
+
+constexpr const char* LoadingDataText = "Loading Data...";
+
+} // namespace
+
+CChartLifecycle::CChartLifecycle(sChartSettings& settings, CSettingsWriter& store,
+                                 const sWindowServices& services, IChartFeed& feed, CStatusText& status,
+                                 CDisplayRange& range, IPaneDrawing& drawing, ILifecycleEvents& events)
+    : m_settings(settings),
+      m_store(store),
+      m_services(services),
+      m_feed(feed),
+      m_status(status),
+      m_range(range),
+      m_drawing(drawing),
+      m_events(events)
+{
+}
+
+void CChartLifecycle::Start()
+{
+    m_series = std::make_unique<CChartHistRequest>();
+    m_series->SetNotifyWindow(this);
+    m_drawing.SetSource(m_series.get(), m_settings.Request.DataType);
+    m_status.Message("Ready...");
+    OnDataTypeChanged(1);
+    m_services.Commands.Enable(CommandDrawChart, false);
+}
+
+void CChartLifecycle::End()
+{
+    if (!m_series)
+        return;
+    m_services.Timer.Stop(ProgressTimer);
+    if (HasSymbolText())
+        m_feed.UnwatchSymbol(*m_series);
+    m_drawing.SetSource(nullptr, m_settings.Request.DataType);
+    m_feed.Release(std::move(m_series));
+}
+
+void CChartLifecycle::OnSymbolChanged()
+{
+    const int item = m_services.Symbol.Selection();
+    std::string text = m_services.Symbol.Text();
+    if (item >= 0) {
+        const auto items = m_services.Symbol.Items();
+        if (item < static_cast<int>(items.size()))
+            text = items[static_cast<std::size_t>(item)];
+    }
+    m_services.Commands.Enable(CommandDrawChart, !text.empty());
+}
+
+void CChartLifecycle::OnDrawChart()
+{
+    if (!HasSymbolText()) {
+        m_services.Box.Ask("Empty Symbol is not allowed", "Warning", BoxButtons::Ok, BoxIcon::Error);
+        return;
+    }
+    if (m_settings.FixedScale)
+        m_events.RequestScaleReset();
+    DrawChart();
+}
+
+bool CChartLifecycle::DrawChart()
+{
+    const std::string symbol = m_services.Symbol.Text();
+    m_range.ExpectFirstFill();
+    if (symbol.empty())
+        return false;
+    const std::string title = m_services.Top.Title();
+    m_events.SavePosition();
+    // A window whose title names a chart shows one.
+    if (title.find(" - ") != std::string::npos)
+        DropChart();
+    if (symbol.find(',') != std::string::npos) {
+        m_status.Message("Symbols cannot contain any commas.");
+        return false;
+    }
+    m_services.Top.SetTitle(WindowTitle(symbol));
+    EnterLoading();
+    m_services.Commands.Enable(CommandDrawChart, false);
+    m_status.Message(LoadingDataText);
+    m_currentSymbol = symbol;
+    m_events.RememberSymbol(symbol);
+    RequestChart();
+    return true;
+}
+
+void CChartLifecycle::DropChart()
+{
+    if (m_trends != nullptr)
+        m_trends->ResetState();
+    if (m_settings.FixedScale)
+        m_events.RequestScaleReset();
+    m_services.Timer.Stop(ProgressTimer);
+    UnwatchAndClear();
+    m_range.ResetShown();
+}
+
+void CChartLifecycle::UnwatchAndClear()
+{
+    // Unwatched first, so that no live update comes between the two.
+    m_feed.UnwatchSymbol(*m_series);
+    m_series->ClearSeries();
+}
+
+void CChartLifecycle::RequestChart()
+{
+    if (m_trends != nullptr)
+        m_trends->RemoveAll();
+    m_series->SetSymbol(m_currentSymbol);
+    // The new type reaches the panes before they are cleared, since their axes and series counts depend on
+    // it.
+    m_drawing.SetSource(m_series.get(), m_settings.Request.DataType);
+    m_drawing.ClearPanes();
+    EnterLoading();
+    m_services.Commands.Enable(CommandDrawChart, false);
+    m_services.Top.SetCaption(ChartCaption(m_settings.Request));
+    m_events.ChartRequested();
+    FillRequest(*m_series, m_settings.Request, m_currentSymbol);
+    m_feed.WatchSymbol(*m_series);
+    m_services.Timer.Start(ProgressTimer, ProgressPeriod);
+    m_feed.SendHistoryRequest(*m_series);
+}
+
+void CChartLifecycle::ReloadSeries()
+{
+    UnwatchAndClear();
+    m_range.ExpectFirstFill();
+    RequestChart();
+}
+
+void CChartLifecycle::EnterLoading()
+{
+    m_loading = true;
+    m_status.Message("Loading...");
+    m_services.Host.SetControlsEnabled(false);
+}
+
+void CChartLifecycle::LeaveLoading()
+{
+    m_loading = false;
+    m_services.Host.SetControlsEnabled(true);
+    m_status.Message("Ready");
+    m_services.Commands.Enable(CommandDrawChart, true);
+}
+
+void CChartLifecycle::OnDataTypeChanged(int forced)
+{
+    sRequestSettings& request = m_settings.Request;
+    int selected = m_services.Type.Selection();
+    if (selected < 0) {
+        m_services.Type.Select(request.DataType);
+        selected = request.DataType;
+    }
+    if (selected != request.DataType || forced == 1) {
+        request.DataType = selected;
+        if (selected >= 0 && selected < static_cast<int>(request.RequestKinds.size()))
+            request.RequestType = request.RequestKinds[static_cast<std::size_t>(selected)];
+        if (HasSymbolText())
+            UnwatchAndClear();
+        m_store.WriteInt("RequestDataType", request.DataType);
+        if (HasSymbolText())
+            DrawChart();
+    }
+    m_services.Interval.SetEnabled(request.DataType == MinuteData);
+}
+
+void CChartLifecycle::OnIntervalChanged()
+{
+    sRequestSettings& request = m_settings.Request;
+    const int selected = m_services.Interval.Selection();
+    if (selected < 0) {
+        m_services.Interval.Select(request.IntervalIndex);
+        return;
+    }
+    if (selected == request.IntervalIndex)
+        return;
+    request.IntervalIndex = selected;
+    m_store.WriteInt("RequestIntervalIndex", selected);
+    m_services.Commands.Enable(CommandDrawChart, false);
+    if (HasSymbolText())
+        UnwatchAndClear();
+    m_store.WriteInt("RequestDataType", request.DataType);
+    if (HasSymbolText())
+        DrawChart();
+}
+
+void CChartLifecycle::OnTimer()
+{
+    if (!m_series)
+        return;
+    // The flag before the count: what completes in between is then seen whole at the next tick.
+    const bool complete = m_series->IsComplete();
+    const int count = m_series->GetCount(FieldTime);
+    if (!complete) {
+        m_range.NoteLoading(count);
+        m_status.Message(RetrievingText(m_settings.Request.DataType, count));
+        return;
+    }
+    if (m_range.FirstFill()) {
+        m_range.ShowFirst(count);
+        LeaveLoading();
+        m_range.ReportPoints(count);
+    } else {
+        m_range.FollowLiveEdge(count);
+    }
+    m_events.SeriesPolled();
+}
+
+} // namespace zantroq

@@ -1,0 +1,79 @@
+// The road from a symbol to a live chart: drops the old chart, sends the request, polls the series on a timer
+// and switches the window between its idle, loading and live states. Chart window's thread; the series alone
+// is shared with the worker.
+#pragma once
+
+#include "market/ChartHistRequest.h"
+#include "platform/WindowServices.h"
+#include "window/ChartFeed.h"
+#include "window/DisplayRange.h"
+#include "window/PaneDrawing.h"
+#include "window/SettingsWriter.h"
+#include "window/StatusText.h"
+
+#include <memory>
+#include <string>
+
+namespace zantroq {
+
+class IWindowTrends;
+
+// What the lifecycle tells the rest of its window.
+class ILifecycleEvents
+{
+public:
+    virtual ~ILifecycleEvents() = default;
+    virtual void SavePosition() = 0; // if positions are to be saved
+    virtual void RememberSymbol(const std::string& symbol) = 0;
+    virtual void RequestScaleReset() = 0; // a fixed value axis fits itself once
+    virtual void ChartRequested() = 0;    // symbol, type and interval are new
+    virtual void SeriesPolled() = 0;      // a tick on a complete series
+};
+
+class CChartLifecycle
+{
+public:
+    CChartLifecycle(sChartSettings& settings, CSettingsWriter& store, const sWindowServices& services,
+                    IChartFeed& feed, CStatusText& status, CDisplayRange& range, IPaneDrawing& drawing,
+                    ILifecycleEvents& events);
+
+    void SetTrends(IWindowTrends* trends) { m_trends = trends; }
+    void Start(); // creates the series; "Ready..."
+    void End();   // gives the series up
+
+    void OnSymbolChanged();
+    void OnDrawChart();
+    void OnDataTypeChanged(int forced);
+    void OnIntervalChanged();
+    void OnTimer();
+    bool DrawChart();    // false: no request was made
+    void ReloadSeries(); // the same chart again: brings deleted points back
+
+    CChartHistRequest* Series() const { return m_series.get(); }
+    bool Loading() const { return m_loading; }
+    const std::string& CurrentSymbol() const { return m_currentSymbol; }
+    void SetCurrentSymbol(std::string symbol) { m_currentSymbol = std::move(symbol); }
+
+private:
+    void DropChart();
+    void RequestChart();
+    void EnterLoading();
+    void LeaveLoading();
+    void UnwatchAndClear();
+    bool HasSymbolText() const { return !m_services.Symbol.Text().empty(); }
+
+    sChartSettings& m_settings;
+    CSettingsWriter& m_store;
+    sWindowServices m_services;
+    IChartFeed& m_feed;
+    CStatusText& m_status;
+    CDisplayRange& m_range;
+    IPaneDrawing& m_drawing;
+    ILifecycleEvents& m_events;
+    IWindowTrends* m_trends = nullptr; // not owned
+    std::unique_ptr<CChartHistRequest> m_series;
+    std::string m_currentSymbol;
+    bool m_loading = false;
+};
+
+} // namespace zantroq

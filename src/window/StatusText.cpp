@@ -1,0 +1,20 @@
+#include "window/StatusText.h"
+
+#include "window/WindowTrends.h"
+
+namespace zantroq {
+
+void CStatusText::Message(const std::string& text)
+{
+    if (m_trends != nullptr && m_trends->State() != 0)
+        return;
+    SetPart(0, text);
+}
+
+void CStatusText::SetPart(int part, const std::string& text)
+{
+    m_parts.at(static_cast<std::size_t>(part)) = text;
+    m_bar.SetPart(part, text);
+}
+
+} // namespace zantroq

@@ -1,0 +1,44 @@
+// Where the host's top-level window stood when a chart was last on show, stored by its title, and bringing it
+// back there. Chart window's thread.
+#pragma once
+
+#include "platform/SettingsKey.h"
+#include "platform/WindowServices.h"
+
+#include <string>
+
+namespace zantroq {
+
+struct sWindowPosition
+{
+    sWindowRect Rect{0, 0, 620, 460};
+    bool Maximized = false;
+    bool operator==(const sWindowPosition&) const = default;
+};
+
+// Moves a rectangle onto the screen and widens one of 200 pixels or less to 200 about its centre.
+sWindowRect FitToScreen(sWindowRect rect, const sWindowRect& screen);
+
+class CWindowPlacement
+{
+public:
+    CWindowPlacement(ISettingsKey& key, ITopLevelWindow& top) : m_key(key), m_top(top) {}
+
+    void SetResizeParentWindow(bool resize); // true also brings the window to its stored place
+    bool ResizeParentWindow() const { return m_resizeParent; }
+
+    void LoadWindowPosition(); // for the current title; what is missing takes its default
+    void SaveWindowPosition(); // under the current title
+    void SaveIfAsked();        // positions are kept only where the host asked for it
+    const sWindowPosition& Position() const { return m_position; }
+
+private:
+    void Apply();
+
+    ISettingsKey& m_key;
+    ITopLevelWindow& m_top;
+    sWindowPosition m_position;
+    bool m_resizeParent = false;
+};
+
+} // namespace zantroq
