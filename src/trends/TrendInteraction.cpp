@@ -24,7 +24,7 @@ CTrendInteraction::CTrendInteraction(IChartWindow& window, const IPriceSource& p
 
 bool CTrendInteraction::OnCommand(int command)
 {
-    if (command == CommandDeleteAllTrends) {
+    if (command == AskDeleteAllTrends) {
         DeleteAll();
         return true;
     }

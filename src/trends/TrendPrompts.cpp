@@ -45,21 +45,21 @@ constexpr std::array<sTrendStateRow, TrendStates> StateTable{{
 }};
 
 constexpr std::array<sTrendCommandRow, 8> CommandTable{{
-    {CommandHorizontal, "Horizontal", HorizontalStart,
+    {DrawHorizontal, "Horizontal", HorizontalStart,
      "Click on the beginning point of the new horizontal trendline (Right click to cancel)"},
-    {CommandSloping, "Sloping", SlopingStart,
+    {DrawSloping, "Sloping", SlopingStart,
      "Click on the beginning point of the new sloping trendline (Right click to cancel)"},
-    {CommandParallel, "Parallel", ParallelStart,
+    {DrawParallel, "Parallel", ParallelStart,
      "Click on the beginning point of the new parallel trendline (Right click to cancel)"},
-    {CommandPitchfork, "Andrew's Pitchfork", PitchforkFirst,
+    {DrawPitchfork, "Andrew's Pitchfork", PitchforkFirst,
      "Click on the 1st point of the new Andrew's pitchfork trendline (Right click to cancel)"},
-    {CommandSpeedResistance, "Speed Resistance", SpeedStart,
+    {DrawSpeedResistance, "Speed Resistance", SpeedStart,
      "Click on the 1st point of the new speed resistance trendline (Right click to cancel)"},
-    {CommandFan, "Fibonacci Fan", FanStart,
+    {DrawFan, "Fibonacci Fan", FanStart,
      "Click on the 1st point of the new Fibonacci Fan trendline (Right click to cancel)"},
-    {CommandRetracements, "Fibonacci Retracements", RetracementsStart,
+    {DrawRetracements, "Fibonacci Retracements", RetracementsStart,
      "Click on the beginning point of the new Fibonacci Retracements trendline (Right click to cancel)"},
-    {CommandDeleteTrend, "Delete Trendline..", DeleteTrend, PromptDelete},
+    {AskDeleteTrend, "Delete Trendline..", DeleteTrend, PromptDelete},
 }};
 
 } // namespace

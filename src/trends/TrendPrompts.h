@@ -30,15 +30,15 @@ enum TrendState : int
 
 enum TrendCommand : int
 {
-    CommandHorizontal = 32779,
-    CommandDeleteTrend = 32782,
-    CommandDeleteAllTrends = 32783,
-    CommandSloping = 32784,
-    CommandParallel = 32785,
-    CommandPitchfork = 32786,
-    CommandSpeedResistance = 32788,
-    CommandFan = 32789,
-    CommandRetracements = 32790
+    DrawHorizontal = 32779,
+    AskDeleteTrend = 32782,
+    AskDeleteAllTrends = 32783,
+    DrawSloping = 32784,
+    DrawParallel = 32785,
+    DrawPitchfork = 32786,
+    DrawSpeedResistance = 32788,
+    DrawFan = 32789,
+    DrawRetracements = 32790
 };
 
 // What a state waits for.

@@ -100,9 +100,8 @@ protected:
     }
 };
 
-constexpr int AllCommands[] = {CommandHorizontal,     CommandSloping, CommandParallel,
-                               CommandPitchfork,      CommandFan,     CommandRetracements,
-                               CommandSpeedResistance};
+constexpr int AllCommands[] = {DrawHorizontal, DrawSloping,      DrawParallel,       DrawPitchfork,
+                               DrawFan,        DrawRetracements, DrawSpeedResistance};
 
 TEST_F(TrendHit, EveryPixelOfASmallPaneAgreesWithTheRuleWorkedOutSlowly)
 {

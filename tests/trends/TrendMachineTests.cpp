@@ -298,13 +298,13 @@ TEST_F(TrendMachine, ClickBesideThePlotStartsNoLineInAnyFirstPointState)
 TEST_F(TrendMachine, FirstIndexStartsASlopingLineButNotAHorizontalOne)
 {
     window.Show(0, 60, 50, 150);
-    machine.OnCommand(CommandHorizontal);
+    machine.OnCommand(DrawHorizontal);
     Down(1, 1, 100);
     EXPECT_EQ(lists.Count(), 0);
     Down(1, 2, 100);
     EXPECT_EQ(lists.Count(), 1);
-    for (int command : {CommandSloping, CommandParallel, CommandPitchfork, CommandFan, CommandRetracements,
-                        CommandSpeedResistance}) {
+    for (int command :
+         {DrawSloping, DrawParallel, DrawPitchfork, DrawFan, DrawRetracements, DrawSpeedResistance}) {
         lists.RemoveAll();
         machine.OnCommand(command);
         Down(1, 1, 100);
@@ -315,7 +315,7 @@ TEST_F(TrendMachine, FirstIndexStartsASlopingLineButNotAHorizontalOne)
 TEST_F(TrendMachine, IndexEqualToTheCountIsAcceptedAndOneBeyondIsNot)
 {
     prices.count = 120; // index 120 stands at position 21
-    machine.OnCommand(CommandSloping);
+    machine.OnCommand(DrawSloping);
     Down(1, 22, 100);
     EXPECT_EQ(lists.Count(), 0);
     Down(1, 21, 100);
@@ -326,7 +326,7 @@ TEST_F(TrendMachine, IndexEqualToTheCountIsAcceptedAndOneBeyondIsNot)
 TEST_F(TrendMachine, NewLineHasWidthOneMarkersAndTheKindsColour)
 {
     window.settings.Trends[TrendSloping] = {0x445566, 4, 1};
-    machine.OnCommand(CommandSloping);
+    machine.OnCommand(DrawSloping);
     Down(1, 10, 100);
     EXPECT_EQ(machine.Current()->m_width, 1);
     EXPECT_EQ(machine.Current()->m_color, 0x445566u);
@@ -342,7 +342,7 @@ TEST_F(TrendMachine, NewLineHasWidthOneMarkersAndTheKindsColour)
 TEST_F(TrendMachine, EndPointClampsToIndexOne)
 {
     window.Show(0, 60, 50, 150);
-    machine.OnCommand(CommandSloping);
+    machine.OnCommand(DrawSloping);
     Down(1, 10, 100); // index 9
     Move(1, 90);      // index 0
     EXPECT_EQ(machine.Current()->m_endIndex, 1);
@@ -350,7 +350,7 @@ TEST_F(TrendMachine, EndPointClampsToIndexOne)
 
 TEST_F(TrendMachine, MoveOntoTheStartIndexChangesNothing)
 {
-    machine.OnCommand(CommandSloping);
+    machine.OnCommand(DrawSloping);
     Down(1, 10, 100);
     Move(20, 110);
     const double end = machine.Current()->GetEndValue();
@@ -361,7 +361,7 @@ TEST_F(TrendMachine, MoveOntoTheStartIndexChangesNothing)
 
 TEST_F(TrendMachine, HorizontalLineStaysAtTheFirstPrice)
 {
-    machine.OnCommand(CommandHorizontal);
+    machine.OnCommand(DrawHorizontal);
     Down(1, 10, 100);
     const double value = machine.Current()->m_value;
     Move(20, 60);
@@ -371,7 +371,7 @@ TEST_F(TrendMachine, HorizontalLineStaysAtTheFirstPrice)
 
 TEST_F(TrendMachine, RubberBandPassesUnderThePointer)
 {
-    machine.OnCommand(CommandSloping);
+    machine.OnCommand(DrawSloping);
     Down(1, 10, 100);
     for (int px = 200; px < 560; px += 7) {
         for (int py = 30; py < 360; py += 13) {
@@ -390,7 +390,7 @@ TEST_F(TrendMachine, RubberBandPassesUnderThePointer)
 
 TEST_F(TrendMachine, SecondParallelLineSitsUnderThePointer)
 {
-    machine.OnCommand(CommandParallel);
+    machine.OnCommand(DrawParallel);
     Down(1, 10, 100);
     Move(40, 120);
     Down(1, 40, 120);
@@ -406,7 +406,7 @@ TEST_F(TrendMachine, SecondParallelLineSitsUnderThePointer)
 
 TEST_F(TrendMachine, SecondLineAboveHasAPositiveOffsetAndBelowANegativeOne)
 {
-    machine.OnCommand(CommandParallel);
+    machine.OnCommand(DrawParallel);
     Down(1, 10, 120);
     Move(40, 80); // downward
     Down(1, 40, 80);
@@ -418,7 +418,7 @@ TEST_F(TrendMachine, SecondLineAboveHasAPositiveOffsetAndBelowANegativeOne)
 
 TEST_F(TrendMachine, ParallelWithoutAMoveGetsAnOffsetThatIsNotFinite)
 {
-    machine.OnCommand(CommandParallel);
+    machine.OnCommand(DrawParallel);
     Down(1, 10, 100);
     Down(1, 10, 100);
     ASSERT_EQ(machine.State(), ParallelSecondLine);
@@ -430,7 +430,7 @@ TEST_F(TrendMachine, ParallelWithoutAMoveGetsAnOffsetThatIsNotFinite)
 
 TEST_F(TrendMachine, RightClickOnAHalfDrawnParallelGivesBothSeriesBack)
 {
-    machine.OnCommand(CommandParallel);
+    machine.OnCommand(DrawParallel);
     Down(1, 10, 100);
     Move(30, 120);
     Down(2, 30, 120, 345);
@@ -441,7 +441,7 @@ TEST_F(TrendMachine, RightClickOnAHalfDrawnParallelGivesBothSeriesBack)
 
 TEST_F(TrendMachine, ThirdPointFreezesRightOfTheMiddle)
 {
-    machine.OnCommand(CommandPitchfork);
+    machine.OnCommand(DrawPitchfork);
     Down(1, 30, 100);
     Move(40, 120); // middle at position 35
     Down(1, 40, 120);
@@ -462,7 +462,7 @@ TEST_F(TrendMachine, ThirdPointFreezesRightOfTheMiddle)
 
 TEST_F(TrendMachine, ThirdPriceUsesHalfTheDifferenceOfTheTwoPrices)
 {
-    machine.OnCommand(CommandPitchfork);
+    machine.OnCommand(DrawPitchfork);
     Down(1, 30, 100);
     Move(40, 120);
     Down(1, 40, 120);
@@ -486,12 +486,12 @@ protected:
     TrendDeletion()
     {
         for (double price : {80.0, 120.0}) {
-            machine.OnCommand(CommandHorizontal);
+            machine.OnCommand(DrawHorizontal);
             Down(1, 10, price);
             Move(40, price);
             Down(1, 40, price);
         }
-        machine.OnCommand(CommandDeleteTrend);
+        machine.OnCommand(AskDeleteTrend);
     }
     // A click so many pixels above the line at 120.
     void ClickAbove(int pixels)
@@ -553,9 +553,9 @@ TEST_F(TrendDeletion, LineThatGoesWhileTheBoxIsOpenDoesNoHarm)
         box.whileOpen = [this] { machine.OnRequest(); };
         ClickAbove(0);
         EXPECT_EQ(lists.Count(), 0);
-        machine.OnCommand(CommandHorizontal);
+        machine.OnCommand(DrawHorizontal);
         Down(1, 10, 100);
-        machine.OnCommand(CommandDeleteTrend);
+        machine.OnCommand(AskDeleteTrend);
     }
 }
 

@@ -27,11 +27,11 @@ TEST_F(TrendPool, NewSeriesAreSetUpWithSolidLineAndGreyMarks)
 
 TEST_F(TrendPool, SeriesGivenBackAreUsedAgainFirstInFirstOut)
 {
-    machine.OnCommand(CommandSpeedResistance);
+    machine.OnCommand(DrawSpeedResistance);
     Down(1, 10, 100);
     Move(20, 110);
     Down(1, 20, 110);
-    machine.OnCommand(CommandSloping);
+    machine.OnCommand(DrawSloping);
     Down(1, 10, 100);
     Move(20, 110);
     Down(1, 20, 110);
@@ -48,7 +48,7 @@ TEST_F(TrendPool, SeriesGivenBackAreUsedAgainFirstInFirstOut)
 
 TEST_F(TrendPool, AfterRemoveAllTheNextLineTakesSeriesFourAgain)
 {
-    machine.OnCommand(CommandRetracements);
+    machine.OnCommand(DrawRetracements);
     Down(1, 10, 100);
     Move(20, 110);
     Down(1, 20, 110);
@@ -112,8 +112,8 @@ TEST_F(TrendPool, DeletingAStrangerIsIgnored)
 TEST_F(TrendPool, WithOnePointShownNothingCanBeHit)
 {
     window.Show(100, 1, 50, 150);
-    for (int command : {CommandHorizontal, CommandSloping, CommandParallel, CommandPitchfork, CommandFan,
-                        CommandRetracements, CommandSpeedResistance}) {
+    for (int command : {DrawHorizontal, DrawSloping, DrawParallel, DrawPitchfork, DrawFan, DrawRetracements,
+                        DrawSpeedResistance}) {
         machine.OnCommand(command);
         Down(1, 1, 100);
     }
@@ -128,7 +128,7 @@ TEST_F(TrendPool, WithOnePointShownNothingCanBeHit)
 TEST_F(TrendPool, SettersReachEveryMemberOfAKind)
 {
     for (int i = 0; i < 2; ++i) {
-        machine.OnCommand(CommandSloping);
+        machine.OnCommand(DrawSloping);
         Down(1, 10, 100);
     }
     CTrendList& list = lists.List(TrendSloping);
@@ -146,8 +146,8 @@ TEST_F(TrendPool, SettersReachEveryMemberOfAKind)
 // and hold only holes, and those of the others are untouched.
 TEST_F(TrendPool, EveryOrderOfDeletionGivesEverySeriesBackAndLeavesTheOthersAlone)
 {
-    for (int command : {CommandHorizontal, CommandSloping, CommandParallel, CommandPitchfork, CommandFan,
-                        CommandRetracements, CommandSpeedResistance}) {
+    for (int command : {DrawHorizontal, DrawSloping, DrawParallel, DrawPitchfork, DrawFan, DrawRetracements,
+                        DrawSpeedResistance}) {
         std::vector<int> order{0, 1, 2};
         do {
             lists.RemoveAll();

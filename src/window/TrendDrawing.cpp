@@ -1,0 +1,71 @@
+#include "window/TrendDrawing.h"
+
+#include "trends/PitchforkTrend.h"
+
+#include <array>
+
+namespace zantroq {
+
+namespace {
+
+constexpr std::array<const char*, TrendKinds> KindNames{
+    "horizontal",      "sloping", "parallel", "pitchfork", "fibonacci-fan", "fibonacci-retracements",
+    "speed-resistance"};
+
+sTrendRecord RecordOf(const CBaseTrend& trend)
+{
+    sTrendRecord record;
+    record.Kind = KindNames[static_cast<std::size_t>(trend.Kind())];
+    record.StartIndex = trend.m_startIndex;
+    record.EndIndex = trend.m_endIndex;
+    record.Value = trend.m_value;
+    record.EndValue = trend.GetEndValue();
+    record.Series = trend.AllSeries();
+    record.Color = trend.m_color;
+    record.Width = trend.m_width;
+    record.Extendable = trend.m_extendable;
+    if (trend.Kind() == TrendParallel)
+        record.Offset = trend.GetOffset();
+    if (const auto* const fork = dynamic_cast<const CPitchforkTrend*>(&trend)) {
+        record.ThirdIndex = fork->m_thirdIndex;
+        record.ThirdValue = fork->m_thirdValue;
+    }
+    if (trend.Kind() == TrendFibonacciRetracements)
+        record.FirstLabel = trend.GetFirstLabel();
+    return record;
+}
+
+} // namespace
+
+CTrendDrawing::CTrendDrawing(IChartWindow& window, const IPriceSource& prices, IMessageBox& box,
+                             IWindowTimer& timer, std::function<void(const std::string&)> prompt)
+    : m_window(window),
+      m_bar(std::move(prompt)),
+      m_lists(window),
+      m_machine(window, prices, m_lists, m_bar, box, timer)
+{
+}
+
+std::vector<sTrendRecord> CTrendDrawing::Records() const
+{
+    std::vector<sTrendRecord> records;
+    for (int kind = 0; kind < TrendKinds; ++kind) {
+        const CTrendList& list = m_lists.List(static_cast<TrendKind>(kind));
+        for (int i = 0; i < list.Count(); ++i)
+            records.push_back(RecordOf(list.Item(i)));
+    }
+    return records;
+}
+
+void CTrendDrawing::ApplyStyles()
+{
+    for (int kind = 0; kind < TrendKinds; ++kind) {
+        const sTrendStyle& style = m_window.Settings().Trends[static_cast<std::size_t>(kind)];
+        CTrendList& list = m_lists.List(static_cast<TrendKind>(kind));
+        list.SetAllColors(style.Color);
+        list.SetAllWidths(style.Width);
+        list.SetAllExtendable(style.Extendable);
+    }
+}
+
+} // namespace zantroq
