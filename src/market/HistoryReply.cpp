@@ -1,0 +1,83 @@
+#include "market/HistoryReply.h"
+
+#include "platform/NumberText.h"
+
+#include <cstring>
+#include <utility>
+
+namespace zantroq {
+
+namespace {
+
+constexpr std::string_view EndMarker = "!ENDMSG!";
+
+bool Contains(std::string_view text, std::string_view part)
+{
+    return text.find(part) != std::string_view::npos;
+}
+
+} // namespace
+
+CHistoryReply::CHistoryReply(std::function<void()> onComplete) : m_onComplete(std::move(onComplete)) {}
+
+void CHistoryReply::OnLine(std::string_view line)
+{
+    if (line.empty() || line.front() == 'E' || line.front() == 'S')
+        return;
+    CChartHistRequest* const request = FindRequestOf(line);
+    if (!request)
+        return;
+    if (!request->IsAlive()) {
+        OnDeadLine(line);
+        return;
+    }
+    const HistoryFields fields(line);
+    const std::string_view second = fields[1];
+    if (!second.empty() && (second.front() == '!' || second.front() == 'E')) {
+        OnEndLine(second);
+        return;
+    }
+    if (request->GetPriceFormat() == 0)
+        request->SetPriceFormat(PriceFormatOf(fields[2]));
+    if (const sHIST_POINT* point = m_parser.Parse(line.front() - '0', fields, request->HasExtendedTrades()))
+        request->AppendPoint(*point);
+}
+
+void CHistoryReply::OnDeadLine(std::string_view line)
+{
+    if (!Contains(line, EndMarker))
+        return;
+    EndReply(*m_request);
+    EndOfLines();
+}
+
+// An error answer does not end the request: the chart stays in its loading state.
+void CHistoryReply::OnEndLine(std::string_view marker)
+{
+    if (!Contains(marker, EndMarker))
+        return;
+    const bool complete = EndReply(*m_request);
+    EndOfLines();
+    if (complete && m_onComplete)
+        m_onComplete();
+}
+
+CChartHistRequest* CHistoryReply::FindRequestOf(std::string_view line)
+{
+    if (m_request && line.size() >= m_identifier.size() &&
+        std::memcmp(line.data(), m_identifier.data(), m_identifier.size()) == 0)
+        return m_request.get();
+    const std::size_t comma = line.find(',');
+    if (comma == std::string_view::npos || comma == 0)
+        return nullptr;
+    m_identifier.assign(line.substr(0, comma + 1));
+    m_request = FindRequest(TextToInt(line.substr(1, comma - 1)));
+    return m_request.get();
+}
+
+void CHistoryReply::EndOfLines()
+{
+    m_request.reset();
+}
+
+} // namespace zantroq

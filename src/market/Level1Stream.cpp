@@ -1,0 +1,72 @@
+#include "market/Level1Stream.h"
+
+#include "market/Level1Update.h"
+
+#include <utility>
+
+namespace zantroq {
+
+namespace {
+
+bool IsNeverActedOn(char messageType)
+{
+    return messageType == 'S' || messageType == 'T' || messageType == 'N';
+}
+
+std::string_view SymbolOf(std::string_view line)
+{
+    if (line.size() < 2)
+        return {};
+    line.remove_prefix(2);
+    return line.substr(0, line.find(','));
+}
+
+// Empties a container at the end of a scope, however it is left.
+template <class Container> struct sEmptyAtEnd
+{
+    Container& Target;
+    ~sEmptyAtEnd() { Target.clear(); }
+};
+
+} // namespace
+
+CLevel1Stream::CLevel1Stream(const CWatchTable& watches, std::function<void(std::string_view)> removeSymbol)
+    : m_watches(watches), m_removeSymbol(std::move(removeSymbol))
+{
+}
+
+void CLevel1Stream::OnLine(std::string_view line)
+{
+    // The empty line behind each CR LF has no symbol to ask the feed about.
+    if (line.empty())
+        return;
+    const char messageType = line.front();
+    const std::string_view symbol = SymbolOf(line);
+    if (!m_watches.Find(symbol, m_requests)) {
+        if (!IsNeverActedOn(messageType))
+            m_removeSymbol(symbol);
+        return;
+    }
+    const sEmptyAtEnd<std::vector<RequestPtr>> letGo{m_requests};
+    const Level1Fields fields(line);
+    for (const RequestPtr& request : m_requests) {
+        if (!request || (!request->IsComplete() && messageType != 'F'))
+            PendingLevel1Line = line;
+        else if (messageType == 'F')
+            ApplyFundamental(*request, fields);
+        else
+            MergeUpdate(*request, messageType, fields);
+    }
+}
+
+void CLevel1Stream::ReplayPending()
+{
+    if (PendingLevel1Line.empty())
+        return;
+    // The line may be kept again under way, when another request of the symbol still loads; it counts as applied all the same.
+    const sEmptyAtEnd<std::string> forget{PendingLevel1Line};
+    const std::string line = PendingLevel1Line;
+    OnLine(line);
+}
+
+} // namespace zantroq
