@@ -28,7 +28,8 @@ std::uint16_t Milliseconds(std::string_view text)
 {
     constexpr std::size_t At = 20;
     if (text.size() == At + 3 && IsDigit(text[At]) && IsDigit(text[At + 1]) && IsDigit(text[At + 2]))
-        return static_cast<std::uint16_t>((text[At] - '0') * 100 + (text[At + 1] - '0') * 10 + (text[At + 2] - '0'));
+        return static_cast<std::uint16_t>((text[At] - '0') * 100 + (text[At + 1] - '0') * 10 +
+                                          (text[At + 2] - '0'));
     return static_cast<std::uint16_t>(PartAt(text, At, 3));
 }
 

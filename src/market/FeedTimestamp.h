@@ -1,5 +1,6 @@
-// The time stamps of history lines, YYYY-MM-DD HH:MM:SS.mmm, cut by position: whatever stands at a position is read as a number,
-// and a part that is missing is 0. The last date is remembered, since a reply brings thousands of points of one day. One thread.
+// The time stamps of history lines, YYYY-MM-DD HH:MM:SS.mmm, cut by position: whatever stands at a position
+// is read as a number, and a part that is missing is 0. The last date is remembered, since a reply brings
+// thousands of points of one day. One thread.
 #pragma once
 
 #include "platform/CalendarTime.h"

@@ -46,11 +46,13 @@ std::string HistoryCommand(const CChartHistRequest& request)
     case IntervalsByDays:
         return Joined({"HID", symbol, seconds, days, "", beginFilter, endFilter, direction, identifier});
     case IntervalsByRange:
-        return Joined({"HIT", symbol, seconds, begin, end, "", beginFilter, endFilter, direction, identifier});
+        return Joined(
+            {"HIT", symbol, seconds, begin, end, "", beginFilter, endFilter, direction, identifier});
     case DailyByDatapoints:
         return Joined({"HDX", symbol, points, direction, identifier});
     case DailyByRange:
-        return Joined({"HDT", symbol, request.GetBeginDate(), request.GetEndDate(), "", direction, identifier});
+        return Joined(
+            {"HDT", symbol, request.GetBeginDate(), request.GetEndDate(), "", direction, identifier});
     case WeeklyByDatapoints:
         return Joined({"HWX", symbol, points, direction, identifier});
     case MonthlyByDatapoints:

@@ -10,18 +10,20 @@ namespace zantroq {
 // No kind reads a field past the ninth.
 using HistoryFields = CLineFields<9>;
 
-// Whether a trade with this basis letter belongs in a series: "C" always, "E" and "O" when extended trades are wanted.
+// Whether a trade with this basis letter belongs in a series: "C" always, "E" and "O" when extended trades
+// are wanted.
 bool ShowsBasis(char basis, bool extendedTrades);
 
-// The price format code that a price's text shows: 10 plus its decimals, at least 11. A price without a point counts as if the
-// point stood before its first character.
+// The price format code that a price's text shows: 10 plus its decimals, at least 11. A price without a point
+// counts as if the point stood before its first character.
 int PriceFormatOf(std::string_view price);
 
 class CHistoryLineParser
 {
 public:
-    // The point of a line whose first character is `kind` as a digit; null when the line's trade is not wanted, its kind is not 0
-    // to 9, or its date does not exist. The record holds until the next call. Fails with std::invalid_argument on too few fields.
+    // The point of a line whose first character is `kind` as a digit; null when the line's trade is not
+    // wanted, its kind is not 0 to 9, or its date does not exist. The record holds until the next call. Fails
+    // with std::invalid_argument on too few fields.
     const sHIST_POINT* Parse(int kind, const HistoryFields& fields, bool extendedTrades);
 
 private:

@@ -1,5 +1,5 @@
-// Takes the lines of the history socket: finds the request that a line names, appends its point, and ends the request's reply.
-// Silent: what cannot be used is dropped. Lives on the worker thread.
+// Takes the lines of the history socket: finds the request that a line names, appends its point, and ends the
+// request's reply. Silent: what cannot be used is dropped. Lives on the worker thread.
 #pragma once
 
 #include "market/HistoryLine.h"
@@ -17,11 +17,12 @@ public:
     // `onComplete` runs when a live request's reply has ended, after its Complete is set.
     explicit CHistoryReply(std::function<void()> onComplete);
 
-    // One line without its end. Fails with std::invalid_argument when the line has too few fields for its kind; nothing has then
-    // been stored.
+    // One line without its end. Fails with std::invalid_argument when the line has too few fields for its
+    // kind; nothing has then been stored.
     void OnLine(std::string_view line);
 
-    // No further line is at hand: lets go of the request of the last one. To be called before the thread waits.
+    // No further line is at hand: lets go of the request of the last one. To be called before the thread
+    // waits.
     void EndOfLines();
 
 private:

@@ -22,7 +22,7 @@ std::string_view SymbolOf(std::string_view line)
 }
 
 // Empties a container at the end of a scope, however it is left.
-template <class Container> struct sEmptyAtEnd
+template<class Container> struct sEmptyAtEnd
 {
     Container& Target;
     ~sEmptyAtEnd() { Target.clear(); }
@@ -63,7 +63,8 @@ void CLevel1Stream::ReplayPending()
 {
     if (PendingLevel1Line.empty())
         return;
-    // The line may be kept again under way, when another request of the symbol still loads; it counts as applied all the same.
+    // The line may be kept again under way, when another request of the symbol still loads; it counts as
+    // applied all the same.
     const sEmptyAtEnd<std::string> forget{PendingLevel1Line};
     const std::string line = PendingLevel1Line;
     OnLine(line);

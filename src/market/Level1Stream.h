@@ -1,6 +1,6 @@
-// Takes the lines of the level 1 socket: finds the requests that watch a line's symbol and merges the line into each. Keeps the
-// newest line that came while a request was still loading, to be replayed when its history stands. Lives on the worker thread,
-// except for the watch table, which has a lock of its own.
+// Takes the lines of the level 1 socket: finds the requests that watch a line's symbol and merges the line
+// into each. Keeps the newest line that came while a request was still loading, to be replayed when its
+// history stands. Lives on the worker thread, except for the watch table, which has a lock of its own.
 #pragma once
 
 #include "market/WatchTable.h"
@@ -18,7 +18,8 @@ public:
     // `removeSymbol` asks the feed to stop the updates of a symbol.
     CLevel1Stream(const CWatchTable& watches, std::function<void(std::string_view symbol)> removeSymbol);
 
-    // One line without its end. Fails with std::invalid_argument when the line is too short for what a request reads of it.
+    // One line without its end. Fails with std::invalid_argument when the line is too short for what a
+    // request reads of it.
     void OnLine(std::string_view line);
 
     // A reply has ended: takes the kept line, if there is one, and forgets it, also when it fails.

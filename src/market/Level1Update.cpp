@@ -67,7 +67,8 @@ void MergeTick(CChartHistRequest& request, const Level1Fields& fields)
         point.Last = TextToDouble(fields[Level1Last]);
         point.LastSize = TextToUnsigned(fields[Level1Size]);
     }
-    if (!IsTrade(contents, request.HasExtendedTrades()) && !(request.HasBidAskUpdates() && HasAny(contents, "ba")))
+    if (!IsTrade(contents, request.HasExtendedTrades()) &&
+        !(request.HasBidAskUpdates() && HasAny(contents, "ba")))
         return;
     point.TotalVolume = TextToInt64(fields[Level1TotalVolume]);
     point.Bid = TextToDouble(fields[Level1Bid]);
@@ -79,7 +80,8 @@ void MergeTick(CChartHistRequest& request, const Level1Fields& fields)
     request.AppendPoint(point);
 }
 
-// MMDDYYYY as one number. It does not grow across a new year, which keeps a chart on its old bar there; that is intended.
+// MMDDYYYY as one number. It does not grow across a new year, which keeps a chart on its old bar there; that
+// is intended.
 int DateDigits(std::string_view date)
 {
     std::string digits;
@@ -89,7 +91,8 @@ int DateDigits(std::string_view date)
     return TextToInt(digits);
 }
 
-// Whether a trade opens a new bar. A bar is stamped with its end, so a trade at that second belongs to the next one.
+// Whether a trade opens a new bar. A bar is stamped with its end, so a trade at that second belongs to the
+// next one.
 bool OpensBar(const sTIME_W_MILLISECONDS& lastBar, std::string_view tradeDate, int tradeSeconds)
 {
     const std::string barDate = FormatTime(lastBar, "%m/%d/%Y");
@@ -111,8 +114,8 @@ sTIME_W_MILLISECONDS MidnightEnd(const Level1Fields& fields)
     return time;
 }
 
-// The end of the interval that a trade falls in. It keeps the date of the last bar, also for the first bar of a day, until an
-// interval ends at midnight. Without a last bar the date is the trade's own.
+// The end of the interval that a trade falls in. It keeps the date of the last bar, also for the first bar of
+// a day, until an interval ends at midnight. Without a last bar the date is the trade's own.
 sTIME_W_MILLISECONDS BarEnd(const sTIME_W_MILLISECONDS* lastBar, const Level1Fields& fields, int end)
 {
     if (end == SecondsPerDay)
@@ -131,7 +134,8 @@ int IntervalEnd(int tradeSeconds, int intervalSeconds)
 {
     if (intervalSeconds <= 0)
         throw std::invalid_argument("interval below one second");
-    const std::int64_t end = (static_cast<std::int64_t>(tradeSeconds) / intervalSeconds + 1) * intervalSeconds;
+    const std::int64_t end =
+        (static_cast<std::int64_t>(tradeSeconds) / intervalSeconds + 1) * intervalSeconds;
     // Past midnight is no time of day, however far; the limit only keeps the number small.
     return static_cast<int>(end > 2 * SecondsPerDay ? 2 * SecondsPerDay : end);
 }

@@ -1,6 +1,7 @@
-// Merges one level 1 line into one series: a new tick, a grown or a new bar, or the price format. Each function reads, merges and
-// writes through the request's own operations; the worker is the only writer of a live series. Fails with std::invalid_argument
-// when the line is too short for what is read of it. Lives on the worker thread.
+// Merges one level 1 line into one series: a new tick, a grown or a new bar, or the price format. Each
+// function reads, merges and writes through the request's own operations; the worker is the only writer of a
+// live series. Fails with std::invalid_argument when the line is too short for what is read of it. Lives on
+// the worker thread.
 #pragma once
 
 #include "market/ChartHistRequest.h"

@@ -1,7 +1,7 @@
-// Cuts a stream of bytes into lines, in place and without sockets: the reader receives into Room(), says how many bytes came, and
-// gets every line that is now whole. A carriage return and a line feed each end a line, so that a CR LF pair gives an empty line
-// behind the real one. A partial line waits at the start of the buffer; when one line fills the buffer, Room() is empty for good.
-// Belongs to the thread that reads.
+// Cuts a stream of bytes into lines, in place and without sockets: the reader receives into Room(), says how
+// many bytes came, and gets every line that is now whole. A carriage return and a line feed each end a line,
+// so that a CR LF pair gives an empty line behind the real one. A partial line waits at the start of the
+// buffer; when one line fills the buffer, Room() is empty for good. Belongs to the thread that reads.
 #pragma once
 
 #include <cstring>
@@ -22,19 +22,24 @@ public:
     static constexpr int StreamCapacity = 4096;
 
     // A line, its end included, fits when it has fewer than `capacity` bytes.
-    explicit CLineCutter(int capacity) : m_capacity(capacity), m_buffer(new char[static_cast<std::size_t>(capacity) + BlockSize]())
+    explicit CLineCutter(int capacity)
+        : m_capacity(capacity), m_buffer(new char[static_cast<std::size_t>(capacity) + BlockSize]())
     {
     }
 
     // Where the next bytes go: at most capacity - 1 - Pending() of them.
-    std::span<char> Room() { return {m_buffer.get() + m_pending, static_cast<std::size_t>(m_capacity - 1 - m_pending)}; }
+    std::span<char> Room()
+    {
+        return {m_buffer.get() + m_pending, static_cast<std::size_t>(m_capacity - 1 - m_pending)};
+    }
 
     // Bytes of the partial line that waits for its end.
     int Pending() const { return m_pending; }
 
-    // `bytes` have been written to the start of Room(). Calls onLine(std::string_view) for each line, without its end; the view
-    // holds during the call. As a line is a C text to its readers, it ends at a zero byte if it has one.
-    template <class OnLine> void Received(int bytes, OnLine&& onLine)
+    // `bytes` have been written to the start of Room(). Calls onLine(std::string_view) for each line, without
+    // its end; the view holds during the call. As a line is a C text to its readers, it ends at a zero byte
+    // if it has one.
+    template<class OnLine> void Received(int bytes, OnLine&& onLine)
     {
         char* const buffer = m_buffer.get();
         const int total = m_pending + bytes;
@@ -60,15 +65,17 @@ private:
     static constexpr int BlockSize = 16;
 
     // Calls onMark with the position of each CR, LF and zero byte from `at` to `total`, in order.
-    template <class OnMark> static void ForEachMark(const char* buffer, int at, int total, OnMark&& onMark)
+    template<class OnMark> static void ForEachMark(const char* buffer, int at, int total, OnMark&& onMark)
     {
 #if defined(__SSE2__)
-        const __m128i carriageReturn = _mm_set1_epi8('\r'), lineFeed = _mm_set1_epi8('\n'), zero = _mm_setzero_si128();
+        const __m128i carriageReturn = _mm_set1_epi8('\r'), lineFeed = _mm_set1_epi8('\n'),
+                      zero = _mm_setzero_si128();
         // The buffer has a spare block behind it; what is read past `total` is masked out.
         for (; at < total; at += BlockSize) {
             const __m128i block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(buffer + at));
             const __m128i found = _mm_or_si128(
-                _mm_or_si128(_mm_cmpeq_epi8(block, carriageReturn), _mm_cmpeq_epi8(block, lineFeed)), _mm_cmpeq_epi8(block, zero));
+                _mm_or_si128(_mm_cmpeq_epi8(block, carriageReturn), _mm_cmpeq_epi8(block, lineFeed)),
+                _mm_cmpeq_epi8(block, zero));
             auto marks = static_cast<unsigned>(_mm_movemask_epi8(found));
             if (total - at < BlockSize)
                 marks &= (1u << (total - at)) - 1;

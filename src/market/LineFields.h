@@ -1,5 +1,5 @@
-// The comma-separated fields of one line as views into it. Only the first Most fields are kept; what follows them is not looked
-// at. A field that the line does not have fails with std::invalid_argument.
+// The comma-separated fields of one line as views into it. Only the first Most fields are kept; what follows
+// them is not looked at. A field that the line does not have fails with std::invalid_argument.
 #pragma once
 
 #include <array>
@@ -12,7 +12,7 @@
 
 namespace zantroq {
 
-template <int Most> class CLineFields
+template<int Most> class CLineFields
 {
 public:
     explicit CLineFields(std::string_view line) : m_line(line.data())
@@ -42,13 +42,17 @@ public:
         m_starts[++m_count] = size + 1;
     }
 
-    int Count() const { return m_count; }
+    int Count() const
+    {
+        return m_count;
+    }
 
     std::string_view operator[](int field) const
     {
         if (field >= m_count)
             throw std::invalid_argument("line has too few fields");
-        return {m_line + m_starts[field], static_cast<std::size_t>(m_starts[field + 1] - m_starts[field] - 1)};
+        return {m_line + m_starts[field],
+                static_cast<std::size_t>(m_starts[field + 1] - m_starts[field] - 1)};
     }
 
 private:

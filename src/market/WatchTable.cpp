@@ -19,7 +19,8 @@ CWatchTable::Bucket& CWatchTable::BucketOf(std::string_view symbol)
 
 CWatchTable::Bucket::iterator CWatchTable::FindIn(Bucket& bucket, std::string_view symbol)
 {
-    return std::find_if(bucket.begin(), bucket.end(), [&](const sWatch& watch) { return watch.Symbol == symbol; });
+    return std::find_if(bucket.begin(), bucket.end(),
+                        [&](const sWatch& watch) { return watch.Symbol == symbol; });
 }
 
 void CWatchTable::Add(std::string_view symbol, const RequestPtr& request)
@@ -40,8 +41,9 @@ CWatchTable::Removal CWatchTable::Remove(std::string_view symbol, const RequestP
     if (watch == bucket.end())
         return Removal::NotWatched;
     auto& requests = watch->Requests;
-    const auto found = std::find_if(requests.begin(), requests.end(),
-                                    [&](const std::weak_ptr<CChartHistRequest>& entry) { return entry.lock() == request; });
+    const auto found =
+        std::find_if(requests.begin(), requests.end(),
+                     [&](const std::weak_ptr<CChartHistRequest>& entry) { return entry.lock() == request; });
     if (found != requests.end())
         requests.erase(found);
     if (!requests.empty())

@@ -1,6 +1,6 @@
-// Which requests want the live updates of which symbol. A hash map of 23 buckets keyed by the exact symbol. Changed on window
-// threads and read on the worker: each operation holds a short lock of its own, never across a send. The table does not keep a
-// request alive.
+// Which requests want the live updates of which symbol. A hash map of 23 buckets keyed by the exact symbol.
+// Changed on window threads and read on the worker: each operation holds a short lock of its own, never
+// across a send. The table does not keep a request alive.
 #pragma once
 
 #include "market/RequestTable.h"
@@ -23,12 +23,17 @@ public:
     // Appends to the symbol's requests; the same request may stand there more than once.
     void Add(std::string_view symbol, const RequestPtr& request);
 
-    enum class Removal { NotWatched, OthersRemain, LastOne };
+    enum class Removal
+    {
+        NotWatched,
+        OthersRemain,
+        LastOne
+    };
     // Removes the first entry of the request; the symbol goes with its last entry.
     Removal Remove(std::string_view symbol, const RequestPtr& request);
 
-    // The symbol's requests in the order in which they were added, null for one that is gone; false for a symbol that nobody
-    // watches. The vector is overwritten.
+    // The symbol's requests in the order in which they were added, null for one that is gone; false for a
+    // symbol that nobody watches. The vector is overwritten.
     bool Find(std::string_view symbol, std::vector<RequestPtr>& requests) const;
 
 private:

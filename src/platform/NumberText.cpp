@@ -42,7 +42,8 @@ std::uint64_t TakeDigits(std::string_view text, std::uint64_t limit)
     return value;
 }
 
-// Hexadecimal, infinity and not-a-number are left to the C library: no feed sends them, so speed does not matter.
+// Hexadecimal, infinity and not-a-number are left to the C library: no feed sends them, so speed does not
+// matter.
 double RareTextToDouble(std::string_view text)
 {
     static const locale_t plain = ::newlocale(LC_ALL_MASK, "C", nullptr);
@@ -82,7 +83,8 @@ std::int32_t TextToInt(std::string_view text)
     constexpr std::uint64_t Greatest = std::numeric_limits<std::int32_t>::max();
     const bool negative = TakeSign(text);
     const std::uint64_t value = TakeDigits(text, negative ? Greatest + 1 : Greatest);
-    return static_cast<std::int32_t>(negative ? -static_cast<std::int64_t>(value) : static_cast<std::int64_t>(value));
+    return static_cast<std::int32_t>(negative ? -static_cast<std::int64_t>(value)
+                                              : static_cast<std::int64_t>(value));
 }
 
 std::int64_t TextToInt64(std::string_view text)

@@ -1,6 +1,6 @@
-// Numbers read from the front of a text as the C library's atof, strtoul, atoi and a 64-bit atoi read them in the "C" locale:
-// leading blanks are skipped, the first character that does not belong ends the number, nothing read gives 0. Independent of
-// the process's locale, no allocation on the usual forms. Any thread.
+// Numbers read from the front of a text as the C library's atof, strtoul, atoi and a 64-bit atoi read them in
+// the "C" locale: leading blanks are skipped, the first character that does not belong ends the number,
+// nothing read gives 0. Independent of the process's locale, no allocation on the usual forms. Any thread.
 #pragma once
 
 #include <cstdint>
@@ -14,11 +14,12 @@ inline constexpr double PowersOfTen[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6, 
                                          1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
 } // namespace detail
 
-// atof. The nearest double; an overflow gives an infinity. Also takes the hexadecimal, "inf" and "nan" forms, as C does.
+// atof. The nearest double; an overflow gives an infinity. Also takes the hexadecimal, "inf" and "nan" forms,
+// as C does.
 inline double TextToDouble(std::string_view text)
 {
-    // At most 15 digits make an integer below 2^53, and a power of ten up to 1e22 is exact, so that one division is correctly
-    // rounded. Prices are always of this form.
+    // At most 15 digits make an integer below 2^53, and a power of ten up to 1e22 is exact, so that one
+    // division is correctly rounded. Prices are always of this form.
     if (text.size() > 16)
         return detail::LongTextToDouble(text);
     const char* at = text.data();

@@ -1,0 +1,98 @@
+#include "market/ChartRequestManagerThread.h"
+
+#include "market/HistoryCommand.h"
+#include "market/Level1Command.h"
+
+#include <chrono>
+#include <utility>
+
+namespace zantroq {
+
+CChartRequestManagerThread::CChartRequestManagerThread(std::shared_ptr<ISettingsKey> feedKey)
+    : Ports(std::move(feedKey)),
+      m_level1(m_watches, [this](std::string_view symbol) { SendLevel1(RemoveCommand(symbol)); }),
+      m_history([this] { m_level1.ReplayPending(); }),
+      Level1Socket(std::make_unique<CQVXLevel1Socket>(*this)),
+      HistorySocket(std::make_unique<CQVXHistorySocket>(*this))
+{
+}
+
+CChartRequestManagerThread::~CChartRequestManagerThread()
+{
+    Stop();
+}
+
+void CChartRequestManagerThread::AwaitConnections()
+{
+    m_connected.get_future().wait_for(std::chrono::seconds(1));
+}
+
+void CChartRequestManagerThread::InitInstance()
+{
+    Level1Socket->Owner = this;
+    if (Level1Socket->Create())
+        Level1Socket->Connect(Ports.Level1Port());
+    else
+        ConnectionDone();
+    HistorySocket->Owner = this;
+    if (HistorySocket->Create())
+        HistorySocket->Connect(Ports.LookupPort());
+    else
+        ConnectionDone();
+}
+
+void CChartRequestManagerThread::ExitInstance()
+{
+    Level1Socket->ShutDown();
+    Level1Socket->Close();
+    HistorySocket->ShutDown();
+    HistorySocket->Close();
+}
+
+void CChartRequestManagerThread::OnThreadMessage(std::uint32_t message, std::int32_t, std::int32_t)
+{
+    if (message != ProtocolSetupMessage)
+        return;
+    SendLevel1(Level1SetupText());
+    ConnectionDone();
+}
+
+void CChartRequestManagerThread::OnHistoryConnected()
+{
+    ConnectionDone();
+}
+
+void CChartRequestManagerThread::ConnectionDone()
+{
+    if (++m_connectionsDone == 2)
+        m_connected.set_value();
+}
+
+void CChartRequestManagerThread::SendHistoryRequest(CChartHistRequest& request)
+{
+    BeginReply(request);
+    HistorySocket->Send(HistoryRequestText(request));
+}
+
+void CChartRequestManagerThread::WatchSymbol(const RequestPtr& request)
+{
+    const std::string symbol = request->GetSymbol();
+    if (symbol.empty())
+        return;
+    m_watches.Add(symbol, request);
+    SendLevel1(WatchCommand(symbol));
+}
+
+void CChartRequestManagerThread::UnwatchSymbol(const RequestPtr& request)
+{
+    const std::string symbol = request->GetSymbol();
+    if (!symbol.empty() && m_watches.Remove(symbol, request) == CWatchTable::Removal::LastOne)
+        SendLevel1(RemoveCommand(symbol));
+}
+
+void CChartRequestManagerThread::SendLevel1(std::string_view text)
+{
+    Level1Socket->Send(text);
+}
+
+} // namespace zantroq

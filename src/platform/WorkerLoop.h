@@ -1,0 +1,21 @@
+// The loop behind CWorkerThread, for the sources of this folder that put work on it.
+#pragma once
+
+#include "platform/WorkerThread.h"
+
+#include <asio/executor_work_guard.hpp>
+#include <asio/io_context.hpp>
+#include <future>
+#include <thread>
+
+namespace zantroq {
+
+struct CWorkerThread::sLoop
+{
+    asio::io_context Context{1};
+    asio::executor_work_guard<asio::io_context::executor_type> Work = asio::make_work_guard(Context);
+    std::promise<void> Ended;
+    std::thread Thread;
+};
+
+} // namespace zantroq
