@@ -1,6 +1,8 @@
 // Parameters and flags; the series is in ChartHistSeries.cpp.
 #include "market/ChartHistRequest.h"
 
+#include "market/RequestTable.h"
+
 #include <stdexcept>
 #include <utility>
 
@@ -24,7 +26,10 @@ CChartHistRequest::CChartHistRequest() : m_handle(NextHandle())
     ResetSeries();
 }
 
-CChartHistRequest::~CChartHistRequest() = default;
+CChartHistRequest::~CChartHistRequest()
+{
+    ForgetRequest(m_handle);
+}
 
 void CChartHistRequest::SetText(std::string& member, std::string text)
 {

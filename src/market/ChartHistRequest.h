@@ -29,8 +29,8 @@ public:
     CChartHistRequest(const CChartHistRequest&) = delete;
     CChartHistRequest& operator=(const CChartHistRequest&) = delete;
 
-    // The number that stands for this request on the wire: 1 to 2147483647, never used twice in a process. Only a request that
-    // CreateRequest (RequestTable.h) made can be found by its number.
+    // The number that stands for this request on the wire: 1 to 2147483647, never used twice in a process. A reply can
+    // find the request by it once a command has gone out (RequestTable.h).
     std::int32_t Handle() const { return m_handle; }
 
     // Parameters. Setters take the lock; getters return copies and take none, so they belong to the window's thread.

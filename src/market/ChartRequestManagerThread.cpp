@@ -74,18 +74,18 @@ void CChartRequestManagerThread::SendHistoryRequest(CChartHistRequest& request)
     HistorySocket->Send(HistoryRequestText(request));
 }
 
-void CChartRequestManagerThread::WatchSymbol(const RequestPtr& request)
+void CChartRequestManagerThread::WatchSymbol(CChartHistRequest& request)
 {
-    const std::string symbol = request->GetSymbol();
+    const std::string symbol = request.GetSymbol();
     if (symbol.empty())
         return;
-    m_watches.Add(symbol, request);
+    m_watches.Add(symbol, EnterRequest(request));
     SendLevel1(WatchCommand(symbol));
 }
 
-void CChartRequestManagerThread::UnwatchSymbol(const RequestPtr& request)
+void CChartRequestManagerThread::UnwatchSymbol(CChartHistRequest& request)
 {
-    const std::string symbol = request->GetSymbol();
+    const std::string symbol = request.GetSymbol();
     if (!symbol.empty() && m_watches.Remove(symbol, request) == CWatchTable::Removal::LastOne)
         SendLevel1(RemoveCommand(symbol));
 }

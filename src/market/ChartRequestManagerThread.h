@@ -30,8 +30,8 @@ public:
 
     // Commands, on the window's thread. Nothing waits for an answer, and a send that fails is not noticed.
     void SendHistoryRequest(CChartHistRequest& request);
-    void WatchSymbol(const RequestPtr& request);
-    void UnwatchSymbol(const RequestPtr& request);
+    void WatchSymbol(CChartHistRequest& request);
+    void UnwatchSymbol(CChartHistRequest& request);
 
     // From the sockets, on this thread.
     void OnHistoryConnected();

@@ -10,12 +10,12 @@ void CManagerThreadHolder::AddControl(std::shared_ptr<ISettingsKey> feedKey)
         StartManagerThread(std::move(feedKey));
 }
 
-void CManagerThreadHolder::RemoveControl(const RequestPtr& series)
+void CManagerThreadHolder::RemoveControl(CChartHistRequest* series)
 {
     if (--m_controlCount != 0)
         return;
     if (series)
-        UnwatchSymbol(series);
+        UnwatchSymbol(*series);
     StopManagerThread();
 }
 
@@ -36,19 +36,19 @@ void CManagerThreadHolder::StopManagerThread()
     ManagerThread.reset();
 }
 
-void CManagerThreadHolder::SendHistoryRequest(const RequestPtr& request)
+void CManagerThreadHolder::SendHistoryRequest(CChartHistRequest& request)
 {
     if (ManagerThread)
-        ManagerThread->SendHistoryRequest(*request);
+        ManagerThread->SendHistoryRequest(request);
 }
 
-void CManagerThreadHolder::WatchSymbol(const RequestPtr& request)
+void CManagerThreadHolder::WatchSymbol(CChartHistRequest& request)
 {
     if (ManagerThread)
         ManagerThread->WatchSymbol(request);
 }
 
-void CManagerThreadHolder::UnwatchSymbol(const RequestPtr& request)
+void CManagerThreadHolder::UnwatchSymbol(CChartHistRequest& request)
 {
     if (ManagerThread)
         ManagerThread->UnwatchSymbol(request);

@@ -18,7 +18,7 @@ public:
 
     // A control's window is being destroyed; the last one unwatches its series, which may be null, and stops
     // the worker.
-    void RemoveControl(const RequestPtr& series);
+    void RemoveControl(CChartHistRequest* series);
 
     int ControlCount() const { return m_controlCount; }
     bool Running() const { return ManagerThread != nullptr; }
@@ -30,11 +30,11 @@ public:
     void StopManagerThread();
 
     // Clears Complete and sends the request's command. The feed's reply fills the series.
-    void SendHistoryRequest(const RequestPtr& request);
+    void SendHistoryRequest(CChartHistRequest& request);
     // Subscribes the request's symbol to live updates. A request watches its symbol once, before its command
     // goes out, and must be unwatched before its symbol changes or it is given up.
-    void WatchSymbol(const RequestPtr& request);
-    void UnwatchSymbol(const RequestPtr& request);
+    void WatchSymbol(CChartHistRequest& request);
+    void UnwatchSymbol(CChartHistRequest& request);
 
 private:
     std::unique_ptr<CChartRequestManagerThread> ManagerThread;

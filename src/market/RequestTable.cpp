@@ -7,19 +7,32 @@ namespace zantroq {
 
 namespace {
 
+// Deletes a request only if its window has given it up; before that the window's pointer owns it. The flag is
+// written while a pointer to the request is held, so the last holder sees it.
+struct sFreeIfGiven
+{
+    std::shared_ptr<bool> Given;
+    void operator()(CChartHistRequest* request) const
+    {
+        if (*Given)
+            delete request;
+    }
+};
+
 struct sEntry
 {
     RequestPtr Request;
+    std::shared_ptr<bool> Given = std::make_shared<bool>(false);
     bool Sent = false; // a command has gone out, so that lines may name it
 };
 
 class CRequestTable
 {
 public:
-    void Add(const RequestPtr& request)
+    RequestPtr Enter(CChartHistRequest& request)
     {
         CLockGuard guard(m_lock);
-        m_entries[request->Handle()].Request = request;
+        return EntryOf(request).Request;
     }
 
     RequestPtr Find(std::int32_t handle)
@@ -29,37 +42,40 @@ public:
         return found == m_entries.end() ? nullptr : found->second.Request;
     }
 
-    // Marking dead and looking at Complete is one step against End, so that exactly one side frees.
-    RequestPtr GiveUp(CChartHistRequest& request)
+    // Marking dead and looking at Complete is one step against End, so that exactly one side frees. Returns
+    // what is to be let go outside the lock.
+    RequestPtr GiveUp(std::unique_ptr<CChartHistRequest> request)
     {
         CLockGuard guard(m_lock);
-        request.MarkDead();
-        const auto found = m_entries.find(request.Handle());
-        if (found == m_entries.end() || (found->second.Sent && !request.IsComplete()))
-            return nullptr;
-        return Take(found);
+        request->MarkDead();
+        sEntry& entry = EntryOf(*request);
+        *entry.Given = true;
+        const CChartHistRequest* const given = request.release();
+        return entry.Sent && !given->IsComplete() ? nullptr : Take(given->Handle());
     }
 
     void Begin(CChartHistRequest& request)
     {
         CLockGuard guard(m_lock);
         request.SetComplete(false);
-        const auto found = m_entries.find(request.Handle());
-        if (found != m_entries.end())
-            found->second.Sent = true;
+        EntryOf(request).Sent = true;
     }
 
     bool End(CChartHistRequest& request, RequestPtr& freed)
     {
         CLockGuard guard(m_lock);
-        if (request.IsAlive()) {
-            request.SetComplete(true);
-            return true;
+        if (!request.IsAlive()) {
+            freed = Take(request.Handle());
+            return false;
         }
-        const auto found = m_entries.find(request.Handle());
-        if (found != m_entries.end())
-            freed = Take(found);
-        return false;
+        request.SetComplete(true);
+        return true;
+    }
+
+    RequestPtr Forget(std::int32_t handle)
+    {
+        CLockGuard guard(m_lock);
+        return Take(handle);
     }
 
     int Count()
@@ -69,17 +85,26 @@ public:
     }
 
 private:
-    using Entries = std::unordered_map<std::int32_t, sEntry>;
-
-    RequestPtr Take(Entries::iterator entry) REQUIRES(m_lock)
+    RequestPtr Take(std::int32_t handle) REQUIRES(m_lock)
     {
+        const auto entry = m_entries.find(handle);
+        if (entry == m_entries.end())
+            return nullptr;
         RequestPtr request = std::move(entry->second.Request);
         m_entries.erase(entry);
         return request;
     }
 
+    sEntry& EntryOf(CChartHistRequest& request) REQUIRES(m_lock)
+    {
+        sEntry& entry = m_entries[request.Handle()];
+        if (!entry.Request)
+            entry.Request = RequestPtr(&request, sFreeIfGiven{entry.Given});
+        return entry;
+    }
+
     CLock m_lock;
-    Entries m_entries GUARDED_BY(m_lock);
+    std::unordered_map<std::int32_t, sEntry> m_entries GUARDED_BY(m_lock);
 };
 
 // Never destroyed: a worker may still look up handles while the process ends.
@@ -91,11 +116,9 @@ CRequestTable& Table()
 
 } // namespace
 
-RequestPtr CreateRequest()
+RequestPtr EnterRequest(CChartHistRequest& request)
 {
-    RequestPtr request = std::make_shared<CChartHistRequest>();
-    Table().Add(request);
-    return request;
+    return Table().Enter(request);
 }
 
 RequestPtr FindRequest(std::int32_t handle)
@@ -103,13 +126,10 @@ RequestPtr FindRequest(std::int32_t handle)
     return Table().Find(handle);
 }
 
-void GiveUpRequest(RequestPtr& request)
+void GiveUpRequest(std::unique_ptr<CChartHistRequest> request)
 {
-    if (!request)
-        return;
-    // Freed here, outside the table's lock.
-    const RequestPtr freed = Table().GiveUp(*request);
-    request.reset();
+    if (request)
+        Table().GiveUp(std::move(request));
 }
 
 void BeginReply(CChartHistRequest& request)
@@ -124,6 +144,11 @@ bool EndReply(CChartHistRequest& request)
     if (freed)
         freed->ClearSeries();
     return complete;
+}
+
+void ForgetRequest(std::int32_t handle)
+{
+    Table().Forget(handle);
 }
 
 int CountRequests()

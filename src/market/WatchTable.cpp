@@ -33,7 +33,7 @@ void CWatchTable::Add(std::string_view symbol, const RequestPtr& request)
     watch->Requests.push_back(request);
 }
 
-CWatchTable::Removal CWatchTable::Remove(std::string_view symbol, const RequestPtr& request)
+CWatchTable::Removal CWatchTable::Remove(std::string_view symbol, const CChartHistRequest& request)
 {
     CLockGuard guard(m_lock);
     Bucket& bucket = BucketOf(symbol);
@@ -42,8 +42,9 @@ CWatchTable::Removal CWatchTable::Remove(std::string_view symbol, const RequestP
         return Removal::NotWatched;
     auto& requests = watch->Requests;
     const auto found =
-        std::find_if(requests.begin(), requests.end(),
-                     [&](const std::weak_ptr<CChartHistRequest>& entry) { return entry.lock() == request; });
+        std::find_if(requests.begin(), requests.end(), [&](const std::weak_ptr<CChartHistRequest>& entry) {
+            return entry.lock().get() == &request;
+        });
     if (found != requests.end())
         requests.erase(found);
     if (!requests.empty())

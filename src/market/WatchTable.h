@@ -30,7 +30,7 @@ public:
         LastOne
     };
     // Removes the first entry of the request; the symbol goes with its last entry.
-    Removal Remove(std::string_view symbol, const RequestPtr& request);
+    Removal Remove(std::string_view symbol, const CChartHistRequest& request);
 
     // The symbol's requests in the order in which they were added, null for one that is gone; false for a
     // symbol that nobody watches. The vector is overwritten.
