@@ -1,0 +1,171 @@
+#include "Commands.h"
+
+#include "WholeFile.h"
+#include "settings/SettingsExchange.h"
+
+#include <iostream>
+
+namespace zantroq {
+namespace {
+
+// Standard output may be a full disk or a closed pipe; only the flush tells.
+int Print(const std::string& text)
+{
+    std::cout.write(text.data(), static_cast<std::streamsize>(text.size())).flush();
+    if (std::cout)
+        return ExitDone;
+    Complain("the output could not be written; check where standard output goes");
+    return ExitNotWritten;
+}
+
+std::string Quoted(const std::string& text)
+{
+    return "\"" + text + "\"";
+}
+
+void SayIfMissing(const CSettingsFile& file)
+{
+    if (!file.Exists())
+        Complain(file.Path() +
+                 ": no settings file yet, so nothing is stored and the chart runs on its defaults; the first "
+                 "write makes it");
+}
+
+int NotThere(const CSettingsFile& file, const std::string& key, const std::string& name)
+{
+    if (file.Exists())
+        Complain(Quoted(name) + " is not stored under " + key + " in " + file.Path() +
+                 "; zantroq-settings list shows what is");
+    else
+        Complain(Quoted(name) + " is not stored: there is no settings file at " + file.Path() + " yet");
+    return ExitNotThere;
+}
+
+} // namespace
+
+void Complain(const std::string& sentence)
+{
+    std::cerr << "zantroq-settings: " << sentence << std::endl;
+}
+
+int ListValues(CSettingsFile& file, const std::string& key, bool asJson)
+{
+    const SettingValues values = file.List(key);
+    SayIfMissing(file);
+    if (asJson) {
+        SettingsTree tree;
+        if (!values.empty())
+            tree[key] = values;
+        try {
+            return Print(FormatSettings(tree));
+        } catch (const CSettingsFormatError& error) {
+            Complain(error.what());
+            return ExitNotWritten;
+        }
+    }
+    std::string lines;
+    for (const auto& [name, value] : values)
+        lines += ListingLine(name, value) + "\n";
+    return Print(lines);
+}
+
+int GetValue(CSettingsFile& file, const std::string& key, const std::string& name)
+{
+    const auto value = file.Read(key, name);
+    return value ? Print(ValueText(*value) + "\n") : NotThere(file, key, name);
+}
+
+int SetValue(CSettingsFile& file, const std::string& key, const std::string& name, const std::string& value,
+             const std::string& type)
+{
+    // What could not be exported again is better refused here than found out there.
+    for (const std::string& text : {key, name, value}) {
+        if (!IsUtf8(text)) {
+            Complain("the key, the name or the value is not UTF-8; type it in a UTF-8 terminal");
+            return ExitUsage;
+        }
+    }
+    try {
+        file.Write(key, name, ValueFromText(type, value));
+        return ExitDone;
+    } catch (const CSettingsFormatError& error) {
+        Complain("set " + Quoted(name) + ": " + error.what());
+        return ExitUsage;
+    }
+}
+
+int DeleteValue(CSettingsFile& file, const std::string& key, const std::string& name)
+{
+    return file.Delete(key, name) ? ExitDone : NotThere(file, key, name);
+}
+
+int ExportValues(CSettingsFile& file, const std::optional<std::string>& key, const std::string& target)
+{
+    SettingsTree tree;
+    if (!key) {
+        tree = file.ReadAll();
+    } else if (auto values = file.List(*key); !values.empty()) {
+        tree[*key] = std::move(values);
+    }
+    SayIfMissing(file);
+    try {
+        const std::string text = FormatSettings(tree);
+        if (target == "-")
+            return Print(text);
+        if (const std::string wrong = WriteWholeFile(target, text); !wrong.empty()) {
+            Complain(target + ": the export could not be written (" + wrong + "); choose another file");
+            return ExitNotWritten;
+        }
+        return ExitDone;
+    } catch (const CSettingsFormatError& error) {
+        Complain(target + ": the export was not written: " + error.what());
+        return ExitNotWritten;
+    }
+}
+
+int ImportValues(CSettingsFile& file, const std::optional<std::string>& key, const std::string& source)
+{
+    std::string text;
+    const std::string origin = source == "-" ? "standard input" : source;
+    if (const std::string wrong = ReadWholeFile(source, text); !wrong.empty()) {
+        Complain(origin + ": the file to import cannot be read (" + wrong + "); nothing was changed");
+        return ExitUsage;
+    }
+    try {
+        SettingsTree tree = ParseSettings(text);
+        if (key)
+            std::erase_if(tree, [&](const auto& entry) { return entry.first != *key; });
+        if (key && tree.empty()) {
+            Complain(origin + ": the file holds no key " + *key + "; nothing was changed");
+            return ExitUsage;
+        }
+        file.WriteAll(tree);
+        return ExitDone;
+    } catch (const CSettingsFormatError& error) {
+        Complain(origin + ": not a settings export: " + error.what() + "; nothing was changed");
+        return ExitUsage;
+    }
+}
+
+int ResetKey(CSettingsFile& file, const std::string& key, bool confirmed)
+{
+    const std::size_t count = file.List(key).size();
+    if (count == 0) {
+        SayIfMissing(file);
+        return ExitDone;
+    }
+    if (!confirmed) {
+        std::cerr << "Remove all " << count << " values of " << key << " from " << file.Path()
+                  << "? Type yes to go on: " << std::flush;
+        std::string answer;
+        std::cin >> answer;
+        if (answer != "yes") {
+            Complain("reset was not confirmed with the word yes, so nothing was removed");
+            return ExitNotThere;
+        }
+    }
+    file.DeleteAll(key);
+    return ExitDone;
+}
+
+} // namespace zantroq

@@ -1,0 +1,31 @@
+// Where a top-level window stood, by its title. Lives on the chart window's thread.
+#pragma once
+
+#include "platform/SettingsKey.h"
+#include "platform/WindowServices.h"
+
+#include <string>
+
+namespace zantroq {
+
+struct sWindowPosition
+{
+    sWindowRect Rect{0, 0, 620, 460}; // restored size, in screen pixels
+    bool Maximized = false;
+    bool operator==(const sWindowPosition&) const = default;
+};
+
+// "RectPosition." + title: 16 bytes, four signed 32-bit numbers with the low byte first: left, top, right,
+// bottom.
+std::string WindowRectName(const std::string& title);
+// The same + ".Maximized": a number, 1 when the window was maximized.
+std::string WindowMaximizedName(const std::string& title);
+
+// A missing rectangle, or one that is not 16 bytes, is 0, 0, 620, 460; a missing flag means not maximized.
+sWindowPosition LoadWindowPosition(ISettingsKey& key, const std::string& title);
+
+void SaveWindowPosition(ISettingsKey& key, const std::string& title, const sWindowPosition& position);
+// The window's restored rectangle and state under its current title.
+void SaveWindowPosition(ISettingsKey& key, const ITopLevelWindow& window);
+
+} // namespace zantroq
