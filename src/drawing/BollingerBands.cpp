@@ -1,0 +1,65 @@
+#include "drawing/BollingerBands.h"
+
+#include "drawing/Lanes.h"
+#include "drawing/PaneObjects.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace zantroq {
+
+namespace {
+
+// squares[k] is the sum of (values[k + j] - middle[k]) squared over j from 0 to length - 1, in that order.
+void SquareSums(const double* values, int length, std::span<const double> middle, std::span<double> squares)
+{
+    const std::size_t count = squares.size();
+    std::size_t k = 0;
+    for (; k + LaneBlock <= count; k += LaneBlock) {
+        Lanes sum[LaneParts] = {};
+        Lanes centre[LaneParts];
+        for (std::size_t part = 0; part < LaneParts; ++part)
+            centre[part] = LoadLanes(middle.data() + k + part * LaneWidth);
+        for (int j = 0; j < length; ++j)
+            for (std::size_t part = 0; part < LaneParts; ++part) {
+                const Lanes distance =
+                    LoadLanes(values + k + static_cast<std::size_t>(j) + part * LaneWidth) - centre[part];
+                sum[part] += distance * distance;
+            }
+        for (std::size_t part = 0; part < LaneParts; ++part)
+            StoreLanes(squares.data() + k + part * LaneWidth, sum[part]);
+    }
+    for (; k < count; ++k) {
+        double sum = 0;
+        for (int j = 0; j < length; ++j) {
+            const double distance = values[k + static_cast<std::size_t>(j)] - middle[k];
+            sum += distance * distance;
+        }
+        squares[k] = sum;
+    }
+}
+
+} // namespace
+
+void BollingerBands(const sCloseRun& closes, int first, int period, double deviations,
+                    std::span<double> lower, std::span<double> upper, std::span<double> middle)
+{
+    SimpleAverages(closes, first, period, middle);
+    const int end = first + static_cast<int>(middle.size());
+    const int index = period < 1 ? end : std::clamp(period, first, end); // the first with a value
+    const auto holes = static_cast<std::size_t>(index - first);
+    std::fill_n(lower.begin(), holes, CPaneData::HoleValue());
+    std::fill_n(upper.begin(), holes, CPaneData::HoleValue());
+    if (holes == middle.size())
+        return;
+    SquareSums(closes.Values.data() + (index - period + 1 - closes.First), period, middle.subspan(holes),
+               upper.subspan(holes));
+    const double divisor = period;
+    for (std::size_t k = holes; k < middle.size(); ++k) {
+        const double deviation = std::sqrt(upper[k] / divisor);
+        upper[k] = middle[k] + deviations * deviation;
+        lower[k] = middle[k] - deviations * deviation;
+    }
+}
+
+} // namespace zantroq

@@ -1,0 +1,47 @@
+// The texts that tell about one point: the readout under the mouse and the parts of the price pane's title.
+// Averages, bands and studies are read from what the panes show, prices come in as a record. Chart window's
+// thread.
+#pragma once
+
+#include "drawing/PaneObjects.h"
+#include "drawing/PriceFormatter.h"
+#include "market/HistoryRecords.h"
+
+#include <string>
+
+namespace zantroq {
+
+// How a series' prices are written: by its format code, or plainly while it has none (code 0).
+struct sPriceWords
+{
+    const IPriceFormatter& Formatter;
+    int Code = 0;
+    bool Plain() const { return Code == 0; }
+    std::string Info(double price) const;    // in titles
+    std::string Readout(double price) const; // in the readout
+    std::string Axis(double price) const;    // at the value axis
+};
+
+// "Price: %s", or "Hi: %s, Low: %s, Open: %s, Close: %s". While the series has no format code the four places
+// of a bar all show its high.
+std::string ReadoutPrices(const sPriceWords& words, int dataType, const sHIST_DATA& point);
+std::string ReadoutVolume(std::int64_t volume); // empty for 0 and less
+std::string ReadoutTime(int dataType, const std::string& time);
+std::string ReadoutAverages(const sOverlaySettings& settings, const CPaneData& overlays, int point);
+std::string ReadoutBands(const sOverlaySettings& settings, const CPaneData& overlays, int point);
+// A line that opens with a newline; empty where the study's first series has no value at the point.
+std::string ReadoutStudy(int kind, const CPaneData& values, int point, bool fastStochastics);
+
+// Whether the price pane shows averages: the bands take their place.
+inline bool ShowsAverages(const sOverlaySettings& settings)
+{
+    return settings.ShowAverages != 0 && settings.ShowBands == 0;
+}
+
+// The last two texts of the title.
+std::string InfoAverages(const sPriceWords& words, const sOverlaySettings& settings,
+                         const CPaneData& overlays, int point);
+std::string InfoBands(const sPriceWords& words, const sOverlaySettings& settings, const CPaneData& overlays,
+                      int point);
+
+} // namespace zantroq

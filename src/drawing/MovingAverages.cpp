@@ -1,0 +1,76 @@
+#include "drawing/MovingAverages.h"
+
+#include "drawing/Lanes.h"
+#include "drawing/PaneObjects.h"
+
+#include <algorithm>
+
+namespace zantroq {
+
+namespace {
+
+// The part of out from index `from` on, after the rest was filled with holes.
+std::span<double> ValuesFrom(int from, int first, std::span<double> out)
+{
+    const int holes = std::clamp(from - first, 0, static_cast<int>(out.size()));
+    std::fill_n(out.begin(), holes, CPaneData::HoleValue());
+    return out.subspan(static_cast<std::size_t>(holes));
+}
+
+} // namespace
+
+int FirstCloseNeeded(int first, int period)
+{
+    return static_cast<int>(
+        std::clamp<long long>(static_cast<long long>(first) - period, 0, std::max(first, 0)));
+}
+
+void WindowSums(const double* values, int length, std::span<double> sums)
+{
+    const std::size_t count = sums.size();
+    std::size_t k = 0;
+    for (; k + LaneBlock <= count; k += LaneBlock) {
+        Lanes sum[LaneParts] = {};
+        for (int j = 0; j < length; ++j)
+            for (std::size_t part = 0; part < LaneParts; ++part)
+                sum[part] += LoadLanes(values + k + static_cast<std::size_t>(j) + part * LaneWidth);
+        for (std::size_t part = 0; part < LaneParts; ++part)
+            StoreLanes(sums.data() + k + part * LaneWidth, sum[part]);
+    }
+    for (; k < count; ++k) {
+        double sum = 0;
+        for (int j = 0; j < length; ++j)
+            sum += values[k + static_cast<std::size_t>(j)];
+        sums[k] = sum;
+    }
+}
+
+void SimpleAverages(const sCloseRun& closes, int first, int period, std::span<double> out)
+{
+    const int end = first + static_cast<int>(out.size());
+    const std::span<double> values = ValuesFrom(period < 1 ? end : period, first, out);
+    if (values.empty())
+        return;
+    const int index = end - static_cast<int>(values.size());
+    WindowSums(closes.Values.data() + (index - period + 1 - closes.First), period, values);
+    const double divisor = period;
+    for (double& value : values)
+        value = value / divisor;
+}
+
+void ExponentialAverages(const sCloseRun& closes, int first, int period, std::span<double> out)
+{
+    const int end = first + static_cast<int>(out.size());
+    const std::span<double> values = ValuesFrom(period < 1 || period >= end ? end : period + 1, first, out);
+    if (values.empty())
+        return;
+    const int index = end - static_cast<int>(values.size());
+    WindowSums(closes.Values.data() + (index - period - closes.First), period, values);
+    const double divisor = period;
+    const double weight = 2.0 / (period + 1.0);
+    const double* close = closes.Values.data() + (index - closes.First);
+    for (std::size_t k = 0; k < values.size(); ++k)
+        values[k] = weight * close[k] + (1.0 - weight) * (values[k] / divisor);
+}
+
+} // namespace zantroq

@@ -1,0 +1,45 @@
+// What every pane looks like at the start of a chart, and the two switches that change all panes alike: the
+// side of the value axis and the grid. Chart window's thread.
+#pragma once
+
+#include "drawing/Chart2D.h"
+#include "settings/ChartSettings.h"
+
+namespace zantroq {
+
+inline constexpr int PlotTopPx = 17, PlotBottomPx = 4, PricePlotBottomPx = 31;
+inline constexpr int LabelledMarginPx = 58, BareMarginPx = 23;
+inline constexpr Colour TitleForeground = 0xFFFFFF, TitleBackground = 0x232323;
+
+// A study pane: its only label is the title, one empty series in each group, value axes from 1 to 2, an x
+// axis for the points list's entry, margins by the side of the value axis, the colours of the study of that
+// kind (no kind: those of the price pane).
+void SetUpStudyPane(CChart2D& chart, const sChartSettings& settings, int kind);
+
+// The axes, margins, marker and colours alone, as the price pane needs them too; labelColour is that of axis
+// texts.
+void SetUpPaneFrame(CChart2D& chart, const sChartSettings& settings, int bottomPx, Colour labelColour);
+
+// Both value axes from 1 to 2 with a spacing of 15.
+void SetUpValueAxes(CChart2D& chart);
+
+// A new title label behind those that are there: white on dark grey, at the pane's top left, hidden while it
+// has no text.
+CPaneLabel& AddTitleLabel(CChart2D& chart);
+
+// A new hidden label with the look that trendline texts start from.
+CPaneLabel& AddPlainLabel(CChart2D& chart, const sChartSettings& settings);
+
+// Which value axis is drawn, and the margins that go with it.
+void SetAxisSide(CChart2D& chart, AxisSide side);
+
+// The same at a change of the setting: each label of the side given up goes over with its value and text.
+void MoveValueAxis(CChart2D& chart, AxisSide side);
+
+// Grid lines in the style of the settings at each label of the x axis and of the left value axis, or none.
+void SetGrid(CChart2D& chart, const sChartSettings& settings);
+
+// The colour of axis texts of a study pane.
+Colour StudyLabelColour(const sChartSettings& settings, int kind);
+
+} // namespace zantroq

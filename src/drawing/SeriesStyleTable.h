@@ -1,0 +1,53 @@
+// The looks that series start from: ten rows of line, fill and symbol, whose colours are then taken from the
+// settings.
+#pragma once
+
+#include "drawing/PaneObjects.h"
+#include "settings/ChartSettings.h"
+
+#include <array>
+
+namespace zantroq {
+
+struct sSeriesLook
+{
+    int LinePattern = LineSolid;
+    int FillPattern = 2;
+    Colour Color = 0;
+    int Width = 1;
+    int Shape = SymbolNone;
+    Colour StoredSymbolColor = 0; // kept, without effect: a symbol is drawn in Color
+    int SymbolSize = 1;
+    bool operator==(const sSeriesLook&) const = default;
+};
+
+enum StyleRow : int
+{
+    PriceStyle = 0,
+    AverageStyle = 1,
+    BandStyle = 4,
+    StudyLineStyle = 5,
+    StudyMainStyle = 7,
+    GridShortDashes = 8,
+    GridLine = 9,
+    StyleRows = 10
+};
+
+using SeriesStyleTable = std::array<sSeriesLook, StyleRows>;
+
+// The table as it is without settings.
+const SeriesStyleTable& DefaultSeriesStyles();
+
+// The table with the colours of price, averages, bands and both grid rows overwritten.
+SeriesStyleTable SeriesStyles(const sChartSettings& settings);
+
+// Gives a series a look: all but the stored symbol colour.
+void ApplyLook(CSeriesStyle& style, const sSeriesLook& look);
+
+// The row for the grid by the setting "GRID STYLE".
+inline int GridRow(const sChartSettings& settings)
+{
+    return settings.GridStyle == 1 ? GridLine : GridShortDashes;
+}
+
+} // namespace zantroq

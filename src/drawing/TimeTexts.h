@@ -1,0 +1,25 @@
+// The date and time of a point as texts. Wall-clock times as the feed printed them, "C" locale. Pure
+// functions, any thread.
+#pragma once
+
+#include "platform/CalendarTime.h"
+
+#include <string>
+
+namespace zantroq {
+
+// What the texts read where there is no point at all.
+inline constexpr const char* NoDateText = "1900/01/01";
+inline constexpr const char* NoTimeText = "00:00:00";
+
+std::string PointDateText(const sTIME_W_MILLISECONDS& time); // "2014/01/02"
+
+// Ticks "09:30:01", with milliseconds "09:30:01.250"; minutes "09:30:01"; daily, weekly, monthly the date.
+// dataType is a DataType.
+std::string PointTimeText(const sTIME_W_MILLISECONDS& time, int dataType, bool withMilliseconds);
+
+std::string ClockText(const sTIME_W_MILLISECONDS& time);             // "09:30:01"
+std::string ClockMillisecondsText(const sTIME_W_MILLISECONDS& time); // "09:30:01.250"
+std::string MinuteTimeText(const sTIME_W_MILLISECONDS& time);        // "09:30:01min"
+
+} // namespace zantroq
