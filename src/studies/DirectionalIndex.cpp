@@ -1,0 +1,152 @@
+#include "studies/DirectionalIndex.h"
+
+#include "studies/StudyArrays.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace zantroq {
+
+namespace {
+
+struct sMoves
+{
+    double TrueRange, Plus, Minus;
+};
+
+class CBars
+{
+public:
+    CBars(const IPriceSource& prices, std::int64_t from, std::int64_t to)
+        : m_high(prices, &IPriceSource::ReadHigh, from, to),
+          m_low(prices, &IPriceSource::ReadLow, from, to),
+          m_close(prices, &IPriceSource::ReadClose, from, to)
+    {
+    }
+
+    sMoves MovesAt(std::int64_t j) const
+    {
+        const double high = m_high[j], low = m_low[j], closeBefore = m_close[j - 1];
+        double range = std::fabs(high - low);
+        if (const double up = std::fabs(closeBefore - high); up > range)
+            range = up;
+        if (const double down = std::fabs(closeBefore - low); down > range)
+            range = down;
+        // Absolute differences: falling highs count as upward movement.
+        const double a = std::fabs(high - m_high[j - 1]), b = std::fabs(low - m_low[j - 1]);
+        return {range, a <= b ? 0.0 : a, b <= a ? 0.0 : b};
+    }
+
+private:
+    CPriceBlock m_high, m_low, m_close;
+};
+
+struct sDirection
+{
+    double AvgTR = 0, AvgPlus = 0, AvgMinus = 0, Adx = 0, PlusDI = 0, MinusDI = 0;
+
+    void Step(const sMoves& moves, double k)
+    {
+        AvgTR = (moves.TrueRange - AvgTR) * k + AvgTR;
+        AvgPlus = (moves.Plus - AvgPlus) * k + AvgPlus;
+        AvgMinus = (moves.Minus - AvgMinus) * k + AvgMinus;
+        TakeIndicators();
+    }
+    void TakeIndicators()
+    {
+        PlusDI = AvgPlus * 100 / AvgTR;
+        MinusDI = AvgMinus * 100 / AvgTR;
+    }
+    double DX() const { return std::fabs((PlusDI - MinusDI) * 100 / (MinusDI + PlusDI)); }
+    void SmoothADX(double k) { Adx = (DX() - Adx) * k + Adx; }
+};
+
+// The computation from the start of the series. It moves on with the index asked for, since the values at one
+// index are a step from those at the index before.
+class CFullADX
+{
+public:
+    CFullADX(const CBars& bars, std::int64_t period)
+        : m_bars(bars), m_period(period), m_k(1.0 / static_cast<double>(period))
+    {
+    }
+
+    // The step stops one point short of an index below twice the period.
+    void MoveTo(std::int64_t index)
+    {
+        if (m_next == 0)
+            SeedAverages();
+        const std::int64_t seedEnd = 2 * m_period, last = index < seedEnd ? index - 1 : index;
+        for (; m_next <= last && m_next <= seedEnd; ++m_next) {
+            Now.Step(m_bars.MovesAt(m_next), m_k);
+            m_sum += Now.DX();
+            if (m_next == seedEnd)
+                Now.Adx = m_sum / static_cast<double>(m_period);
+        }
+        for (; m_next <= last; ++m_next) {
+            Now.Step(m_bars.MovesAt(m_next), m_k);
+            Now.SmoothADX(m_k);
+        }
+    }
+    sDirection Now;
+
+private:
+    void SeedAverages()
+    {
+        for (std::int64_t j = 1; j <= m_period; ++j) {
+            const sMoves moves = m_bars.MovesAt(j);
+            Now.AvgTR += moves.TrueRange;
+            Now.AvgPlus += moves.Plus;
+            Now.AvgMinus += moves.Minus;
+        }
+        const auto divisor = static_cast<double>(m_period);
+        Now.AvgTR /= divisor;
+        Now.AvgPlus /= divisor;
+        Now.AvgMinus /= divisor;
+        Now.TakeIndicators();
+        m_next = m_period + 1;
+    }
+
+    const CBars& m_bars;
+    std::int64_t m_period;
+    double m_k;
+    std::int64_t m_next = 0; // the next index to take in; 0 before the seed
+    double m_sum = 0;
+};
+
+} // namespace
+
+void ComputeADX(const IPriceSource& prices, std::int64_t index, int count, std::int32_t period,
+                sADXRunningState& state, double* plusDI, double* minusDI, double* adx)
+{
+    const std::int64_t end = std::min<std::int64_t>(index + count, std::int64_t{prices.Count()} + 2);
+    const std::int64_t from = std::max<std::int64_t>(period, index);
+    if (period < 1 || from >= end)
+        return;
+    const bool continues = from - 1 == state.Index;
+    const CBars bars(prices, continues ? from - 1 : 0, end);
+    const double k = 1.0 / static_cast<double>(period);
+    CFullADX full(bars, period);
+    for (std::int64_t i = from; i < end; ++i) {
+        sDirection now;
+        bool hasADX = true, finished = true;
+        if (i - 1 == state.Index) {
+            now = {state.AvgTR, state.AvgPlus, state.AvgMinus, state.Adx, 0, 0};
+            now.Step(bars.MovesAt(i), k);
+            now.SmoothADX(k);
+        } else {
+            full.MoveTo(i);
+            now = full.Now;
+            hasADX = i >= 2 * std::int64_t{period};
+            finished = i > 2 * std::int64_t{period};
+        }
+        plusDI[i - index] = now.PlusDI;
+        minusDI[i - index] = now.MinusDI;
+        if (hasADX)
+            adx[i - index] = now.Adx;
+        if (finished)
+            state = {static_cast<std::int32_t>(i), now.AvgTR, now.AvgPlus, now.AvgMinus, now.Adx};
+    }
+}
+
+} // namespace zantroq

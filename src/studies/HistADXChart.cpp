@@ -1,0 +1,49 @@
+#include "studies/HistADXChart.h"
+
+namespace zantroq {
+
+sADXRunningState& CHistADXChart::StudyRunningState()
+{
+    static sADXRunningState state;
+    return state;
+}
+
+void CHistADXChart::CalcADX(int index, double& plusDI, double& minusDI, double& adx)
+{
+    ComputeADX(*prices, index, 1, Period(), StudyRunningState(), &plusDI, &minusDI, &adx);
+}
+
+std::vector<sStudyLine> CHistADXChart::Lines() const
+{
+    return {{1, 1, DataColour()},
+            {1, 2, StudySettings().AdxPositiveColor},
+            {1, 3, StudySettings().AdxNegativeColor}};
+}
+
+void CHistADXChart::Compute(std::int64_t index, int count, std::span<double* const> out)
+{
+    ComputeADX(*prices, index, count, Period(), StudyRunningState(), out[1], out[2], out[0]);
+}
+
+void CHistADXChart::FitDrawnAxis(CLineValues values)
+{
+    sValueRange range{0, 100};
+    for (const std::span<const double> line : values)
+        range.Widen(line);
+    SetStudyYAxis(*chart, AxisLook(), range.Max, range.Min);
+    if (dlg->Settings().Grid != 0)
+        ValueAxis().AxisGrid().SetSpacing(25); // whatever spacing the axis took
+}
+
+std::string CHistADXChart::HeadText() const
+{
+    return "ADX, Smoothing period - " + std::to_string(Period());
+}
+
+std::string CHistADXChart::MarkedText(int point) const
+{
+    return ValueText(" ADX: ", 1, point, 4) + ValueText(" +DI: ", 2, point, 4) +
+           ValueText(" -DI: ", 3, point, 4);
+}
+
+} // namespace zantroq

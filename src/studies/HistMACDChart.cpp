@@ -1,0 +1,72 @@
+#include "studies/HistMACDChart.h"
+
+#include "studies/Hole.h"
+
+#include <algorithm>
+
+namespace zantroq {
+
+sMACDRunningState& CHistMACDChart::StudyRunningState()
+{
+    static sMACDRunningState state;
+    return state;
+}
+
+sMACDPeriods CHistMACDChart::Periods() const
+{
+    return {StudySettings().MacdShort, StudySettings().MacdLong, Period()};
+}
+
+void CHistMACDChart::CalcMACD(int index, double& macd, double& signal)
+{
+    ComputeMACD(*prices, index, 1, Periods(), StudyRunningState(), &macd, &signal);
+}
+
+std::vector<sStudyLine> CHistMACDChart::Lines() const
+{
+    return {{1, 1, DataColour()},
+            {1, 2, StudySettings().MacdSignalColor},
+            {2, 1, StudySettings().MacdHistogramColor}};
+}
+
+void CHistMACDChart::Compute(std::int64_t index, int count, std::span<double* const> out)
+{
+    double *macd = out[0], *signal = out[1], *histogram = out[2];
+    ComputeMACD(*prices, index, count, Periods(), StudyRunningState(), macd, signal);
+    for (int i = 0; i < count; ++i)
+        histogram[i] = IsHole(signal[i]) ? StudyHole : macd[i] - signal[i];
+}
+
+void CHistMACDChart::FitDrawnAxis(CLineValues values)
+{
+    sValueRange range{0, 0};
+    for (const std::span<const double> line : values)
+        range.Widen(line);
+    chart->PaneArea().PaneAxes().Y().SetSetting21(0);
+    SetStudyYAxis(*chart, AxisLook(), range.Max, range.Min);
+    AdjustStudyBars();
+}
+
+void CHistMACDChart::AdjustStudyBars()
+{
+    chart->PaneArea().BarLook().SetBarWidth(std::max(1, static_cast<int>(PixelsPerPoint())));
+}
+
+std::string CHistMACDChart::HeadText() const
+{
+    const sMACDPeriods p = Periods();
+    const char* name = "custom";
+    if (p.Short == 8 && p.Long == 17 && p.Signal == 9)
+        name = "buy";
+    else if (p.Short == 12 && p.Long == 25 && p.Signal == 9)
+        name = "sell";
+    return std::string("MACD (") + name + "), periods: short - " + std::to_string(p.Short) + ", long - " +
+           std::to_string(p.Long) + ", signal smoothing - " + std::to_string(p.Signal);
+}
+
+std::string CHistMACDChart::MarkedText(int point) const
+{
+    return ValueText(" MACD: ", 1, point, 4) + ValueText(" Signal: ", 2, point, 4);
+}
+
+} // namespace zantroq

@@ -1,0 +1,52 @@
+#include "studies/HistMFChart.h"
+
+#include "studies/Hole.h"
+#include "studies/MoneyFlowArithmetic.h"
+
+namespace zantroq {
+
+void CHistMFChart::CalcMoneyFlow(int index, double& positive, double& negative) const
+{
+    ComputeMoneyFlow(*prices, index, 1, Period(), &positive, &negative);
+}
+
+std::vector<sStudyLine> CHistMFChart::Lines() const
+{
+    return {{1, 1, DataColour()},
+            {1, 2, StudySettings().MfPositiveColor},
+            {1, 3, StudySettings().MfNegativeColor}};
+}
+
+void CHistMFChart::Compute(std::int64_t index, int count, std::span<double* const> out)
+{
+    double *total = out[0], *positive = out[1], *negative = out[2];
+    const int left = ComputeMoneyFlow(*prices, index, count, Period(), positive, negative);
+    for (int i = left; i < count; ++i)
+        total[i] = IsHole(positive[i]) || IsHole(negative[i]) ? StudyHole : positive[i] + negative[i];
+}
+
+void CHistMFChart::FitDrawnAxis(CLineValues values)
+{
+    sValueRange range{-1000000.0, 1000000.0};
+    for (std::size_t i = 0; i < values[0].size(); ++i) {
+        if (IsHole(values[0][i]))
+            continue;
+        for (const std::span<const double> line : values)
+            range.Widen(line[i]);
+    }
+    ValueAxis().AxisOrigin().SetValue(0);
+    SetStudyYAxis(*chart, AxisLook(), range.Max, range.Min);
+}
+
+std::string CHistMFChart::HeadText() const
+{
+    return "Money Flow, lookback period - " + std::to_string(Period());
+}
+
+std::string CHistMFChart::MarkedText(int point) const
+{
+    return ValueText(" MF: ", 1, point, 0) + ValueText(" pos: ", 2, point, 0) +
+           ValueText(" neg: ", 3, point, 0);
+}
+
+} // namespace zantroq

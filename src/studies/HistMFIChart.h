@@ -1,0 +1,28 @@
+// Money flow index with two level lines, on a fixed axis of -0.5 to 100.5.
+//
+// Origin: Gene Quong and Avrum Soudack, "Volume-weighted RSI: money flow" (1989).
+// Formula, from the flows of the money flow pane: MFI = ((pos - neg) * 50) / (neg + pos) + 50, which is the
+// textbook's 100 * pos / (pos + neg) with another rounding.
+//
+// Differences from the textbook, all intended: the window has P + 1 terms; the first value is at index P + 1;
+// no flow at all, 0 / 0, is not a number and is drawn as nothing. A period below 1 has no values.
+#pragma once
+
+#include "studies/HistStudyChart.h"
+
+namespace zantroq {
+
+class CHistMFIChart : public CHistStudyChart
+{
+public:
+    double CalcMFI(int index) const; // the hole value where there is none
+
+protected:
+    std::vector<sStudyLine> Lines() const override;
+    void Compute(std::int64_t index, int count, std::span<double* const> out) override;
+    void FitDrawnAxis(CLineValues values) override;
+    std::string HeadText() const override;
+    std::string MarkedText(int point) const override;
+};
+
+} // namespace zantroq

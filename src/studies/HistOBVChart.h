@@ -1,0 +1,30 @@
+// On-balance volume of a window, with a zero line.
+//
+// Origin: Joseph E. Granville, "New Key to Stock Market Profits" (1963).
+// Formula: OBV(i) is the sum, over the last P bars up to i, of the bar's volume where its close is above the
+// close before, and of the volume taken away where it is below; an unchanged close adds nothing.
+//
+// Difference from the textbook, intended: the sum covers the last P bars and is not the running total from
+// the start of the data. The first value is at index P. A period of 0 or less sums nothing and gives 0 at
+// every point.
+#pragma once
+
+#include "studies/HistStudyChart.h"
+
+namespace zantroq {
+
+class CHistOBVChart : public CHistStudyChart
+{
+public:
+    double CalcOBV(int index) const; // the hole value where there is none
+
+protected:
+    std::vector<sStudyLine> Lines() const override;
+    void Compute(std::int64_t index, int count, std::span<double* const> out) override;
+    void FitDrawnAxis(CLineValues values) override;
+    void FitUpdatedAxis(CLineValues values) override { WidenAxis(values); }
+    std::string HeadText() const override;
+    std::string MarkedText(int point) const override;
+};
+
+} // namespace zantroq

@@ -1,0 +1,31 @@
+// Rate of change: the momentum as a percentage of the earlier close, drawn as bars.
+//
+// Origin: common to the technical literature; described by Martin J. Pring, "Technical Analysis Explained"
+// (1980). Formula: ROC(i) = (close(i) - close(i - P)) / close(i - P) * 100.
+//
+// Differences from the textbook, all intended:
+// - The first value is at index P + 1; index P has none, although it has a momentum.
+// - A close of 0 a period back gives a gap instead of an infinity.
+// - The stored colour of a 100 % line is kept, and no line is drawn.
+#pragma once
+
+#include "studies/HistStudyChart.h"
+
+namespace zantroq {
+
+class CHistROCChart : public CHistStudyChart
+{
+public:
+    double CalcROC(int index) const; // the hole value where there is none
+
+protected:
+    std::vector<sStudyLine> Lines() const override { return {{1, 1, DataColour()}}; }
+    int GroupChartType(int /*group*/) const override { return ChartBars; }
+    void Compute(std::int64_t index, int count, std::span<double* const> out) override;
+    void FitDrawnAxis(CLineValues values) override;
+    void FitUpdatedAxis(CLineValues values) override { WidenAxis(values); }
+    std::string HeadText() const override;
+    std::string MarkedText(int point) const override;
+};
+
+} // namespace zantroq

@@ -1,0 +1,255 @@
+#include "studies/HistStudyChart.h"
+
+#include "studies/Hole.h"
+#include "studies/StudyTexts.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+
+namespace zantroq {
+
+namespace {
+
+// The look of every study curve: a solid line of one pixel, a solid fill, no symbol.
+void SetLook(CSeriesStyle& style, Colour colour)
+{
+    style.LineLook().SetPattern(LineSolid);
+    style.LineLook().SetColour(colour);
+    style.LineLook().SetWidth(1);
+    style.FillLook().SetPattern(2);
+    style.FillLook().SetColour(colour);
+    style.SymbolLook().SetShape(SymbolNone);
+    style.SymbolLook().SetColour(colour);
+    style.SymbolLook().SetSize(1);
+}
+
+int SeriesOfGroup(const std::vector<sStudyLine>& lines, int group)
+{
+    return static_cast<int>(
+        std::count_if(lines.begin(), lines.end(), [&](const auto& line) { return line.Group == group; }));
+}
+
+int WholePart(double value)
+{
+    constexpr double limit = 2147483647.0;
+    return std::isnan(value) ? 0 : static_cast<int>(std::clamp(value, -limit, limit));
+}
+
+std::vector<std::span<const double>> Views(const std::vector<std::vector<double>>& values)
+{
+    return {values.begin(), values.end()};
+}
+
+} // namespace
+
+sStudyAxisLook CHistStudyChart::AxisLook() const
+{
+    return {dlg->Settings().ValueAxisSide(), dlg->Settings().Grid != 0};
+}
+
+void CHistStudyChart::PrepareGroups(int shown)
+{
+    chart->PaneInterior().SetForeground(LabelColour());
+    chart->PaneArea().Interior().SetForeground(LabelColour());
+    const std::vector<sStudyLine> lines = Lines();
+    for (const sStudyLine& line : lines)
+        SetLook(chart->PaneGroups(line.Group).SeriesStyles(line.Series), line.LineColour);
+    for (const int group : {1, 2}) {
+        const int series = SeriesOfGroup(lines, group);
+        if (series == 0)
+            continue;
+        CPaneGroup& paneGroup = chart->PaneGroups(group);
+        paneGroup.SetChartType(GroupChartType(group));
+        CPaneData& data = paneGroup.PaneData();
+        data.SetSeriesCount(series);
+        data.SetFirstShownSeries(1);
+        data.SetLastShownSeries(series);
+        data.SetPointCount(1, shown);
+        for (int i = 1; i <= series; ++i)
+            data.SetFirstPoint(i, 1);
+    }
+}
+
+void CHistStudyChart::FitXAxis(int shown)
+{
+    CPaneAxis& x = chart->PaneArea().PaneAxes().X();
+    x.ViewLow().SetValue(1);
+    x.DataLow().SetValue(1);
+    x.DataHigh().SetValue(shown);
+    x.ViewHigh().SetValue(shown + 0.5);
+    const int spacing = (shown - 2) / 5 + 1;
+    x.TickSpacing().SetValue(spacing);
+    x.TickMarkSpacing().SetValue(spacing);
+    if (dlg->Settings().Grid != 0)
+        x.AxisGrid().SetSpacing(spacing);
+}
+
+void CHistStudyChart::ComputeLines(std::int64_t index, std::vector<std::vector<double>>& values)
+{
+    std::vector<double*> out;
+    for (std::vector<double>& line : values)
+        out.push_back(line.data());
+    Compute(index, static_cast<int>(values.front().size()), out);
+}
+
+void CHistStudyChart::DrawStudy()
+{
+    const int first = dlg->Range().first, shown = dlg->Range().shown;
+    if (shown <= 0)
+        return;
+    PrepareGroups(shown);
+    FitXAxis(shown);
+
+    const std::vector<sStudyLine> lines = Lines();
+    const auto points = static_cast<std::size_t>(shown);
+    const auto computed =
+        std::count_if(lines.begin(), lines.end(), [](const auto& line) { return !line.Level; });
+    std::vector<std::vector<double>> values(static_cast<std::size_t>(computed),
+                                            std::vector<double>(points, StudyHole));
+    ComputeLines(std::int64_t{first} - DrawLag(), values);
+
+    std::vector<int> x(points);
+    std::iota(x.begin(), x.end(), 1);
+    auto next = values.begin();
+    for (const sStudyLine& line : lines) {
+        CPaneData& data = chart->PaneGroups(line.Group).PaneData();
+        if (line.Series == 1)
+            data.SetXVector(1, std::span<const int>(x));
+        if (line.Level)
+            data.SetYVector(line.Series, std::vector<double>(points, *line.Level));
+        else
+            data.SetYVector(line.Series, *next++);
+    }
+    for (const int group : {1, 2})
+        if (SeriesOfGroup(lines, group) > 0)
+            chart->PaneGroups(group).CommitPaneData();
+
+    FitDrawnAxis(Views(values));
+    RefreshStudyHeader();
+}
+
+CHistStudyChart::sUpdatePlan CHistStudyChart::MakeRoom(int newPoints)
+{
+    const std::vector<sStudyLine> lines = Lines();
+    const std::int64_t had = chart->PaneGroups(1).PaneData().PointCount(1);
+    const int entry = std::clamp(dlg->Range().ptsIndex, 0, static_cast<int>(DisplayMaxPoints.size()) - 1);
+    const std::int64_t cap = DisplayMaxPoints[static_cast<std::size_t>(entry)];
+    const std::int64_t drop = std::max<std::int64_t>(had + newPoints - cap, 0),
+                       kept = std::max<std::int64_t>(had - drop, 0);
+    // A pane that held more than the window's points keeps its size.
+    const std::int64_t points = newPoints > drop ? had - drop + newPoints : had;
+    CPaneAxis& x = chart->PaneArea().PaneAxes().X();
+    const int xLow = WholePart(x.ViewLow().Value()) + static_cast<int>(drop);
+    const int xHigh = xLow - 1 + static_cast<int>(points);
+
+    for (const sStudyLine& line : lines)
+        if (drop > 0 && kept > 0)
+            chart->PaneGroups(line.Group)
+                .PaneData()
+                .ShiftPoints(line.Series, static_cast<int>(kept), static_cast<int>(drop) + 1);
+    for (const int group : {1, 2})
+        if (SeriesOfGroup(lines, group) > 0)
+            chart->PaneGroups(group).PaneData().SetPointCount(1, static_cast<int>(points));
+
+    CPaneMarker& marker = chart->PaneArea().PaneMarkers("x");
+    if (marker.Point() != NoPoint)
+        marker.SetPoint(marker.Point() - (drop > 0 ? static_cast<int>(drop) : newPoints));
+
+    x.ViewLow().SetValue(xLow);
+    x.DataLow().SetValue(xLow);
+    x.ViewHigh().SetValue(xHigh + 0.5);
+    x.DataHigh().SetValue(xHigh + 0.5);
+
+    const int fresh = static_cast<int>(std::min<std::int64_t>(newPoints, points));
+    return {static_cast<int>(points), static_cast<int>(points) - fresh + 1, xLow - 1,
+            GetPointCount() - fresh};
+}
+
+void CHistStudyChart::WriteVolumeIntoLastPoint()
+{
+    CPaneData& data = chart->PaneGroups(1).PaneData();
+    data.SetPointY(1, data.PointCount(1), static_cast<double>(GetVolume(GetPointCount())));
+}
+
+void CHistStudyChart::UpdateStudy(int newPoints)
+{
+    if (newPoints == 0)
+        WriteVolumeIntoLastPoint(); // no live data leads here
+    if (newPoints <= 0)
+        return;
+    const sUpdatePlan plan = MakeRoom(newPoints);
+    const int fresh = plan.Points - plan.FirstNew + 1;
+    const std::vector<sStudyLine> lines = Lines();
+    const auto computed =
+        std::count_if(lines.begin(), lines.end(), [](const auto& line) { return !line.Level; });
+    std::vector<std::vector<double>> values(static_cast<std::size_t>(computed),
+                                            std::vector<double>(static_cast<std::size_t>(fresh), StudyHole));
+    ComputeLines(plan.FirstIndex, values);
+
+    auto next = values.begin();
+    for (const sStudyLine& line : lines) {
+        CPaneData& data = chart->PaneGroups(line.Group).PaneData();
+        const std::vector<double>* computedLine = line.Level ? nullptr : &*next++;
+        for (int i = 0; i < fresh; ++i) {
+            const int point = plan.FirstNew + i;
+            if (line.Series == 1)
+                data.SetPointX(1, point, point + plan.XOffset);
+            data.SetPointY(line.Series, point,
+                           line.Level ? *line.Level : (*computedLine)[static_cast<std::size_t>(i)]);
+        }
+    }
+    FitUpdatedAxis(Views(values));
+    RefreshStudyHeader();
+}
+
+void CHistStudyChart::WidenAxis(CLineValues values)
+{
+    const sValueRange present{ValueAxis().DataHigh().Value(), ValueAxis().DataLow().Value()};
+    sValueRange range = present;
+    for (const std::span<const double> line : values)
+        range.Widen(line);
+    if (range.Max > present.Max || range.Min < present.Min)
+        SetStudyYAxis(*chart, AxisLook(), range.Max, range.Min);
+}
+
+double CHistStudyChart::PixelsPerPoint() const
+{
+    const double width = dlg->ChartPixelWidth();
+    const int shown = dlg->Range().shown;
+    const double pixels = shown == 1 ? width : (width - 81.0) / (shown - 0.5);
+    return pixels > 0 ? pixels : 1.0;
+}
+
+std::string CHistStudyChart::ValueText(const char* prefix, int series, int point, int decimals) const
+{
+    const double value = chart->PaneGroups(1).PaneData().PointY(series, point);
+    return IsHole(value) ? std::string() : prefix + FixedText(value, decimals);
+}
+
+std::string CHistStudyChart::GetStudyInfoText() const
+{
+    std::string text = HeadText();
+    const int point = chart->PaneArea().Marker().Point();
+    if (point != NoPoint && point > 0 && point <= dlg->Range().shown)
+        text += MarkedText(point);
+    if (collapsed)
+        text += " (Minimized)";
+    return text;
+}
+
+void CHistStudyChart::RefreshStudyHeader()
+{
+    CPaneLabels& labels = chart->PaneLabels();
+    CPaneLabel& header = labels.Count() > 0 ? labels.Item(1) : labels.Add();
+    header.Interior().SetForeground(LabelColour());
+    header.Interior().SetBackground(chart->PaneInterior().Background());
+    header.SetAttachment(AttachToPixel);
+    header.SetAnchorSide(AnchorBelowRight);
+    header.SetPixelAnchor(chart->PaneArea().PlotFrame().LeftMargin().Value(),
+                          0); // above the value axis's end
+    header.SetText(GetStudyInfoText());
+    header.SetShown(true);
+}
+
+} // namespace zantroq

@@ -1,0 +1,123 @@
+// What the ten study panes do alike: reading the series, fitting the x axis, loading curves into the scene,
+// appending live points, and the header. A pane says which lines it has, computes them over a stretch of the
+// series and fits its value axis. Holds no settings and no prices of its own. Chart window's thread.
+//
+// A pane's x values are 1 to the number of points shown after a whole draw; live points shift them upward.
+// Series count from 1, indices into the price series from 0.
+#pragma once
+
+#include "drawing/BaseChart.h"
+#include "studies/StudyAxis.h"
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace zantroq {
+
+// One series of a study pane: computed, or a level that is the same at every point.
+struct sStudyLine
+{
+    int Group = 1, Series = 1;
+    Colour LineColour = 0;
+    std::optional<double> Level{};
+};
+
+// The largest and smallest value seen. The hole value is not one; a not-a-number widens nothing.
+struct sValueRange
+{
+    double Max, Min;
+    void Widen(double value)
+    {
+        if (value == CPaneData::HoleValue())
+            return;
+        if (value > Max)
+            Max = value;
+        if (value < Min)
+            Min = value;
+    }
+    void Widen(std::span<const double> values)
+    {
+        for (const double value : values)
+            Widen(value);
+    }
+};
+
+class CHistStudyChart : public CStudyChart
+{
+public:
+    double GetHigh(int index) const override { return prices->High(index); }
+    double GetLow(int index) const override { return prices->Low(index); }
+    double GetOpen(int index) const override { return prices->Open(index); }
+    double GetClose(int index) const override { return prices->Close(index); }
+    std::int64_t GetVolume(int index) const override { return prices->Volume(index); }
+    int GetPointCount() const override { return prices->Count(); }
+
+    // The whole displayed range. Nothing happens while no point is shown.
+    void DrawStudy() override;
+
+    // Appends live points behind those the pane has, and drops as many at its left edge as the window cannot
+    // hold. The pane's marker moves left by what was dropped, or by newPoints while the window is not full.
+    void UpdateStudy(int newPoints) override;
+
+    // The study's own text, the values at the marked point, " (Minimized)" while collapsed.
+    std::string GetStudyInfoText() const override;
+    void RefreshStudyHeader() override;
+
+protected:
+    // The computed lines' values, in the order of Lines().
+    using CLineValues = std::span<const std::span<const double>>;
+
+    // All lines, group 1 first, each group's series in order.
+    virtual std::vector<sStudyLine> Lines() const = 0;
+    virtual int GroupChartType(int /*group*/) const { return ChartLines; }
+    virtual Colour LabelColour() const { return StudySettings().LabelColors[static_cast<std::size_t>(kind)]; }
+
+    // How many points a whole draw lags behind the price pane.
+    virtual int DrawLag() const { return 0; }
+
+    // Computes `count` points from `index` into one array for each computed line, preset to the hole value.
+    virtual void Compute(std::int64_t index, int count, std::span<double* const> out) = 0;
+
+    // The value axis after a whole draw, and after live points.
+    virtual void FitDrawnAxis(CLineValues values) = 0;
+    virtual void FitUpdatedAxis(CLineValues /*values*/) {}
+
+    virtual std::string HeadText() const = 0;
+    // The texts of the values at a marked point, empty where they are holes.
+    virtual std::string MarkedText(int point) const = 0;
+
+    const sStudySettings& StudySettings() const { return dlg->Settings().Studies; }
+    std::int32_t Period() const { return StudySettings().Periods[static_cast<std::size_t>(kind)]; }
+    Colour DataColour() const { return StudySettings().DataColors[static_cast<std::size_t>(kind)]; }
+    sStudyAxisLook AxisLook() const;
+    CPaneAxis& ValueAxis() const { return chart->PaneArea().PaneAxes().Y(); }
+
+    // prefix and the value of a series of group 1 at a point; empty for the hole value.
+    std::string ValueText(const char* prefix, int series, int point, int decimals) const;
+
+    // Parts of the two skeletons, for a pane that has its own.
+    struct sUpdatePlan
+    {
+        int Points;     // the pane's points after the update
+        int FirstNew;   // the first point to compute, from 1
+        int XOffset;    // a point's x is its number plus this
+        int FirstIndex; // the series index of FirstNew
+    };
+    void PrepareGroups(int shown);
+    void FitXAxis(int shown);
+    // Shifts and sizes all series, moves the marker and the x axis.
+    sUpdatePlan MakeRoom(int newPoints);
+    // Sets SetStudyYAxis from the axis's present data range, widened, if a value lies outside it.
+    void WidenAxis(CLineValues values);
+    // Pixels a point takes, at least 1.
+    double PixelsPerPoint() const;
+
+private:
+    void ComputeLines(std::int64_t index, std::vector<std::vector<double>>& values);
+    void WriteVolumeIntoLastPoint();
+};
+
+} // namespace zantroq

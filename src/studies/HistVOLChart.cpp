@@ -1,0 +1,190 @@
+#include "studies/HistVOLChart.h"
+
+#include "studies/Hole.h"
+#include "studies/StudyTexts.h"
+#include "studies/VolumeScale.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <numeric>
+
+namespace zantroq {
+
+namespace {
+
+enum RequestData : int
+{
+    Ticks = 0,
+    Minutes,
+    Daily,
+    Weekly,
+    Monthly
+};
+
+// The nearest 64-bit number that a double can be cut down to.
+std::int64_t WholeVolume(double value)
+{
+    constexpr double limit = 9.2e18;
+    return std::isnan(value) ? 0 : static_cast<std::int64_t>(std::clamp(value, -limit, limit));
+}
+
+int MinutesOf(std::int32_t intervalIndex)
+{
+    const int last = static_cast<int>(IntervalMinutes.size()) - 1;
+    return IntervalMinutes[static_cast<std::size_t>(std::clamp(intervalIndex, 0, last))];
+}
+
+} // namespace
+
+std::int32_t CHistVOLChart::CalcVolumeAverage() const
+{
+    const std::int64_t points = AveragesAllData() ? std::numeric_limits<std::int64_t>::max() : Period();
+    return AverageVolume(*prices, points, VolumeDivisor);
+}
+
+std::vector<sStudyLine> CHistVOLChart::Lines() const
+{
+    std::vector<sStudyLine> lines{{1, 1, DataColour()}};
+    if (ShowsAverage())
+        lines.push_back({2, 1, StudySettings().VolumeAverageColor});
+    return lines;
+}
+
+std::vector<double> CHistVOLChart::AverageLine(int points, int minuteShift) const
+{
+    std::int64_t low = 1, high = points;
+    if (!AveragesAllData()) {
+        low = std::int64_t{GetPointCount()} + 2 - Period() - dlg->Range().first - minuteShift;
+        high = Period() - 1 + low;
+    }
+    std::vector<double> line(static_cast<std::size_t>(points), StudyHole);
+    for (std::int64_t point = std::max<std::int64_t>(low, 1); point <= std::min<std::int64_t>(high, points);
+         ++point)
+        line[static_cast<std::size_t>(point - 1)] = VolumeAverage;
+    return line;
+}
+
+void CHistVOLChart::DrawStudy()
+{
+    const int first = dlg->Range().first, shown = dlg->Range().shown;
+    const int points = dlg->Pane(0).PaneGroups(1).PaneData().PointCount(1);
+    if (shown <= 0 || points == 0)
+        return;
+    PrepareGroups(shown);
+    FitXAxis(shown);
+    CPaneAxes& axes = chart->PaneArea().PaneAxes();
+    axes.X().DataHigh().SetKind(1);
+    axes.Y().SetSetting21(0);
+    AdjustStudyBars();
+
+    VolumeMaximum rule = VolumeMaximum::OfThePoints;
+    if (dlg->Settings().FixedScale && GetPointCount() > 30)
+        rule = dlg->ResetScale() ? VolumeMaximum::OfTheWholeSeries : VolumeMaximum::None;
+    const sScaledVolumes scaled = ScaleVolumes(*prices, first, points, rule);
+    VolumeDivisor = scaled.Divisor;
+
+    std::vector<int> x(static_cast<std::size_t>(points));
+    std::iota(x.begin(), x.end(), 1);
+    CPaneData& volumes = chart->PaneGroups(1).PaneData();
+    volumes.SetXVector(1, std::span<const int>(x));
+    volumes.SetYVector(1, std::vector<double>(scaled.Values.begin(), scaled.Values.end()));
+    chart->PaneGroups(1).CommitPaneData();
+    SetVolumeYAxis(*chart, AxisLook(), scaled.Maximum);
+
+    VolumeAverage = CalcVolumeAverage();
+    CPaneData& average = chart->PaneGroups(2).PaneData();
+    if (ShowsAverage()) {
+        average.SetXVector(1, volumes.X());
+        average.SetYVector(1, AverageLine(shown, dlg->Settings().Request.DataType == Minutes ? 1 : 0));
+        chart->PaneGroups(2).CommitPaneData();
+    } else {
+        average.SetPointCount(1, 0);
+    }
+    RefreshStudyHeader();
+}
+
+void CHistVOLChart::Compute(std::int64_t index, int count, std::span<double* const> out)
+{
+    for (int i = 0; i < count; ++i)
+        out[0][i] = static_cast<double>(GetVolume(static_cast<int>(index + i)) / VolumeDivisor);
+}
+
+void CHistVOLChart::UpdateStudy(int newPoints)
+{
+    if (newPoints <= 0) {
+        CHistStudyChart::UpdateStudy(newPoints);
+        return;
+    }
+    const sUpdatePlan plan = MakeRoom(newPoints);
+    const int fresh = plan.Points - plan.FirstNew + 1;
+    std::vector<double> values(static_cast<std::size_t>(fresh));
+    double* out[] = {values.data()};
+    Compute(plan.FirstIndex, fresh, out);
+    CPaneData& volumes = chart->PaneGroups(1).PaneData();
+    double greatest = ValueAxis().DataHigh().Value();
+    for (int i = fresh - 1; i >= 0; --i) {
+        const double value = values[static_cast<std::size_t>(i)];
+        volumes.SetPointX(1, plan.FirstNew + i, plan.FirstNew + i + plan.XOffset);
+        volumes.SetPointY(1, plan.FirstNew + i, value);
+        greatest = std::max(greatest, value);
+    }
+    SetVolumeYAxis(*chart, AxisLook(), WholeVolume(greatest));
+
+    VolumeAverage = CalcVolumeAverage();
+    if (ShowsAverage()) {
+        CPaneData& average = chart->PaneGroups(2).PaneData();
+        average.SetXVector(1, volumes.X());
+        average.SetYVector(1, AverageLine(plan.Points, 0));
+    }
+    RefreshStudyHeader();
+}
+
+void CHistVOLChart::AdjustStudyBars()
+{
+    const double pixels = PixelsPerPoint();
+    CPaneGroup& group = chart->PaneGroups(1);
+    if (pixels < 1) {
+        group.SetChartType(ChartLines);
+        return;
+    }
+    group.SetChartType(ChartBars);
+    chart->PaneArea().BarLook().SetBarWidth(std::max(1, static_cast<int>(pixels)));
+}
+
+std::string CHistVOLChart::VolumeText(double value) const
+{
+    std::string text = GroupedText(WholeVolume(value));
+    if (VolumeDivisor >= 2)
+        text += " in " + std::to_string(VolumeDivisor) + "s";
+    return text;
+}
+
+std::string CHistVOLChart::HeadText() const
+{
+    std::string text = "Volume, average: " + VolumeText(VolumeAverage);
+    if (AveragesAllData())
+        return text;
+    const sRequestSettings& request = dlg->Settings().Request;
+    text += ", lookback period - ";
+    switch (request.DataType) {
+    case Ticks:
+        return text + std::to_string(Period()) + " ticks";
+    case Minutes:
+        return text + std::to_string(std::int64_t{Period()} * MinutesOf(request.IntervalIndex)) + " minutes";
+    case Daily:
+        return text + std::to_string(Period()) + " days";
+    case Weekly:
+        return text + std::to_string(Period()) + " weeks";
+    default:
+        return text + std::to_string(Period()) + " months";
+    }
+}
+
+std::string CHistVOLChart::MarkedText(int point) const
+{
+    const double value = chart->PaneGroups(1).PaneData().PointY(1, point);
+    return IsHole(value) || !std::isfinite(value) ? std::string() : " Vol: " + VolumeText(value);
+}
+
+} // namespace zantroq

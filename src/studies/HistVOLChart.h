@@ -1,0 +1,55 @@
+// The volume of each displayed point as bars, and optionally one average as a horizontal line.
+//
+// Formula: the plotted value is the volume divided by VolumeDivisor, a power of ten that is 1 unless a volume
+// exceeds 2,147,483,647. The average is the plain mean over the whole series, or over its last P points, in
+// the same unit.
+//
+// Peculiarities, all intended:
+// - The average is that of the end of the series, wherever the display stands. Over all data its line covers
+// the whole pane;
+//   over P points it covers those P alone, so it lies to the right of a pane that is scrolled back. A live
+//   update places it one point further right on minute data than a draw does.
+// - When the divisor grows, the points plotted before are divided by the whole new divisor and not by ten, so
+// a second step in
+//   one draw shrinks them further than the later ones.
+// - With a fixed scale and more than 30 points a draw sets the axis to 1,000, unless it was asked to fit
+// again.
+// - Live points never change the divisor.
+#pragma once
+
+#include "studies/HistStudyChart.h"
+
+namespace zantroq {
+
+class CHistVOLChart : public CHistStudyChart
+{
+public:
+    void DrawStudy() override;
+    void UpdateStudy(int newPoints) override;
+
+    // Bars where a point has at least a pixel, connected lines below that.
+    void AdjustStudyBars() override;
+
+    // The average over the end of the series, in units of VolumeDivisor.
+    virtual std::int32_t CalcVolumeAverage() const;
+
+    std::int32_t VolumeAverage = 0;
+    std::int64_t VolumeDivisor =
+        1; // what the plotted values were divided by; 1 at each draw. A power of ten.
+
+protected:
+    std::vector<sStudyLine> Lines() const override;
+    void Compute(std::int64_t index, int count, std::span<double* const> out) override;
+    void FitDrawnAxis(CLineValues /*values*/) override {}
+    std::string HeadText() const override;
+    std::string MarkedText(int point) const override;
+
+private:
+    bool ShowsAverage() const { return StudySettings().ShowVolumeAverage != 0; }
+    bool AveragesAllData() const { return StudySettings().VolumeAverageAllData != 0; }
+    // The average's y values for points 1 to `points`; minuteShift is taken from where it begins.
+    std::vector<double> AverageLine(int points, int minuteShift) const;
+    std::string VolumeText(double value) const;
+};
+
+} // namespace zantroq

@@ -1,0 +1,15 @@
+// The value that means "no value here" in study arithmetic: the pane's hole value.
+#pragma once
+
+#include "drawing/PaneObjects.h"
+
+namespace zantroq {
+
+inline constexpr double StudyHole = CPaneData::HoleValue();
+
+inline bool IsHole(double value)
+{
+    return value == StudyHole;
+}
+
+} // namespace zantroq

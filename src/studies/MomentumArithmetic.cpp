@@ -1,0 +1,36 @@
+#include "studies/MomentumArithmetic.h"
+
+#include "studies/Hole.h"
+#include "studies/StudyArrays.h"
+
+#include <algorithm>
+
+namespace zantroq {
+
+void ComputeMomentum(const IPriceSource& prices, std::int64_t index, int count, std::int32_t period,
+                     double* out)
+{
+    const std::int64_t end = index + count, from = std::clamp<std::int64_t>(period, index, end);
+    std::fill_n(out, from - index, StudyHole);
+    const CPriceBlock now(prices, &IPriceSource::ReadClose, from, end);
+    const CPriceBlock before(prices, &IPriceSource::ReadClose, from - period, end - period);
+    const double *a = now.At(from), *b = before.At(from - period);
+    double* value = out + (from - index);
+    for (std::int64_t i = 0; i < end - from; ++i)
+        value[i] = a[i] - b[i];
+}
+
+void ComputeROC(const IPriceSource& prices, std::int64_t index, int count, std::int32_t period, double* out)
+{
+    const std::int64_t end = index + count,
+                       from = std::clamp<std::int64_t>(std::int64_t{period} + 1, index, end);
+    std::fill_n(out, from - index, StudyHole);
+    const CPriceBlock now(prices, &IPriceSource::ReadClose, from, end);
+    const CPriceBlock before(prices, &IPriceSource::ReadClose, from - period, end - period);
+    const double *a = now.At(from), *b = before.At(from - period);
+    double* value = out + (from - index);
+    for (std::int64_t i = 0; i < end - from; ++i)
+        value[i] = b[i] != 0 ? (a[i] - b[i]) / b[i] * 100 : StudyHole;
+}
+
+} // namespace zantroq

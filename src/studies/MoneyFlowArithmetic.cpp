@@ -1,0 +1,69 @@
+#include "studies/MoneyFlowArithmetic.h"
+
+#include "studies/Hole.h"
+#include "studies/StudyArrays.h"
+#include "studies/WindowArithmetic.h"
+
+#include <algorithm>
+
+namespace zantroq {
+
+namespace {
+
+CStudyArray<double> TypicalPrices(const IPriceSource& prices, std::int64_t from, std::int64_t to)
+{
+    CStudyArray<double> typical(to - from);
+    const CPriceBlock low(prices, &IPriceSource::ReadLow, from, to),
+        high(prices, &IPriceSource::ReadHigh, from, to);
+    const CPriceBlock close(prices, &IPriceSource::ReadClose, from, to);
+    const double *l = low.At(from), *h = high.At(from), *c = close.At(from);
+    for (std::int64_t i = 0; i < typical.Size(); ++i)
+        typical[i] = (c[i] + (l[i] + h[i])) / 3;
+    return typical;
+}
+
+} // namespace
+
+int ComputeMoneyFlow(const IPriceSource& prices, std::int64_t index, int count, std::int32_t period,
+                     double* positive, double* negative)
+{
+    const std::int64_t end = index + count, p = period;
+    const std::int64_t from = std::clamp(p + 1, index, end);
+    if (p < 1 || from == end)
+        return count;
+    const std::int64_t windows = end - from, terms = p + 1, flows = windows + p;
+
+    // Element i of the flows is index from - p + i, of the typical prices one index before.
+    const CStudyArray<double> typical = TypicalPrices(prices, from - p - 1, end);
+    const CVolumeBlock volume(prices, &IPriceSource::ReadVolume, from - p, end);
+    const std::int64_t* v = volume.At(from - p);
+    CStudyArray<double> up(flows), down(flows);
+    for (std::int64_t i = 0; i < flows; ++i) {
+        const double before = typical[i], now = typical[i + 1], flow = static_cast<double>(v[i]) * now;
+        // Adding 0 leaves a sum as it is: one that starts at 0 never becomes -0.
+        up[i] = now > before ? flow : 0.0;
+        down[i] = now < before ? flow : 0.0;
+    }
+    double *pos = positive + (from - index), *neg = negative + (from - index);
+    SumWindows(up.Data(), windows, terms, pos);
+    SumWindows(down.Data(), windows, terms, neg);
+    const auto divisor = static_cast<double>(p);
+    for (std::int64_t i = 0; i < windows; ++i) {
+        pos[i] /= divisor;
+        neg[i] /= divisor;
+    }
+    return static_cast<int>(from - index);
+}
+
+void ComputeMFI(const IPriceSource& prices, std::int64_t index, int count, std::int32_t period, double* out)
+{
+    CStudyArray<double> negative(count);
+    const int left = ComputeMoneyFlow(prices, index, count, period, out, negative.Data());
+    std::fill_n(out, left, StudyHole);
+    for (int i = left; i < count; ++i) {
+        const double pos = out[i], neg = negative[i];
+        out[i] = ((pos - neg) * 50) / (neg + pos) + 50;
+    }
+}
+
+} // namespace zantroq

@@ -1,0 +1,20 @@
+// The arithmetic of the money flow and money flow index panes; the formulas are told in HistMFChart.h and
+// HistMFIChart.h.
+#pragma once
+
+#include "drawing/PriceSource.h"
+
+#include <cstdint>
+
+namespace zantroq {
+
+// positive[i] and negative[i] are the flows at `index` + i, for i from 0 to count - 1, neither with a sign.
+// Elements without a value (indices up to the period) are left as they are; the caller presets them. With a
+// period below 1 nothing is written. Answers the number of elements at the beginning that were left.
+int ComputeMoneyFlow(const IPriceSource& prices, std::int64_t index, int count, std::int32_t period,
+                     double* positive, double* negative);
+
+// out[i] is the index at `index` + i; the hole value where there is none.
+void ComputeMFI(const IPriceSource& prices, std::int64_t index, int count, std::int32_t period, double* out);
+
+} // namespace zantroq

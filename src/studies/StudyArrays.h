@@ -1,0 +1,71 @@
+// Buffers for whole-range arithmetic: arrays that start unset, and stretches of a series read in one go.
+// Chart window's thread.
+#pragma once
+
+#include "drawing/PriceSource.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <limits>
+#include <memory>
+#include <span>
+
+namespace zantroq {
+
+// An array whose elements are unset until written; sized once.
+template<class T> class CStudyArray
+{
+public:
+    explicit CStudyArray(std::int64_t size)
+        : m_size(std::max<std::int64_t>(size, 0)),
+          m_items(std::make_unique_for_overwrite<T[]>(static_cast<std::size_t>(m_size)))
+    {
+    }
+    T* Data() { return m_items.get(); }
+    const T* Data() const { return m_items.get(); }
+    std::int64_t Size() const { return m_size; }
+    T& operator[](std::int64_t i) { return m_items[static_cast<std::size_t>(i)]; }
+    const T& operator[](std::int64_t i) const { return m_items[static_cast<std::size_t>(i)]; }
+    std::span<const T> Span() const { return {m_items.get(), static_cast<std::size_t>(m_size)}; }
+
+private:
+    std::int64_t m_size;
+    std::unique_ptr<T[]> m_items;
+};
+
+// The values of the series' indices From() up to, not including, To(), addressed by index. Where the series
+// has none the value is 0, as for the single reads. The indices may be any 64-bit numbers; only To() - From()
+// costs.
+template<class T> class CSeriesBlock
+{
+public:
+    using Reader = void (IPriceSource::*)(int, int, T*) const;
+
+    CSeriesBlock(const IPriceSource& source, Reader reader, std::int64_t from, std::int64_t to)
+        : m_from(from), m_values(to - from)
+    {
+        constexpr std::int64_t end = std::numeric_limits<int>::max();
+        const std::int64_t low = std::clamp<std::int64_t>(from, 0, end),
+                           high = std::clamp<std::int64_t>(to, low, end);
+        if (low >= high) {
+            std::fill_n(m_values.Data(), m_values.Size(), T{});
+            return;
+        }
+        std::fill_n(m_values.Data(), low - from, T{});
+        (source.*reader)(static_cast<int>(low), static_cast<int>(high - low), m_values.Data() + (low - from));
+        std::fill_n(m_values.Data() + (high - from), to - high, T{});
+    }
+    std::int64_t From() const { return m_from; }
+    std::int64_t To() const { return m_from + m_values.Size(); }
+    const T& operator[](std::int64_t index) const { return m_values[index - m_from]; }
+    const T* At(std::int64_t index) const { return m_values.Data() + (index - m_from); }
+
+private:
+    std::int64_t m_from;
+    CStudyArray<T> m_values;
+};
+
+using CPriceBlock = CSeriesBlock<double>;
+using CVolumeBlock = CSeriesBlock<std::int64_t>;
+
+} // namespace zantroq

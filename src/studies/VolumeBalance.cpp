@@ -1,0 +1,75 @@
+#include "studies/VolumeBalance.h"
+
+#include "studies/Hole.h"
+#include "studies/StudyArrays.h"
+#include "studies/WindowArithmetic.h"
+
+#include <algorithm>
+
+namespace zantroq {
+
+namespace {
+
+// While no partial sum can leave the whole numbers that a double holds exactly, the order of the additions
+// does not matter and a running total of integers gives every window.
+bool SumsAreExact(const CVolumeBlock& volume, std::int64_t terms)
+{
+    constexpr std::int64_t exact = std::int64_t{1} << 53;
+    const std::int64_t limit = exact / terms;
+    bool within = true;
+    for (std::int64_t j = volume.From(); j < volume.To(); ++j)
+        within &= volume[j] <= limit && volume[j] >= -limit;
+    return within;
+}
+
+void SlideExactly(const CPriceBlock& close, const CVolumeBlock& volume, std::int64_t from, std::int64_t count,
+                  std::int64_t terms, double* out)
+{
+    CStudyArray<std::int64_t> total(count + terms);
+    std::int64_t sum = 0;
+    total[0] = 0;
+    for (std::int64_t t = 1; t < count + terms; ++t) {
+        const std::int64_t j = from - terms + t;
+        const std::int64_t sign = (close[j] > close[j - 1]) - (close[j] < close[j - 1]);
+        sum += sign * volume[j];
+        total[t] = sum;
+    }
+    for (std::int64_t i = 0; i < count; ++i)
+        out[i] = static_cast<double>(total[i + terms] - total[i]);
+}
+
+void SumEachWindow(const CPriceBlock& close, const CVolumeBlock& volume, std::int64_t from,
+                   std::int64_t count, std::int64_t terms, double* out)
+{
+    CStudyArray<double> change(count + terms - 1);
+    for (std::int64_t t = 0; t < change.Size(); ++t) {
+        const std::int64_t j = from - terms + 1 + t;
+        const auto size = static_cast<double>(volume[j]);
+        // Adding 0 for an unchanged close leaves the sum as it is: a sum that starts at 0 never becomes -0.
+        change[t] = close[j] > close[j - 1] ? size : close[j] < close[j - 1] ? -size : 0.0;
+    }
+    SumWindows(change.Data(), count, terms, out);
+}
+
+} // namespace
+
+void ComputeOBV(const IPriceSource& prices, std::int64_t index, int count, std::int32_t period, double* out)
+{
+    const std::int64_t end = index + count, from = std::clamp<std::int64_t>(period, index, end);
+    std::fill_n(out, from - index, StudyHole);
+    double* value = out + (from - index);
+    if (period <= 0) {
+        std::fill_n(value, end - from, 0.0);
+        return;
+    }
+    if (from == end)
+        return;
+    const CPriceBlock close(prices, &IPriceSource::ReadClose, from - period, end);
+    const CVolumeBlock volume(prices, &IPriceSource::ReadVolume, from - period + 1, end);
+    if (SumsAreExact(volume, period))
+        SlideExactly(close, volume, from, end - from, period, value);
+    else
+        SumEachWindow(close, volume, from, end - from, period, value);
+}
+
+} // namespace zantroq

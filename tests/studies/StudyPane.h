@@ -1,0 +1,151 @@
+// One study pane in a window that is only its settings, its display range and two scenes.
+#pragma once
+
+#include "BarSeries.h"
+
+#include "drawing/BaseChart.h"
+#include "studies/HistADXChart.h"
+#include "studies/HistMACDChart.h"
+#include "studies/HistRSIChart.h"
+#include "studies/StudyFactory.h"
+
+#include <algorithm>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace zantroq {
+
+class CPlainWindow : public IChartWindow
+{
+public:
+    sChartSettings AllSettings;
+    sDisplayRange Shown;
+    int Width = 900;
+    bool Reset = false, Collapsed = false;
+    int Selected = NoPoint;
+    CChart2D Price, Study;
+
+    const sChartSettings& Settings() const override { return AllSettings; }
+    sDisplayRange& Range() override { return Shown; }
+    const sDisplayRange& Range() const override { return Shown; }
+    int ChartPixelWidth() const override { return Width; }
+    CChart2D& Pane(int number) override { return number == 0 ? Price : Study; }
+    bool IsCollapsed(int) const override { return Collapsed; }
+    int SelectedPoint() const override { return Selected; }
+    void SetSelectedPoint(int point) override { Selected = point; }
+    bool ResetScale() const override { return Reset; }
+    void ClearResetScale() override { Reset = false; }
+    void BeginBatch() override {}
+    void EndBatch() override {}
+    void BeginPriceBatch() override {}
+    void EndPriceBatch() override {}
+    int ScrollLimit() const override { return 0; }
+    bool ScrollBarVisible() const override { return false; }
+    void SetScrollBarVisible(bool) override {}
+    void UpdateZoomButtons() override {}
+    void SetStatusText(const std::string&) override {}
+};
+
+// Puts the states of the process back to how they start, as a test of its own finds them.
+inline void ForgetRunningStates()
+{
+    CHistRSIChart::StudyRunningState() = {};
+    CHistMACDChart::StudyRunningState() = {};
+    CHistADXChart::StudyRunningState() = {};
+}
+
+class CStudyPane
+{
+public:
+    explicit CStudyPane(int kind)
+    {
+        ForgetRunningStates();
+        SetUpScene();
+        m_study.reset(CStudyFactory().Create(kind));
+        m_study->dlg = &Window;
+        m_study->chart = &Window.Study;
+        m_study->prices = &Series;
+        m_study->pane = 1;
+    }
+
+    // A draw of the stretch [first, first + shown), the price pane's own first.
+    void Draw(int first, int shown)
+    {
+        Window.Shown.first = first;
+        Window.Shown.shown = shown;
+        Window.Shown.last = first + shown - 1;
+        Window.Price.PaneGroups(1).PaneData().SetPointCount(1, shown);
+        m_study->DrawStudy();
+    }
+    // Draws the newest `shown` points of the series, or all of a shorter one.
+    void DrawEnd(int shown)
+    {
+        const int n = std::min(shown, Series.Count());
+        Draw(Series.Count() - n, n);
+    }
+    // What the window does for `newPoints` ticks that are in the series already.
+    void Update(int newPoints)
+    {
+        const int shown =
+            std::min(Series.Count(), DisplayMaxPoints[static_cast<std::size_t>(Window.Shown.ptsIndex)]);
+        Window.Shown.first = Series.Count() - shown;
+        Window.Shown.shown = shown;
+        Window.Shown.last = Series.Count() - 1;
+        Window.Price.PaneGroups(1).PaneData().SetPointCount(1, shown);
+        m_study->UpdateStudy(newPoints);
+    }
+
+    sStudySettings& Settings() { return Window.AllSettings.Studies; }
+    void SetPeriod(int period) { Settings().Periods[static_cast<std::size_t>(m_study->kind)] = period; }
+    CStudyChart& Study() { return *m_study; }
+    template<class T> T& As() { return dynamic_cast<T&>(*m_study); }
+    CPaneData& Data(int group = 1) { return Window.Study.PaneGroups(group).PaneData(); }
+    double Y(int series, int point) { return Data().PointY(series, point); }
+    double X(int point) { return Data().PointX(1, point); }
+    std::vector<double> Values(int series = 1, int group = 1)
+    {
+        const auto y = Data(group).Y(series);
+        return {y.begin(), y.end()};
+    }
+    CPaneAxis& YAxis() { return Window.Study.PaneArea().PaneAxes().Y(); }
+    CPaneAxis& Y2Axis() { return Window.Study.PaneArea().PaneAxes().Y2(); }
+    CPaneAxis& XAxis() { return Window.Study.PaneArea().PaneAxes().X(); }
+    CPaneMarker& Marker() { return Window.Study.PaneArea().PaneMarkers("x"); }
+    std::string Header() { return Window.Study.PaneLabels().Item(1).Text(); }
+    std::vector<std::string> Labels()
+    {
+        std::vector<std::string> texts;
+        for (const sTickLabel& label : YAxis().TickLabels().All())
+            texts.push_back(label.Text);
+        return texts;
+    }
+
+    CBarSeries Series;
+    CPlainWindow Window;
+
+private:
+    // As the draw manager sets a pane up at the start of a chart.
+    void SetUpScene()
+    {
+        Window.Price.PaneGroups(1).PaneData().SetSeriesCount(1);
+        for (const int group : {1, 2}) {
+            Data(group).SetSeriesCount(1);
+            Data(group).SetFirstShownSeries(1);
+            Data(group).SetLastShownSeries(1);
+            Data(group).SetPointCount(1, 0);
+        }
+        for (CPaneAxis* axis : {&YAxis(), &Y2Axis()}) {
+            axis->ViewLow().SetValue(1);
+            axis->DataLow().SetValue(1);
+            axis->ViewHigh().SetValue(2);
+            axis->DataHigh().SetValue(2);
+        }
+        XAxis().ViewLow().SetValue(0);
+        Window.Study.PaneLabels().Add();
+    }
+
+    std::unique_ptr<CStudyChart> m_study;
+};
+
+} // namespace zantroq
