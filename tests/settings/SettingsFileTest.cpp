@@ -1,0 +1,323 @@
+#include "platform/SettingsFile.h"
+
+#include "RunProcess.h"
+#include "TemporaryFolder.h"
+#include "platform/SettingsPath.h"
+
+#include <chrono>
+#include <gtest/gtest.h>
+#include <sqlite3.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <thread>
+
+namespace zantroq {
+namespace {
+
+using test::CTemporaryFolder;
+using Bytes = std::vector<std::uint8_t>;
+
+struct SettingsFile : testing::Test
+{
+    CTemporaryFolder Folder;
+    const std::string Path = Folder.File("settings.db");
+
+    SettingsProblem ProblemOfReading()
+    {
+        CSettingsFile file(Path, std::chrono::milliseconds(50));
+        try {
+            file.Read("K", "a");
+        } catch (const CSettingsFileError& error) {
+            EXPECT_NE(std::string(error.what()).find(Path), std::string::npos) << error.what();
+            return error.Problem;
+        }
+        ADD_FAILURE() << "no error";
+        return {};
+    }
+    void ExpectLeftAlone(SettingsProblem problem)
+    {
+        const std::string before = test::Contents(Path);
+        EXPECT_EQ(ProblemOfReading(), problem);
+        CSettingsFile file(Path, std::chrono::milliseconds(50));
+        EXPECT_THROW(file.Write("K", "a", 1u), CSettingsFileError);
+        EXPECT_THROW(file.Delete("K", "a"), CSettingsFileError);
+        EXPECT_THROW(file.WriteAll({{"K", {{"a", 1u}}}}), CSettingsFileError);
+        const auto key = OpenSettingsKey(Path, "K");
+        EXPECT_FALSE(key->Read("a"));
+        EXPECT_FALSE(key->Write("a", 1u));
+        EXPECT_FALSE(key->Delete("a"));
+        EXPECT_TRUE(key->List().empty());
+        EXPECT_TRUE(test::Contents(Path) == before) << "the file was changed";
+        EXPECT_FALSE(std::filesystem::exists(Path + "-wal"));
+    }
+    void RunSql(const std::string& sql)
+    {
+        sqlite3* db = nullptr;
+        ASSERT_EQ(sqlite3_open(Path.c_str(), &db), SQLITE_OK);
+        ASSERT_EQ(sqlite3_exec(db, sql.c_str(), nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(db);
+        sqlite3_close(db);
+    }
+};
+
+} // namespace
+
+TEST_F(SettingsFile, NamesAreExact)
+{
+    const std::vector<std::string> names{
+        "",     " ",  "a",    "a ",  " a",    "A",     "a/b",      "a\\b",
+        "100%", "%d", "a\tb", "a\n", "'; --", "\"x\"", "\xff\xfe", std::string("a\0b", 3)};
+    {
+        CSettingsFile file(Path);
+        for (std::size_t i = 0; i < names.size(); ++i)
+            file.Write("K", names[i], static_cast<std::uint32_t>(i));
+    }
+    CSettingsFile file(Path);
+    for (std::size_t i = 0; i < names.size(); ++i)
+        EXPECT_EQ(file.Read("K", names[i]), SettingValue(static_cast<std::uint32_t>(i))) << names[i];
+    EXPECT_EQ(file.List("K").size(), names.size());
+    EXPECT_FALSE(file.Read("k", "a"));
+}
+
+TEST_F(SettingsFile, ValuesOfAllTypesReadBack)
+{
+    const std::vector<SettingValue> values{
+        std::string(), std::string("a\0b", 3), std::string(100000, 'x'), 0u, 4294967295u,
+        Bytes{},       Bytes{0, 255, 0}};
+    CSettingsFile file(Path);
+    for (const auto& value : values) {
+        file.Write("K", "v", value);
+        EXPECT_EQ(CSettingsFile(Path).Read("K", "v"), value);
+    }
+}
+
+TEST_F(SettingsFile, NothingIsCreatedBeforeTheFirstWrite)
+{
+    const std::string deep = Folder.File("one/two/settings.db");
+    CSettingsFile file(deep);
+    EXPECT_FALSE(file.Read("K", "a"));
+    EXPECT_FALSE(file.Delete("K", "a"));
+    EXPECT_EQ(file.DeleteAll("K"), 0u);
+    EXPECT_TRUE(file.List("K").empty());
+    EXPECT_TRUE(file.ReadAll().empty());
+    EXPECT_FALSE(std::filesystem::exists(Folder.File("one")));
+    file.Write("K", "a", 1u);
+    EXPECT_EQ(file.Read("K", "a"), SettingValue(1u));
+    struct stat about
+    {
+    };
+    ASSERT_EQ(::stat(Folder.File("one").c_str(), &about), 0);
+    EXPECT_EQ(about.st_mode & 0777, 0700u);
+}
+
+TEST_F(SettingsFile, KeysAreApart)
+{
+    CSettingsFile file(Path);
+    file.Write("A", "n", 1u);
+    file.Write("B", "n", 2u);
+    EXPECT_EQ(file.Read("A", "n"), SettingValue(1u));
+    EXPECT_EQ(file.ReadAll(), (SettingsTree{{"A", {{"n", 1u}}}, {"B", {{"n", 2u}}}}));
+    EXPECT_EQ(file.DeleteAll("A"), 1u);
+    EXPECT_TRUE(file.List("A").empty());
+    EXPECT_EQ(file.Read("B", "n"), SettingValue(2u));
+}
+
+TEST_F(SettingsFile, AFileOfNoiseIsLeftAlone)
+{
+    test::PutFile(Path, "this is no data base, and it is long enough to be looked at as one: " +
+                            std::string(5000, '?'));
+    ExpectLeftAlone(SettingsProblem::Damaged);
+}
+
+TEST_F(SettingsFile, AFileWithABrokenPageIsLeftAlone)
+{
+    {
+        CSettingsFile file(Path);
+        for (int i = 0; i < 500; ++i)
+            file.Write("K", "name " + std::to_string(i), std::string(50, 'x'));
+    }
+    std::string bytes = test::Contents(Path);
+    ASSERT_GT(bytes.size(), 4096u * 4);
+    bytes.replace(4096 * 2, 4096, std::string(4096, '\x5A'));
+    test::PutFile(Path, bytes);
+    ExpectLeftAlone(SettingsProblem::Damaged);
+}
+
+TEST_F(SettingsFile, AFileThatWasCutOffIsLeftAlone)
+{
+    {
+        CSettingsFile file(Path);
+        for (int i = 0; i < 500; ++i)
+            file.Write("K", "name " + std::to_string(i), std::string(50, 'x'));
+    }
+    test::PutFile(Path, test::Contents(Path).substr(0, 4096 * 2));
+    ExpectLeftAlone(SettingsProblem::Damaged);
+}
+
+TEST_F(SettingsFile, AnotherProgramsDataBaseIsLeftAlone)
+{
+    RunSql("CREATE TABLE setting(a); INSERT INTO setting VALUES(1)");
+    ExpectLeftAlone(SettingsProblem::NotSettings);
+}
+
+TEST_F(SettingsFile, AFileOfALaterFormatIsLeftAlone)
+{
+    CSettingsFile(Path).Write("K", "a", 1u);
+    RunSql("PRAGMA journal_mode=DELETE; PRAGMA user_version=2");
+    ExpectLeftAlone(SettingsProblem::NotSettings);
+}
+
+TEST_F(SettingsFile, AFolderOrAPipeIsNoSettingsFile)
+{
+    std::filesystem::create_directory(Path);
+    EXPECT_EQ(ProblemOfReading(), SettingsProblem::Unreadable);
+    std::filesystem::remove(Path);
+    ASSERT_EQ(::mkfifo(Path.c_str(), 0600), 0);
+    EXPECT_EQ(ProblemOfReading(), SettingsProblem::Unreadable);
+}
+
+TEST_F(SettingsFile, AnEmptyFileIsAnEmptyStore)
+{
+    test::PutFile(Path, "");
+    CSettingsFile file(Path);
+    EXPECT_FALSE(file.Read("K", "a"));
+    file.Write("K", "a", 1u);
+    EXPECT_EQ(CSettingsFile(Path).Read("K", "a"), SettingValue(1u));
+}
+
+TEST_F(SettingsFile, ALockedFileSaysSoAndTheKeyWaitsOnlyOnce)
+{
+    CSettingsFile(Path).Write("K", "a", 1u);
+    sqlite3* holder = nullptr;
+    ASSERT_EQ(sqlite3_open(Path.c_str(), &holder), SQLITE_OK);
+    ASSERT_EQ(sqlite3_exec(holder,
+                           "PRAGMA locking_mode=EXCLUSIVE; BEGIN EXCLUSIVE; SELECT count(*) FROM setting",
+                           nullptr, nullptr, nullptr),
+              SQLITE_OK);
+    EXPECT_EQ(ProblemOfReading(), SettingsProblem::Locked);
+    const auto key = OpenSettingsKey(Path, "K");
+    EXPECT_FALSE(key->Read("a"));
+    const auto start = std::chrono::steady_clock::now();
+    for (int i = 0; i < 100; ++i) {
+        EXPECT_FALSE(key->Read("a"));
+        EXPECT_FALSE(key->Write("a", 2u));
+    }
+    // Waiting each time would take ten minutes; this leaves room for a busy machine.
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(60));
+    sqlite3_exec(holder, "COMMIT", nullptr, nullptr, nullptr);
+    sqlite3_close(holder);
+    EXPECT_EQ(key->Read("a"), SettingValue(1u));
+}
+
+TEST_F(SettingsFile, AReadOnlyFileIsReadAndNotWritten)
+{
+    CSettingsFile(Path).Write("K", "a", 1u);
+    std::filesystem::permissions(Folder.File(""), std::filesystem::perms(0555));
+    std::filesystem::permissions(Path, std::filesystem::perms(0444));
+    const std::string before = test::Contents(Path);
+    EXPECT_EQ(test::AsOrdinaryUser([&] {
+                  const auto key = OpenSettingsKey(Path, "K");
+                  if (key->Read("a") != SettingValue(1u))
+                      return 1;
+                  if (key->Write("a", 2u) || key->Delete("a"))
+                      return 2;
+                  if (key->Read("a") != SettingValue(1u))
+                      return 3;
+                  try {
+                      CSettingsFile(Path).Write("K", "a", 2u);
+                  } catch (const CSettingsFileError& error) {
+                      return error.Problem == SettingsProblem::Unwritable ? 0 : 4;
+                  }
+                  return 5;
+              }),
+              0);
+    EXPECT_TRUE(test::Contents(Path) == before);
+    EXPECT_FALSE(std::filesystem::exists(Path + "-shm"));
+    std::filesystem::permissions(Folder.File(""), std::filesystem::perms(0755));
+}
+
+TEST_F(SettingsFile, AFileThatMayNotBeReadIsMissingAndSaysSo)
+{
+    CSettingsFile(Path).Write("K", "a", 1u);
+    std::filesystem::permissions(Folder.File(""), std::filesystem::perms(0755));
+    std::filesystem::permissions(Path, std::filesystem::perms(0));
+    EXPECT_EQ(test::AsOrdinaryUser([&] {
+                  if (OpenSettingsKey(Path, "K")->Read("a"))
+                      return 1;
+                  try {
+                      CSettingsFile(Path).Read("K", "a");
+                  } catch (const CSettingsFileError& error) {
+                      return error.Problem == SettingsProblem::Unreadable ? 0 : 2;
+                  }
+                  return 3;
+              }),
+              0);
+}
+
+TEST_F(SettingsFile, AFolderThatCannotBeMadeIsSkippedInSilence)
+{
+    std::filesystem::permissions(Folder.File(""), std::filesystem::perms(0555));
+    EXPECT_EQ(test::AsOrdinaryUser([&] {
+                  const auto key = OpenSettingsKey(Folder.File("sub/settings.db"), "K");
+                  return key->Write("a", 1u) || key->Read("a") ? 1 : 0;
+              }),
+              0);
+    std::filesystem::permissions(Folder.File(""), std::filesystem::perms(0755));
+}
+
+TEST_F(SettingsFile, AFileThatIsRemovedUnderAnOpenKeyIsMadeAnew)
+{
+    const auto key = OpenSettingsKey(Path, "K");
+    ASSERT_TRUE(key->Write("a", 1u));
+    for (const char* ending : {"", "-wal", "-shm"})
+        std::filesystem::remove(Path + ending);
+    EXPECT_FALSE(key->Read("a"));
+    EXPECT_TRUE(key->Write("b", 2u));
+    EXPECT_EQ(CSettingsFile(Path).ReadAll(), (SettingsTree{{"K", {{"b", 2u}}}}));
+}
+
+TEST_F(SettingsFile, AFailedWriteAllChangesNothing)
+{
+    CSettingsFile(Path).Write("K", "a", 1u);
+    // The file may not grow any further, so the transaction breaks in its middle.
+    EXPECT_EQ(test::WaitFor(test::StartChild([&] {
+                  CSettingsFile file(Path, std::chrono::milliseconds(50));
+                  SettingsTree tree;
+                  tree["K"]["a"] = 2u;
+                  for (int i = 0; i < 20000; ++i)
+                      tree["K"]["n" + std::to_string(i)] = std::string(1000, 'x');
+                  std::signal(SIGXFSZ, SIG_IGN);
+                  const rlimit limit{1 << 20, 1 << 20};
+                  ::setrlimit(RLIMIT_FSIZE, &limit);
+                  try {
+                      file.WriteAll(tree);
+                  } catch (const CSettingsFileError& error) {
+                      return error.Problem == SettingsProblem::Unwritable ? 0 : 2;
+                  }
+                  return 1;
+              })),
+              0);
+    EXPECT_EQ(CSettingsFile(Path).ReadAll(), (SettingsTree{{"K", {{"a", 1u}}}}));
+}
+
+TEST(SettingsPath, FollowsTheThreeVariables)
+{
+    EXPECT_EQ(test::WaitFor(test::StartChild([] {
+                  ::setenv("HOME", "/h", 1);
+                  ::setenv("XDG_CONFIG_HOME", "/x", 1);
+                  ::setenv("ZANTROQ_SETTINGS", "/z/s.db", 1);
+                  if (SettingsFilePath() != "/z/s.db")
+                      return 1;
+                  ::setenv("ZANTROQ_SETTINGS", "", 1);
+                  if (SettingsFilePath() != "/x/zantroq/settings.db")
+                      return 2;
+                  ::unsetenv("ZANTROQ_SETTINGS");
+                  ::setenv("XDG_CONFIG_HOME", "relative", 1);
+                  if (SettingsFilePath() != "/h/.config/zantroq/settings.db")
+                      return 3;
+                  ::unsetenv("XDG_CONFIG_HOME");
+                  return SettingsFilePath() == "/h/.config/zantroq/settings.db" ? 0 : 4;
+              })),
+              0);
+}
+
+} // namespace zantroq

@@ -1,0 +1,93 @@
+#include "settings/SymbolHistory.h"
+
+#include "settings/WindowPosition.h"
+
+#include <gtest/gtest.h>
+
+namespace zantroq {
+namespace {
+
+struct SymbolHistory : testing::Test
+{
+    std::unique_ptr<ISettingsKey> Key = MakeMemorySettingsKey();
+    CSymbolHistory History{*Key};
+    std::string Stored(const std::string& name)
+    {
+        const auto value = Key->Read(name);
+        return value ? std::get<std::string>(*value) : "(missing)";
+    }
+};
+
+} // namespace
+
+TEST_F(SymbolHistory, NewestStandsFirstAndIsStoredFromNumber0)
+{
+    History.AddSymbol("A");
+    History.AddSymbol("B");
+    EXPECT_EQ(History.Items(), (std::vector<std::string>{"B", "A"}));
+    EXPECT_EQ(Stored("SQ0"), "B");
+    EXPECT_EQ(Stored("SQ1"), "A");
+    EXPECT_EQ(Stored("SQ2"), "(missing)");
+}
+
+TEST_F(SymbolHistory, ASymbolOfTheListMovesToTheTop)
+{
+    for (const char* symbol : {"A", "B", "C", "A"})
+        History.AddSymbol(symbol);
+    EXPECT_EQ(History.Items(), (std::vector<std::string>{"A", "C", "B"}));
+    EXPECT_EQ(Stored("SQ2"), "B");
+}
+
+TEST_F(SymbolHistory, EmptyAndMissingEntriesAreLeftOutOnLoading)
+{
+    Key->Write("SQ0", std::string());
+    Key->Write("SQ3", std::string("X"));
+    Key->Write("SQ19", std::string("Y"));
+    Key->Write("SQ20", std::string("Z"));
+    History.LoadSymbolHistory();
+    EXPECT_EQ(History.Items(), (std::vector<std::string>{"X", "Y"}));
+}
+
+TEST_F(SymbolHistory, AnEmptySymbolChangesNothing)
+{
+    History.AddSymbol("");
+    EXPECT_TRUE(History.Items().empty());
+    EXPECT_TRUE(Key->List().empty());
+}
+
+TEST_F(SymbolHistory, The21stSymbolPushesOutTheOldestAndItsWindowPositionStays)
+{
+    for (int i = 1; i <= 20; ++i)
+        History.AddSymbol("S" + std::to_string(i));
+    SaveWindowPosition(*Key, "S1 - Chart", {{1, 2, 3, 4}, true});
+    Key->Write("RectPosition.S1", 1u);
+    Key->Write("RectPosition.S1.Maximized", 1u);
+    History.AddSymbol("S21");
+    EXPECT_EQ(History.Items().size(), 20u);
+    EXPECT_EQ(History.Items().front(), "S21");
+    EXPECT_EQ(History.Items().back(), "S2");
+    EXPECT_EQ(Stored("SQ19"), "S2");
+    EXPECT_FALSE(Key->Read("RectPosition.S1"));
+    EXPECT_FALSE(Key->Read("RectPosition.S1.Maximized"));
+    EXPECT_EQ(LoadWindowPosition(*Key, "S1 - Chart"), (sWindowPosition{{1, 2, 3, 4}, true}));
+}
+
+TEST_F(SymbolHistory, ASymbolOfAFullListPushesNothingOut)
+{
+    for (int i = 1; i <= 20; ++i)
+        History.AddSymbol("S" + std::to_string(i));
+    History.AddSymbol("S1");
+    EXPECT_EQ(History.Items().size(), 20u);
+    EXPECT_EQ(History.Items().back(), "S2");
+}
+
+TEST_F(SymbolHistory, AnotherWindowReadsTheSameList)
+{
+    for (int i = 1; i <= 25; ++i)
+        History.AddSymbol("S" + std::to_string(i));
+    CSymbolHistory other(*Key);
+    other.LoadSymbolHistory();
+    EXPECT_EQ(other.Items(), History.Items());
+}
+
+} // namespace zantroq
