@@ -50,6 +50,13 @@ json ToJson(const CPaneInterior& interior)
     return {{"background", interior.Background()}, {"foreground", interior.Foreground()}};
 }
 
+json InnerToJson(const CPaneInterior& interior)
+{
+    json object = ToJson(interior);
+    object["opaque"] = interior.HasBackground();
+    return object;
+}
+
 json ToJson(const CSeriesStyle& style)
 {
     return {{"line", ToJson(style.LineLook())},
@@ -180,8 +187,8 @@ json SceneToJson(const CChart2D& chart, const sPanePlace& place, bool withVector
               {"line", ToJson(area.Marker().LineLook())}}},
             {"more",
              {{"box", {box.Left().Value(), box.Width().Value(), box.Height().Value()}},
-              {"areaInterior", ToJson(area.Interior())},
-              {"plotInterior", ToJson(frame.Interior())},
+              {"areaInterior", InnerToJson(area.Interior())},
+              {"plotInterior", InnerToJson(frame.Interior())},
               {"filledCandles", area.CandleLook().Filled()},
               {"markerLock", area.Marker().Lock()},
               {"fixed", std::move(fixed)}}}};
@@ -486,15 +493,17 @@ void Read(const CField& pane, CChart2D& chart)
     marker.SetPoint(pane.At("marker").At("point").Int());
     Read(pane.At("marker").At("line"), marker.LineLook());
     if (!pane.Has("more")) {
-        area.Interior().SetBackground(chart.PaneInterior().Background());
-        area.Interior().SetForeground(chart.PaneInterior().Foreground());
-        area.PlotFrame().Interior().SetBackground(chart.PaneInterior().Background());
-        area.PlotFrame().Interior().SetForeground(chart.PaneInterior().Foreground());
+        area.Interior().ClearBackground();
+        area.PlotFrame().Interior().ClearBackground();
         return;
     }
     const CField more = pane.At("more");
     Read(more.At("areaInterior"), area.Interior());
+    if (!more.At("areaInterior").At("opaque").Bool())
+        area.Interior().ClearBackground();
     Read(more.At("plotInterior"), area.PlotFrame().Interior());
+    if (!more.At("plotInterior").At("opaque").Bool())
+        area.PlotFrame().Interior().ClearBackground();
     area.CandleLook().SetFilled(more.At("filledCandles").Bool());
     marker.SetLock(more.At("markerLock").Int());
 }

@@ -101,12 +101,23 @@ class CPaneInterior : public CPaneNode
 {
 public:
     using CPaneNode::CPaneNode;
-    void SetBackground(Colour colour) { Assign(m_background, colour); }
+    void SetBackground(Colour colour)
+    {
+        if (m_set && m_background == colour)
+            return;
+        m_set = true;
+        m_background = colour;
+        Touch();
+    }
     void SetForeground(Colour colour) { Assign(m_foreground, colour); } // also the colour of axis text
     Colour Background() const { return m_background; }
     Colour Foreground() const { return m_foreground; }
+    // False until a background is given. An interior without one lets what lies around it through.
+    bool HasBackground() const { return m_set; }
+    void ClearBackground() { Assign(m_set, false); }
 
 private:
+    bool m_set = false;
     Colour m_background = 0xFFFFFF, m_foreground = 0x000000;
 };
 
@@ -443,6 +454,15 @@ public:
     const CCandleLook& CandleLook() const { return m_candle; }
     const CPaneMarker& Marker() const { return m_marker; }
     const CPaneAxes& PaneAxes() const { return m_axes; }
+    // What lies around and behind the plot, given the pane's own colours.
+    Colour Background(const CPaneInterior& pane) const
+    {
+        return (m_interior.HasBackground() ? m_interior : pane).Background();
+    }
+    Colour PlotBackground(const CPaneInterior& pane) const
+    {
+        return m_frame.Interior().HasBackground() ? m_frame.Interior().Background() : Background(pane);
+    }
 
 private:
     CAreaBox m_box;

@@ -224,7 +224,7 @@ TEST(PaneFile, AFileWithTheSnapshotFieldsAloneLoads)
     EXPECT_EQ(copy.PixelHeight(), 480);
     EXPECT_EQ(copy.PaneGroups(1).PaneData().PointY(2, 1), 1.0);
     EXPECT_TRUE(copy.PaneArea().PaneAxes().X().AxisOrigin().Automatic());
-    EXPECT_EQ(copy.PaneArea().PlotFrame().Interior().Background(), 0x232323u);
+    EXPECT_EQ(copy.PaneArea().PlotBackground(copy.PaneInterior()), 0x232323u);
 }
 
 TEST(PaneFile, ABadFileLeavesThePaneAsItWas)

@@ -1,0 +1,28 @@
+// A pane onto paper and into files.
+#pragma once
+
+#include "drawing/Chart2D.h"
+
+#include <QString>
+
+class QPainter;
+
+namespace zantroq {
+
+// The page of a print job, or any other painter, as CChart2D::DrawToDevice wants it. The painter is not
+// owned.
+class CPrintPage : public IPrintDevice
+{
+public:
+    explicit CPrintPage(QPainter& painter) : m_painter(painter) {}
+    bool PaintPane(const CChart2D& pane, int left, int top, int width, int height) override;
+
+private:
+    QPainter& m_painter;
+};
+
+// Writes a picture of the pane by the ending of the path: .png (at the ratio), .svg, .pdf or .json. False,
+// with a sentence in error, when the ending is another one or the file cannot be written.
+bool SavePanePicture(const CChart2D& pane, const QString& path, double devicePixelRatio, QString& error);
+
+} // namespace zantroq

@@ -1,0 +1,56 @@
+// Everything of a pane but its data, placed in device pixels: grid, frame, tick marks, axis texts, marker and
+// labels. Worked out once per painting and walked by every canvas.
+#pragma once
+
+#include "drawing/PaneGeometry.h"
+#include "qt/PaneCanvas.h"
+#include "qt/PaneText.h"
+
+#include <string_view>
+#include <vector>
+
+namespace zantroq {
+
+// A straight line one or more device pixels wide, in dashes of Pattern.
+struct sRuledLine
+{
+    sPixelRect Rect;
+    bool Upright = false;
+    int Pattern = LineSolid;
+    QRgb Color = 0;
+    bool operator==(const sRuledLine& other) const;
+};
+
+struct sPlacedText
+{
+    int Left = 0, Top = 0;
+    std::string_view Text; // into the scene
+    QRgb Color = 0;
+};
+
+struct sPlacedLabel
+{
+    sPixelRect Box;
+    QRgb Background = 0, Border = 0;
+    bool HasBorder = false;
+    std::vector<sPlacedText> Lines;
+};
+
+struct sPaneFurniture
+{
+    QRgb Background = 0, PlotBackground = 0;
+    std::vector<sRuledLine> Grid;  // below the data
+    std::vector<sRuledLine> Frame; // above it: the plot's edge and the tick marks
+    std::vector<sRuledLine> Marker;
+    std::vector<sPlacedText> AxisTexts;
+    std::vector<sPlacedLabel> Labels;
+};
+
+// `width` and `height` are the picture's device pixels.
+sPaneFurniture PlaceFurniture(const CChart2D& chart, const sPlotMap& map, double scale, int width, int height,
+                              CPaneText& text);
+
+// Draws a ruled line as rectangles.
+void DrawRuled(IPaneCanvas& canvas, const sRuledLine& line);
+
+} // namespace zantroq

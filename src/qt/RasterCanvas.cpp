@@ -1,0 +1,238 @@
+#include "qt/RasterCanvas.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace zantroq {
+
+namespace {
+
+constexpr int One = sInkVertex::One;
+
+int Row(int height)
+{
+    return (height + One / 2) >> 8;
+} // whole pixel of a height in 1/256
+
+sPixelRect Cut(const sPixelRect& a, const sPixelRect& b)
+{
+    return {std::max(a.Left, b.Left), std::max(a.Top, b.Top), std::min(a.Right, b.Right),
+            std::min(a.Bottom, b.Bottom)};
+}
+
+// Dashes go by the pixel's place, so that they stand still while points come and go.
+bool InDash(const sInkLine& line, int place)
+{
+    if (line.Pattern != LineLongDashes && line.Pattern != LineShortDashes)
+        return true;
+    const int on = (line.Pattern == LineLongDashes ? 8 : 3) * std::max(1, line.Width);
+    const int off = (line.Pattern == LineLongDashes ? 4 : 3) * std::max(1, line.Width);
+    return (place % (on + off) + on + off) % (on + off) < on;
+}
+
+QRgb BlendPixel(QRgb under, QRgb over, int coverage)
+{
+    // Red and blue together, then green: 8 bits each with room between them.
+    const std::uint32_t weight = static_cast<std::uint32_t>(coverage + (coverage >> 7));
+    const std::uint32_t rb = under & 0xff00ff, g = under & 0x00ff00;
+    const std::uint32_t mixedRb = (rb + ((((over & 0xff00ff) - rb) * weight) >> 8)) & 0xff00ff;
+    const std::uint32_t mixedG = (g + ((((over & 0x00ff00) - g) * weight) >> 8)) & 0x00ff00;
+    return 0xff000000 | mixedRb | mixedG;
+}
+
+} // namespace
+
+void CRasterCanvas::SetPicture(QImage& picture)
+{
+    m_pixels = reinterpret_cast<QRgb*>(picture.bits());
+    m_stride = static_cast<int>(picture.bytesPerLine() / 4);
+    if (picture.width() == m_width && picture.height() == m_height)
+        return;
+    m_width = picture.width();
+    m_height = picture.height();
+    m_tileColumns = (m_width + TileWidth - 1) / TileWidth;
+    m_tileRows = (m_height + TileHeight - 1) / TileHeight;
+    m_tiles.assign(static_cast<std::size_t>(m_tileColumns) * static_cast<std::size_t>(m_tileRows), 0);
+    m_mask.assign(static_cast<std::size_t>(m_width) * static_cast<std::size_t>(m_height), 0);
+    m_extents.assign(static_cast<std::size_t>(m_width), {m_height, 0});
+    m_clip = {0, 0, m_width, m_height};
+}
+
+void CRasterCanvas::ForgetInk()
+{
+    std::fill(m_tiles.begin(), m_tiles.end(), std::uint8_t{0});
+}
+
+void CRasterCanvas::Mark(int left, int top, int right, int bottom)
+{
+    const int lastRow = (bottom - 1) / TileHeight, lastColumn = (right - 1) / TileWidth;
+    for (int row = top / TileHeight; row <= lastRow; ++row)
+        for (int column = left / TileWidth; column <= lastColumn; ++column)
+            m_tiles[static_cast<std::size_t>(row * m_tileColumns + column)] = 1;
+}
+
+void CRasterCanvas::Fill(const sPixelRect& rect, QRgb colour)
+{
+    const sPixelRect cut = Cut(rect, m_clip);
+    if (cut.Left >= cut.Right || cut.Top >= cut.Bottom)
+        return;
+    QRgb* line = m_pixels + static_cast<std::ptrdiff_t>(cut.Top) * m_stride + cut.Left;
+    if (cut.Width() == 1)
+        for (int y = cut.Top; y < cut.Bottom; ++y, line += m_stride)
+            *line = colour;
+    else
+        for (int y = cut.Top; y < cut.Bottom; ++y, line += m_stride)
+            std::fill_n(line, cut.Width(), colour);
+    if (m_marking)
+        Mark(cut.Left, cut.Top, cut.Right, cut.Bottom);
+}
+
+void CRasterCanvas::Text(int left, int top, std::string_view text, QRgb colour)
+{
+    const sTextMask& mask = m_text.Mask(text);
+    const sPixelRect box{left + mask.Left, top + mask.Top, left + mask.Left + mask.Width,
+                         top + mask.Top + mask.Height};
+    const sPixelRect cut = Cut(box, m_clip);
+    if (cut.Left >= cut.Right || cut.Top >= cut.Bottom)
+        return;
+    for (int y = cut.Top; y < cut.Bottom; ++y) {
+        const std::uint8_t* coverage =
+            mask.Coverage.data() + static_cast<std::ptrdiff_t>(y - box.Top) * mask.Width - box.Left;
+        QRgb* line = m_pixels + static_cast<std::ptrdiff_t>(y) * m_stride;
+        for (int x = cut.Left; x < cut.Right; ++x)
+            if (coverage[x] != 0)
+                line[x] = coverage[x] == 255 ? colour : BlendPixel(line[x], colour, coverage[x]);
+    }
+    if (m_marking)
+        Mark(cut.Left, cut.Top, cut.Right, cut.Bottom);
+}
+
+inline void CRasterCanvas::Cover(int x, int y, int coverage)
+{
+    if (x < m_plot.Left || x >= m_plot.Right || y < m_plot.Top || y >= m_plot.Bottom || coverage <= 0)
+        return;
+    std::uint8_t& pixel =
+        m_mask[static_cast<std::size_t>(y) * static_cast<std::size_t>(m_width) + static_cast<std::size_t>(x)];
+    pixel = static_cast<std::uint8_t>(std::max<int>(pixel, std::min(coverage, 255)));
+    sExtent& extent = m_extents[static_cast<std::size_t>(x)];
+    extent.Top = std::min(extent.Top, y);
+    extent.Bottom = std::max(extent.Bottom, y + 1);
+}
+
+// The part of a column between two edges, in 1/256 pixels from the top of the picture.
+void CRasterCanvas::CoverRows(int x, int top256, int bottom256)
+{
+    top256 = std::max(top256, m_plot.Top * One);
+    bottom256 = std::min(bottom256, m_plot.Bottom * One);
+    for (int y = top256 >> 8; y * One < bottom256; ++y)
+        Cover(x, y, std::min(bottom256, (y + 1) * One) - std::max(top256, y * One));
+}
+
+void CRasterCanvas::Vertical(int column, int top, int bottom, int width)
+{
+    const int left = column - width / 2, above = (width - 1) / 2, below = width / 2;
+    const int first = std::max(Row(top) - above, m_plot.Top),
+              last = std::min(Row(bottom) + below, m_plot.Bottom - 1);
+    for (int x = left; x < left + width; ++x)
+        for (int y = first; y <= last; ++y)
+            Cover(x, y, 255);
+}
+
+void CRasterCanvas::Segment(int column0, int y0, int column1, int y1, const sInkLine& line)
+{
+    if (column0 > column1) {
+        std::swap(column0, column1);
+        std::swap(y0, y1);
+    }
+    const std::int64_t run = column1 - column0, rise = static_cast<std::int64_t>(y1) - y0;
+    const int first = std::max(column0, m_plot.Left), last = std::min(column1, m_plot.Right - 1);
+    if (run == 0) {
+        if (InDash(line, column0))
+            Vertical(column0, std::min(y0, y1), std::max(y0, y1), line.Width);
+        return;
+    }
+    if (rise == 0) {
+        const int row = Row(y0) - (line.Width - 1) / 2;
+        for (int x = first; x <= last; ++x)
+            if (InDash(line, x))
+                for (int y = row; y < row + line.Width; ++y)
+                    Cover(x, y, 255);
+        return;
+    }
+    if (std::abs(rise) > run * One)
+        return Steep(column0, y0, column1, y1, line);
+    const double slope = static_cast<double>(rise) / static_cast<double>(run * One);
+    const int half = static_cast<int>(line.Width * One * std::sqrt(1 + slope * slope) / 2);
+    for (int x = first; x <= last; ++x)
+        if (InDash(line, x)) {
+            const int middle = static_cast<int>(y0 + rise * (x - column0) / run) + One / 2;
+            CoverRows(x, middle - half, middle + half);
+        }
+}
+
+void CRasterCanvas::Steep(int column0, int y0, int column1, int y1, const sInkLine& line)
+{
+    const std::int64_t run = column1 - column0, rise = static_cast<std::int64_t>(y1) - y0;
+    const double slope = static_cast<double>(run * One) / static_cast<double>(rise);
+    const int half = static_cast<int>(line.Width * One * std::sqrt(1 + slope * slope) / 2);
+    const int first = std::max(Row(std::min(y0, y1)), m_plot.Top),
+              last = std::min(Row(std::max(y0, y1)), m_plot.Bottom - 1);
+    for (int y = first; y <= last; ++y) {
+        if (!InDash(line, y))
+            continue;
+        std::int64_t middle = column0 * std::int64_t{One} + (std::int64_t{y} * One - y0) * run * One / rise;
+        middle = std::clamp<std::int64_t>(middle, std::int64_t{column0} * One, std::int64_t{column1} * One) +
+                 One / 2;
+        const std::int64_t left = std::max<std::int64_t>(middle - half, std::int64_t{m_plot.Left} * One);
+        const std::int64_t right = std::min<std::int64_t>(middle + half, std::int64_t{m_plot.Right} * One);
+        for (int x = static_cast<int>(left >> 8); x * std::int64_t{One} < right; ++x)
+            Cover(x, y,
+                  static_cast<int>(std::min(right, (x + 1) * std::int64_t{One}) -
+                                   std::max(left, x * std::int64_t{One})));
+    }
+}
+
+void CRasterCanvas::Line(const sInkLine& line, const sPixelRect& plot)
+{
+    m_plot = Cut(plot, m_clip);
+    if (m_plot.Left >= m_plot.Right || m_plot.Top >= m_plot.Bottom)
+        return;
+    const std::vector<sInkVertex>& vertices = line.Vertices;
+    const int reach = line.Width + 1;
+    for (std::size_t i = 0; i < vertices.size(); ++i) {
+        const sInkVertex& vertex = vertices[i];
+        const bool goesOn = i + 1 < vertices.size() && vertices[i + 1].Joined;
+        const bool inSight = vertex.Column >= m_plot.Left - reach && vertex.Column < m_plot.Right + reach;
+        if (inSight && (vertex.Several || (!vertex.Joined && !goesOn)) && InDash(line, vertex.Column))
+            Vertical(vertex.Column, vertex.Top, vertex.Bottom, line.Width);
+        if (!goesOn)
+            continue;
+        const sInkVertex& next = vertices[i + 1];
+        if (std::max(vertex.Column, next.Column) >= m_plot.Left - reach &&
+            std::min(vertex.Column, next.Column) < m_plot.Right + reach)
+            Segment(vertex.Column, vertex.Last, next.Column, next.First, line);
+    }
+    Blend(ScreenColour(line.Color));
+}
+
+void CRasterCanvas::Blend(QRgb colour)
+{
+    for (int x = m_plot.Left; x < m_plot.Right; ++x) {
+        sExtent& extent = m_extents[static_cast<std::size_t>(x)];
+        if (extent.Top >= extent.Bottom)
+            continue;
+        std::uint8_t* mask = m_mask.data() + static_cast<std::ptrdiff_t>(extent.Top) * m_width + x;
+        QRgb* pixel = m_pixels + static_cast<std::ptrdiff_t>(extent.Top) * m_stride + x;
+        for (int y = extent.Top; y < extent.Bottom; ++y, mask += m_width, pixel += m_stride) {
+            if (*mask == 0)
+                continue;
+            *pixel = *mask == 255 ? colour : BlendPixel(*pixel, colour, *mask);
+            *mask = 0;
+        }
+        if (m_marking)
+            Mark(x, extent.Top, x + 1, extent.Bottom);
+        extent = {m_height, 0};
+    }
+}
+
+} // namespace zantroq
