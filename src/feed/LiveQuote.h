@@ -1,0 +1,100 @@
+// The state of one symbol that level 1 lines are written from, and the lines themselves. Pure, no thread of
+// its own.
+//
+// A line is its type letter, a comma and the selected fields in the order in which they were asked for, the
+// symbol always first. "Q" is a trade or a quote, "P" the summary sent when a watch begins. "F", the
+// fundamental line, has fixed fields: 1 the symbol, 2 its listed market, 3 its security type, 4 its
+// description, 39 the exchange's display code, 40 the decimals; the others are empty.
+#pragma once
+
+#include "feed/FeedRecords.h"
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zantroq::feed {
+
+struct sLISTED_SYMBOL;
+
+struct sLIVE_QUOTE
+{
+    TFeedTime Time = 0; // of the most recent trade
+    sPRICE Last, Open, High, Low, PreviousClose, Bid, Ask;
+    std::int64_t TotalVolume = 0; // of the day
+    std::uint32_t Size = 0, BidSize = 0, AskSize = 0;
+    std::uint32_t OpenInterest = 0;
+    std::uint32_t TickId = 0;
+    int DisplayCode = 12;
+    unsigned Decimals = 2;
+    // Letters: C a regular trade, E an extended one, O another, b and a a changed bid and ask, v the volume,
+    // o, h and l a changed open, high and low, c the close.
+    std::string_view Contents;
+};
+
+enum class QuoteField
+{
+    Symbol,
+    TotalVolume,
+    TradeSize,
+    High,
+    Low,
+    Bid,
+    Ask,
+    BidSize,
+    AskSize,
+    TradeTime,
+    OpenInterest,
+    Open,
+    Close,
+    TradeDate,
+    Trade,
+    DisplayCode,
+    TickId,
+    TradeMarket,
+    BidMarket,
+    AskMarket,
+    Contents,
+    Conditions
+};
+
+inline constexpr std::array<std::string_view, 22> QuoteFieldNames = {"Symbol",
+                                                                     "Total Volume",
+                                                                     "Most Recent Trade Size",
+                                                                     "High",
+                                                                     "Low",
+                                                                     "Bid",
+                                                                     "Ask",
+                                                                     "Bid Size",
+                                                                     "Ask Size",
+                                                                     "Most Recent Trade TimeMS",
+                                                                     "Open Interest",
+                                                                     "Open",
+                                                                     "Close",
+                                                                     "Most Recent Trade Date",
+                                                                     "Most Recent Trade",
+                                                                     "Fraction Display Code",
+                                                                     "TickID",
+                                                                     "Most Recent Trade Market Center",
+                                                                     "Bid Market Center",
+                                                                     "Ask Market Center",
+                                                                     "Message Contents",
+                                                                     "Most Recent Trade Conditions"};
+
+using TFieldSelection = std::vector<QuoteField>;
+
+// All 22 in the order of their names above.
+TFieldSelection AllQuoteFields();
+// Names parted by commas. Empty and unknown names are passed over and take no place; the symbol is put in
+// front where it was not asked for. False, and selection untouched, when no name is known.
+bool ReadFieldSelection(std::string_view names, TFieldSelection& selection);
+std::string FieldNamesText(const TFieldSelection& selection);
+
+// `type` is 'Q' or 'P'. The symbol stands in the line as it was asked for.
+void AppendQuoteLine(char type, std::string_view symbol, const sLIVE_QUOTE& quote,
+                     const TFieldSelection& selection, std::string& text);
+void AppendFundamentalLine(std::string_view symbol, const sLIVE_QUOTE& quote, const sLISTED_SYMBOL* listed,
+                           std::string& text);
+
+} // namespace zantroq::feed

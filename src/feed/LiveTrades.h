@@ -1,0 +1,56 @@
+// The trades that follow on a market's last recorded point, one after the other. Either invented (a random
+// walk from the last price) or the newest recorded day of ticks played again behind the last point. Knows
+// market time only: who shows the trades decides when. Used on the feed's thread; two streams of the same
+// symbol and seed give the same trades.
+#pragma once
+
+#include "feed/LiveQuote.h"
+#include "feed/MarketSource.h"
+#include "feed/RandomNumbers.h"
+
+#include <string_view>
+
+namespace zantroq::feed {
+
+enum class LiveManner
+{
+    Silent,
+    Invented,
+    Replayed
+};
+
+class CLiveTrades
+{
+public:
+    CLiveTrades(const IMarketSource& market, std::string_view symbol, std::uint64_t seed, LiveManner manner);
+
+    // Where the market stands: at first at its last recorded point.
+    const sLIVE_QUOTE& Quote() const { return m_quote; }
+    // Market time of the next line, in milliseconds, later than that of the line before; false when none will
+    // come.
+    bool NextTime(TFeedTime& time) const;
+    // Moves on to the next line.
+    void Advance();
+
+private:
+    void StartAtLastPoint();
+    void PlanNext();
+    void InventNext();
+    void Trade(sPRICE price, std::uint32_t size, char basis);
+
+    const IMarketSource& m_market;
+    const LiveManner m_manner;
+    CRandomNumbers m_random;
+    sLIVE_QUOTE m_quote;
+    TFeedTime m_clock = 0; // of the last line
+    TFeedTime m_next = 0;
+    bool m_ended = false;
+    TFeedDay m_day = 0; // the trading day that the day's values belong to
+    std::int64_t m_step = 1, m_base = 0;
+    // Replay: the newest recorded day and the way from its times to those behind the last point.
+    std::vector<sFEED_TICK> m_ticks;
+    std::size_t m_tick = 0;
+    TFeedTime m_shift = 0;
+};
+
+} // namespace zantroq::feed

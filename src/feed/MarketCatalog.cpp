@@ -1,0 +1,162 @@
+#include "feed/MarketCatalog.h"
+
+#include "feed/CsvLine.h"
+#include "feed/RecordedMarket.h"
+#include "feed/Recording.h"
+#include "feed/ReferenceTables.h"
+#include "feed/SimulatedMarket.h"
+
+#include <algorithm>
+#include <charconv>
+
+namespace zantroq::feed {
+namespace {
+
+struct sENDING
+{
+    std::string_view Text;
+    RecordingKind Kind;
+};
+constexpr sENDING Endings[] = {{".tick.csv", RecordingKind::Ticks},
+                               {".minute.csv", RecordingKind::Minutes},
+                               {".daily.csv", RecordingKind::Daily}};
+
+int ToInteger(std::string_view text)
+{
+    int number = 0;
+    std::from_chars(text.data(), text.data() + text.size(), number);
+    return number;
+}
+
+void Tell(const CMarketCatalog::TNotice& notice, const std::string& file, const sRECORDING_REPORT& report)
+{
+    for (const std::string& problem : report.Problems)
+        notice(problem);
+    if (report.SkippedRows > 0)
+        notice(file + ": " + std::to_string(report.SkippedRows) +
+               (report.SkippedRows == 1 ? " row" : " rows") + " skipped");
+}
+
+} // namespace
+
+CMarketCatalog::CMarketCatalog(std::uint64_t seed, TNotice notice)
+    : m_seed(seed), m_notice(notice ? std::move(notice) : [](const std::string&) {})
+{
+    for (const sSIMULATION& simulation : NamedSimulations())
+        List(std::string(simulation.Name), SimulatedMarketId, SimulatedSecurityTypeId,
+             std::string(simulation.Description));
+}
+
+void CMarketCatalog::AddFolder(const std::filesystem::path& folder)
+{
+    std::error_code error;
+    std::vector<std::filesystem::path> files;
+    for (std::filesystem::directory_iterator i(folder, error), end; !error && i != end; i.increment(error))
+        files.push_back(i->path());
+    if (error)
+        m_notice(folder.string() + ": cannot be read: " + error.message());
+    // The order in which a folder lists its files is nobody's promise.
+    std::sort(files.begin(), files.end());
+    for (const auto& file : files)
+        AddRecording(file);
+    if (std::filesystem::exists(folder / "symbols.csv", error))
+        AddSymbols(folder / "symbols.csv");
+}
+
+void CMarketCatalog::AddRecording(const std::filesystem::path& path)
+{
+    const std::string name = path.filename().string();
+    for (const sENDING& ending : Endings) {
+        if (!name.ends_with(ending.Text) || name.size() == ending.Text.size())
+            continue;
+        const std::string symbol = name.substr(0, name.size() - ending.Text.size());
+        const std::string file = path.string();
+        if (symbol.starts_with(SimulatedPrefix)) {
+            m_notice(file +
+                     ": names that begin with \"SIM.\" are for simulated symbols; the file is not used");
+            return;
+        }
+        std::string text;
+        if (!ReadWholeFile(path, text)) {
+            m_notice(file + ": cannot be read; the file is not used");
+            return;
+        }
+        sRECORDING_REPORT report;
+        sRECORDS& records = m_records[symbol];
+        if (ending.Kind == RecordingKind::Ticks)
+            records.Ticks = ReadTicks(text, file, report);
+        else
+            (ending.Kind == RecordingKind::Minutes ? records.Minutes : records.Daily) =
+                ReadBars(ending.Kind, text, file, report);
+        Tell(m_notice, file, report);
+        if (!m_listed.contains(symbol))
+            List(symbol, UnknownMarketId, UnknownSecurityTypeId, symbol);
+    }
+}
+
+void CMarketCatalog::AddSymbols(const std::filesystem::path& path)
+{
+    std::string text;
+    if (!ReadWholeFile(path, text)) {
+        m_notice(path.string() + ": cannot be read; the file is not used");
+        return;
+    }
+    sRECORDING_REPORT report;
+    std::string_view rest = text, line;
+    std::vector<std::string_view> fields;
+    for (std::size_t number = 1; TakeLine(rest, line); ++number) {
+        if (number == 1 || TrimBlanks(line).empty())
+            continue;
+        SplitCsvLine(line, fields);
+        if (fields.size() < 4 || fields[0].empty())
+            report.Skip(path.string(), number, "not symbol,market_id,security_type_id,description");
+        else
+            List(std::string(fields[0]), ToInteger(fields[1]), ToInteger(fields[2]), std::string(fields[3]));
+    }
+    Tell(m_notice, path.string(), report);
+}
+
+void CMarketCatalog::List(const std::string& symbol, int marketId, int securityTypeId,
+                          const std::string& description)
+{
+    sLISTED_SYMBOL& listed = m_listed[symbol];
+    listed = {symbol, marketId, securityTypeId, description.empty() ? symbol : description};
+    std::replace(listed.Description.begin(), listed.Description.end(), ',', ' ');
+}
+
+const IMarketSource* CMarketCatalog::Find(std::string_view symbol)
+{
+    if (const auto made = m_markets.find(symbol); made != m_markets.end())
+        return made->second.get();
+    if (const auto read = m_records.find(symbol); read != m_records.end()) {
+        sRECORDS records = std::move(read->second);
+        m_records.erase(read);
+        if (records.Ticks.empty() && records.Minutes.empty() && records.Daily.empty())
+            return nullptr;
+        auto& market = m_markets[std::string(symbol)];
+        market = std::make_unique<CRecordedMarket>(std::move(records.Ticks), std::move(records.Minutes),
+                                                   std::move(records.Daily));
+        return market.get();
+    }
+    const std::string upper = UpperCase(symbol);
+    if (upper != symbol)
+        return Find(upper);
+    if (!symbol.starts_with(SimulatedPrefix) || symbol.size() == SimulatedPrefix.size())
+        return nullptr;
+    auto& market = m_markets[upper];
+    market = std::make_unique<CSimulatedMarket>(symbol, m_seed);
+    return market.get();
+}
+
+void CMarketCatalog::NotifySimulated(std::string_view symbol, std::string_view what)
+{
+    const std::string name = UpperCase(symbol);
+    bool& notified = m_notified[name + ' ' + std::string(what)];
+    if (notified)
+        return;
+    notified = true;
+    m_notice(name + ": simulated " + std::string(what) + ", not a genuine market (seed " +
+             std::to_string(m_seed) + ")");
+}
+
+} // namespace zantroq::feed
