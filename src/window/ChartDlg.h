@@ -16,6 +16,7 @@
 #include "platform/SettingsKey.h"
 #include "platform/WindowServices.h"
 #include "window/ChartFeed.h"
+#include "window/MessageRecorder.h"
 #include "window/WindowCommands.h"
 #include "window/WindowDialogs.h"
 #include "window/WindowTrends.h"
@@ -39,6 +40,7 @@ struct sChartDlgSetup
     IStudyFactory* Studies = nullptr;    // null: no study panes are made
     IWindowDialogs* Dialogs = nullptr;   // null: the commands of all dialogs stand disabled
     ILoginVerification* Login = nullptr; // null: agrees
+    IWindowTrends* Trends = nullptr;     // null: the window's own
 };
 
 class CChartDlg : public IChartWindow
@@ -49,8 +51,6 @@ public:
     CChartDlg(const CChartDlg&) = delete;
     CChartDlg& operator=(const CChartDlg&) = delete;
 
-    // Before Initialise; not owned.
-    void AttachTrends(IWindowTrends* trends);
     // Fills boxes, bars and panes, lays out, and stands idle ("Ready..."). The settings were loaded by the
     // constructor. False when the login check refuses; the window then stays empty.
     bool Initialise();
@@ -111,11 +111,11 @@ public:
 
     // What the window knows, for the snapshot, replay scripts and the face.
     sChartSettings& MutableSettings(); // for trendline styles and tests; writes nothing
-    CChartHistRequest* Series();
+    CChartHistRequest* Series() const; // null before Initialise and after Destroy
     CHistChartDrawManager& DrawManager();
     const CHistChartDrawManager& DrawManager() const;
     const CChartsResizer& Resizer() const;
-    IWindowTrends* Trends() const;
+    IWindowTrends& Trends() const;
     const sWindowServices& Services() const;
     const std::string& CurrentSymbol() const;
     int Loading() const;                           // 1 while a chart loads
@@ -124,6 +124,8 @@ public:
     int ClickedPane() const;                       // the pane of the last context menu
     const std::string& StatusPart(int part) const; // 0 to 2
     const std::optional<sContextMenu>& OpenMenu() const;
+    sContextMenu MenuOf(int pane) const; // what a pane's context menu would hold now
+    const std::vector<sAskedBox>& AskedBoxes() const;
 
 private:
     std::unique_ptr<sChartParts> m_parts;

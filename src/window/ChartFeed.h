@@ -14,7 +14,7 @@ public:
     virtual ~IChartFeed() = default;
     virtual void WatchSymbol(CChartHistRequest& request) = 0;
     virtual void UnwatchSymbol(CChartHistRequest& request) = 0;
-    virtual void SendHistoryRequest(CChartHistRequest& request) = 0;
+    virtual void SendHistoryRequest(CChartHistRequest& request) = 0; // clears Complete
     // The window's last word on a request: marks it dead, frees it at once where no reply is on its way, and
     // leaves it to the worker otherwise, which frees it at the reply's end.
     virtual void Release(std::unique_ptr<CChartHistRequest> request) = 0;

@@ -15,7 +15,7 @@ constexpr const char* LoadingDataText = "Loading Data...";
 
 } // namespace
 
-CChartLifecycle::CChartLifecycle(sChartSettings& settings, CSettingsWriter& store,
+CChartLifecycle::CChartLifecycle(sChartSettings& settings, CSettingsStore& store,
                                  const sWindowServices& services, IChartFeed& feed, CStatusText& status,
                                  CDisplayRange& range, IPaneDrawing& drawing, ILifecycleEvents& events)
     : m_settings(settings),

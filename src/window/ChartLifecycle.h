@@ -5,10 +5,10 @@
 
 #include "market/ChartHistRequest.h"
 #include "platform/WindowServices.h"
+#include "settings/SettingsStore.h"
 #include "window/ChartFeed.h"
 #include "window/DisplayRange.h"
 #include "window/PaneDrawing.h"
-#include "window/SettingsWriter.h"
 #include "window/StatusText.h"
 
 #include <memory>
@@ -33,7 +33,7 @@ public:
 class CChartLifecycle
 {
 public:
-    CChartLifecycle(sChartSettings& settings, CSettingsWriter& store, const sWindowServices& services,
+    CChartLifecycle(sChartSettings& settings, CSettingsStore& store, const sWindowServices& services,
                     IChartFeed& feed, CStatusText& status, CDisplayRange& range, IPaneDrawing& drawing,
                     ILifecycleEvents& events);
 
@@ -63,7 +63,7 @@ private:
     bool HasSymbolText() const { return !m_services.Symbol.Text().empty(); }
 
     sChartSettings& m_settings;
-    CSettingsWriter& m_store;
+    CSettingsStore& m_store;
     sWindowServices m_services;
     IChartFeed& m_feed;
     CStatusText& m_status;

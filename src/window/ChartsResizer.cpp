@@ -23,7 +23,7 @@ std::size_t At(int index)
 
 } // namespace
 
-CChartsResizer::CChartsResizer(sPaneStack& stack, CSettingsWriter& store, std::span<CChart2D> panes,
+CChartsResizer::CChartsResizer(sPaneStack& stack, CSettingsStore& store, std::span<CChart2D> panes,
                                IPaneHost& host, IScrollBar& bar, IPointerFeedback& pointer,
                                IPaneDrawing& drawing, CBatchCounters& batch)
     : m_stack(stack),

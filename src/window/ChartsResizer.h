@@ -7,9 +7,9 @@
 
 #include "drawing/Chart2D.h"
 #include "platform/WindowServices.h"
+#include "settings/SettingsStore.h"
 #include "window/PaneDrawing.h"
 #include "window/PaneStack.h"
-#include "window/SettingsWriter.h"
 
 #include <array>
 #include <span>
@@ -26,7 +26,7 @@ struct sPaneRect // in the client area
 class CChartsResizer
 {
 public:
-    CChartsResizer(sPaneStack& stack, CSettingsWriter& store, std::span<CChart2D> panes, IPaneHost& host,
+    CChartsResizer(sPaneStack& stack, CSettingsStore& store, std::span<CChart2D> panes, IPaneHost& host,
                    IScrollBar& bar, IPointerFeedback& pointer, IPaneDrawing& drawing, CBatchCounters& batch);
 
     void SetUp();     // takes the loaded stack; a maximised pane that is not displayed is none
@@ -60,7 +60,7 @@ private:
     void Changed();            // after a command or a drag
 
     sPaneStack& m_stack;
-    CSettingsWriter& m_store;
+    CSettingsStore& m_store;
     std::span<CChart2D> m_panes;
     IPaneHost& m_host;
     IScrollBar& m_bar;

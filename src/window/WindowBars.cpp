@@ -1,15 +1,14 @@
 #include "window/WindowBars.h"
 
-#include "window/SymbolHistory.h"
 #include "window/WindowCommands.h"
 #include "window/WindowDialogs.h"
 #include "window/WindowTexts.h"
 
 namespace zantroq {
 
-CWindowBars::CWindowBars(sChartSettings& settings, CSettingsWriter& store, const sWindowServices& services,
+CWindowBars::CWindowBars(sChartSettings& settings, CSettingsStore& store, const sWindowServices& services,
                          CStatusText& status)
-    : m_settings(settings), m_store(store), m_services(services), m_status(status)
+    : m_settings(settings), m_store(store), m_services(services), m_status(status), m_history(store.Key())
 {
 }
 
@@ -23,7 +22,8 @@ void CWindowBars::SetUp(const IWindowDialogs* dialogs)
     commands.Enable(CommandPrint, dialogs != nullptr && dialogs->HasPrint());
     commands.Enable(CommandZoomIn, false);
     commands.Enable(CommandZoomOut, false);
-    m_services.Symbol.SetItems(LoadSymbolHistory(m_store.Key()));
+    m_history.LoadSymbolHistory();
+    m_services.Symbol.SetItems(m_history.Items());
     ShowSettings();
 }
 
@@ -38,10 +38,9 @@ void CWindowBars::ShowSettings()
 
 void CWindowBars::RememberSymbol(const std::string& symbol)
 {
-    const auto items = AddSymbol(m_store.Key(), m_services.Symbol.Items(), symbol);
-    m_services.Symbol.SetItems(items);
-    if (!items.empty())
-        m_services.Symbol.Select(0);
+    m_history.AddSymbol(symbol);
+    m_services.Symbol.SetItems(m_history.Items());
+    m_services.Symbol.Select(m_history.Items().empty() ? -1 : 0);
     m_services.Symbol.SetText(symbol);
 }
 

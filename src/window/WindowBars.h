@@ -4,7 +4,8 @@
 
 #include "platform/WindowServices.h"
 #include "settings/ChartSettings.h"
-#include "window/SettingsWriter.h"
+#include "settings/SettingsStore.h"
+#include "settings/SymbolHistory.h"
 #include "window/StatusText.h"
 
 #include <string>
@@ -16,7 +17,7 @@ class IWindowDialogs;
 class CWindowBars
 {
 public:
-    CWindowBars(sChartSettings& settings, CSettingsWriter& store, const sWindowServices& services,
+    CWindowBars(sChartSettings& settings, CSettingsStore& store, const sWindowServices& services,
                 CStatusText& status);
 
     void SetUp(const IWindowDialogs* dialogs); // boxes, checks, enabling, symbol history
@@ -33,9 +34,10 @@ public:
 
 private:
     sChartSettings& m_settings;
-    CSettingsWriter& m_store;
+    CSettingsStore& m_store;
     sWindowServices m_services;
     CStatusText& m_status;
+    CSymbolHistory m_history;
 };
 
 } // namespace zantroq

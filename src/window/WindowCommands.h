@@ -32,16 +32,16 @@ enum WindowCommand : int
     CommandPriceBar = 32794
 };
 
-inline constexpr std::array<int, 22> AllCommands{774,   775,   776,   777,   778,   779,   32777, 32779,
-                                                 32780, 32782, 32783, 32784, 32785, 32786, 32787, 32788,
-                                                 32789, 32790, 32791, 32792, 32793, 32794};
-
 constexpr bool IsTrendCommand(int command)
 {
     return command == CommandHorizontalTrend ||
            (command >= CommandDeleteTrend && command <= CommandPitchfork) ||
            (command >= CommandSpeedResistance && command <= CommandFibonacciRetracements);
 }
+
+inline constexpr std::array<int, 22> AllCommands{774,   775,   776,   777,   778,   779,   32777, 32779,
+                                                 32780, 32782, 32783, 32784, 32785, 32786, 32787, 32788,
+                                                 32789, 32790, 32791, 32792, 32793, 32794};
 
 inline constexpr int FirstPaneControl = 341; // the price pane; 342 to 351 the studies in display order
 inline constexpr int PaneControls = 11;

@@ -4,17 +4,9 @@
 
 #include "platform/SettingsKey.h"
 #include "platform/WindowServices.h"
-
-#include <string>
+#include "settings/WindowPosition.h"
 
 namespace zantroq {
-
-struct sWindowPosition
-{
-    sWindowRect Rect{0, 0, 620, 460};
-    bool Maximized = false;
-    bool operator==(const sWindowPosition&) const = default;
-};
 
 // Moves a rectangle onto the screen and widens one of 200 pixels or less to 200 about its centre.
 sWindowRect FitToScreen(sWindowRect rect, const sWindowRect& screen);
@@ -28,8 +20,7 @@ public:
     bool ResizeParentWindow() const { return m_resizeParent; }
 
     void LoadWindowPosition(); // for the current title; what is missing takes its default
-    void SaveWindowPosition(); // under the current title
-    void SaveIfAsked();        // positions are kept only where the host asked for it
+    void SaveIfAsked();        // under the current title, and only where the host asked for it
     const sWindowPosition& Position() const { return m_position; }
 
 private:

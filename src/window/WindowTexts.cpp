@@ -1,31 +1,14 @@
 #include "window/WindowTexts.h"
 
+#include "drawing/NumberTexts.h"
+
 #include <array>
-#include <charconv>
-#include <cstdio>
 
 namespace zantroq {
 
 namespace {
 
 constexpr std::size_t SymbolLength = 30;
-
-std::string TwoDecimals(double value)
-{
-    char text[400];
-    const auto [end, error] = std::to_chars(text, text + sizeof text, value, std::chars_format::fixed, 2);
-    return error == std::errc() ? std::string(text, end) : std::string();
-}
-
-std::string Thousands(int value)
-{
-    if (value < 0)
-        return "";
-    std::string text = std::to_string(value);
-    for (int place = static_cast<int>(text.size()) - 3; place > 0; place -= 3)
-        text.insert(static_cast<std::size_t>(place), ",");
-    return text;
-}
 
 bool StartsCharacter(char c) // of UTF-8 text
 {
@@ -78,9 +61,9 @@ std::string WindowTitle(const std::string& symbol)
 
 std::string TickDeletionText(const sHIST_DATA& point, const std::string& minuteTime, const std::string& date)
 {
-    std::string text = "Do you really want to delete this tick?\n\nPrice: " + TwoDecimals(point.Close);
+    std::string text = "Do you really want to delete this tick?\n\nPrice: " + FixedText(point.Close, 2);
     if (point.Volume != 0)
-        text += "\nVolume: " + Thousands(point.Volume);
+        text += "\nVolume: " + ThousandsText(point.Volume);
     return text + "\nTime: " + minuteTime + " on " + date;
 }
 

@@ -1,0 +1,13 @@
+// The state of a chart window and of its panes as one JSON document; docs/snapshot.md describes the fields.
+// The same state writes the same bytes. Chart window's thread.
+#pragma once
+
+#include <string>
+
+namespace zantroq {
+
+class CChartDlg;
+
+std::string ChartSnapshotText(const CChartDlg& window); // indented, ends in a newline
+
+} // namespace zantroq
