@@ -1,13 +1,16 @@
 # zantroq_test_program(NAME SOURCES... [LABELS label...] [LIBRARIES lib...])
 #
 # A GoogleTest program whose tests each become a ctest test. Tests labelled "threaded" also run under ThreadSanitizer.
-# Every test gets a settings file of its own that does not exist, so that none touches the user's.
+# Every program is linked with TestEnvironment.cpp, which keeps it away from the user's settings and from any display.
 function(zantroq_test_program name)
     cmake_parse_arguments(arg "" "" "SOURCES;LABELS;LIBRARIES" ${ARGN})
-    add_executable(${name} ${arg_SOURCES})
+    add_executable(${name} ${arg_SOURCES} ${CMAKE_SOURCE_DIR}/tests/support/TestEnvironment.cpp)
+    target_compile_definitions(${name} PRIVATE ZANTROQ_TEST_FOLDER="${CMAKE_BINARY_DIR}")
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
     target_link_libraries(${name} PRIVATE chartcore ${arg_LIBRARIES} GTest::gmock GTest::gtest_main)
-    gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES
-        LABELS "${arg_LABELS}" TIMEOUT 300
-        ENVIRONMENT "QT_QPA_PLATFORM=offscreen;ZANTROQ_SETTINGS=${CMAKE_BINARY_DIR}/no-such-folder/settings.db")
+    # An empty value would shift the properties behind it.
+    if(NOT arg_LABELS)
+        set(arg_LABELS unit)
+    endif()
+    gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES LABELS ${arg_LABELS} TIMEOUT 300)
 endfunction()
