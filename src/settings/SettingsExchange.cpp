@@ -86,6 +86,8 @@ Json ParseShallow(std::string_view text)
         return Json::parse(text.begin(), text.end(), refuseDepth);
     } catch (const Json::parse_error& error) {
         throw CSettingsFormatError("not JSON at byte " + std::to_string(error.byte));
+    } catch (const Json::out_of_range&) {
+        throw CSettingsFormatError("it holds a number that is too large for any value");
     }
 }
 

@@ -53,6 +53,12 @@ TEST(SettingsExchange, AnythingElseIsRefused)
               "value \"n\" of key \"K\": its value must be a text");
 }
 
+// The JSON library reports such a number by an error of its own kind, which went past the handler.
+TEST(SettingsExchange, ANumberBeyondAllRangesIsAFormatError)
+{
+    EXPECT_NE(ErrorOf(R"({"K":{"n":{"type":"dword","value":44e92967295}}})"), "");
+}
+
 TEST(SettingsExchange, TextThatIsNotUtf8CannotBeWritten)
 {
     EXPECT_THROW(FormatSettings({{"K", {{"n", std::string("\xff")}}}}), CSettingsFormatError);
