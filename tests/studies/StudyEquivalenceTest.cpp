@@ -133,7 +133,7 @@ public:
             DrawAt(Between(m_random, 0, m_pane.Series.Count()));
             break;
         default:
-            Tick(OneIn(m_random, 6) ? Between(m_random, 1, 70) : Between(m_random, 1, 3));
+            Tick(OneIn(m_random, 4) ? Between(m_random, 1, 70) : Between(m_random, 1, 3));
         }
     }
 
@@ -253,7 +253,7 @@ void CompareWithPlainDefinition(int kind)
     // A second chart of the process works on the same running states.
     CTwins other(kind, random, states);
     other.Check();
-    const int steps = *rc::gen::inRange(1, 12);
+    const int steps = *rc::gen::inRange(1, 40);
     for (int step = 0; step < steps; ++step) {
         CTwins& next = OneIn(random, 4) ? other : chart;
         next.Act();
