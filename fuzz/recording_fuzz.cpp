@@ -1,0 +1,46 @@
+// Arbitrary text read as each kind of recording; whatever comes out is built into longer bars and asked for.
+// The first byte chooses the kind.
+#include "feed/BarBuilder.h"
+#include "feed/HistoryReply.h"
+#include "feed/RecordedMarket.h"
+#include "feed/Recording.h"
+
+#include <cstdlib>
+
+using namespace zantroq::feed;
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    if (size == 0)
+        return 0;
+    const std::string_view text(reinterpret_cast<const char*>(data) + 1, size - 1);
+    sRECORDING_REPORT report;
+    std::vector<sFEED_TICK> ticks;
+    std::vector<sFEED_BAR> minutes, daily;
+    if (data[0] % 3 == 0)
+        ticks = ReadTicks(text, "fuzz", report);
+    else
+        (data[0] % 3 == 1 ? minutes : daily) =
+            ReadBars(data[0] % 3 == 1 ? RecordingKind::Minutes : RecordingKind::Daily, text, "fuzz", report);
+    if (report.Problems.size() > report.SkippedRows ||
+        report.Problems.size() > sRECORDING_REPORT::MaxProblems)
+        std::abort();
+    const CRecordedMarket market(std::move(ticks), std::move(minutes), std::move(daily));
+    for (const HistoryData kind : {HistoryData::Ticks, HistoryData::Intervals, HistoryData::Daily,
+                                   HistoryData::Weekly, HistoryData::Monthly}) {
+        sHISTORY_COMMAND command;
+        command.Data = kind;
+        command.Id = "1";
+        command.IntervalSeconds = 300;
+        command.Datapoints = 5;
+        std::string reason;
+        auto points = MakeHistoryPoints(market, command, reason);
+        if (!points)
+            continue;
+        CHistoryReply reply(std::move(points), command);
+        CTextBlock block;
+        while (reply.Write(block, 1000))
+            block.Clear();
+    }
+    return 0;
+}

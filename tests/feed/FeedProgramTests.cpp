@@ -1,0 +1,201 @@
+// The program zantroq-feed from outside: its first line, its messages and its exit codes.
+#include "FeedClient.h"
+#include "TemporaryFolder.h"
+
+#include <algorithm>
+#include <csignal>
+#include <cstdio>
+#include <gtest/gtest.h>
+#include <regex>
+#include <sstream>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+namespace zantroq::feed {
+namespace {
+
+// One run. Ends the program, by its own process number, when the test ends first.
+class CFeedProgram
+{
+public:
+    explicit CFeedProgram(std::vector<std::string> arguments) : m_errors(m_folder.Path() / "errors")
+    {
+        int pipes[2];
+        if (pipe(pipes) != 0)
+            throw std::runtime_error("no pipe");
+        m_process = fork();
+        if (m_process == 0) {
+            dup2(pipes[1], STDOUT_FILENO);
+            if (!std::freopen(m_errors.c_str(), "w", stderr))
+                _exit(99);
+            close(pipes[0]);
+            close(pipes[1]);
+            arguments.insert(arguments.begin(), ZANTROQ_FEED_PROGRAM);
+            std::vector<char*> texts;
+            for (auto& argument : arguments)
+                texts.push_back(argument.data());
+            texts.push_back(nullptr);
+            execv(ZANTROQ_FEED_PROGRAM, texts.data());
+            _exit(98);
+        }
+        close(pipes[1]);
+        m_output = fdopen(pipes[0], "r");
+    }
+    ~CFeedProgram()
+    {
+        if (m_process > 0) {
+            kill(m_process, SIGKILL);
+            waitpid(m_process, nullptr, 0);
+        }
+        fclose(m_output);
+    }
+
+    std::string Line()
+    {
+        std::string line;
+        for (int c = fgetc(m_output); c != EOF && c != '\n'; c = fgetc(m_output))
+            line += static_cast<char>(c);
+        return line;
+    }
+    void Signal(int number) const { kill(m_process, number); }
+    // The exit code; -1 when a signal ended it.
+    int Wait()
+    {
+        int status = 0;
+        waitpid(m_process, &status, 0);
+        m_process = 0;
+        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    }
+    std::string Errors() const
+    {
+        std::ifstream file(m_errors);
+        std::stringstream text;
+        text << file.rdbuf();
+        return text.str();
+    }
+    // Reads the first line and the two ports in it.
+    bool Listens(std::uint16_t& lookup, std::uint16_t& level1)
+    {
+        std::smatch match;
+        const std::string line = Line();
+        if (!std::regex_match(
+                line, match,
+                std::regex("listening on 127\\.0\\.0\\.1:([0-9]+) and 127\\.0\\.0\\.1:([0-9]+)")))
+            return false;
+        lookup = static_cast<std::uint16_t>(std::stoi(match[1]));
+        level1 = static_cast<std::uint16_t>(std::stoi(match[2]));
+        return true;
+    }
+
+private:
+    CTemporaryFolder m_folder;
+    std::filesystem::path m_errors;
+    pid_t m_process = 0;
+    FILE* m_output = nullptr;
+};
+
+int LinesOf(const std::string& text)
+{
+    return static_cast<int>(std::count(text.begin(), text.end(), '\n'));
+}
+
+} // namespace
+
+TEST(FeedProgram, ServesAndEndsCleanlyOnASignal)
+{
+    for (const int number : {SIGTERM, SIGINT}) {
+        CFeedProgram program({"--lookup-port", "0", "--level1-port", "0"});
+        std::uint16_t lookup = 0, level1 = 0;
+        ASSERT_TRUE(program.Listens(lookup, level1));
+        EXPECT_TRUE(CFeedClient(lookup).Ask("HDX,GOOG,1,1,6").starts_with("6,2008-10-14,"));
+        CFeedClient live(level1);
+        live.Send("wGOOG\n");
+        EXPECT_TRUE(live.ReadTo("\r\n").starts_with("F,GOOG,2,1,"));
+        program.Signal(number);
+        EXPECT_EQ(program.Wait(), 0);
+        EXPECT_EQ(program.Errors(), "");
+    }
+}
+
+TEST(FeedProgram, SaysWhatIsSimulated)
+{
+    CFeedProgram program(
+        {"--lookup-port", "0", "--level1-port", "0", "--simulate", "--speed", "50", "--seed", "9"});
+    std::uint16_t lookup = 0, level1 = 0;
+    ASSERT_TRUE(program.Listens(lookup, level1));
+    CFeedClient(lookup).Ask("HTX,SIM.WILD,10,1,0");
+    CFeedClient live(level1);
+    live.Send("wGOOG\n");
+    EXPECT_NE(live.ReadTo("Q,GOOG,").find("S,SIMULATED,GOOG"), std::string::npos);
+    program.Signal(SIGTERM);
+    EXPECT_EQ(program.Wait(), 0);
+    const std::string errors = program.Errors();
+    EXPECT_NE(errors.find("live trades are simulated for every symbol (seed 9)"), std::string::npos)
+        << errors;
+    EXPECT_NE(errors.find("SIM.WILD: simulated history"), std::string::npos) << errors;
+    EXPECT_NE(errors.find("GOOG: simulated live trades"), std::string::npos) << errors;
+}
+
+TEST(FeedProgram, ServesAFolderAndNamesItsBadRows)
+{
+    CTemporaryFolder folder;
+    folder.Write("OWN.daily.csv", "date,open,high,low,close\n2014-01-02,1,1,1,1\n2014-01-03,1,1\n");
+    CFeedProgram program({"--lookup-port", "0", "--level1-port", "0", "--data", folder.Path().string()});
+    std::uint16_t lookup = 0, level1 = 0;
+    ASSERT_TRUE(program.Listens(lookup, level1));
+    EXPECT_EQ(CFeedClient(lookup).Ask("HDX,OWN,0,1,6"), "6,2014-01-02,1,1,1,1,0,0\r\n6,!ENDMSG!,\r\n");
+    program.Signal(SIGTERM);
+    EXPECT_EQ(program.Wait(), 0);
+    EXPECT_NE(program.Errors().find("OWN.daily.csv:3: "), std::string::npos);
+    EXPECT_NE(program.Errors().find("1 row skipped"), std::string::npos);
+}
+
+TEST(FeedProgram, WrongUsageIsExitTwoAndOneSentence)
+{
+    const std::vector<std::vector<std::string>> wrong = {{"--lookup-port", "65536"},
+                                                         {"--lookup-port", "x"},
+                                                         {"--level1-port", "-1"},
+                                                         {"--speed", "0"},
+                                                         {"--speed", "nan"},
+                                                         {"--speed", "1e9"},
+                                                         {"--seed", "-1"},
+                                                         {"--seed", "1.5"},
+                                                         {"--data", "/no/such/place"},
+                                                         {"--no-such-option"},
+                                                         {"surplus"},
+                                                         {"--speed"},
+                                                         {"--lookup-port", "5000", "--level1-port", "5000"}};
+    for (const auto& arguments : wrong) {
+        CFeedProgram program(arguments);
+        EXPECT_EQ(program.Line(), "") << arguments[0];
+        EXPECT_EQ(program.Wait(), 2) << arguments[0];
+        EXPECT_EQ(LinesOf(program.Errors()), 1) << program.Errors();
+        EXPECT_TRUE(program.Errors().starts_with("zantroq-feed: "));
+    }
+}
+
+TEST(FeedProgram, ATakenPortIsExitOneAndOneSentence)
+{
+    CFeedProgram first({"--lookup-port", "0", "--level1-port", "0"});
+    std::uint16_t lookup = 0, level1 = 0;
+    ASSERT_TRUE(first.Listens(lookup, level1));
+    CFeedProgram second({"--lookup-port", std::to_string(lookup), "--level1-port", "0"});
+    EXPECT_EQ(second.Line(), "");
+    EXPECT_EQ(second.Wait(), 1);
+    EXPECT_EQ(LinesOf(second.Errors()), 1);
+    EXPECT_NE(second.Errors().find(std::to_string(lookup)), std::string::npos);
+}
+
+TEST(FeedProgram, HelpAndVersionAreResults)
+{
+    CFeedProgram help({"--help"});
+    EXPECT_NE(help.Line(), "");
+    EXPECT_EQ(help.Wait(), 0);
+    CFeedProgram version({"--version"});
+    EXPECT_TRUE(version.Line().starts_with("zantroq-feed "));
+    EXPECT_EQ(version.Wait(), 0);
+    EXPECT_EQ(version.Errors(), "");
+}
+
+} // namespace zantroq::feed

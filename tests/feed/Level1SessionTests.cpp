@@ -1,0 +1,279 @@
+// The level 1 conversation, without sockets and with a clock that the test turns.
+#include "feed/Level1Session.h"
+
+#include "TemporaryFolder.h"
+#include "feed/CsvLine.h"
+
+#include <cmath>
+#include <cstdlib>
+#include <gtest/gtest.h>
+
+namespace zantroq::feed {
+namespace {
+
+using namespace std::chrono_literals;
+
+std::vector<std::string> Lines(const std::string& text)
+{
+    std::vector<std::string> lines;
+    std::string_view rest = text, line;
+    while (TakeLine(rest, line))
+        lines.emplace_back(line);
+    return lines;
+}
+
+std::vector<std::string> Fields(const std::string& line)
+{
+    std::vector<std::string_view> views;
+    SplitAtCommas(line, views);
+    return {views.begin(), views.end()};
+}
+
+constexpr std::string_view AllFields =
+    "S,SELECT UPDATE FIELDS,,Symbol,Total Volume,Most Recent Trade Size,High,Low,Bid,Ask,Bid Size,Ask "
+    "Size,Most Recent Trade "
+    "TimeMS,Open Interest,Open,Close,Most Recent Trade Date,Most Recent Trade,Fraction Display "
+    "Code,TickID,Most Recent Trade "
+    "Market Center,Bid Market Center,Ask Market Center,Message Contents,Most Recent Trade Conditions";
+
+} // namespace
+
+class Level1Session : public testing::Test
+{
+protected:
+    Level1Session()
+    {
+        m_folder.Write("DY.daily.csv",
+                       "date,open,high,low,close,volume,open_interest\n"
+                       "2014-01-02,10,11,9,10.5,1000,3\n2014-01-03,10.50,12.00,10.00,11.00,2000,5\n");
+        m_folder.Write("MN.minute.csv",
+                       "time,open,high,low,close,volume\n2014-01-03 09:31:00,20,21,19,20.5,100\n"
+                       "2014-01-03 09:32:00,20.5,22,20,21.50,50\n");
+        m_folder.Write("TK.tick.csv", "time,last,size,total_volume,bid,ask,tick_id,basis\n"
+                                      "2014-01-03 10:00:00.000,5.00,100,100,4.99,5.01,1,C\n"
+                                      "2014-01-03 10:00:01.000,5.10,200,300,5.09,5.11,2,C\n"
+                                      "2014-01-03 10:00:03.000,5.05,300,600,5.04,5.06,3,E\n");
+        m_catalog.AddFolder(m_folder.Path());
+    }
+
+    std::string Say(CLevel1Session& session, std::string_view line)
+    {
+        std::string text;
+        session.OnLine(line, m_now, text);
+        return text;
+    }
+
+    std::vector<std::string> Trades(CLevel1Session& session, CLevel1Session::TClock::duration wait)
+    {
+        std::string text;
+        m_now += wait;
+        session.WriteDue(m_now, 10'000'000, text);
+        return Lines(text);
+    }
+
+    CTemporaryFolder m_folder;
+    std::vector<std::string> m_notices;
+    CMarketCatalog m_catalog{1, [this](const std::string& notice) { m_notices.push_back(notice); }};
+    CLevel1Session::TClock::time_point m_now{};
+};
+
+TEST_F(Level1Session, AWatchGivesTheFundamentalLineAndThenTheSummary)
+{
+    CLevel1Session session(m_catalog, {});
+    Say(session, AllFields);
+    const auto lines = Lines(Say(session, "wDY"));
+    ASSERT_EQ(lines.size(), 2u);
+    EXPECT_TRUE(lines[0].starts_with("F,DY,"));
+    EXPECT_EQ(
+        lines[1],
+        "P,DY,2000,0,12.00,10.00,10.99,11.01,100,100,16:00:00.000,5,10.50,10.5,01/03/2014,11.00,12,0,1,1,1,"
+        "Cbaohlcv,01,");
+}
+
+TEST_F(Level1Session, TheFundamentalLineCarriesCodeAndDecimalsAt39And40)
+{
+    CLevel1Session session(m_catalog, {});
+    auto fields = Fields(Lines(Say(session, "wDY"))[0]);
+    ASSERT_GT(fields.size(), 40u);
+    EXPECT_EQ(fields[39], "12");
+    EXPECT_EQ(fields[40], "2");
+    fields = Fields(Lines(Say(session, "wSIM.BOND"))[1]);
+    ASSERT_EQ(fields[0], "F");
+    EXPECT_EQ(fields[39], "5"); // 32nds
+    EXPECT_EQ(fields[40], "5");
+}
+
+TEST_F(Level1Session, FieldsComeInTheOrderAskedForWithTheSymbolFirst)
+{
+    CLevel1Session session(m_catalog, {});
+    EXPECT_EQ(Say(session, "S,SELECT UPDATE FIELDS,,Symbol,Close,No Such Field,High"),
+              "S,CURRENT UPDATE FIELDNAMES,Symbol,Close,High\r\n");
+    EXPECT_EQ(Lines(Say(session, "wDY"))[1], "P,DY,10.5,12.00,");
+    Say(session, "S,SELECT UPDATE FIELDS,Low");
+    EXPECT_EQ(Lines(Say(session, "wDY"))[1], "P,DY,10.00,");
+    EXPECT_EQ(Say(session, "S,SELECT UPDATE FIELDS,nothing known"), "E,!SYNTAX_ERROR!,,\r\n");
+    EXPECT_EQ(Lines(Say(session, "wDY"))[1], "P,DY,10.00,");
+}
+
+TEST_F(Level1Session, TheSymbolComesBackAsItWasAskedFor)
+{
+    CLevel1Session session(m_catalog, {});
+    EXPECT_TRUE(Say(session, "wdy").starts_with("F,dy,"));
+}
+
+TEST_F(Level1Session, UnknownSymbolsAndLinesAreAnswered)
+{
+    CLevel1Session session(m_catalog, {});
+    EXPECT_EQ(Say(session, "wNIX"), "N,NIX,Unknown symbol\r\n");
+    EXPECT_EQ(Say(session, "nonsense"), "E,!SYNTAX_ERROR!,,\r\n");
+    EXPECT_EQ(Say(session, "w"), "E,!SYNTAX_ERROR!,,\r\n");
+    EXPECT_EQ(Say(session, "w" + std::string(5000, 'x')), "E,!SYNTAX_ERROR!,,\r\n");
+    EXPECT_EQ(Say(session, ""), "");
+    // A client that drops a symbol it was never sent expects no answer, or the two would never stop.
+    EXPECT_EQ(Say(session, "r!SYNTAX_ERROR!"), "");
+    EXPECT_EQ(Say(session, "S,SET PROTOCOL,5.0"), "S,CURRENT PROTOCOL,5.0\r\n");
+}
+
+TEST_F(Level1Session, ARecordedSymbolIsSilentUnlessAsked)
+{
+    CLevel1Session session(m_catalog, {});
+    Say(session, "wDY");
+    CLevel1Session::TClock::time_point due;
+    EXPECT_FALSE(session.NextDue(due));
+    EXPECT_TRUE(Trades(session, 1h).empty());
+    EXPECT_TRUE(m_notices.empty());
+}
+
+TEST_F(Level1Session, SimulatedTradesGoOnFromTheLastMinuteOfTheSameDay)
+{
+    CLevel1Session session(m_catalog, {.SimulateAll = true});
+    Say(session, AllFields);
+    EXPECT_TRUE(Say(session, "wMN").starts_with("S,SIMULATED,MN\r\nF,MN,"));
+    const auto lines = Trades(session, 60s);
+    ASSERT_GT(lines.size(), 30u);
+    std::int64_t volume = 150;
+    double high = 22, low = 19;
+    std::string time = "09:32:00.000";
+    bool quote = false;
+    for (const auto& line : lines) {
+        const auto fields = Fields(line);
+        ASSERT_EQ(fields.size(), 24u); // type, 22 fields, and nothing behind the last comma
+        EXPECT_EQ(fields[0], "Q");
+        EXPECT_EQ(fields[1], "MN");
+        EXPECT_EQ(fields[14], "01/03/2014");
+        EXPECT_GE(fields[10], time);
+        time = fields[10];
+        const std::string& contents = fields[21];
+        const double price = std::atof(fields[15].c_str());
+        if (contents == "ba") {
+            quote = true;
+            EXPECT_EQ(std::atoll(fields[2].c_str()), volume);
+            continue;
+        }
+        volume += std::atoll(fields[3].c_str());
+        EXPECT_EQ(std::atoll(fields[2].c_str()), volume);
+        if (contents[0] == 'C') {
+            high = std::max(high, price);
+            low = std::min(low, price);
+        }
+        EXPECT_EQ(std::atof(fields[4].c_str()), high);
+        EXPECT_EQ(std::atof(fields[5].c_str()), low);
+        EXPECT_EQ(fields[12], "20");
+        EXPECT_LT(std::abs(price - 21.5), 3);
+    }
+    EXPECT_TRUE(quote);
+    EXPECT_GT(time, "09:32:50.000");
+    ASSERT_EQ(m_notices.size(), 1u);
+    EXPECT_NE(m_notices[0].find("simulated live trades"), std::string::npos);
+}
+
+TEST_F(Level1Session, AfterDailyBarsTradesBeginOnTheNextWeekdayMorning)
+{
+    CLevel1Session session(m_catalog, {.SimulateAll = true});
+    Say(session, AllFields);
+    Say(session, "wDY");
+    std::vector<std::string> first;
+    for (const auto& line : Trades(session, 30s))
+        if (first.empty() && Fields(line)[21] != "ba")
+            first = Fields(line);
+    ASSERT_FALSE(first.empty());
+    EXPECT_EQ(first[14], "01/06/2014"); // the 3rd was a Friday
+    EXPECT_TRUE(first[10].starts_with("09:30:"));
+    EXPECT_EQ(first[2], first[3]);   // a new day's volume
+    EXPECT_EQ(first[12], first[15]); // and open
+    EXPECT_EQ(first[13], "11.00");   // the close before
+}
+
+TEST_F(Level1Session, TheSameSeedGivesTheSameTradesAndSpeedOnlyTheirPace)
+{
+    CLevel1Session slow(m_catalog, {.SimulateAll = true}),
+        fast(m_catalog, {.SimulateAll = true, .Speed = 10});
+    Say(slow, "wMN");
+    Say(fast, "wMN");
+    const auto quick = Trades(fast, 10s);
+    const auto plain = Trades(slow, 90s); // 100 seconds since its watch
+    ASSERT_GT(plain.size(), 50u);
+    EXPECT_EQ(quick, plain);
+}
+
+TEST_F(Level1Session, TheBlockLimitLosesNoTrade)
+{
+    CLevel1Session whole(m_catalog, {.SimulateAll = true}), pieces(m_catalog, {.SimulateAll = true});
+    for (auto* session : {&whole, &pieces})
+        for (const char* symbol : {"wMN", "wDY", "wSIM.WILD"})
+            Say(*session, symbol);
+    const auto expected = Trades(whole, 60s);
+    std::string text;
+    for (int i = 0; i < 10'000; ++i)
+        pieces.WriteDue(m_now, 1, text);
+    EXPECT_EQ(Lines(text), expected);
+}
+
+TEST_F(Level1Session, ARemovedSymbolIsSilentAndBeginsAnewWhenWatchedAgain)
+{
+    CLevel1Session session(m_catalog, {.SimulateAll = true});
+    Say(session, "wMN");
+    const auto first = Trades(session, 10s);
+    EXPECT_FALSE(Say(session, "wMN").empty());
+    const auto on = Trades(session, 10s);
+    EXPECT_NE(on, first);
+    EXPECT_EQ(Say(session, "rMN"), "");
+    EXPECT_TRUE(Trades(session, 10s).empty());
+    Say(session, "wMN");
+    EXPECT_EQ(Trades(session, 10s), first);
+}
+
+TEST_F(Level1Session, RecordedTicksAreReplayedBehindTheLastPoint)
+{
+    CLevel1Session session(m_catalog, {.ReplayTicks = true, .Speed = 1});
+    Say(session, "S,SELECT UPDATE FIELDS,Symbol,Most Recent Trade Date,Most Recent Trade TimeMS,Most Recent "
+                 "Trade,Most Recent "
+                 "Trade Size,Message Contents,Total Volume");
+    Say(session, "wTK");
+    const auto lines = Trades(session, 1h);
+    ASSERT_EQ(lines.size(), 3u);
+    // The recording's last point is at 10:00:03.000; its ticks lie 1 and 2 seconds apart.
+    EXPECT_EQ(lines[0], "Q,TK,01/03/2014,10:00:03.001,5.00,100,Cbav,700,");
+    EXPECT_EQ(lines[1], "Q,TK,01/03/2014,10:00:04.001,5.10,200,Cbav,900,");
+    EXPECT_EQ(lines[2], "Q,TK,01/03/2014,10:00:06.001,5.05,300,Ebav,1200,");
+    EXPECT_EQ(m_notices.size(), 1u);
+}
+
+TEST_F(Level1Session, TradesRunPastMidnightIntoANewDay)
+{
+    CLevel1Session session(m_catalog, {.SimulateAll = true, .Speed = 1000});
+    Say(session, "S,SELECT UPDATE FIELDS,Symbol,Most Recent Trade Date,Most Recent Trade TimeMS,Total "
+                 "Volume,Message Contents");
+    Say(session, "wMN");
+    bool newDay = false;
+    for (const auto& line : Trades(session, 60s)) { // 60,000 seconds of market, from 09:32
+        const auto fields = Fields(line);
+        if (fields[5].starts_with("Cbaohl") && fields[2] == "01/04/2014") {
+            newDay = true;
+            EXPECT_LE(std::atoi(fields[4].c_str()), 500);
+        }
+    }
+    EXPECT_TRUE(newDay);
+}
+
+} // namespace zantroq::feed

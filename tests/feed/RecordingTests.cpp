@@ -1,0 +1,190 @@
+#include "feed/Recording.h"
+
+#include "feed/DecimalPrice.h"
+
+#include <gtest/gtest.h>
+
+namespace zantroq::feed {
+namespace {
+
+std::string Text(sPRICE price)
+{
+    char text[32];
+    return {text, WritePrice(text, price)};
+}
+
+std::vector<sFEED_BAR> Daily(std::string_view text, sRECORDING_REPORT& report)
+{
+    return ReadBars(RecordingKind::Daily, text, "x.daily.csv", report);
+}
+
+constexpr std::string_view DailyHeader = "date,open,high,low,close,volume,open_interest\n";
+
+} // namespace
+
+TEST(DecimalPrice, IsWrittenAsItWasRead)
+{
+    for (const char* text :
+         {"100.0", "0.05", "101.25", "7", "-0.5", "12345678.123456789", "0", "110.03125"}) {
+        sPRICE price;
+        ASSERT_TRUE(ParsePrice(text, price)) << text;
+        EXPECT_EQ(Text(price), text);
+    }
+}
+
+TEST(DecimalPrice, ExponentsAndLongFractionsBecomePlainDecimals)
+{
+    sPRICE price;
+    ASSERT_TRUE(ParsePrice("1.5e2", price));
+    EXPECT_EQ(Text(price), "150");
+    ASSERT_TRUE(ParsePrice("0.33333333333333333333", price));
+    EXPECT_EQ(Text(price), "0.3333333333");
+}
+
+TEST(DecimalPrice, AnythingElseIsNoPrice)
+{
+    for (const char* text : {"", " 1", "1 ", "12x", "nan", "inf", "--1", ".", "1.2.3", "0x10"}) {
+        sPRICE price = MakePrice(42, 1);
+        EXPECT_FALSE(ParsePrice(text, price)) << text;
+        EXPECT_EQ(price.Mantissa, 42);
+    }
+}
+
+TEST(DecimalPrice, ComparesAcrossDecimals)
+{
+    EXPECT_TRUE(IsBelow(MakePrice(1000, 2), MakePrice(101, 1)));
+    EXPECT_FALSE(IsBelow(MakePrice(1010, 2), MakePrice(101, 1)));
+    EXPECT_FALSE(IsBelow(MakePrice(101, 1), MakePrice(1010, 2)));
+}
+
+TEST(FeedTime, KnowsTheCalendar)
+{
+    TFeedDay day = 0;
+    ASSERT_TRUE(ParseDay("1970-01-01", day));
+    EXPECT_EQ(day, 0);
+    ASSERT_TRUE(ParseDay("20000301", day)); // 30 years, 7 leap days before 2000, then 31 + 29
+    EXPECT_EQ(day, 30 * 365 + 7 + 60);
+    EXPECT_EQ(WeekdayOf(day), 2); // a Wednesday
+    EXPECT_FALSE(ParseDay("2001-02-29", day));
+    EXPECT_FALSE(ParseDay("2001-2-9", day));
+}
+
+TEST(FeedTime, ReadsAndWritesStamps)
+{
+    TFeedTime time = 0;
+    ASSERT_TRUE(ParseStamp("1970-01-02 00:00:01.5", time));
+    EXPECT_EQ(time, 86'401'500);
+    char text[40];
+    EXPECT_EQ(std::string(text, WriteMilliseconds(text, TimeOfDay(time))), "00:00:01.500");
+    ASSERT_TRUE(ParseStamp("1969-12-31 23:59:59", time));
+    EXPECT_EQ(time, -1000);
+    EXPECT_EQ(DayOf(time), -1);
+    EXPECT_FALSE(ParseStamp("1970-01-01 24:00:00", time));
+    EXPECT_FALSE(ParseStamp("1970-01-01x10:00:00", time));
+}
+
+TEST(Recordings, ATickRowFillsEveryField)
+{
+    sRECORDING_REPORT report;
+    const auto ticks = ReadTicks("time,last,size,total_volume,bid,ask,tick_id,basis\n"
+                                 "2014-01-02 09:30:01.250,101.25,100,5000,101.20,101.30,77,E\n",
+                                 "x", report);
+    ASSERT_EQ(ticks.size(), 1u);
+    EXPECT_EQ(Text(ticks[0].Last), "101.25");
+    EXPECT_EQ(ticks[0].Size, 100u);
+    EXPECT_EQ(ticks[0].TotalVolume, 5000);
+    EXPECT_EQ(Text(ticks[0].Bid), "101.20");
+    EXPECT_EQ(Text(ticks[0].Ask), "101.30");
+    EXPECT_EQ(ticks[0].TickId, 77u);
+    EXPECT_EQ(ticks[0].Basis, 'E');
+    EXPECT_EQ(TimeOfDay(ticks[0].Time), (9 * 3600 + 30 * 60 + 1) * 1000 + 250);
+    EXPECT_EQ(report.SkippedRows, 0u);
+}
+
+TEST(Recordings, CrLfByteOrderMarkAndBlankLinesAreNothing)
+{
+    sRECORDING_REPORT report;
+    const auto bars = Daily("\xEF\xBB\xBF\r\n\r\ndate,open,high,low,close,volume,open_interest\r\n\r\n"
+                            " 2014-01-02 , 1 ,2,0.5,1.5,10,0\r\n\r\n2014-01-03,1,2,0.5,1.5,10,0",
+                            report);
+    EXPECT_EQ(bars.size(), 2u);
+    EXPECT_EQ(report.SkippedRows, 0u);
+}
+
+TEST(Recordings, ABadRowNamesFileAndLineAndCostsThatRowAlone)
+{
+    sRECORDING_REPORT report;
+    const auto bars = Daily(std::string(DailyHeader) + "2014-01-02,1,2,0.5,1.5,10,0\n"
+                                                       "2014-01-03,1,12x,0.5,1.5,10,0\n"
+                                                       "2014-02-30,1,2,0.5,1.5,10,0\n"
+                                                       "2014-01-04,1,2,3,1.5,10,0\n"
+                                                       "2014-01-05,1,2\n"
+                                                       "2014-01-06,1,2,0.5,1.5,-10,0\n"
+                                                       "2014-01-07,1,2,0.5,1.5,10.0,\n",
+                            report);
+    ASSERT_EQ(bars.size(), 2u);
+    EXPECT_EQ(report.SkippedRows, 5u);
+    ASSERT_EQ(report.Problems.size(), 5u);
+    EXPECT_EQ(report.Problems[0], "x.daily.csv:3: high is not a price: \"12x\"");
+    EXPECT_EQ(report.Problems[2], "x.daily.csv:5: high is below low");
+    EXPECT_TRUE(report.Problems[3].starts_with("x.daily.csv:6: low is not a price"));
+}
+
+TEST(Recordings, ManyBadRowsAreCountedButNotAllTold)
+{
+    std::string text(DailyHeader);
+    for (int i = 0; i < 1000; ++i)
+        text += "nonsense\n";
+    sRECORDING_REPORT report;
+    EXPECT_TRUE(Daily(text, report).empty());
+    EXPECT_EQ(report.SkippedRows, 1000u);
+    EXPECT_EQ(report.Problems.size(), sRECORDING_REPORT::MaxProblems);
+}
+
+TEST(Recordings, AHugeOrBinaryRowIsSkippedAndNotRepeatedWhole)
+{
+    sRECORDING_REPORT report;
+    const auto bars = Daily(std::string(DailyHeader) + std::string(1'000'000, 'x') + "\n" +
+                                std::string(50, '\0') + ",\x01\xff\n2014-01-02,1,2,0.5,1.5,10,0\n",
+                            report);
+    EXPECT_EQ(bars.size(), 1u);
+    EXPECT_EQ(report.SkippedRows, 2u);
+    for (const auto& problem : report.Problems)
+        EXPECT_LT(problem.size(), 200u);
+}
+
+TEST(Recordings, WithoutAHeaderTheFileIsNotUsed)
+{
+    sRECORDING_REPORT report;
+    EXPECT_TRUE(Daily("2014-01-02,1,2,0.5,1.5,10,0\n2014-01-03,1,2,0.5,1.5,10,0\n", report).empty());
+    ASSERT_EQ(report.Problems.size(), 1u);
+    EXPECT_NE(report.Problems[0].find("header"), std::string::npos);
+    sRECORDING_REPORT empty;
+    EXPECT_TRUE(Daily("", empty).empty());
+    EXPECT_EQ(empty.Problems.size(), 1u);
+}
+
+TEST(Recordings, ColumnsAreFoundByName)
+{
+    sRECORDING_REPORT report;
+    const auto bars = Daily("close,note,Low,HIGH,open,date\n1.5,\"a, b\",0.5,2,1,2014-01-02\n", report);
+    ASSERT_EQ(bars.size(), 1u);
+    EXPECT_EQ(Text(bars[0].Close), "1.5");
+    EXPECT_EQ(Text(bars[0].High), "2");
+    EXPECT_EQ(bars[0].Volume, 0);
+}
+
+TEST(Recordings, RowsOutOfOrderAreSortedAndEqualTimesKeepTheirOrder)
+{
+    sRECORDING_REPORT report;
+    const auto ticks = ReadTicks(
+        "time,last\n2014-01-03 10:00:00,3\n2014-01-02 10:00:00,1\n2014-01-02 10:00:00,2\n", "x", report);
+    ASSERT_EQ(ticks.size(), 3u);
+    EXPECT_EQ(Text(ticks[0].Last), "1");
+    EXPECT_EQ(Text(ticks[1].Last), "2");
+    EXPECT_EQ(Text(ticks[2].Last), "3");
+    EXPECT_EQ(ticks[0].Basis, 'C');
+    EXPECT_EQ(Text(ticks[0].Bid), "1");
+}
+
+} // namespace zantroq::feed
