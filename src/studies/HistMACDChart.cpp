@@ -1,5 +1,6 @@
 #include "studies/HistMACDChart.h"
 
+#include "drawing/XAxis.h"
 #include "studies/Hole.h"
 
 #include <algorithm>
@@ -49,7 +50,8 @@ void CHistMACDChart::FitDrawnAxis(CLineValues values)
 
 void CHistMACDChart::AdjustStudyBars()
 {
-    chart->PaneArea().BarLook().SetBarWidth(std::max(1, static_cast<int>(PixelsPerPoint())));
+    const double pixels = PixelsPerPoint(dlg->ChartPixelWidth(), dlg->Range().shown);
+    chart->PaneArea().BarLook().SetBarWidth(std::max(1, static_cast<int>(pixels)));
 }
 
 std::string CHistMACDChart::HeadText() const

@@ -1,7 +1,9 @@
 #include "studies/HistStudyChart.h"
 
+#include "drawing/NumberTexts.h"
+#include "drawing/SeriesStyleTable.h"
+#include "drawing/XAxis.h"
 #include "studies/Hole.h"
-#include "studies/StudyTexts.h"
 
 #include <algorithm>
 #include <cmath>
@@ -11,17 +13,12 @@ namespace zantroq {
 
 namespace {
 
-// The look of every study curve: a solid line of one pixel, a solid fill, no symbol.
+// The look of every study curve, in its own colour.
 void SetLook(CSeriesStyle& style, Colour colour)
 {
-    style.LineLook().SetPattern(LineSolid);
-    style.LineLook().SetColour(colour);
-    style.LineLook().SetWidth(1);
-    style.FillLook().SetPattern(2);
-    style.FillLook().SetColour(colour);
-    style.SymbolLook().SetShape(SymbolNone);
-    style.SymbolLook().SetColour(colour);
-    style.SymbolLook().SetSize(1);
+    sSeriesLook look = DefaultSeriesStyles()[StudyMainStyle];
+    look.Color = colour;
+    ApplyLook(style, look);
 }
 
 int SeriesOfGroup(const std::vector<sStudyLine>& lines, int group)
@@ -71,20 +68,6 @@ void CHistStudyChart::PrepareGroups(int shown)
     }
 }
 
-void CHistStudyChart::FitXAxis(int shown)
-{
-    CPaneAxis& x = chart->PaneArea().PaneAxes().X();
-    x.ViewLow().SetValue(1);
-    x.DataLow().SetValue(1);
-    x.DataHigh().SetValue(shown);
-    x.ViewHigh().SetValue(shown + 0.5);
-    const int spacing = (shown - 2) / 5 + 1;
-    x.TickSpacing().SetValue(spacing);
-    x.TickMarkSpacing().SetValue(spacing);
-    if (dlg->Settings().Grid != 0)
-        x.AxisGrid().SetSpacing(spacing);
-}
-
 void CHistStudyChart::ComputeLines(std::int64_t index, std::vector<std::vector<double>>& values)
 {
     std::vector<double*> out;
@@ -99,7 +82,7 @@ void CHistStudyChart::DrawStudy()
     if (shown <= 0)
         return;
     PrepareGroups(shown);
-    FitXAxis(shown);
+    SetXAxis(*chart, shown, dlg->Settings().Grid != 0);
 
     const std::vector<sStudyLine> lines = Lines();
     const auto points = static_cast<std::size_t>(shown);
@@ -211,14 +194,6 @@ void CHistStudyChart::WidenAxis(CLineValues values)
         range.Widen(line);
     if (range.Max > present.Max || range.Min < present.Min)
         SetStudyYAxis(*chart, AxisLook(), range.Max, range.Min);
-}
-
-double CHistStudyChart::PixelsPerPoint() const
-{
-    const double width = dlg->ChartPixelWidth();
-    const int shown = dlg->Range().shown;
-    const double pixels = shown == 1 ? width : (width - 81.0) / (shown - 0.5);
-    return pixels > 0 ? pixels : 1.0;
 }
 
 std::string CHistStudyChart::ValueText(const char* prefix, int series, int point, int decimals) const

@@ -107,13 +107,10 @@ protected:
         int FirstIndex; // the series index of FirstNew
     };
     void PrepareGroups(int shown);
-    void FitXAxis(int shown);
     // Shifts and sizes all series, moves the marker and the x axis.
     sUpdatePlan MakeRoom(int newPoints);
     // Sets SetStudyYAxis from the axis's present data range, widened, if a value lies outside it.
     void WidenAxis(CLineValues values);
-    // Pixels a point takes, at least 1.
-    double PixelsPerPoint() const;
 
 private:
     void ComputeLines(std::int64_t index, std::vector<std::vector<double>>& values);

@@ -1,7 +1,9 @@
 #include "studies/HistVOLChart.h"
 
+#include "drawing/NumberTexts.h"
+#include "drawing/XAxis.h"
+#include "market/HistoryRecords.h"
 #include "studies/Hole.h"
-#include "studies/StudyTexts.h"
 #include "studies/VolumeScale.h"
 
 #include <algorithm>
@@ -12,15 +14,6 @@
 namespace zantroq {
 
 namespace {
-
-enum RequestData : int
-{
-    Ticks = 0,
-    Minutes,
-    Daily,
-    Weekly,
-    Monthly
-};
 
 // The nearest 64-bit number that a double can be cut down to.
 std::int64_t WholeVolume(double value)
@@ -72,7 +65,7 @@ void CHistVOLChart::DrawStudy()
     if (shown <= 0 || points == 0)
         return;
     PrepareGroups(shown);
-    FitXAxis(shown);
+    SetXAxis(*chart, shown, dlg->Settings().Grid != 0);
     CPaneAxes& axes = chart->PaneArea().PaneAxes();
     axes.X().DataHigh().SetKind(1);
     axes.Y().SetSetting21(0);
@@ -96,7 +89,7 @@ void CHistVOLChart::DrawStudy()
     CPaneData& average = chart->PaneGroups(2).PaneData();
     if (ShowsAverage()) {
         average.SetXVector(1, volumes.X());
-        average.SetYVector(1, AverageLine(shown, dlg->Settings().Request.DataType == Minutes ? 1 : 0));
+        average.SetYVector(1, AverageLine(shown, dlg->Settings().Request.DataType == MinuteData ? 1 : 0));
         chart->PaneGroups(2).CommitPaneData();
     } else {
         average.SetPointCount(1, 0);
@@ -142,7 +135,7 @@ void CHistVOLChart::UpdateStudy(int newPoints)
 
 void CHistVOLChart::AdjustStudyBars()
 {
-    const double pixels = PixelsPerPoint();
+    const double pixels = PixelsPerPoint(dlg->ChartPixelWidth(), dlg->Range().shown);
     CPaneGroup& group = chart->PaneGroups(1);
     if (pixels < 1) {
         group.SetChartType(ChartLines);
@@ -154,7 +147,7 @@ void CHistVOLChart::AdjustStudyBars()
 
 std::string CHistVOLChart::VolumeText(double value) const
 {
-    std::string text = GroupedText(WholeVolume(value));
+    std::string text = ThousandsText(WholeVolume(value));
     if (VolumeDivisor >= 2)
         text += " in " + std::to_string(VolumeDivisor) + "s";
     return text;
@@ -168,13 +161,13 @@ std::string CHistVOLChart::HeadText() const
     const sRequestSettings& request = dlg->Settings().Request;
     text += ", lookback period - ";
     switch (request.DataType) {
-    case Ticks:
+    case TickData:
         return text + std::to_string(Period()) + " ticks";
-    case Minutes:
+    case MinuteData:
         return text + std::to_string(std::int64_t{Period()} * MinutesOf(request.IntervalIndex)) + " minutes";
-    case Daily:
+    case DailyData:
         return text + std::to_string(Period()) + " days";
-    case Weekly:
+    case WeeklyData:
         return text + std::to_string(Period()) + " weeks";
     default:
         return text + std::to_string(Period()) + " months";

@@ -1,6 +1,6 @@
 #include "studies/StudyAxis.h"
 
-#include "studies/StudyTexts.h"
+#include "drawing/NumberTexts.h"
 
 #include <algorithm>
 #include <array>

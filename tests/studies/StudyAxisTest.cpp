@@ -1,7 +1,6 @@
 #include "StudyPane.h"
 
 #include "studies/StudyAxis.h"
-#include "studies/StudyTexts.h"
 
 #include <gmock/gmock.h>
 
@@ -235,25 +234,6 @@ TEST(VolumeAxis, EndsForEveryMaximum)
         EXPECT_LE(f.Labels().size(), 30u);
         EXPECT_GE(f.Labels().size(), 1u);
     }
-}
-
-TEST(StudyTexts, GroupsThousandsAndHasNoTextForNegatives)
-{
-    EXPECT_EQ(GroupedText(0), "0");
-    EXPECT_EQ(GroupedText(999), "999");
-    EXPECT_EQ(GroupedText(1000), "1,000");
-    EXPECT_EQ(GroupedText(1234567), "1,234,567");
-    EXPECT_EQ(GroupedText(-1), "");
-}
-
-TEST(StudyTexts, FixedTextRoundsLikeTheCLocale)
-{
-    EXPECT_EQ(FixedText(0.125, 2), "0.12");
-    EXPECT_EQ(FixedText(2.5, 0), "2");
-    EXPECT_EQ(FixedText(-1.03125, 4), "-1.0312");
-    EXPECT_EQ(FixedText(NotANumber, 4), "nan");
-    EXPECT_EQ(FixedText(-NotANumber, 4), "nan");
-    EXPECT_EQ(FixedText(-Infinity, 4), "-inf");
 }
 
 } // namespace
