@@ -1,3 +1,9 @@
+# Repeated builds take what ccache kept, where it is installed.
+find_program(ZANTROQ_CCACHE ccache)
+if(ZANTROQ_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${ZANTROQ_CCACHE})
+endif()
+
 # One interface target carries the warnings and sanitizers that every target of the project uses.
 add_library(zantroq_settings INTERFACE)
 target_include_directories(zantroq_settings INTERFACE ${CMAKE_SOURCE_DIR}/src)

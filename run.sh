@@ -1,0 +1,35 @@
+#!/usr/bin/env bash
+# Builds Zantroq Chart and shows a recorded market on the feed inside the program. Without a display it writes a picture instead and
+# says where.
+#
+#   ./run.sh                 build and start; further words go to zantroq-chart
+#   ./run.sh --build-only    build; the programs are then in build/release/bin/
+#   ./run.sh --help
+set -euo pipefail
+cd "$(dirname "$0")"
+
+if [[ "${1:-}" == "--help" || "${1:-}" == "-h" ]]; then
+    sed -n '2,8s/^# \{0,1\}//p' "$0"
+    exit 0
+fi
+
+packaging/install-packages.sh build run
+cmake --preset release >build-configure.log 2>&1 || { cat build-configure.log >&2; rm -f build-configure.log; exit 1; }
+rm -f build-configure.log
+cmake --build --preset release --target zantroq-chart zantroq-feed zantroq-settings
+
+programs=build/release/bin
+if [[ "${1:-}" == "--build-only" ]]; then
+    echo "Built: $programs/zantroq-chart, $programs/zantroq-feed, $programs/zantroq-settings"
+    exit 0
+fi
+
+words=("$@")
+[[ ${#words[@]} -eq 0 ]] && words=(GOOG --data daily --feed embedded)
+if [[ -n "${DISPLAY:-}" || -n "${WAYLAND_DISPLAY:-}" ]]; then
+    exec "$programs/zantroq-chart" "${words[@]}"
+fi
+# No display: a picture, with settings of its own so that the user's stay as they are.
+picture="$PWD/build/chart.png"
+ZANTROQ_SETTINGS="$PWD/build/picture-settings.db" "$programs/zantroq-chart" "${words[@]}" --size 900x700 --snapshot "$picture"
+echo "There is no display; the chart is in $picture"
