@@ -121,6 +121,7 @@ public:
     int Series = 0, Point = 0;
 
 private:
+    static constexpr std::size_t Block = 64;
     std::size_t Points() const { return m_data.X().size(); }
 
     std::size_t FirstAtOrAfter(int pixel) const
@@ -147,31 +148,45 @@ private:
     void Look(std::size_t first, std::size_t last)
     {
         BestSquare = std::numeric_limits<std::int64_t>::max();
+        Point = 0;
         for (int series = m_data.FirstVisible(); series <= m_data.LastVisible(); ++series) {
             const std::span<const double> y = m_data.Y(series);
-            double reach = FarPixel * 4.0;
-            for (std::size_t i = first; i < last; ++i) {
-                // Two pixels of slack: the exact test below is on whole pixels.
-                if (!(std::abs(m_map.Y.Position(y[i]) - m_mouseY) <= reach + 2) || !Consider(series, i, y[i]))
-                    continue;
-                reach = std::sqrt(static_cast<double>(BestSquare));
+            for (std::size_t block = first; block < last; block += Block) {
+                const std::size_t end = std::min(block + Block, last);
+                if (MayHoldNearer(y.data() + block, y.data() + end))
+                    for (std::size_t i = block; i < end; ++i)
+                        Consider(series, i, y[i]);
             }
         }
     }
 
-    bool Consider(int series, std::size_t i, double y)
+    // Whether any of the values lies within the distance of the best one so far, in y alone and with two
+    // pixels of slack.
+    bool MayHoldNearer(const double* from, const double* to) const
+    {
+        if (m_map.Y.PixelsPerUnit() == 0 || Point == 0)
+            return true;
+        const double mouse = m_map.Y.Value(m_mouseY);
+        const double reach =
+            (std::sqrt(static_cast<double>(BestSquare)) + 2) / std::abs(m_map.Y.PixelsPerUnit());
+        bool any = false;
+        for (; from != to; ++from)
+            any |= std::abs(*from - mouse) <= reach;
+        return any;
+    }
+
+    void Consider(int series, std::size_t i, double y)
     {
         const double dataX = m_data.X()[i];
         if (!IsDrawn(y) || std::isinf(y) || dataX != dataX)
-            return false;
+            return;
         const int pixelX = m_map.X.Pixel(dataX), pixelY = m_map.Y.Pixel(y);
         const std::int64_t dx = pixelX - m_mouseX, dy = pixelY - m_mouseY;
         if (!m_map.Contains(pixelX, pixelY) || dx * dx + dy * dy >= BestSquare)
-            return false;
+            return;
         BestSquare = dx * dx + dy * dy;
         Series = series;
         Point = static_cast<int>(i) + 1;
-        return true;
     }
 
     const CPaneData& m_data;

@@ -1,5 +1,7 @@
 #include "drawing/PaneInk.h"
 
+#include "drawing/LeastGreatest.h"
+
 #include <bit>
 #include <limits>
 
@@ -105,18 +107,22 @@ public:
         const double* low = bars ? high : m_source.Low.data();
         double greatest = 0, least = 0;
         for (std::size_t i = last; i-- > first;) {
-            // Inside of what is covered already, unless that has gaps.
-            if (m_pieces.size() == 1 && !(high[i] > greatest) && !(low[i] < least))
+            // Inside of what is covered already, unless that has gaps. A feed's low may lie above its high.
+            if (m_pieces.size() == 1 && !(high[i] > greatest) && !(low[i] < least) && !(low[i] > greatest) &&
+                !(high[i] < least))
                 continue;
             int top = 0, bottom = 0;
             Colour colour = 0;
             if (!ThinSpan(i, top, bottom, colour))
                 continue;
-            const double upper = bars ? std::max(high[i], m_source.Origin) : high[i];
-            const double lower = bars ? std::min(high[i], m_source.Origin) : low[i];
-            greatest = m_pieces.empty() ? upper : std::max(greatest, upper);
-            least = m_pieces.empty() ? lower : std::min(least, lower);
+            const bool none = m_pieces.empty();
             Cover(top, bottom, colour, column);
+            // What lies within the pixels that are covered shows nothing new. The edges are taken a little
+            // inside of the true ones.
+            const double a = m_map.Y.Value(m_pieces.front().Top - 0.49),
+                         b = m_map.Y.Value(m_pieces.front().Bottom - 0.51);
+            greatest = none ? std::max(a, b) : std::max(greatest, std::max(a, b));
+            least = none ? std::min(a, b) : std::min(least, std::min(a, b));
         }
     }
 
@@ -363,6 +369,24 @@ std::size_t CPaneInk::FirstOfColumn(const CPaneData& data, std::size_t from, int
     return static_cast<std::size_t>(found - x.begin());
 }
 
+// The end of the column's points, i being one of them; x ascends. The columns before tell how far to look.
+std::size_t CPaneInk::EndOfColumn(std::span<const double> x, std::size_t i, int column)
+{
+    std::size_t inside = i, step = std::max<std::size_t>(m_stride, 1);
+    std::size_t outside = std::min(i + step, x.size());
+    while (outside < x.size() && m_map.X.Pixel(x[outside]) == column) {
+        inside = outside;
+        step *= 2;
+        outside = std::min(outside + step, x.size());
+    }
+    const auto found = std::partition_point(x.begin() + static_cast<std::ptrdiff_t>(inside),
+                                            x.begin() + static_cast<std::ptrdiff_t>(outside),
+                                            [&](double value) { return m_map.X.Pixel(value) == column; });
+    const auto end = static_cast<std::size_t>(found - x.begin());
+    m_stride = end - i + 1;
+    return end;
+}
+
 void CPaneInk::DrawAll(const CPaneGroup& group)
 {
     m_rects.clear();
@@ -427,8 +451,7 @@ bool CPaneInk::DrawBars(const CPaneGroup& group, std::size_t firstPoint)
         const int column = m_map.X.Pixel(x[i]);
         std::size_t end = i + 1;
         if (thin)
-            while (end < points && m_map.X.Pixel(x[end]) == column)
-                ++end;
+            end = EndOfColumn(source.X, i, column);
         if (column >= m_map.Plot.Left - m_widest && column < m_map.Plot.Right + m_widest) {
             if (m_columns.empty() || m_columns.back().Column != column)
                 m_columns.push_back({column, i, m_rects.size()});
@@ -478,7 +501,8 @@ void CPaneInk::DrawLine(const CPaneGroup& group, int series, std::size_t firstPo
         const double place = std::isinf(value) ? (value > 0 ? top : bottom) : m_map.Y.Position(value);
         return static_cast<int>(std::floor(place * sInkVertex::One + 0.5));
     };
-    const bool reduced = m_detail == InkDetail::Reduced;
+    const bool reduced = m_detail == InkDetail::Reduced,
+               crowded = reduced && m_ascending && m_map.X.PixelsPerUnit() < 0.5;
     bool joined = i > 0 && i <= points && !line.Vertices.empty() && IsDrawn(y[i - 1]);
     for (; i < points; ++i) {
         if (!IsDrawn(y[i]) || !IsDrawn(x[i]) || std::isinf(x[i])) {
@@ -486,6 +510,31 @@ void CPaneInk::DrawLine(const CPaneGroup& group, int series, std::size_t firstPo
             continue;
         }
         const int column = m_map.X.Pixel(x[i]), h = height(y[i]);
+        if (crowded) {
+            // A column of plain numbers at once: the least and greatest decide, the order of the points
+            // between does not.
+            const std::size_t end = EndOfColumn(data.X(), i, column);
+            sLeastGreatest found;
+            if (end - i > 2 && FindLeastGreatest({y + i, y + end}, found)) {
+                const int a = height(found.Least), b = height(found.Greatest);
+                if (joined && line.Vertices.back().Column == column) {
+                    sInkVertex& vertex = line.Vertices.back();
+                    vertex = {column,
+                              vertex.First,
+                              height(y[end - 1]),
+                              std::min({vertex.Top, a, b}),
+                              std::max({vertex.Bottom, a, b}),
+                              vertex.Joined,
+                              true};
+                } else {
+                    line.Vertices.push_back(
+                        {column, h, height(y[end - 1]), std::min(a, b), std::max(a, b), joined, true});
+                }
+                joined = true;
+                i = end - 1;
+                continue;
+            }
+        }
         if (reduced && joined && line.Vertices.back().Column == column) {
             sInkVertex& vertex = line.Vertices.back();
             vertex.Last = h;

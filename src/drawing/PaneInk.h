@@ -13,6 +13,7 @@
 #include "drawing/PaneGeometry.h"
 
 #include <cstdint>
+#include <span>
 #include <vector>
 
 namespace zantroq {
@@ -93,6 +94,7 @@ private:
     void DrawLines(const CPaneGroup& group);
     void DrawLine(const CPaneGroup& group, int series, std::size_t firstPoint, sInkLine& line);
     std::size_t FirstOfColumn(const CPaneData& data, std::size_t from, int column) const;
+    std::size_t EndOfColumn(std::span<const double> x, std::size_t i, int column);
     bool HasBars(const CPaneGroup& group) const;
 
     int m_group;
@@ -106,6 +108,7 @@ private:
     bool m_drawn = false, m_ascending = true;
     int m_widest = 1, m_barWidth = 1;
     double m_origin = 0;
+    std::size_t m_stride = 1; // points in the column looked at last
     std::vector<sInkRect> m_rects;
     std::vector<sColumnStart> m_columns;
     std::vector<sInkLine> m_lines;

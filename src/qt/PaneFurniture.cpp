@@ -10,11 +10,6 @@ namespace {
 
 constexpr int MostGridLines = 400;
 
-bool Same(const sPixelRect& a, const sPixelRect& b)
-{
-    return a.Left == b.Left && a.Top == b.Top && a.Right == b.Right && a.Bottom == b.Bottom;
-}
-
 class CPlacer
 {
 public:
@@ -270,7 +265,7 @@ private:
             return;
         const std::vector<std::string_view> lines = LinesOf(label.Text());
         const bool title = label.Attachment() == AttachToPaneTopLeft;
-        const bool border = label.Border() == 1 && !title;
+        const bool border = label.Border() == 1;
         const int edge = border ? m_hair : 0;
         const int padX = Device(4) + edge, padY = (title ? 0 : Device(lines.size() > 1 ? 3 : 1)) + edge;
         int widest = 0;
@@ -310,12 +305,6 @@ private:
 };
 
 } // namespace
-
-bool sRuledLine::operator==(const sRuledLine& other) const
-{
-    return Same(Rect, other.Rect) && Upright == other.Upright && Pattern == other.Pattern &&
-           Color == other.Color;
-}
 
 sPaneFurniture PlaceFurniture(const CChart2D& chart, const sPlotMap& map, double scale, int width, int height,
                               CPaneText& text)

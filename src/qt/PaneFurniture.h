@@ -18,7 +18,6 @@ struct sRuledLine
     bool Upright = false;
     int Pattern = LineSolid;
     QRgb Color = 0;
-    bool operator==(const sRuledLine& other) const;
 };
 
 struct sPlacedText

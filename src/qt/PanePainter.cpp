@@ -31,7 +31,7 @@ bool CPanePainter::sKept::operator==(const sKept& other) const
 {
     return Plot.Left == other.Plot.Left && Plot.Top == other.Plot.Top && Plot.Right == other.Plot.Right &&
            Plot.Bottom == other.Plot.Bottom && Background == other.Background &&
-           PlotBackground == other.PlotBackground && Grid == other.Grid && Frame == other.Frame;
+           PlotBackground == other.PlotBackground;
 }
 
 CPanePainter::CPanePainter(const CChart2D& chart, const QString& family, InkDetail detail)
@@ -82,8 +82,7 @@ void CPanePainter::Repaint(const sPlotMap& map, double scale)
     if (m_fresh || m_revision != m_chart.Revision() || all) {
         m_revision = m_chart.Revision();
         m_furniture = PlaceFurniture(m_chart, map, scale, whole.Right, whole.Bottom, m_text);
-        sKept kept{map.Plot, m_furniture.Background, m_furniture.PlotBackground, m_furniture.Grid,
-                   m_furniture.Frame};
+        sKept kept{map.Plot, m_furniture.Background, m_furniture.PlotBackground};
         m_canvas.SetClip(whole);
         if (m_fresh || !(kept == m_kept)) {
             m_canvas.ForgetInk();
@@ -99,6 +98,7 @@ void CPanePainter::Repaint(const sPlotMap& map, double scale)
             };
             m_canvas.SetMarking(false);
             m_canvas.WipeInk(wipe);
+            m_canvas.SetMarking(true);
             for (const sRuledLine& line : m_furniture.Grid)
                 DrawRuled(m_canvas, line);
             PaintData(m_canvas, map.Plot.Left, map.Plot.Right, map.Plot);
@@ -130,6 +130,7 @@ void CPanePainter::PaintColumns(const sPixelRect& clip, const sPlotMap& map)
     }
     if (!map.Empty())
         m_canvas.Fill(plot, m_furniture.PlotBackground);
+    m_canvas.SetMarking(true);
     for (const sRuledLine& line : m_furniture.Grid)
         DrawRuled(m_canvas, line);
     PaintData(m_canvas, std::max(clip.Left, plot.Left), std::min(clip.Right, plot.Right), plot);
@@ -138,7 +139,6 @@ void CPanePainter::PaintColumns(const sPixelRect& clip, const sPlotMap& map)
 
 void CPanePainter::PaintData(IPaneCanvas& canvas, int left, int right, const sPixelRect& plot)
 {
-    m_canvas.SetMarking(true);
     const auto bars = [&](const CPaneInk& ink) {
         const std::vector<sInkRect>& rects = ink.Rects();
         auto rect = rects.begin();
@@ -167,13 +167,10 @@ void CPanePainter::PaintData(IPaneCanvas& canvas, int left, int right, const sPi
 
 void CPanePainter::PaintAbove(IPaneCanvas& canvas)
 {
-    m_canvas.SetMarking(true);
     for (const sRuledLine& line : m_furniture.Marker)
         DrawRuled(canvas, line);
-    m_canvas.SetMarking(false);
     for (const sRuledLine& line : m_furniture.Frame)
         DrawRuled(canvas, line);
-    m_canvas.SetMarking(true);
     for (const sPlacedText& text : m_furniture.AxisTexts)
         canvas.Text(text.Left, text.Top, text.Text, text.Color);
     for (const sPlacedLabel& label : m_furniture.Labels) {

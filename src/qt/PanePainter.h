@@ -39,11 +39,10 @@ public:
     void PaintInto(QPainter& painter, const QRectF& box);
 
 private:
-    struct sKept // what the picture shows besides ink
+    struct sKept // what lies under the ink
     {
         sPixelRect Plot;
         QRgb Background = 0, PlotBackground = 0;
-        std::vector<sRuledLine> Grid, Frame;
         bool operator==(const sKept& other) const;
     };
 

@@ -133,9 +133,20 @@ void CRasterCanvas::Vertical(int column, int top, int bottom, int width)
     const int left = column - width / 2, above = (width - 1) / 2, below = width / 2;
     const int first = std::max(Row(top) - above, m_plot.Top),
               last = std::min(Row(bottom) + below, m_plot.Bottom - 1);
-    for (int x = left; x < left + width; ++x)
-        for (int y = first; y <= last; ++y)
-            Cover(x, y, 255);
+    Solid({std::max(left, m_plot.Left), first, std::min(left + width, m_plot.Right), last + 1});
+}
+
+// Full coverage needs no mask: nothing of the line's own colour changes it, before or after.
+void CRasterCanvas::Solid(const sPixelRect& rect)
+{
+    if (rect.Left >= rect.Right || rect.Top >= rect.Bottom)
+        return;
+    QRgb* line = m_pixels + static_cast<std::ptrdiff_t>(rect.Top) * m_stride + rect.Left;
+    for (int y = rect.Top; y < rect.Bottom; ++y, line += m_stride)
+        for (int x = 0; x < rect.Width(); ++x)
+            line[x] = m_colour;
+    if (m_marking)
+        Mark(rect.Left, rect.Top, rect.Right, rect.Bottom);
 }
 
 void CRasterCanvas::Segment(int column0, int y0, int column1, int y1, const sInkLine& line)
@@ -155,8 +166,7 @@ void CRasterCanvas::Segment(int column0, int y0, int column1, int y1, const sInk
         const int row = Row(y0) - (line.Width - 1) / 2;
         for (int x = first; x <= last; ++x)
             if (InDash(line, x))
-                for (int y = row; y < row + line.Width; ++y)
-                    Cover(x, y, 255);
+                Solid({x, std::max(row, m_plot.Top), x + 1, std::min(row + line.Width, m_plot.Bottom)});
         return;
     }
     if (std::abs(rise) > run * One)
@@ -197,6 +207,7 @@ void CRasterCanvas::Line(const sInkLine& line, const sPixelRect& plot)
     m_plot = Cut(plot, m_clip);
     if (m_plot.Left >= m_plot.Right || m_plot.Top >= m_plot.Bottom)
         return;
+    m_colour = ScreenColour(line.Color);
     const std::vector<sInkVertex>& vertices = line.Vertices;
     const int reach = line.Width + 1;
     for (std::size_t i = 0; i < vertices.size(); ++i) {
@@ -212,7 +223,7 @@ void CRasterCanvas::Line(const sInkLine& line, const sPixelRect& plot)
             std::min(vertex.Column, next.Column) < m_plot.Right + reach)
             Segment(vertex.Column, vertex.Last, next.Column, next.First, line);
     }
-    Blend(ScreenColour(line.Color));
+    Blend(m_colour);
 }
 
 void CRasterCanvas::Blend(QRgb colour)

@@ -56,6 +56,7 @@ private:
     void Mark(int left, int top, int right, int bottom);
     void Cover(int x, int y, int coverage);
     void CoverRows(int x, int top256, int bottom256);
+    void Solid(const sPixelRect& rect);
     void Vertical(int column, int top, int bottom, int width);
     void Segment(int column0, int y0, int column1, int y1, const sInkLine& line);
     void Steep(int column0, int y0, int column1, int y1, const sInkLine& line);
@@ -64,7 +65,8 @@ private:
     CPaneText& m_text;
     QRgb* m_pixels = nullptr;
     int m_stride = 0, m_width = 0, m_height = 0; // in pixels
-    sPixelRect m_clip, m_plot;
+    sPixelRect m_clip, m_plot;                   // the plot cut to the clip
+    QRgb m_colour = 0;                           // of the line at hand
     bool m_marking = false;
     int m_tileColumns = 0, m_tileRows = 0;
     std::vector<std::uint8_t> m_tiles;

@@ -1,0 +1,304 @@
+#include "qt/PanePainter.h"
+#include "qt/PaneExport.h"
+#include "qt/PaneScenes.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QPainter>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <random>
+
+namespace zantroq {
+namespace {
+
+using test::Pane;
+
+const double Hole = CPaneData::HoleValue();
+const QString Family = "DejaVu Sans";
+
+// Two pictures pixel by pixel; the first that differs is named.
+testing::AssertionResult SamePicture(const QImage& a, const QImage& b)
+{
+    if (a.size() != b.size())
+        return testing::AssertionFailure() << "sizes differ";
+    for (int y = 0; y < a.height(); ++y)
+        for (int x = 0; x < a.width(); ++x)
+            if (a.pixel(x, y) != b.pixel(x, y))
+                return testing::AssertionFailure() << "pixel " << x << ", " << y << ": " << std::hex
+                                                   << a.pixel(x, y) << " and " << b.pixel(x, y);
+    return testing::AssertionSuccess();
+}
+
+testing::AssertionResult LooksAsEveryPointPainted(const CChart2D& pane, double scale)
+{
+    CPanePainter reduced(pane, Family), plain(pane, Family, InkDetail::EveryPoint);
+    return SamePicture(reduced.Picture(scale), plain.Picture(scale));
+}
+
+// Values as feeds and studies produce them at their worst.
+std::vector<double> RoughCurve(int count, std::mt19937& random, bool withGaps)
+{
+    std::uniform_real_distribution<double> step(-1, 1), chance(0, 1);
+    std::vector<double> y;
+    double value = 50;
+    for (int i = 0; i < count; ++i) {
+        value += step(random) * 2 + (50 - value) * 0.002;
+        const double pick = withGaps ? chance(random) : 1;
+        y.push_back(pick < 0.02    ? Hole
+                    : pick < 0.03  ? std::numeric_limits<double>::quiet_NaN()
+                    : pick < 0.035 ? std::numeric_limits<double>::infinity()
+                    : pick < 0.04  ? -std::numeric_limits<double>::infinity()
+                    : pick < 0.3   ? std::floor(value)
+                                   : value);
+    }
+    return y;
+}
+
+TEST(PaneReduction, CrowdedCandlesLookAsEveryPointPainted)
+{
+    for (const int count : {90, 300, 1000, 20000})
+        for (const double scale : {1.0, 1.5, 2.0})
+            EXPECT_TRUE(LooksAsEveryPointPainted(*test::CandlePane(280, 180, count, 1), scale))
+                << count << " at " << scale;
+}
+
+TEST(PaneReduction, CandlesWithGapsAndHolesLookAsEveryPointPainted)
+{
+    std::mt19937 random(3);
+    std::uniform_real_distribution<double> chance(0, 1);
+    for (int round = 0; round < 20; ++round) {
+        const Pane pane = test::CandlePane(280, 180, 3000, 1);
+        CPaneData& data = pane->PaneGroups(1).PaneData();
+        for (int point = 1; point <= 3000; ++point) {
+            const double low = 80 + chance(random) * 40, height = chance(random) * 2;
+            const bool bad = chance(random) < 0.05;
+            data.SetPointY(1, point, bad ? (chance(random) < 0.5 ? Hole : std::nan("")) : low + height);
+            data.SetPointY(2, point, chance(random) < 0.01 ? low + 2 * height : low);
+            data.SetPointY(3, point, low + height * chance(random));
+            data.SetPointY(4, point, chance(random) < 0.01 ? Hole : low + height * chance(random));
+        }
+        test::FitAxes(*pane, 3000, 75, 118);
+        ASSERT_TRUE(LooksAsEveryPointPainted(*pane, round % 2 + 1.0)) << round;
+    }
+}
+
+TEST(PaneReduction, PriceBarsAndHistogramsLookAsEveryPointPainted)
+{
+    std::mt19937 random(5);
+    EXPECT_TRUE(LooksAsEveryPointPainted(*test::PriceBarPane(280, 180, 5000), 1));
+    for (const int type : {ChartBars, ChartBarsFromOrigin})
+        EXPECT_TRUE(LooksAsEveryPointPainted(
+            *test::HistogramPane(280, 180, RoughCurve(4000, random, true), 1, type), 1.5));
+}
+
+TEST(PaneReduction, LinesOfEveryPatternAndWidthLookAsEveryPointPainted)
+{
+    std::mt19937 random(11);
+    for (int round = 0; round < 48; ++round) {
+        const int count = round % 4 == 0 ? 60 : round % 4 == 1 ? 400 : 7000;
+        const Pane pane = test::LinePane(280, 180, RoughCurve(count, random, round % 3 != 0));
+        CLineLook& look = pane->PaneGroups(1).SeriesStyles(1).LineLook();
+        look.SetWidth(1 + round % 3);
+        look.SetPattern(round % 5 == 0 ? LineLongDashes : round % 5 == 1 ? LineShortDashes : LineSolid);
+        test::FitAxes(*pane, count, 20, 80);
+        ASSERT_TRUE(LooksAsEveryPointPainted(*pane, 1 + 0.5 * (round % 3))) << round;
+    }
+}
+
+TEST(PaneReduction, XInAnyOrderLooksAsEveryPointPainted)
+{
+    std::mt19937 random(13);
+    const Pane pane = test::LinePane(280, 180, RoughCurve(500, random, true));
+    std::vector<double> x;
+    for (int i = 0; i < 500; ++i)
+        x.push_back(std::uniform_int_distribution<int>(-20, 520)(random));
+    pane->PaneGroups(1).PaneData().SetXVector(1, std::span<const double>(x));
+    EXPECT_TRUE(LooksAsEveryPointPainted(*pane, 1));
+    pane->PaneGroups(1).SetChartType(ChartBars);
+    EXPECT_TRUE(LooksAsEveryPointPainted(*pane, 1));
+}
+
+// A kept picture after any change is the one painted from nothing.
+TEST(KeptPicture, AfterEachChangeIsThatPaintedFromNothing)
+{
+    std::mt19937 random(17);
+    const auto number = [&](int low, int high) {
+        return std::uniform_int_distribution<int>(low, high)(random);
+    };
+    for (const double scale : {1.0, 1.5, 2.0}) {
+        const Pane pane = test::CandlePane(280, 180, 400, 1);
+        test::LoadGroup(pane->PaneGroups(2), {RoughCurve(400, random, true), RoughCurve(400, random, false)});
+        CPaneLabel& label = test::AddLabel(*pane, "x", AttachToData, AnchorBelowRight);
+        CPanePainter kept(*pane, Family);
+        for (int round = 0; round < 120; ++round) {
+            CPaneData& data = pane->PaneGroups(1 + round % 2).PaneData();
+            const int point = number(0, 1) ? 400 : number(1, 400);
+            switch (number(0, 9)) {
+            case 0:
+                label.SetDataAnchor(number(1, 400), number(80, 110));
+                break;
+            case 1:
+                pane->PaneArea().PaneMarkers("x").SetPoint(number(1, 400));
+                break;
+            case 2:
+                pane->PaneArea().PaneMarkers("x").SetShown(number(0, 1));
+                break;
+            case 3:
+                test::FitAxes(*pane, 400, number(60, 80), number(110, 130));
+                break;
+            case 4:
+                pane->PaneGroups(2).SeriesStyles(1).LineLook().SetWidth(number(1, 4));
+                break;
+            case 5:
+                label.SetText("now " + std::to_string(round));
+                break;
+            default:
+                for (int series = 1; series <= data.SeriesCount(); ++series)
+                    data.SetPointY(series, point, number(0, 9) ? number(80, 115) : Hole);
+            }
+            ASSERT_TRUE(SamePicture(kept.Picture(scale), PanePicture(*pane, scale, Family)))
+                << round << " at " << scale;
+        }
+    }
+}
+
+TEST(KeptPicture, AChangedLastPointDamagesItsColumnsOnly)
+{
+    const Pane pane = test::CandlePane(800, 300, 200, 3);
+    CPanePainter painter(*pane, Family);
+    painter.Picture(2.0);
+    EXPECT_EQ(painter.Damage(), QRect(0, 0, 800, 300));
+    painter.Picture(2.0);
+    EXPECT_TRUE(painter.Damage().isEmpty());
+    pane->PaneGroups(1).PaneData().SetPointY(4, 200, 99.5);
+    painter.Picture(2.0);
+    EXPECT_FALSE(painter.Damage().isEmpty());
+    EXPECT_LT(painter.Damage().width(), 30);
+    EXPECT_GT(painter.Damage().left(), 700);
+}
+
+TEST(PanePainter, APaneOfAnySizePaints)
+{
+    for (const auto& [width, height] :
+         {std::pair{0, 0}, {1, 1}, {5, 300}, {300, 5}, {81, 48}, {82, 49}, {300, 16}}) {
+        const Pane pane = test::CandlePane(width, height, 50, 3);
+        test::AddLabel(*pane, "text", AttachToData, AnchorAboveLeft).SetDataAnchor(3, 100);
+        for (const double scale : {1.0, 1.5, 2.0}) {
+            const QImage picture = PanePicture(*pane, scale, Family);
+            EXPECT_EQ(picture.isNull(), width == 0) << width << "x" << height;
+        }
+    }
+}
+
+TEST(PanePainter, HostileNumbersPaint)
+{
+    const double infinity = std::numeric_limits<double>::infinity();
+    for (const double bad : {infinity, -infinity, std::nan(""), Hole, 1e300, -1e300, 5e-324}) {
+        const Pane pane = test::CandlePane(280, 180, 50, 3);
+        CPaneAxes& axes = pane->PaneArea().PaneAxes();
+        axes.Y().TickLabels().Add(bad, "bad");
+        axes.X().TickLabels().Add(bad, "bad");
+        axes.Y().AxisGrid().SetSpacing(bad);
+        axes.X().TickMarkSpacing().SetValue(bad);
+        pane->PaneGroups(1).PaneData().SetPointX(1, 7, bad);
+        for (int series = 1; series <= 4; ++series)
+            pane->PaneGroups(1).PaneData().SetPointY(series, 9, bad);
+        test::AddLabel(*pane, "bad", AttachToData, AnchorAboveLeft).SetDataAnchor(bad, bad);
+        axes.Y().AxisOrigin().SetValue(bad);
+        for (const int type : {1, 2, 5, 7, 8, 99}) {
+            pane->PaneGroups(1).SetChartType(type);
+            EXPECT_FALSE(PanePicture(*pane, 1.0, Family).isNull());
+        }
+        axes.X().ViewHigh().SetValue(bad);
+        axes.Y().ViewLow().SetValue(bad);
+        EXPECT_FALSE(PanePicture(*pane, 1.5, Family).isNull());
+    }
+}
+
+TEST(PanePainter, AnInfinityReachesThePlotsEdge)
+{
+    const Pane pane = test::HistogramPane(
+        280, 180, std::vector<double>(10, std::numeric_limits<double>::infinity()), 8, ChartBars);
+    const QImage picture = PanePicture(*pane, 1.0, Family);
+    const sPixelRect plot = pane->PlotRect();
+    int x = 0, y = 0;
+    pane->PaneGroups(1).DataToPixel(5, 0, x, y);
+    EXPECT_EQ(picture.pixel(x, plot.Top), qRgb(0x14, 0x64, 0xc8));
+    EXPECT_EQ(picture.pixel(x, y), qRgb(0x14, 0x64, 0xc8));
+}
+
+TEST(PanePainter, DataStaysInsideThePlot)
+{
+    const Pane pane = test::CandlePane(280, 180, 30, 20);
+    test::FitAxes(*pane, 30, 99.9, 100.1);
+    CPanePainter painter(*pane, Family);
+    const QImage with = painter.Picture(1.0).copy();
+    pane->PaneGroups(1).PaneData().SetPointCount(1, 0);
+    const QImage without = painter.Picture(1.0);
+    const sPixelRect plot = pane->PlotRect();
+    for (int y = 0; y < 180; ++y)
+        for (int x = 0; x < 280; ++x)
+            if (x < plot.Left || x >= plot.Right || y < plot.Top || y >= plot.Bottom) {
+                ASSERT_EQ(with.pixel(x, y), without.pixel(x, y)) << x << ", " << y;
+            }
+}
+
+TEST(PanePainter, StraightLinesCoverWholeDevicePixels)
+{
+    for (const double scale : {1.0, 1.5, 2.0}) {
+        const Pane pane = test::LinePane(280, 180, std::vector<double>(20, 33.3));
+        const QImage picture = PanePicture(*pane, scale, Family);
+        const int x = picture.width() / 2;
+        for (int y = 0; y < picture.height(); ++y) {
+            const QRgb pixel = picture.pixel(x, y);
+            const bool whole = pixel == qRgb(255, 255, 255) || pixel == qRgb(0x14, 0x64, 0xc8) ||
+                               qRed(pixel) == qBlue(pixel);
+            ASSERT_TRUE(whole) << y << " at " << scale;
+        }
+    }
+}
+
+TEST(PaneExport, WritesEachKindOfFileByItsEnding)
+{
+    const QTemporaryDir folder;
+    const Pane pane = test::CandlePane(280, 180, 30, 3);
+    QString error;
+    for (const char* ending : {"png", "svg", "pdf", "json"}) {
+        const QString path = folder.filePath(QStringLiteral("pane.") + ending);
+        EXPECT_TRUE(SavePanePicture(*pane, path, 2.0, error)) << error.toStdString();
+        EXPECT_GT(QFile(path).size(), 500) << ending;
+    }
+    EXPECT_EQ(QImage(folder.filePath("pane.png")).size(), QSize(560, 360));
+    CChart2D copy;
+    EXPECT_TRUE(copy.LoadFromFile(folder.filePath("pane.json").toStdString()));
+    EXPECT_FALSE(SavePanePicture(*pane, folder.filePath("pane.gif"), 1.0, error));
+    EXPECT_TRUE(error.contains("pane.gif"));
+    error.clear();
+    EXPECT_FALSE(SavePanePicture(*pane, "/no/such/folder/pane.png", 1.0, error));
+    EXPECT_TRUE(error.contains("/no/such/folder/pane.png"));
+}
+
+TEST(PaneExport, APageGetsThePaneInItsBox)
+{
+    QImage page(700, 500, QImage::Format_RGB32);
+    page.fill(qRgb(1, 2, 3));
+    QPainter painter(&page);
+    CPrintPage device(painter);
+    const Pane pane = test::CandlePane(280, 180, 30, 3);
+    EXPECT_TRUE(pane->DrawToDevice(device, 3, 4, 100, 50, 560, 360));
+    painter.end();
+    EXPECT_EQ(page.pixel(99, 60), qRgb(1, 2, 3));
+    EXPECT_EQ(page.pixel(100, 50), qRgb(255, 255, 255));
+    EXPECT_EQ(page.pixel(659, 409), qRgb(255, 255, 255));
+    EXPECT_EQ(page.pixel(660, 409), qRgb(1, 2, 3));
+    EXPECT_FALSE(pane->DrawToDevice(device, 3, 4, 0, 0, 10, 10)) << "the painter has ended";
+}
+
+} // namespace
+} // namespace zantroq
