@@ -518,6 +518,9 @@ public:
     bool SetXVector(int series, std::span<const int> x);
     bool SetYVector(int series, std::span<const double> y);
     bool GetXVector(int series, std::vector<double>& x) const;
+    // A bulk load without a copy: the room of all PointCount values of a series, for the caller to write at
+    // once and then to commit with CommitPaneData. Good until a count changes; empty for an unknown series.
+    std::span<double> LoadY(int series);
 
     // For the painter and for whole-vector readers: no copies.
     std::span<const double> X() const { return m_x; }
