@@ -14,6 +14,7 @@
 
 #include <array>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -59,7 +60,7 @@ protected:
     virtual void ReadDeletedMarks(int first, int count, std::vector<std::uint8_t>& marks) const;
 
 private:
-    struct sLoadedPoints; // the stretch of the series that one draw works on
+    struct sDrawnPoints; // the stretch of the series that one draw works on
 
     const sChartSettings& Settings() const { return dlg->Settings(); }
     CPaneData& Bars() { return chart->PaneGroups(1).PaneData(); }
@@ -73,16 +74,19 @@ private:
     void ApplyStyles();
     void ApplyCandleStyles();
     void PlaceRange(int position, int count, int wanted);
-    void LoadPoints(sLoadedPoints& points, int count);
-    void ShowPoints(const sLoadedPoints& points);
-    sPriceRange FitToPrices(const sLoadedPoints& points, int count);
-    void ScanWholeSeries(sPriceRange& range, int count) const;
+    void MakeRoom(const sDrawnPoints& points);
+    void LoadBars(sDrawnPoints& points);
+    void LoadCloses(sDrawnPoints& points);
+    sPriceRange FitToPrices(const sDrawnPoints& points, int count);
+    void ScanPrices(sPriceRange& range, int count) const;
+    void ScanVolumes(sPriceRange& range, int first, int count) const;
     void IncludeAllBands(sPriceRange& range, int count) const;
     void FitToCurves(sPriceRange prices, const sPriceRange& curves);
-    void DrawAverages(const sLoadedPoints& points, const sPriceRange& prices);
-    void DrawBands(const sLoadedPoints& points, const sPriceRange& prices, int count);
+    void DrawAverages(const sDrawnPoints& points, const sPriceRange& prices);
+    void DrawBands(const sDrawnPoints& points, const sPriceRange& prices, int count);
     void ClearOverlay(int series);
-    void ShowOverlay(int series, std::span<const double> values, int warmUp);
+    std::span<double> OverlayValues(int series);
+    void MarkOverlayDrawn(int series, int warmUp);
     void ToggleScrollBar(bool fillsWindow);
     void RefreshReadout();
 

@@ -7,6 +7,7 @@
 #include "drawing/XAxis.h"
 
 #include <algorithm>
+#include <array>
 #include <limits>
 #include <memory>
 #include <span>
@@ -20,7 +21,8 @@ namespace {
 class CNumbers
 {
 public:
-    explicit CNumbers(std::size_t size = 0) { Resize(size); }
+    CNumbers() = default;
+    explicit CNumbers(std::size_t size) { Resize(size); }
     void Resize(std::size_t size)
     {
         m_values = std::make_unique_for_overwrite<double[]>(size);
@@ -35,7 +37,8 @@ private:
     std::size_t m_size = 0;
 };
 
-constexpr int ScanBlock = 65536; // points read at a time where the whole series is looked at
+constexpr int ScanBlock =
+    16384; // points read at a time where they are only looked at: they stay in the nearest cache
 
 // x values are the points' places, which most draws leave as they are.
 void NumberPoints(CPaneData& data, int count)
@@ -75,25 +78,13 @@ sPriceRange NothingSeen()
 
 } // namespace
 
-struct CHistPriceChart::sLoadedPoints
+struct CHistPriceChart::sDrawnPoints
 {
-    int First = 0;
-    std::size_t Count = 0;
-    CNumbers High, Low, Open;
-    CNumbers Closes; // from index ClosesFrom on: the curves look back further than the window
-    int ClosesFrom = 0;
-    std::vector<std::int64_t> Volume;
+    int First = 0; // data index
+    int Count = 0;
     std::vector<std::uint8_t> Deleted;
-
-    std::span<double> Close()
-    {
-        return Closes.Values().subspan(static_cast<std::size_t>(First - ClosesFrom));
-    }
-    std::span<const double> Close() const
-    {
-        return Closes.Values().subspan(static_cast<std::size_t>(First - ClosesFrom));
-    }
-    sCloseRun Run() const { return {Closes.Values(), ClosesFrom}; }
+    CNumbers LookBack; // closes from before the window on, where a curve reaches back
+    sCloseRun Closes;
 };
 
 void CHistPriceChart::Draw(int position)
@@ -105,10 +96,15 @@ void CHistPriceChart::Draw(int position)
     PlaceRange(position, count, wanted);
     ApplyStyles();
 
-    sLoadedPoints points;
-    LoadPoints(points, count);
-    ShowPoints(points);
+    sDrawnPoints points;
+    points.First = dlg->Range().first;
+    points.Count = count == 0 ? 0 : dlg->Range().shown;
+    MakeRoom(points);
+    SetXAxis(*chart, dlg->Range().shown, Settings().Grid != 0);
+    BuildXLabels();
+    LoadBars(points);
     const sPriceRange prices = FitToPrices(points, count);
+    LoadCloses(points);
     if (Settings().Overlays.ShowBands != 0)
         DrawBands(points, prices, count);
     else
@@ -138,78 +134,74 @@ void CHistPriceChart::PlaceRange(int position, int count, int wanted)
         dlg->SetSelectedPoint(dlg->SelectedPoint() + oldFirst - range.first);
 }
 
-void CHistPriceChart::LoadPoints(sLoadedPoints& points, int count)
+void CHistPriceChart::MakeRoom(const sDrawnPoints& points)
 {
-    points.First = dlg->Range().first;
-    points.Count = static_cast<std::size_t>(count == 0 ? 0 : dlg->Range().shown);
-    const int shown = static_cast<int>(points.Count);
-    points.ClosesFrom = FirstCloseNeeded(points.First, LongestPeriod(Settings().Overlays));
-    const int closes = points.First - points.ClosesFrom + shown;
-    points.Closes.Resize(static_cast<std::size_t>(closes));
-    manager->ReadClose(points.ClosesFrom, closes, points.Closes.Data());
-    if (!TickSeries()) {
-        points.High.Resize(points.Count);
-        points.Low.Resize(points.Count);
-        points.Open.Resize(points.Count);
-        manager->ReadHigh(points.First, shown, points.High.Data());
-        manager->ReadLow(points.First, shown, points.Low.Data());
-        manager->ReadOpen(points.First, shown, points.Open.Data());
-    }
-    points.Volume.resize(points.Count);
-    manager->ReadVolume(points.First, shown, points.Volume.data());
-    ReadDeletedMarks(points.First, shown, points.Deleted);
-}
-
-void CHistPriceChart::ShowPoints(const sLoadedPoints& points)
-{
-    const int shown = static_cast<int>(points.Count);
     CPaneData& bars = Bars();
     CPaneData& overlays = Overlays();
-    bars.SetPointCount(1, shown);
-    overlays.SetPointCount(1, shown);
-    for (int series = 1; series <= bars.SeriesCount(); ++series)
-        bars.SetFirstPoint(series, 1);
-    overlays.SetFirstPoint(1, 1);
+    bars.SetPointCount(1, points.Count);
+    overlays.SetPointCount(1, points.Count);
+    NumberPoints(bars, points.Count);
+    NumberPoints(overlays, points.Count);
     // A trendline drawn since the set-up has brought its series along.
     if (overlays.LastShownSeries() != 0 && overlays.LastShownSeries() < overlays.SeriesCount())
         overlays.SetLastShownSeries(overlays.SeriesCount());
-    SetXAxis(*chart, dlg->Range().shown, Settings().Grid != 0);
-    BuildXLabels();
-
-    NumberPoints(bars, shown);
-    NumberPoints(overlays, shown);
-    const auto load = [&](int series, std::span<const double> values) {
-        bars.SetYVector(series, values);
-        for (std::size_t i = 0; i < points.Deleted.size(); ++i)
-            if (points.Deleted[i])
-                bars.SetPointY(series, static_cast<int>(i) + 1, CPaneData::HoleValue());
-    };
-    if (TickSeries()) {
-        load(1, points.Close());
-    } else {
-        load(1, points.High.Values());
-        load(2, points.Low.Values());
-        load(3, points.Open.Values());
-        load(4, points.Close());
-    }
-    chart->PaneGroups(1).CommitPaneData();
-    for (int series = 1; series <= bars.SeriesCount(); ++series) {
-        bars.SetDrawnTo(series, 0);
-        bars.AdvanceDrawn(series, shown);
-    }
 }
 
-sPriceRange CHistPriceChart::FitToPrices(const sLoadedPoints& points, int count)
+void CHistPriceChart::LoadBars(sDrawnPoints& points)
+{
+    CPaneData& bars = Bars();
+    ReadDeletedMarks(points.First, points.Count, points.Deleted);
+    using Read = void (CHistChartDrawManager::*)(int, int, double*) const;
+    static constexpr std::array<Read, 4> barReads{
+        &CHistChartDrawManager::ReadHigh, &CHistChartDrawManager::ReadLow, &CHistChartDrawManager::ReadOpen,
+        &CHistChartDrawManager::ReadClose};
+    for (int series = 1; series <= bars.SeriesCount(); ++series) {
+        const std::span<double> values = bars.LoadY(series);
+        const Read read =
+            TickSeries() ? &CHistChartDrawManager::ReadClose : barReads[static_cast<std::size_t>(series - 1)];
+        (manager->*read)(points.First, points.Count, values.data());
+        for (std::size_t i = 0; i < points.Deleted.size(); ++i)
+            if (points.Deleted[i])
+                values[i] = CPaneData::HoleValue();
+        bars.SetFirstPoint(series, 1);
+        bars.SetDrawnTo(series, 0);
+        bars.AdvanceDrawn(series, points.Count);
+    }
+    chart->PaneGroups(1).CommitPaneData();
+}
+
+// The closes that the curves are made of. The pane's own serve where no curve reaches back before the window.
+void CHistPriceChart::LoadCloses(sDrawnPoints& points)
+{
+    const std::span<const double> shown = Bars().Y(Bars().SeriesCount());
+    const int from = FirstCloseNeeded(points.First, LongestPeriod(Settings().Overlays));
+    if (from == points.First && points.Deleted.empty()) {
+        points.Closes = {shown, points.First};
+        return;
+    }
+    const int before = points.First - from;
+    points.LookBack.Resize(static_cast<std::size_t>(before + points.Count));
+    if (points.Deleted.empty()) {
+        manager->ReadClose(from, before, points.LookBack.Data());
+        std::copy(shown.begin(), shown.end(), points.LookBack.Data() + before);
+    } else {
+        manager->ReadClose(from, before + points.Count, points.LookBack.Data());
+    }
+    points.Closes = {points.LookBack.Values(), from};
+}
+
+sPriceRange CHistPriceChart::FitToPrices(const sDrawnPoints& points, int count)
 {
     sPriceRange range;
     if (!FitsScale())
         return range;
-    if (Settings().FixedScale)
-        ScanWholeSeries(range, count);
-    else if (TickSeries())
-        IncludePrices(range, points.Close(), points.Close(), points.Volume, points.Deleted);
-    else
-        IncludePrices(range, points.High.Values(), points.Low.Values(), points.Volume, points.Deleted);
+    if (Settings().FixedScale) {
+        ScanPrices(range, count);
+        ScanVolumes(range, 0, count);
+    } else {
+        IncludePrices(range, Bars().Y(1), Bars().Y(TickSeries() ? 1 : 2), points.Deleted);
+        ScanVolumes(range, points.First, points.Count);
+    }
     maxVolume = range.GreatestVolume;
     priceDigits = DigitsBeforePoint(range.High);
     if (count == 0)
@@ -219,21 +211,32 @@ sPriceRange CHistPriceChart::FitToPrices(const sLoadedPoints& points, int count)
     return range;
 }
 
-void CHistPriceChart::ScanWholeSeries(sPriceRange& range, int count) const
+// The whole series' prices.
+void CHistPriceChart::ScanPrices(sPriceRange& range, int count) const
 {
     std::vector<double> highs, lows;
-    std::vector<std::int64_t> volumes;
     std::vector<std::uint8_t> deleted;
     for (int first = 0; first < count; first += ScanBlock) {
         const int length = std::min(ScanBlock, count - first);
         highs.resize(static_cast<std::size_t>(length));
         lows.resize(highs.size());
-        volumes.resize(highs.size());
         manager->ReadHigh(first, length, highs.data());
         manager->ReadLow(first, length, lows.data());
+        ReadDeletedMarks(first, length, deleted);
+        IncludePrices(range, highs, lows, deleted);
+    }
+}
+
+void CHistPriceChart::ScanVolumes(sPriceRange& range, int first, int count) const
+{
+    std::vector<std::int64_t> volumes;
+    std::vector<std::uint8_t> deleted;
+    for (const int end = first + count; first < end; first += ScanBlock) {
+        const int length = std::min(ScanBlock, end - first);
+        volumes.resize(static_cast<std::size_t>(length));
         manager->ReadVolume(first, length, volumes.data());
         ReadDeletedMarks(first, length, deleted);
-        IncludePrices(range, highs, lows, volumes, deleted);
+        IncludeVolumes(range, volumes, deleted);
     }
 }
 
@@ -249,62 +252,52 @@ void CHistPriceChart::FitToCurves(sPriceRange prices, const sPriceRange& curves)
     SetYScale(prices.Top(), prices.Low);
 }
 
-void CHistPriceChart::DrawAverages(const sLoadedPoints& points, const sPriceRange& prices)
+void CHistPriceChart::DrawAverages(const sDrawnPoints& points, const sPriceRange& prices)
 {
     const sOverlaySettings& settings = Settings().Overlays;
     sPriceRange curves = NothingSeen();
-    CNumbers values;
     for (int m = 0; m < PriceOverlays; ++m) {
-        if (settings.ShowAverages == 0 || settings.AverageSelected[static_cast<std::size_t>(m)] == 0 ||
-            points.Count == 0) {
+        const auto average = static_cast<std::size_t>(m);
+        if (settings.ShowAverages == 0 || settings.AverageSelected[average] == 0 || points.Count == 0) {
             ClearOverlay(m + 1);
             continue;
         }
-        if (values.Values().size() != points.Count)
-            values.Resize(points.Count);
-        const int period = settings.AveragePoints[static_cast<std::size_t>(m)];
+        const std::span<double> values = OverlayValues(m + 1);
         if (settings.Exponential != 0)
-            ExponentialAverages(points.Run(), points.First, period, values.Values());
+            ExponentialAverages(points.Closes, points.First, settings.AveragePoints[average], values);
         else
-            SimpleAverages(points.Run(), points.First, period, values.Values());
-        IncludeCurve(curves, values.Values());
-        ShowOverlay(m + 1, values.Values(), 0);
+            SimpleAverages(points.Closes, points.First, settings.AveragePoints[average], values);
+        IncludeCurve(curves, values);
+        MarkOverlayDrawn(m + 1, 0);
     }
     FitToCurves(prices, curves);
     chart->PaneGroups(2).CommitPaneData();
 }
 
-void CHistPriceChart::DrawBands(const sLoadedPoints& points, const sPriceRange& prices, int count)
+void CHistPriceChart::DrawBands(const sDrawnPoints& points, const sPriceRange& prices, int count)
 {
     const sOverlaySettings& settings = Settings().Overlays;
-    const auto shown = static_cast<long long>(points.Count);
-    const long long warmUp =
-        points.First < settings.BandPeriod
-            ? std::min(static_cast<long long>(settings.BandPeriod) - points.First + 1, shown + 1)
-            : 0;
-    const bool drawn = warmUp < shown;
-    CNumbers lower(drawn ? points.Count : 0), upper(drawn ? points.Count : 0),
-        middle(drawn ? points.Count : 0);
-    if (drawn)
-        BollingerBands(points.Run(), points.First, settings.BandPeriod, settings.BandDeviations,
-                       lower.Values(), upper.Values(), middle.Values());
+    const long long reach = static_cast<long long>(settings.BandPeriod) - points.First;
+    const long long warmUp = reach > 0 ? std::min(reach + 1, static_cast<long long>(points.Count) + 1) : 0;
+    const bool drawn = warmUp < points.Count;
     sPriceRange curves = NothingSeen();
+    for (int series = 1; series <= PriceOverlays && !drawn; ++series)
+        ClearOverlay(series);
+    if (drawn) {
+        const std::span<double> lower = OverlayValues(1), upper = OverlayValues(2), middle = OverlayValues(3);
+        BollingerBands(points.Closes, points.First, settings.BandPeriod, settings.BandDeviations, lower,
+                       upper, middle);
+        for (int series = 1; series <= PriceOverlays; ++series)
+            MarkOverlayDrawn(series, static_cast<int>(warmUp));
+        IncludeCurve(curves, lower.subspan(static_cast<std::size_t>(warmUp)));
+        IncludeCurve(curves, upper.subspan(static_cast<std::size_t>(warmUp)));
+    }
     if (Settings().FixedScale) {
+        curves = NothingSeen();
         if (FitsScale())
             IncludeAllBands(curves, count);
-    } else if (drawn) {
-        IncludeCurve(curves, lower.Values().subspan(static_cast<std::size_t>(warmUp)));
-        IncludeCurve(curves, upper.Values().subspan(static_cast<std::size_t>(warmUp)));
     }
     FitToCurves(prices, curves);
-    if (!drawn) {
-        for (int series = 1; series <= PriceOverlays; ++series)
-            ClearOverlay(series);
-        return;
-    }
-    ShowOverlay(1, lower.Values(), static_cast<int>(warmUp));
-    ShowOverlay(2, upper.Values(), static_cast<int>(warmUp));
-    ShowOverlay(3, middle.Values(), static_cast<int>(warmUp));
     chart->PaneGroups(2).CommitPaneData();
 }
 
@@ -331,14 +324,19 @@ void CHistPriceChart::IncludeAllBands(sPriceRange& range, int count) const
     }
 }
 
-void CHistPriceChart::ShowOverlay(int series, std::span<const double> values, int warmUp)
+// The room of a curve's values, which the caller fills.
+std::span<double> CHistPriceChart::OverlayValues(int series)
+{
+    m_overlayDrawn[static_cast<std::size_t>(series - 1)] = true;
+    return Overlays().LoadY(series);
+}
+
+void CHistPriceChart::MarkOverlayDrawn(int series, int warmUp)
 {
     CPaneData& overlays = Overlays();
     overlays.SetFirstPoint(series, 1);
     overlays.SetDrawnTo(series, warmUp);
-    overlays.SetYVector(series, values);
-    overlays.AdvanceDrawn(series, static_cast<int>(values.size()) - warmUp);
-    m_overlayDrawn[static_cast<std::size_t>(series - 1)] = true;
+    overlays.AdvanceDrawn(series, overlays.PointCount(series) - warmUp);
 }
 
 // A curve that is no longer shown must leave nothing behind in its series.

@@ -1,46 +1,88 @@
 #include "drawing/PriceRange.h"
 
+#include "drawing/Lanes.h"
 #include "drawing/PaneObjects.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
+#include <limits>
 
 namespace zantroq {
 
 namespace {
 
 constexpr double Hole = CPaneData::HoleValue();
+constexpr double Infinity = std::numeric_limits<double>::infinity();
 
-// Four runs side by side: a comparison has to wait for the one before it, so a single run would be four times
-// slower.
-constexpr std::size_t Runs = 4;
-
-void IncludeHighs(double& greatest, std::span<const double> values)
+// Several runs side by side: a comparison has to wait for the one before it. Not-a-number is neither more nor
+// less than what was found so far, and so drops out.
+class CExtremes
 {
-    std::array<double, Runs> best;
-    best.fill(greatest);
-    std::size_t i = 0;
-    for (; i + Runs <= values.size(); i += Runs)
-        for (std::size_t run = 0; run < Runs; ++run)
-            best[run] = values[i + run] > best[run] ? values[i + run] : best[run];
-    for (; i < values.size(); ++i)
-        best[0] = values[i] > best[0] ? values[i] : best[0];
-    greatest = *std::max_element(best.begin(), best.end());
-}
+public:
+    CExtremes(double low, double high)
+    {
+        for (std::size_t part = 0; part < Parts; ++part) {
+            m_low[part] = Lanes{low, low};
+            m_high[part] = Lanes{high, high};
+        }
+    }
 
-void IncludeLows(double& least, std::span<const double> values)
-{
-    std::array<double, Runs> best;
-    best.fill(least);
-    std::size_t i = 0;
-    for (; i + Runs <= values.size(); i += Runs)
-        for (std::size_t run = 0; run < Runs; ++run)
-            best[run] = values[i + run] < best[run] ? values[i + run] : best[run];
-    for (; i < values.size(); ++i)
-        best[0] = values[i] < best[0] ? values[i] : best[0];
-    least = *std::min_element(best.begin(), best.end());
-}
+    void IncludeHighs(std::span<const double> values)
+    {
+        Each(values, [this](std::size_t part, const Lanes& v) {
+            m_high[part] = v > m_high[part] ? v : m_high[part];
+        });
+    }
+
+    void IncludeLows(std::span<const double> values)
+    {
+        Each(values,
+             [this](std::size_t part, const Lanes& v) { m_low[part] = v < m_low[part] ? v : m_low[part]; });
+    }
+
+    // Both ends, holes left out.
+    void IncludeCurve(std::span<const double> values)
+    {
+        const Lanes hole{Hole, Hole}, least{-Infinity, -Infinity};
+        Each(values, [&](std::size_t part, const Lanes& v) {
+            const Lanes high = v == hole ? least : v;
+            const Lanes low = v == hole ? -least : v;
+            m_high[part] = high > m_high[part] ? high : m_high[part];
+            m_low[part] = low < m_low[part] ? low : m_low[part];
+        });
+    }
+
+    double Low() const
+    {
+        double low = Infinity;
+        for (const Lanes& lanes : m_low)
+            low = std::min({low, lanes[0], lanes[1]});
+        return low;
+    }
+
+    double High() const
+    {
+        double high = -Infinity;
+        for (const Lanes& lanes : m_high)
+            high = std::max({high, lanes[0], lanes[1]});
+        return high;
+    }
+
+private:
+    static constexpr std::size_t Parts = 4;
+
+    template<class Take> static void Each(std::span<const double> values, Take take)
+    {
+        std::size_t i = 0;
+        for (; i + Parts * LaneWidth <= values.size(); i += Parts * LaneWidth)
+            for (std::size_t part = 0; part < Parts; ++part)
+                take(part, LoadLanes(values.data() + i + part * LaneWidth));
+        for (; i < values.size(); ++i)
+            take(0, Lanes{values[i], values[i]});
+    }
+
+    Lanes m_low[Parts], m_high[Parts];
+};
 
 } // namespace
 
@@ -50,34 +92,40 @@ std::int32_t CutVolume(std::int64_t volume)
 }
 
 void IncludePrices(sPriceRange& range, std::span<const double> highs, std::span<const double> lows,
-                   std::span<const std::int64_t> volumes, std::span<const std::uint8_t> deleted)
+                   std::span<const std::uint8_t> deleted)
 {
-    auto greatest = static_cast<std::int64_t>(range.GreatestVolume);
     if (deleted.empty()) {
-        IncludeHighs(range.High, highs);
-        IncludeLows(range.Low, lows);
-        for (std::int64_t volume : volumes)
-            greatest = std::max(greatest, volume);
+        CExtremes extremes(range.Low, range.High);
+        extremes.IncludeHighs(highs);
+        extremes.IncludeLows(lows);
+        range.Low = extremes.Low();
+        range.High = extremes.High();
     } else {
         for (std::size_t i = 0; i < highs.size(); ++i) {
             if (deleted[i])
                 continue;
             range.High = highs[i] > range.High ? highs[i] : range.High;
             range.Low = lows[i] < range.Low ? lows[i] : range.Low;
-            greatest = std::max(greatest, volumes[i]);
         }
     }
+}
+
+void IncludeVolumes(sPriceRange& range, std::span<const std::int64_t> volumes,
+                    std::span<const std::uint8_t> deleted)
+{
+    auto greatest = static_cast<std::int64_t>(range.GreatestVolume);
+    for (std::size_t i = 0; i < volumes.size(); ++i)
+        if (deleted.empty() || !deleted[i])
+            greatest = std::max(greatest, volumes[i]);
     range.GreatestVolume = static_cast<std::uint32_t>(CutVolume(greatest));
 }
 
 void IncludeCurve(sPriceRange& range, std::span<const double> values)
 {
-    for (double value : values) {
-        if (value == Hole)
-            continue;
-        range.High = value > range.High ? value : range.High;
-        range.Low = value < range.Low ? value : range.Low;
-    }
+    CExtremes extremes(range.Low, range.High);
+    extremes.IncludeCurve(values);
+    range.Low = extremes.Low();
+    range.High = extremes.High();
 }
 
 std::int32_t DigitsBeforePoint(double price)

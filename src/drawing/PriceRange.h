@@ -21,12 +21,16 @@ struct sPriceRange
 // A 64-bit volume as 32 bits hold it: what is greater than 0x7fffffff gives 0x7fffffff.
 std::int32_t CutVolume(std::int64_t volume);
 
-// Widens the range by points whose deleted flag is not set; an empty flag list deletes none. Holes do not
-// count, nor does not-a-number.
+// Widens the price ends by points whose deleted flag is not set; an empty flag list deletes none.
+// Not-a-number does not count.
 void IncludePrices(sPriceRange& range, std::span<const double> highs, std::span<const double> lows,
-                   std::span<const std::int64_t> volumes, std::span<const std::uint8_t> deleted);
+                   std::span<const std::uint8_t> deleted);
 
-// Widens the price ends alone by the values of a curve, its holes left out.
+// The same for the greatest volume.
+void IncludeVolumes(sPriceRange& range, std::span<const std::int64_t> volumes,
+                    std::span<const std::uint8_t> deleted);
+
+// Widens the price ends by the values of a curve, holes and not-a-number left out.
 void IncludeCurve(sPriceRange& range, std::span<const double> values);
 
 // Digits before the point of a price: 1 for a price of 0 or less.

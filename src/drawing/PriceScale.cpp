@@ -76,7 +76,7 @@ double RoundStep(double step, bool upwardOnly)
 
 std::optional<sPriceScale> MakePriceScale(double high, double low, int formatCode, bool plain)
 {
-    if (!(low <= high))
+    if (!(low <= high) || std::isinf(low) || std::isinf(high))
         return std::nullopt;
     if (plain)
         return PlainScale(high, low);

@@ -20,8 +20,8 @@ struct sPriceScale
     int UnitParts = 0;
 };
 
-// Nothing where low is above high, or where one is not-a-number. formatCode is the series' price format;
-// plain is set while the series has none.
+// Nothing where low is above high, or where one is not a finite number: the axis then stays. formatCode is
+// the series' price format; plain is set while the series has none.
 std::optional<sPriceScale> MakePriceScale(double high, double low, int formatCode, bool plain);
 
 // The values that get a label, from bottom to top. A step that rounding swallows ends the row.

@@ -1,0 +1,135 @@
+#include "drawing/InfoText.h"
+
+#include "drawing/Chart2D.h"
+
+#include <gtest/gtest.h>
+
+namespace zantroq {
+namespace {
+
+constexpr double Hole = CPaneData::HoleValue();
+const sPriceWords Cents{ShippedPriceFormatter(), 12};
+const sPriceWords Plain{ShippedPriceFormatter(), 0};
+
+sHIST_DATA Bar(double open, double high, double low, double close)
+{
+    sHIST_DATA bar;
+    bar.Open = open;
+    bar.High = high;
+    bar.Low = low;
+    bar.Close = close;
+    return bar;
+}
+
+// A scene whose first point has these values, one a series.
+class CPoint
+{
+public:
+    explicit CPoint(std::vector<double> values)
+    {
+        Data().SetSeriesCount(static_cast<int>(values.size()));
+        Data().SetPointCount(1, 1);
+        for (std::size_t i = 0; i < values.size(); ++i)
+            Data().SetPointY(static_cast<int>(i) + 1, 1, values[i]);
+    }
+    CPaneData& Data() { return chart.PaneGroups(1).PaneData(); }
+
+private:
+    CChart2D chart;
+};
+
+std::string Study(int kind, std::vector<double> values, bool fast = false)
+{
+    return ReadoutStudy(kind, CPoint(std::move(values)).Data(), 1, fast);
+}
+
+TEST(InfoText, TickReadsOnePrice)
+{
+    EXPECT_EQ(ReadoutPrices(Cents, TickData, Bar(1, 1, 1, 1.5)), "Price: 1.50");
+    EXPECT_EQ(ReadoutPrices(Plain, TickData, Bar(1, 1, 1, 1.5)), "Price: 1.5");
+}
+
+TEST(InfoText, BarReadsFourPrices)
+{
+    EXPECT_EQ(ReadoutPrices(Cents, DailyData, Bar(2, 4, 1, 3)),
+              "Hi: 4.00, Low: 1.00, Open: 2.00, Close: 3.00");
+}
+
+TEST(InfoText, PlainBarRepeatsItsHigh)
+{
+    EXPECT_EQ(ReadoutPrices(Plain, MinuteData, Bar(2, 100, 1, 3)),
+              "Hi: 100, Low: 100, Open: 100, Close: 100");
+}
+
+TEST(InfoText, VolumeIsSaidAboveZeroOnly)
+{
+    EXPECT_EQ(ReadoutVolume(1234567), "Volume: 1,234,567");
+    EXPECT_EQ(ReadoutVolume(0), "");
+    EXPECT_EQ(ReadoutVolume(-5), "");
+}
+
+TEST(InfoText, TimeIsNamedByDataType)
+{
+    EXPECT_EQ(ReadoutTime(TickData, "T"), "Time: T");
+    EXPECT_EQ(ReadoutTime(MinuteData, "T"), "Time: T");
+    EXPECT_EQ(ReadoutTime(DailyData, "T"), "Date: T");
+    EXPECT_EQ(ReadoutTime(WeeklyData, "T"), "Week ending T");
+    EXPECT_EQ(ReadoutTime(MonthlyData, "T"), "Month ending T");
+}
+
+TEST(InfoText, SelectedAveragesWithAValueAreRead)
+{
+    sOverlaySettings settings;
+    CPoint point({1.234, 2, Hole});
+    EXPECT_EQ(ReadoutAverages(settings, point.Data(), 1), "");
+    settings.ShowAverages = 1;
+    EXPECT_EQ(ReadoutAverages(settings, point.Data(), 1), "MA1: 1.23  MA2: 2.00  ");
+    EXPECT_EQ(InfoAverages(Cents, settings, point.Data(), 1), "MA1: 1.23  MA2: 2.00  ");
+    EXPECT_EQ(InfoAverages(Plain, settings, point.Data(), 1), "MA1: 1.234  MA2: 2  ");
+    settings.AverageSelected[0] = 0;
+    EXPECT_EQ(ReadoutAverages(settings, point.Data(), 1), "MA2: 2.00  ");
+}
+
+TEST(InfoText, BandsStandInForTheAverages)
+{
+    sOverlaySettings settings;
+    settings.ShowAverages = settings.ShowBands = 1;
+    CPoint point({9, 13, 11}); // lower, upper, middle
+    EXPECT_EQ(ReadoutAverages(settings, point.Data(), 1), "");
+    EXPECT_EQ(ReadoutBands(settings, point.Data(), 1), "Bands: lower: 9.00  middle: 11.00  upper: 13.00");
+    EXPECT_EQ(InfoBands(Cents, settings, point.Data(), 1), "Bands: lower: 9.00 middle: 11.00 upper: 13.00");
+    CPoint holes({Hole, Hole, Hole});
+    EXPECT_EQ(ReadoutBands(settings, holes.Data(), 1), "Bands:");
+    EXPECT_EQ(InfoBands(Cents, settings, holes.Data(), 1), "");
+    settings.ShowBands = 0;
+    EXPECT_EQ(ReadoutBands(settings, point.Data(), 1), "");
+    EXPECT_EQ(InfoBands(Cents, settings, point.Data(), 1), "");
+}
+
+TEST(InfoText, EachStudyHasItsLine)
+{
+    EXPECT_EQ(Study(StudyRSI, {55.55}), "\nRSI:55.5");
+    EXPECT_EQ(Study(StudyMomentum, {-1.5}), "\nMomentum:-1.50");
+    EXPECT_EQ(Study(StudyROC, {101.256}), "\nROC:101.26");
+    EXPECT_EQ(Study(StudyOBV, {-1234567}), "\nOBV:-1,230,000");
+    EXPECT_EQ(Study(StudyMACD, {0.1234, 0.5}), "\nMACD:0.123Signal:0.500");
+    EXPECT_EQ(Study(StudyMACD, {0.1234, Hole}), "\nMACD:0.123");
+    EXPECT_EQ(Study(StudyStochastics, {80, 70}), "\nSlowSTO%K:80.0STO%D:70.0");
+    EXPECT_EQ(Study(StudyStochastics, {80, Hole}, true), "\nFastSTO%K:80.0");
+    EXPECT_EQ(Study(StudyVolume, {1000}), "");
+    EXPECT_EQ(Study(StudyMoneyFlow, {1234567, 1000, 0}), "\nMoney Flow:1.23M, pos:1.00K, neg:");
+    EXPECT_EQ(Study(StudyMFI, {50.04}), "\nMFI:50.0");
+    EXPECT_EQ(Study(StudyADX, {20, 30.25, 10}), "\nADX:20.0, +DI:30.2, -DI:10.0");
+    EXPECT_EQ(Study(99, {1}), "");
+}
+
+TEST(InfoText, StudyWithoutAValueSaysNothing)
+{
+    for (int kind = 0; kind < StudyKinds; ++kind)
+        EXPECT_EQ(Study(kind, {Hole, 1, 2}), "") << kind;
+    CPoint point({1});
+    EXPECT_EQ(ReadoutStudy(StudyRSI, point.Data(), 2, false), "");
+}
+
+} // namespace
+} // namespace zantroq
