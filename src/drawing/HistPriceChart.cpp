@@ -71,7 +71,7 @@ void CHistPriceChart::SetupSeries()
 {
     CPaneData& bars = Bars();
     bars.SetLayout(1);
-    bars.SetSeriesCount(TickSeries() ? 1 : 4);
+    bars.SetSeriesCount(PriceSeries());
     bars.SetFirstShownSeries(1);
     bars.SetLastShownSeries(TickSeries() ? 1 : 0);
     bars.SetPointCount(1, 0);
@@ -115,7 +115,7 @@ void CHistPriceChart::ApplyStyles()
 {
     const SeriesStyleTable table = SeriesStyles(Settings());
     CPaneGroup& bars = chart->PaneGroups(1);
-    for (int series = 1; series <= (TickSeries() ? 1 : 4); ++series)
+    for (int series = 1; series <= PriceSeries(); ++series)
         ApplyLook(bars.SeriesStyles(series), table[PriceStyle]);
     if (!TickSeries())
         ApplyCandleStyles();

@@ -68,6 +68,7 @@ private:
     const CPaneData& Overlays() const;
     sPriceWords Words() const;
     bool TickSeries() const;
+    int PriceSeries() const { return TickSeries() ? 1 : 4; } // series of group 1
     bool ShowsCandles() const;
     bool FitsScale() const; // false: the value axis stays as it is
 

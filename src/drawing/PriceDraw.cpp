@@ -89,8 +89,10 @@ struct CHistPriceChart::sDrawnPoints
 
 void CHistPriceChart::Draw(int position)
 {
-    if (chart->PaneLabels().Count() >= ReadoutLabel)
-        chart->PaneLabels().Item(ReadoutLabel).SetShown(false);
+    // A resize can ask for a draw while a chart still loads, before its set-up.
+    if (Bars().SeriesCount() != PriceSeries() || Overlays().SeriesCount() < PriceOverlays)
+        SetUp();
+    chart->PaneLabels().Item(ReadoutLabel).SetShown(false);
     const int count = Count();
     const int wanted = DisplayMaxPoints[static_cast<std::size_t>(std::clamp(dlg->Range().ptsIndex, 0, 14))];
     PlaceRange(position, count, wanted);
