@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cmath>
+#include <cstdlib>
 #include <system_error>
 
 namespace zantroq::feed {
@@ -86,8 +87,14 @@ sPRICE WithDecimals(sPRICE price, unsigned decimals)
 {
     if (price.Decimals == decimals)
         return price;
-    if (price.Decimals < decimals)
-        return MakePrice(price.Mantissa * PowersOfTen[decimals - price.Decimals], decimals);
+    if (price.Decimals < decimals) {
+        constexpr std::int64_t most = std::int64_t{1} << 56;
+        std::int64_t mantissa = price.Mantissa;
+        unsigned reached = price.Decimals;
+        for (; reached < decimals && std::abs(mantissa) <= most / 10; ++reached)
+            mantissa *= 10;
+        return MakePrice(mantissa, reached);
+    }
     const std::int64_t divisor = PowersOfTen[price.Decimals - decimals];
     const std::int64_t half = price.Mantissa < 0 ? -divisor / 2 : divisor / 2;
     return MakePrice((price.Mantissa + half) / divisor, decimals);

@@ -28,7 +28,8 @@ void CLevel1Session::OnLine(std::string_view line, TClock::time_point now, std::
         return;
     }
     const std::string_view symbol = TrimBlanks(line.substr(1));
-    const bool isSymbol = !symbol.empty() && symbol.size() <= MaxSymbol && symbol.find(',') == std::string_view::npos;
+    const bool isSymbol =
+        !symbol.empty() && symbol.size() <= MaxSymbol && symbol.find(',') == std::string_view::npos;
     if (line[0] == 'w' && isSymbol)
         Watch(symbol, now, text);
     else if (line[0] == 'r' && !symbol.empty()) {

@@ -74,8 +74,9 @@ void CLiveTrades::StartAtLastPoint()
             ? WithDecimals(MakePrice(1, 0), m_quote.Decimals).Mantissa >> m_quote.DisplayCode
             : 0;
     m_step = fraction > 0 ? fraction : std::max<std::int64_t>(1, std::abs(m_base) / 5000);
-    m_quote.Bid = MakePrice(m_base - m_step, m_quote.Decimals);
-    m_quote.Ask = MakePrice(m_base + m_step, m_quote.Decimals);
+    const auto decimals = static_cast<unsigned>(m_quote.Last.Decimals);
+    m_quote.Bid = MakePrice(m_base - m_step, decimals);
+    m_quote.Ask = MakePrice(m_base + m_step, decimals);
     m_quote.BidSize = m_quote.AskSize = 100;
 }
 
@@ -112,6 +113,7 @@ void CLiveTrades::Advance()
 void CLiveTrades::InventNext()
 {
     const std::int64_t last = m_quote.Last.Mantissa;
+    const auto decimals = static_cast<unsigned>(m_quote.Last.Decimals);
     const bool still = m_market.IsSimulated() && PriceValue(m_quote.High) == PriceValue(m_quote.Low);
     const std::int64_t pull = std::clamp<std::int64_t>((m_base - last) / (50 * m_step), -1, 1);
     const std::int64_t move = still ? 0 : (m_random.Around(2) + (m_random.Below(4) == 0 ? pull : 0)) * m_step;
@@ -120,12 +122,12 @@ void CLiveTrades::InventNext()
     m_quote.BidSize = 100 * (1 + m_random.Below(20));
     m_quote.AskSize = 100 * (1 + m_random.Below(20));
     const std::uint32_t size = 10 * (1 + m_random.Below(50));
-    m_quote.Bid = MakePrice(price - m_step, m_quote.Decimals);
-    m_quote.Ask = MakePrice(price + m_step, m_quote.Decimals);
+    m_quote.Bid = MakePrice(price - m_step, decimals);
+    m_quote.Ask = MakePrice(price + m_step, decimals);
     if (kind < 15)
         m_quote.Contents = "ba";
     else
-        Trade(MakePrice(price, m_quote.Decimals), size, kind < 18 ? 'E' : kind < 20 ? 'O' : 'C');
+        Trade(MakePrice(price, decimals), size, kind < 18 ? 'E' : kind < 20 ? 'O' : 'C');
 }
 
 void CLiveTrades::Trade(sPRICE price, std::uint32_t size, char basis)

@@ -12,6 +12,8 @@ namespace zantroq::feed {
 namespace {
 
 constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
+// More than any market trades in a day, and small enough for the sum of a million rows.
+constexpr std::int64_t LargestCount = 5'000'000'000'000;
 constexpr std::size_t NoColumn = static_cast<std::size_t>(-1);
 
 // Walks the rows of a file below its header and keeps the columns by name.
@@ -111,7 +113,8 @@ bool ReadOptionalCount(CCsvRows& rows, std::size_t column, std::string_view name
     std::int64_t wide = 0;
     if (text.empty())
         return true;
-    if (ReadCount(text, wide) && wide <= static_cast<std::int64_t>(std::numeric_limits<TInteger>::max())) {
+    const auto most = std::min(LargestCount, static_cast<std::int64_t>(std::numeric_limits<TInteger>::max()));
+    if (ReadCount(text, wide) && wide <= most) {
         number = static_cast<TInteger>(wide);
         return true;
     }

@@ -50,6 +50,14 @@ TEST(DecimalPrice, AnythingElseIsNoPrice)
     }
 }
 
+TEST(DecimalPrice, TakesOnDecimalsAsFarAsTheyFit)
+{
+    EXPECT_EQ(Text(WithDecimals(MakePrice(105, 1), 3)), "10.500");
+    EXPECT_EQ(Text(WithDecimals(MakePrice(1055, 2), 1)), "10.6");
+    EXPECT_EQ(Text(WithDecimals(MakePrice(-1055, 2), 1)), "-10.6");
+    EXPECT_EQ(Text(WithDecimals(MakePrice(99'999'999'999'999'999, 0), 8)), "99999999999999999");
+}
+
 TEST(DecimalPrice, ComparesAcrossDecimals)
 {
     EXPECT_TRUE(IsBelow(MakePrice(1000, 2), MakePrice(101, 1)));
