@@ -1,0 +1,35 @@
+// A feed inside this process on two free ports, and what it tells the user. Window thread.
+#pragma once
+
+#include "feed/FeedServer.h"
+#include "platform/SettingsKey.h"
+
+#include <QObject>
+
+#include <memory>
+
+namespace zantroq {
+
+struct sCommandLine;
+
+class CEmbeddedFeed : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit CEmbeddedFeed(const sCommandLine& line);
+    ~CEmbeddedFeed() override;
+
+    // False, with one sentence, when no port is to be had.
+    bool Start(std::string& error);
+    std::shared_ptr<ISettingsKey> PortKey() const; // once started
+
+signals:
+    // A sentence for the user; from the feed's thread.
+    void Notice(const QString& sentence);
+
+private:
+    std::unique_ptr<feed::CFeedServer> m_server;
+};
+
+} // namespace zantroq

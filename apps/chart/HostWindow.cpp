@@ -1,0 +1,68 @@
+#include "HostWindow.h"
+
+#include "qt/BarFont.h"
+#include "qt/ChartView.h"
+
+#include <QIcon>
+#include <QLabel>
+
+namespace zantroq {
+namespace {
+
+constexpr int NoticeHeight = 22;
+
+} // namespace
+
+CHostWindow::CHostWindow(const sChartCtrlSetup& setup)
+    : m_strip(new QLabel(this)), m_chart(new CChartCtrl(this, setup))
+{
+    setWindowTitle("Zantroq Chart");
+    setWindowIcon(QIcon(":/zantroq/icons/zantroq-chart.svg"));
+    m_strip->setFont(BarFont());
+    m_strip->setIndent(8);
+    m_strip->setAccessibleName("Notice");
+    m_strip->setStyleSheet("background: #8a4b00; color: #ffffff;");
+    m_strip->hide();
+    setFocusProxy(m_chart);
+}
+
+int CHostWindow::StripHeight() const
+{
+    return m_strip->isHidden() ? 0 : NoticeHeight;
+}
+
+void CHostWindow::SetClientSize(const QSize& size)
+{
+    resize(size.width(), size.height() + StripHeight());
+    LayOut();
+}
+
+void CHostWindow::ShowNotice(const QString& text)
+{
+    m_chart->SetNotice(text);
+    m_strip->setText(text);
+    m_strip->setToolTip(text);
+    const bool show = !text.isEmpty();
+    if (show == !m_strip->isHidden())
+        return;
+    const QSize chart = m_chart->size();
+    m_strip->setVisible(show);
+    if (!isMaximized() && !isFullScreen())
+        SetClientSize(chart);
+    LayOut();
+}
+
+void CHostWindow::resizeEvent(QResizeEvent*)
+{
+    LayOut();
+}
+
+void CHostWindow::LayOut()
+{
+    const int strip = StripHeight();
+    m_strip->setGeometry(0, 0, width(), strip);
+    m_chart->move(0, strip);
+    m_chart->SetClientSize(QSize(width(), height() - strip));
+}
+
+} // namespace zantroq

@@ -1,0 +1,35 @@
+// The host's top-level window: the chart control, and above it a strip that says so when the market on show
+// is not a genuine one.
+#pragma once
+
+#include "qt/ChartCtrl.h"
+
+#include <QWidget>
+
+class QLabel;
+
+namespace zantroq {
+
+class CHostWindow : public QWidget
+{
+public:
+    explicit CHostWindow(const sChartCtrlSetup& setup);
+
+    CChartCtrl& Chart() { return *m_chart; }
+    // Sizes the window so that the chart window gets this client size, shown or not.
+    void SetClientSize(const QSize& size);
+    // Shows the strip; the chart keeps its size where the window can grow. Also in pictures of the chart.
+    void ShowNotice(const QString& text);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    int StripHeight() const;
+    void LayOut();
+
+    QLabel* m_strip;
+    CChartCtrl* m_chart;
+};
+
+} // namespace zantroq

@@ -1,0 +1,205 @@
+#include "Session.h"
+
+#include "qt/ChartPicture.h"
+#include "qt/ChartView.h"
+#include "window/ChartDlg.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTimer>
+
+#include <functional>
+
+namespace zantroq {
+namespace {
+
+// Runs the event loop until `done`, or for so long.
+bool Pump(int milliseconds, const std::function<bool()>& done)
+{
+    QElapsedTimer clock;
+    clock.start();
+    // Looked at often enough that what the window drew last is what the next step meets.
+    QTimer wake;
+    wake.start(5);
+    while (!done()) {
+        if (clock.elapsed() >= milliseconds)
+            return false;
+        QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    return true;
+}
+
+bool IsSimulatedSymbol(const QString& symbol)
+{
+    return symbol.startsWith("SIM.", Qt::CaseInsensitive);
+}
+
+} // namespace
+
+CSession::CSession(const sCommandLine& line) : m_line(line) {}
+
+CSession::~CSession()
+{
+    m_window.reset();
+}
+
+int CSession::Run()
+{
+    if (!m_line.Replay.empty())
+        return RunReplay(); // reads its script before anything starts
+    if (!StartFeed())
+        return ExitNoAnswer;
+    MakeWindow();
+    return m_line.Snapshots.empty() ? RunWindow() : RunSnapshot();
+}
+
+bool CSession::StartFeed()
+{
+    if (!m_line.EmbeddedFeed)
+        return true;
+    m_feed = std::make_unique<CEmbeddedFeed>(m_line);
+    QObject::connect(
+        m_feed.get(), &CEmbeddedFeed::Notice, qApp, [this](const QString& sentence) { OnNotice(sentence); },
+        Qt::QueuedConnection);
+    std::string error;
+    if (m_feed->Start(error))
+        return true;
+    Complain("--feed embedded: " + error);
+    return false;
+}
+
+void CSession::MakeWindow()
+{
+    sChartCtrlSetup setup;
+    if (m_feed != nullptr)
+        setup.FeedKey = m_feed->PortKey();
+    const bool person = m_line.Snapshots.empty() && m_line.Replay.empty();
+    if (!person)
+        setup.Box = &m_boxes;
+    setup.Popups = person;
+    m_window = std::make_unique<CHostWindow>(setup);
+    ApplyOptions();
+    QObject::connect(m_window.get(), &QWidget::windowTitleChanged, qApp, [this] { WatchSymbol(); });
+    if (m_line.NeedsDisplay())
+        m_window->show();
+    if (!m_line.Symbol.empty())
+        m_window->Chart().SetStockSymbol(QString::fromStdString(m_line.Symbol));
+}
+
+void CSession::ApplyOptions()
+{
+    m_window->SetClientSize(m_line.ClientSize());
+    CChartDlg& chart = m_window->Chart().Window();
+    if (m_line.DataType) {
+        chart.Services().Type.Select(*m_line.DataType);
+        chart.OnDataTypeChanged(0);
+    }
+    if (m_line.IntervalIndex) {
+        chart.Services().Interval.Select(*m_line.IntervalIndex);
+        chart.OnIntervalChanged();
+    }
+}
+
+// Once for each sentence on standard error, and in the window as long as that symbol is on show.
+void CSession::OnNotice(const QString& sentence)
+{
+    Complain(sentence.toStdString());
+    const auto colon = sentence.indexOf(": ");
+    if (colon > 0 && sentence.contains("simulated"))
+        m_notices[sentence.left(colon)] = sentence;
+    if (m_window != nullptr)
+        WatchSymbol();
+}
+
+void CSession::WatchSymbol()
+{
+    const QString symbol = QString::fromStdString(m_window->Chart().Window().Services().Symbol.Text());
+    QString notice;
+    if (IsSimulatedSymbol(symbol)) {
+        notice = symbol + ": simulated market, not genuine prices";
+        if (m_feed == nullptr && m_said.insert(symbol).second)
+            Complain(notice.toStdString()); // an embedded feed says it itself
+    } else if (const auto found = m_notices.find(symbol); found != m_notices.end()) {
+        notice = found->second;
+    }
+    m_window->ShowNotice(notice);
+}
+
+int CSession::RunWindow()
+{
+    return QApplication::exec();
+}
+
+int CSession::RunSnapshot()
+{
+    if (!WaitComplete(m_line.TimeoutMs)) {
+        Complain(m_line.Symbol + ": the feed gave no complete reply in time (" +
+                 QString::number(m_line.TimeoutMs / 1000.0).toStdString() + " s); " +
+                 (m_line.EmbeddedFeed ? "check that there is a recording of it, or give --timeout more"
+                                      : "start zantroq-feed, try --feed embedded, or give --timeout more"));
+        return ExitNoAnswer;
+    }
+    if (m_line.SettleMs > 0)
+        Wait(m_line.SettleMs);
+    for (const std::string& file : m_line.Snapshots) {
+        if (const std::string wrong = Snapshot(file); !wrong.empty()) {
+            Complain("--snapshot " + wrong);
+            return ExitNotWritten;
+        }
+    }
+    return ExitDone;
+}
+
+int CSession::RunReplay()
+{
+    const QString path = QString::fromStdString(m_line.Replay);
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        Complain("--replay " + m_line.Replay + ": cannot be read (" +
+                 file.errorString().toLower().toStdString() + "); name a file with a step a line");
+        return ExitUsage;
+    }
+    const sReplayScript script = ParseReplayScript(file.readAll().toStdString());
+    if (!script.Error.empty()) {
+        Complain("--replay " + m_line.Replay + ": " + script.Error);
+        return ExitUsage;
+    }
+    if (!StartFeed())
+        return ExitNoAnswer;
+    MakeWindow();
+    const sReplayResult result = zantroq::RunReplay(script, m_window->Chart().Window(), m_boxes, *this);
+    if (result.ExitCode != ExitDone)
+        Complain("--replay " + m_line.Replay + ": " + result.Message);
+    return result.ExitCode;
+}
+
+bool CSession::WaitComplete(int milliseconds)
+{
+    const CChartDlg& chart = m_window->Chart().Window();
+    const bool done = Pump(milliseconds, [&chart] { return chart.CompleteAndDrawn(); });
+    QApplication::sendPostedEvents(); // notices of the feed that came before the reply
+    return done;
+}
+
+void CSession::Wait(int milliseconds)
+{
+    Pump(milliseconds, [] { return false; });
+}
+
+void CSession::Resize(int width, int height)
+{
+    m_window->SetClientSize({width, height});
+}
+
+std::string CSession::Print(const std::string& file)
+{
+    return file + ": printing is not there yet; write a snapshot to a .pdf file instead";
+}
+
+std::string CSession::Snapshot(const std::string& file)
+{
+    return m_window->Chart().SavePicture(QString::fromStdString(file)).toStdString();
+}
+
+} // namespace zantroq

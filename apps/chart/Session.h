@@ -1,0 +1,47 @@
+// One run of the program with a chart in it: a window for a person, a picture, or a script.
+#pragma once
+
+#include "CommandLine.h"
+#include "EmbeddedFeed.h"
+#include "HostWindow.h"
+#include "window/ReplayRunner.h"
+
+#include <map>
+#include <memory>
+#include <set>
+
+namespace zantroq {
+
+class CSession : private IReplayHost
+{
+public:
+    explicit CSession(const sCommandLine& line);
+    ~CSession() override;
+
+    int Run(); // the program's exit code
+
+private:
+    int RunWindow();
+    int RunSnapshot();
+    int RunReplay();
+    bool StartFeed();
+    void MakeWindow();
+    void ApplyOptions(); // data type, interval, size: before the symbol
+    void OnNotice(const QString& sentence);
+    void WatchSymbol();
+
+    bool WaitComplete(int milliseconds) override;
+    void Wait(int milliseconds) override;
+    void Resize(int width, int height) override;
+    std::string Print(const std::string& file) override;
+    std::string Snapshot(const std::string& file) override;
+
+    const sCommandLine m_line;
+    std::unique_ptr<CEmbeddedFeed> m_feed; // outlives the window
+    CReplayMessageBox m_boxes;
+    std::unique_ptr<CHostWindow> m_window;
+    std::map<QString, QString> m_notices; // what is simulated, by symbol
+    std::set<QString> m_said;
+};
+
+} // namespace zantroq

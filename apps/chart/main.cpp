@@ -1,0 +1,54 @@
+// zantroq-chart: shows a chart in a window, or draws it into files without one.
+#include "CommandLine.h"
+#include "Session.h"
+
+#include <QApplication>
+#include <QStyleFactory>
+
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+// The toolkit ends the program when it finds no display; the user gets a sentence and an exit code instead.
+void OnToolkitMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    if (type == QtFatalMsg) {
+        zantroq::Complain("no window can be opened on this display; set DISPLAY, or give --snapshot FILE to "
+                          "draw a picture without one");
+        std::_Exit(zantroq::ExitUsage);
+    }
+    // What the desktop lacks is no concern of someone who draws a chart.
+    const bool ofDesktop = QByteArray(context.category).startsWith("qt.qpa") ||
+                           message.startsWith("QStandardPaths");
+    if (type != QtDebugMsg && type != QtInfoMsg && !ofDesktop)
+        std::fprintf(stderr, "zantroq-chart: %s\n", qPrintable(message));
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    using namespace zantroq;
+    std::signal(SIGPIPE, SIG_IGN); // a peer or reader that went away is an error of one call
+    int exitCode = ExitDone;
+    const auto line = ReadCommandLine(argc, argv, exitCode);
+    if (!line)
+        return exitCode;
+    if (!line->NeedsDisplay()) {
+        // Whatever the desktop's variables say, nothing of it is touched.
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qunsetenv("QT_QPA_PLATFORMTHEME");
+        qunsetenv("QT_STYLE_OVERRIDE");
+    }
+    qInstallMessageHandler(OnToolkitMessage);
+    if (qEnvironmentVariableIsEmpty("QT_STYLE_OVERRIDE"))
+        QApplication::setStyle("Fusion");
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    int count = 1; // the arguments are this program's own
+    QApplication application(count, argv);
+    QApplication::setApplicationName("zantroq-chart");
+    QApplication::setApplicationVersion(ZANTROQ_VERSION);
+    return CSession(*line).Run();
+}

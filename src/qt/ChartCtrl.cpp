@@ -1,0 +1,143 @@
+#include "qt/ChartCtrl.h"
+
+#include "market/ManagerThreadHolder.h"
+#include "qt/ChartPicture.h"
+#include "qt/ChartView.h"
+#include "qt/MessageBox.h"
+#include "qt/ShownValues.h"
+#include "studies/StudyFactory.h"
+#include "window/ChartDlg.h"
+#include "window/ManagerThreadFeed.h"
+
+#include <QClipboard>
+#include <QFileDialog>
+#include <QGuiApplication>
+#include <QMessageBox>
+
+namespace zantroq {
+namespace {
+
+// Context menus that nobody sees: the chart window keeps them as data.
+class CMenuAsData : public IContextMenu
+{
+public:
+    void Open(const sContextMenu&, int, int) override {}
+};
+
+} // namespace
+
+struct CChartCtrl::sServices
+{
+    explicit sServices(QWidget& parent) : Box(parent), Feed(ManagerThreadHolder()) {}
+
+    CMessageBox Box;
+    CMenuAsData Menu;
+    CManagerThreadFeed Feed;
+    CStudyFactory Studies;
+};
+
+CChartCtrl::CChartCtrl(QWidget* parent, const sChartCtrlSetup& setup)
+    : QWidget(parent),
+      m_view(new CChartView(this)),
+      m_chartKey(setup.ChartKey),
+      m_services(std::make_unique<sServices>(*this))
+{
+    setFocusProxy(m_view);
+    setMinimumSize(120, 90);
+    if (m_chartKey == nullptr)
+        m_chartKey = OpenSettingsKey(ChartSettingsKey);
+    ManagerThreadHolder().AddControl(setup.FeedKey != nullptr
+                                         ? setup.FeedKey
+                                         : std::shared_ptr<ISettingsKey>(OpenSettingsKey(FeedSettingsKey)));
+    IMessageBox& box = setup.Box != nullptr ? *setup.Box : m_services->Box;
+    IContextMenu& menu = setup.Popups ? static_cast<IContextMenu&>(m_view->Menu()) : m_services->Menu;
+    m_window = std::make_unique<CChartDlg>(sChartDlgSetup{.Services = m_view->Services(box, menu),
+                                                          .Key = *m_chartKey,
+                                                          .Feed = m_services->Feed,
+                                                          .Studies = &m_services->Studies});
+    m_view->Attach(*m_window);
+    m_view->Menu().Extend = [this](QMenu& popup) {
+        if (!Conveniences())
+            return;
+        popup.addSeparator();
+        popup.addAction("Copy picture", this, &CChartCtrl::CopyPicture);
+        popup.addAction("Save picture...", this, &CChartCtrl::AskForPicture);
+    };
+    m_window->Initialise();
+}
+
+CChartCtrl::~CChartCtrl()
+{
+    m_view->Detach();
+    m_window->Destroy();
+    ManagerThreadHolder().RemoveControl(nullptr); // Destroy has unwatched the series
+}
+
+void CChartCtrl::SetStockSymbol(const QString& symbol)
+{
+    m_symbol = symbol;
+    m_window->SetSymbol(symbol.toStdString());
+    emit StockSymbolChanged(symbol);
+}
+
+bool CChartCtrl::ResizeParentWindow() const
+{
+    return m_window->ResizeParentWindow();
+}
+
+void CChartCtrl::SetResizeParentWindow(bool resize)
+{
+    m_window->SetResizeParentWindow(resize);
+}
+
+bool CChartCtrl::Conveniences() const
+{
+    return m_view->Conveniences();
+}
+
+void CChartCtrl::SetConveniences(bool on)
+{
+    m_view->SetConveniences(on);
+}
+
+void CChartCtrl::SetClientSize(const QSize& size)
+{
+    resize(size);
+    m_view->SetClientSize(size.width(), size.height());
+}
+
+void CChartCtrl::resizeEvent(QResizeEvent*)
+{
+    m_view->SetClientSize(width(), height());
+}
+
+QImage CChartCtrl::Picture() const
+{
+    return DrawChartPicture({*m_window, m_view->size(), m_notice}, devicePixelRatioF());
+}
+
+QString CChartCtrl::SavePicture(const QString& path) const
+{
+    if (path.endsWith(".csv", Qt::CaseInsensitive))
+        return SaveShownValues(*m_window, path);
+    return SaveChartPicture({*m_window, m_view->size(), m_notice}, path, devicePixelRatioF());
+}
+
+void CChartCtrl::CopyPicture()
+{
+    QGuiApplication::clipboard()->setImage(Picture());
+}
+
+void CChartCtrl::AskForPicture()
+{
+    const QString path = QFileDialog::getSaveFileName(
+        this, "Save picture", QString::fromStdString(m_window->CurrentSymbol()) + ".png",
+        "Picture (*.png);;Vector picture (*.svg);;PDF (*.pdf);;State of the "
+        "chart (*.json);;Shown values (*.csv)");
+    if (path.isEmpty())
+        return;
+    if (const QString wrong = SavePicture(path); !wrong.isEmpty())
+        QMessageBox::warning(this, "Save picture", wrong);
+}
+
+} // namespace zantroq

@@ -1,0 +1,32 @@
+// A picture of a whole chart window without its controls: a heading, the panes where they stand, and the
+// status line, in the client size of the window. The same drawing goes to pixels, vectors and pages. Chart
+// window's thread.
+#pragma once
+
+#include <QImage>
+#include <QSize>
+#include <QString>
+
+class QPainter;
+
+namespace zantroq {
+
+class CChartDlg;
+
+struct sChartPicture
+{
+    const CChartDlg& Window;
+    QSize Size;     // client size of the chart window, in pixels
+    QString Notice; // shown in the heading where not empty
+};
+
+QImage DrawChartPicture(const sChartPicture& picture, double devicePixelRatio);
+
+// The endings that can be written.
+bool IsPictureFile(const QString& path);
+
+// Writes the picture by the ending of the path, .png (at the ratio), .svg or .pdf, or for .json the window's
+// state. The same window writes the same bytes. Empty, or one sentence that says what is wrong.
+QString SaveChartPicture(const sChartPicture& picture, const QString& path, double devicePixelRatio);
+
+} // namespace zantroq

@@ -1,0 +1,45 @@
+// The toolbar, and the state of every command by number, those without a button included. A press reports the
+// command alone: what a check button shows is what the chart window says. Chart window's thread.
+#pragma once
+
+#include "platform/WindowServices.h"
+
+#include <QWidget>
+
+#include <functional>
+#include <map>
+#include <set>
+
+class QAction;
+
+namespace zantroq {
+
+class CCommandBar : public QWidget, public ICommandBar
+{
+public:
+    static constexpr int BarWidth = 223;
+
+    explicit CCommandBar(QWidget* parent);
+
+    std::function<void(int command)> OnCommand;
+
+    void Enable(int command, bool enabled) override;
+    void Check(int command, bool checked) override;
+    bool IsEnabled(int command) const override { return m_disabled.count(command) == 0; }
+    bool IsChecked(int command) const override;
+
+    // The button's action, null for a command without a button.
+    QAction* Action(int command) const;
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    void AddButton(int command, const QString& text, bool checkable, int left);
+    void DrawIcons();
+
+    std::map<int, QAction*> m_actions;
+    std::set<int> m_disabled, m_checked;
+};
+
+} // namespace zantroq

@@ -1,0 +1,26 @@
+// Opens the chart window's context menus as popups and reports what was picked. Chart window's thread.
+#pragma once
+
+#include "platform/WindowServices.h"
+
+#include <QMenu>
+
+#include <functional>
+
+namespace zantroq {
+
+class CContextMenuPopup : public IContextMenu
+{
+public:
+    std::function<QPoint(int pane, int x, int y)> ToGlobal; // a pixel of a pane on the screen
+    std::function<void(int command)> OnPicked;              // 0: closed without a pick
+    std::function<void(QMenu& menu)> Extend;                // adds items of the face; may be empty
+
+    void Open(const sContextMenu& menu, int x, int y) override;
+
+private:
+    void Fill(QMenu& menu, const std::vector<sMenuItem>& items);
+    int m_picked = 0;
+};
+
+} // namespace zantroq

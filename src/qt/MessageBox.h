@@ -1,0 +1,21 @@
+// Message boxes of the desktop, over the window that a widget is in. Chart window's thread.
+#pragma once
+
+#include "platform/WindowServices.h"
+
+class QWidget;
+
+namespace zantroq {
+
+class CMessageBox : public IMessageBox
+{
+public:
+    explicit CMessageBox(QWidget& parent) : m_parent(parent) {}
+    BoxAnswer Ask(const std::string& text, const std::string& caption, BoxButtons buttons,
+                  BoxIcon icon) override;
+
+private:
+    QWidget& m_parent;
+};
+
+} // namespace zantroq

@@ -1,0 +1,17 @@
+// Files that hold pictures of a chart. Any thread.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+namespace zantroq {
+
+// Writes a whole file: whoever looks sees the old one or the new one. Empty, or one sentence that names the
+// path and says why not.
+QString WritePictureFile(const QString& path, const QByteArray& bytes);
+
+// A PDF file without the moment and the chance number of its making, so that the same picture has the same
+// bytes. The length of the file and the places in it stay.
+QByteArray WithoutMoment(QByteArray pdf);
+
+} // namespace zantroq

@@ -1,0 +1,42 @@
+// The symbol box: an edit line over the last symbols. What is typed turns to capitals as it comes; Enter
+// draws. Only what the user does is reported. Chart window's thread.
+#pragma once
+
+#include "platform/WindowServices.h"
+
+#include <QComboBox>
+
+#include <functional>
+
+namespace zantroq {
+
+class CSymbolBox : public QComboBox, public ISymbolBox
+{
+public:
+    explicit CSymbolBox(QWidget* parent);
+
+    std::function<void()> OnChanged; // text or selection
+    std::function<void()> OnEnter;
+    // Types a text into the box as a user would, replacing what stands there.
+    void TypeText(const QString& text);
+
+    std::string Text() const override;
+    void SetText(const std::string& text) override;
+    std::vector<std::string> Items() const override;
+    void SetItems(const std::vector<std::string>& items) override;
+    int Selection() const override { return m_selection; }
+    void Select(int item) override;
+    void FocusAtEnd() override;
+
+protected:
+    void wheelEvent(QWheelEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void OnEdited(const QString& typed);
+
+    int m_selection = -1; // typing ends it, although the list may hold the very text
+    bool m_textWasSelected = false;
+};
+
+} // namespace zantroq
