@@ -7,7 +7,10 @@
 
 namespace zantroq {
 
-CChartDlg::CChartDlg(const sChartDlgSetup& setup) : m_parts(std::make_unique<sChartParts>(*this, setup)) {}
+CChartDlg::CChartDlg(const sChartDlgSetup& setup)
+    : m_parts(std::make_unique<sChartParts>(*this, m_panes, setup))
+{
+}
 
 CChartDlg::~CChartDlg()
 {
@@ -182,12 +185,12 @@ int CChartDlg::ChartPixelWidth() const
 
 CChart2D& CChartDlg::Pane(int number)
 {
-    return m_parts->Panes.at(static_cast<std::size_t>(number));
+    return m_panes.at(static_cast<std::size_t>(number));
 }
 
 const CChart2D& CChartDlg::Pane(int number) const
 {
-    return m_parts->Panes.at(static_cast<std::size_t>(number));
+    return m_panes.at(static_cast<std::size_t>(number));
 }
 
 bool CChartDlg::IsCollapsed(int pane) const

@@ -21,7 +21,7 @@
 #include "window/WindowDialogs.h"
 #include "window/WindowTrends.h"
 
-#include <functional>
+#include <array>
 #include <memory>
 #include <optional>
 #include <string>
@@ -128,6 +128,7 @@ public:
     const std::vector<sAskedBox>& AskedBoxes() const;
 
 private:
+    std::array<CChart2D, PaneControls> m_panes; // there before the parts, which take them by number
     std::unique_ptr<sChartParts> m_parts;
 };
 

@@ -6,8 +6,6 @@
 #include "window/WindowDialogs.h"
 #include "window/WindowTexts.h"
 
-#include <span>
-
 namespace zantroq {
 
 namespace {
@@ -20,7 +18,7 @@ sWindowServices WithBox(const sWindowServices& from, IMessageBox& box)
 
 } // namespace
 
-sChartParts::sChartParts(CChartDlg& window, const sChartDlgSetup& setup)
+sChartParts::sChartParts(CChartDlg& window, std::span<CChart2D> panes, const sChartDlgSetup& setup)
     : Window(window),
       Recorder(setup.Services.Box),
       Services(WithBox(setup.Services, Recorder)),
@@ -29,6 +27,7 @@ sChartParts::sChartParts(CChartDlg& window, const sChartDlgSetup& setup)
       Login(setup.Login),
       Settings(LoadChartSettings(setup.Key)),
       Store(setup.Key),
+      Panes(panes),
       Batch(Panes),
       Status(Services.Status),
       Manager(window, setup.Studies, nullptr),

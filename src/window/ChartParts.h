@@ -16,13 +16,13 @@
 #include "window/WindowBars.h"
 #include "window/WindowPlacement.h"
 
-#include <array>
+#include <span>
 
 namespace zantroq {
 
 struct sChartParts : ILifecycleEvents, ISettingsTarget
 {
-    sChartParts(CChartDlg& window, const sChartDlgSetup& setup);
+    sChartParts(CChartDlg& window, std::span<CChart2D> panes, const sChartDlgSetup& setup);
 
     bool Initialise();
     void Destroy();
@@ -63,7 +63,7 @@ struct sChartParts : ILifecycleEvents, ISettingsTarget
     ILoginVerification* Login; // may be null
     sChartSettings Settings;
     CSettingsStore Store;
-    std::array<CChart2D, MaxPanes> Panes;
+    std::span<CChart2D> Panes;
     CBatchCounters Batch;
     CStatusText Status;
     CHistChartDrawManager Manager;

@@ -262,10 +262,12 @@ sPair RandomPair()
 
 void ExpectSame(const sPair& pair)
 {
-    RC_ASSERT(pair.Stack.MaximizedIndex == (pair.Plain.Maximized < 0 ? NoMaximizedPane : pair.Plain.Maximized));
+    RC_ASSERT(pair.Stack.MaximizedIndex ==
+              (pair.Plain.Maximized < 0 ? NoMaximizedPane : pair.Plain.Maximized));
     for (int k = 0; k < pair.Plain.Count(); ++k) {
         RC_ASSERT((pair.Stack.Minimized[static_cast<std::size_t>(k)] != 0) == pair.Plain.Of(k).Minimized);
-        const double share = pair.Stack.Bounds[static_cast<std::size_t>(k + 1)] - pair.Stack.Bounds[static_cast<std::size_t>(k)];
+        const double share = pair.Stack.Bounds[static_cast<std::size_t>(k + 1)] -
+                             pair.Stack.Bounds[static_cast<std::size_t>(k)];
         RC_ASSERT(std::abs(share - pair.Plain.Of(k).Share) < 1e-9);
     }
 }
@@ -274,14 +276,21 @@ void OneStep(sPair& pair, int room)
 {
     const int pane = *rc::gen::inRange(0, pair.Plain.Count());
     switch (*rc::gen::inRange(0, 4)) {
-    case 0: MaximizePane(pair.Stack, pane), pair.Plain.Maximize(pane); break;
-    case 1: MinimizePane(pair.Stack, pane), pair.Plain.Minimize(pane); break;
-    case 2: RestorePane(pair.Stack, pane), pair.Plain.Restore(pane); break;
+    case 0:
+        MaximizePane(pair.Stack, pane), pair.Plain.Maximize(pane);
+        break;
+    case 1:
+        MinimizePane(pair.Stack, pane), pair.Plain.Minimize(pane);
+        break;
+    case 2:
+        RestorePane(pair.Stack, pane), pair.Plain.Restore(pane);
+        break;
     default: {
         if (pane == 0)
             return;
         PaneBottoms bottoms = LayOutPanes(pair.Stack, room);
-        const int top = bottoms[static_cast<std::size_t>(pane - 1)], end = bottoms[static_cast<std::size_t>(pane + 1)];
+        const int top = bottoms[static_cast<std::size_t>(pane - 1)],
+                  end = bottoms[static_cast<std::size_t>(pane + 1)];
         if (end - top < 32)
             return;
         const int y = *rc::gen::inRange(top + 16, end - 16 + 1);

@@ -1,4 +1,5 @@
-// The rules of the pane stack once more, slowly and with one named pane at a time, as the yardstick of the tests.
+// The rules of the pane stack once more, slowly and with one named pane at a time, as the yardstick of the
+// tests.
 #pragma once
 
 #include <algorithm>
@@ -8,7 +9,7 @@ namespace zantroq::test {
 
 struct sPlainPane
 {
-    double Share = 0;      // of the whole, 0 to 1
+    double Share = 0; // of the whole, 0 to 1
     bool Minimized = false;
 };
 
@@ -107,7 +108,8 @@ struct sPlainStack
         Maximized = -1;
     }
 
-    // The border above pane `lower` goes to where the pane above it is `above` and the lower one `below` pixels high.
+    // The border above pane `lower` goes to where the pane above it is `above` and the lower one `below`
+    // pixels high.
     void Drag(int lower, int above, int below)
     {
         const int upper = lower - 1;

@@ -44,7 +44,8 @@ struct sFakeBox : IMessageBox
     std::deque<BoxAnswer> Answers;
     std::vector<std::string> Texts, Captions;
     BoxIcon Icon = BoxIcon::None;
-    BoxAnswer Ask(const std::string& text, const std::string& caption, BoxButtons buttons, BoxIcon icon) override
+    BoxAnswer Ask(const std::string& text, const std::string& caption, BoxButtons buttons,
+                  BoxIcon icon) override
     {
         Texts.push_back(text);
         Captions.push_back(caption);
@@ -183,7 +184,10 @@ struct sFakeFeed : IChartFeed
     CChartHistRequest* Sent = nullptr;
     bool Released = false, DeadAtRelease = false;
     void WatchSymbol(CChartHistRequest& request) override { Calls.push_back("watch " + request.GetSymbol()); }
-    void UnwatchSymbol(CChartHistRequest& request) override { Calls.push_back("unwatch " + request.GetSymbol()); }
+    void UnwatchSymbol(CChartHistRequest& request) override
+    {
+        Calls.push_back("unwatch " + request.GetSymbol());
+    }
     void SendHistoryRequest(CChartHistRequest& request) override
     {
         Calls.push_back("send " + request.GetSymbol());
@@ -206,7 +210,10 @@ struct sFakeDrawing : IPaneDrawing
     int Points = 0;
     bool Edited = false;
     int Count() const override { return Points; }
-    void SetSource(CChartHistRequest*, int dataType) override { Calls.push_back("source " + std::to_string(dataType)); }
+    void SetSource(CChartHistRequest*, int dataType) override
+    {
+        Calls.push_back("source " + std::to_string(dataType));
+    }
     void ClearPanes() override { Calls.push_back("clear"); }
     void FullRedraw() override { Calls.push_back("full"); }
     void Draw(int position) override { Calls.push_back("draw " + std::to_string(position)); }
@@ -214,7 +221,10 @@ struct sFakeDrawing : IPaneDrawing
     void RefreshTitles() override { Calls.push_back("titles"); }
     void AdjustStudyBars() override {}
     void RebuildStudies() override { Calls.push_back("studies"); }
-    void DeletePoint(int index) override { Calls.push_back("delete " + std::to_string(index)), Edited = true; }
+    void DeletePoint(int index) override
+    {
+        Calls.push_back("delete " + std::to_string(index)), Edited = true;
+    }
     bool SeriesEdited() const override { return Edited; }
     std::string MakeInfoText(int) const override { return "info"; }
     void GetPoint(int, sHIST_DATA&) const override {}

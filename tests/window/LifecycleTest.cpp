@@ -1,0 +1,367 @@
+#include "ChartWindowFixture.h"
+
+#include <gtest/gtest.h>
+
+namespace zantroq {
+namespace {
+
+using namespace test;
+
+TEST(Lifecycle, AFreshWindowStandsIdle)
+{
+    sChartFixture chart;
+    EXPECT_EQ(chart.Status(), "Ready...");
+    EXPECT_FALSE(chart.DrawEnabled());
+    EXPECT_TRUE(chart.Feed.Calls.empty());
+    EXPECT_FALSE(chart.Desktop.Interval.On); // tick data
+    EXPECT_EQ(chart.Desktop.Type.Selected, 0);
+    EXPECT_TRUE(chart.Desktop.Timer.Running.empty());
+    EXPECT_EQ(Text(*chart.Key, "RequestDataType"), "0");
+}
+
+TEST(Lifecycle, AStoredMinuteTypeEnablesTheIntervalBox)
+{
+    EXPECT_TRUE(ChartOf(MinuteData)->Desktop.Interval.On);
+}
+
+TEST(Lifecycle, ARefusedLoginLeavesTheWindowEmpty)
+{
+    struct sRefuse : ILoginVerification
+    {
+        bool Agrees() override { return false; }
+    } refuse;
+    sChartFixture chart(false);
+    chart.Setup.Login = &refuse;
+    chart.Window = std::make_unique<CChartDlg>(chart.Setup);
+    EXPECT_FALSE(chart.Window->Initialise());
+    EXPECT_EQ(chart.Window->Series(), nullptr);
+    chart.Window->OnCommand(CommandDrawChart);
+    chart.Tick();
+    EXPECT_TRUE(chart.Feed.Calls.empty());
+}
+
+TEST(Lifecycle, DrawChartIsEnabledExactlyWhileThereIsASymbol)
+{
+    sChartFixture chart;
+    chart.Type("A");
+    EXPECT_TRUE(chart.DrawEnabled());
+    chart.Type("");
+    EXPECT_FALSE(chart.DrawEnabled());
+}
+
+TEST(Lifecycle, AnEmptySymbolOnTheButtonIsRefusedWithAWarning)
+{
+    sChartFixture chart;
+    chart.Window->OnCommand(CommandDrawChart);
+    ASSERT_EQ(chart.Desktop.Box.Texts, Log{"Empty Symbol is not allowed"});
+    EXPECT_EQ(chart.Desktop.Box.Captions, Log{"Warning"});
+    EXPECT_EQ(chart.Desktop.Box.Icon, BoxIcon::Error);
+    EXPECT_TRUE(chart.Feed.Calls.empty());
+}
+
+TEST(Lifecycle, AnEmptySymbolOnOtherRoadsSaysNothing)
+{
+    sChartFixture chart;
+    chart.Window->OnSymbolEnter();
+    chart.Window->SetSymbol("");
+    EXPECT_TRUE(chart.Desktop.Box.Texts.empty());
+    EXPECT_TRUE(chart.Feed.Calls.empty());
+}
+
+TEST(Lifecycle, ACommaIsRefusedInTheStatusBarAndTheTitleStays)
+{
+    sChartFixture chart;
+    chart.Type("A,B");
+    chart.Window->OnCommand(CommandDrawChart);
+    EXPECT_EQ(chart.Status(), "Symbols cannot contain any commas.");
+    EXPECT_EQ(chart.Desktop.Top.TitleText, "Host");
+    EXPECT_TRUE(chart.Feed.Calls.empty());
+}
+
+TEST(Lifecycle, ACommaDropsAChartThatWasOnShow)
+{
+    sChartFixture chart;
+    chart.Chart("OLD", 5);
+    chart.Feed.Calls.clear();
+    chart.Type("A,B");
+    chart.Window->OnCommand(CommandDrawChart);
+    EXPECT_EQ(chart.Feed.Calls, Log{"unwatch OLD"});
+    EXPECT_EQ(chart.Window->Series()->GetCount(FieldTime), 0);
+    EXPECT_EQ(chart.Desktop.Top.TitleText, "OLD - Chart");
+    EXPECT_TRUE(chart.Desktop.Timer.Running.empty());
+    EXPECT_EQ(chart.Status(), "Symbols cannot contain any commas.");
+}
+
+TEST(Lifecycle, AFirstChartIsWatchedBeforeItIsAskedForAndNothingIsUnwatched)
+{
+    sChartFixture chart;
+    chart.Type("MSFT");
+    chart.Window->OnCommand(CommandDrawChart);
+    EXPECT_EQ(chart.Feed.Calls, (Log{"watch MSFT", "send MSFT"}));
+    EXPECT_EQ(chart.Desktop.Top.TitleText, "MSFT - Chart");
+    EXPECT_EQ(chart.Desktop.Top.CaptionText, "Tick");
+    EXPECT_EQ(chart.Desktop.Timer.Running[ProgressTimer], 250);
+    EXPECT_EQ(chart.Window->Loading(), 1);
+    EXPECT_FALSE(chart.DrawEnabled());
+    EXPECT_FALSE(chart.Desktop.Host.ControlsOn);
+    EXPECT_EQ(chart.Window->StatusPart(1), "MSFT");
+    EXPECT_EQ(Text(*chart.Key, "SQ0"), "MSFT");
+    const Log& said = chart.Desktop.Status.Said;
+    EXPECT_NE(std::find(said.begin(), said.end(), "Loading Data..."), said.end());
+}
+
+TEST(Lifecycle, TheSameSymbolAgainIsDroppedAndAskedForAnew)
+{
+    sChartFixture chart;
+    chart.Chart("MSFT", 5);
+    chart.Feed.Calls.clear();
+    chart.Window->OnCommand(CommandDrawChart);
+    EXPECT_EQ(chart.Feed.Calls, (Log{"unwatch MSFT", "watch MSFT", "send MSFT"}));
+    EXPECT_EQ(chart.Window->Series()->GetCount(FieldTime), 0);
+}
+
+TEST(Lifecycle, ProgressIsToldInTheWordsOfTheDataType)
+{
+    const char* const words[] = {
+        "Retrieving Tick Data (2 Ticks Received)", "Retrieving Minute Data (2 Minutes Received)",
+        "Retrieving Day Data (2 Days Received)", "Retrieving Week Data (2 Weeks Received)",
+        "Retrieving Month Data (2 Months Received)"};
+    for (int type = 0; type < 5; ++type) {
+        const auto chart = ChartOf(type);
+        chart->Type("X");
+        chart->Window->OnCommand(CommandDrawChart);
+        chart->Append(2);
+        chart->Tick();
+        EXPECT_EQ(chart->Status(), words[type]);
+        EXPECT_EQ(chart->Window->Range().knownCount, 2);
+    }
+}
+
+TEST(Lifecycle, AFeedThatNeverAnswersKeepsTheRetrievingText)
+{
+    sChartFixture chart;
+    chart.Type("X");
+    chart.Window->OnCommand(CommandDrawChart);
+    for (int k = 0; k < 1000; ++k)
+        chart.Tick();
+    EXPECT_EQ(chart.Status(), "Retrieving Tick Data (0 Ticks Received)");
+    EXPECT_EQ(chart.Window->Loading(), 1);
+}
+
+TEST(Lifecycle, ACompleteReplyIsDrawnAtTheLiveEdge)
+{
+    const auto chart = ChartOf(DailyData);
+    chart->Chart("GOOG", 300);
+    EXPECT_EQ(chart->Status(), "300 datapoints available.  Displaying 120.");
+    EXPECT_EQ(chart->Window->Loading(), 0);
+    EXPECT_TRUE(chart->DrawEnabled());
+    EXPECT_TRUE(chart->Desktop.Host.ControlsOn);
+    EXPECT_TRUE(chart->Window->CompleteAndDrawn());
+    EXPECT_EQ(chart->Window->Range().first, 180);
+    EXPECT_EQ(chart->Window->Range().last, 299);
+    EXPECT_EQ(chart->Desktop.Scroll.At, 181);
+    EXPECT_TRUE(chart->Desktop.Scroll.Shown);
+    EXPECT_EQ(chart->Window->Pane(0).PaneGroups(1).PaneData().PointCount(1), 120);
+}
+
+TEST(Lifecycle, AnEmptyReplyIsDrawnWithNoPoints)
+{
+    sChartFixture chart;
+    chart.Chart("X", 0);
+    EXPECT_EQ(chart.Status(), "0 datapoints available.  Displaying 120.");
+    EXPECT_EQ(chart.Window->Loading(), 0);
+}
+
+TEST(Lifecycle, AShortSeriesIsShownWholeWithoutAScrollBar)
+{
+    const auto chart = ChartOf(DailyData);
+    chart->Chart("X", 3);
+    EXPECT_EQ(chart->Window->Range().shown, 3);
+    EXPECT_EQ(chart->Window->Range().first, 0);
+    EXPECT_EQ(chart->Window->Range().last, 2);
+    EXPECT_FALSE(chart->Desktop.Scroll.Shown);
+    EXPECT_EQ(chart->Status(), "3 datapoints available.  Displaying 3.");
+}
+
+TEST(Lifecycle, AShortSeriesGrowsWithLivePointsUntilTheWindowIsFull)
+{
+    const auto chart = ChartOf(DailyData);
+    chart->Chart("X", 118);
+    chart->Append(2);
+    chart->Tick();
+    EXPECT_EQ(chart->Window->Range().shown, 120);
+    chart->Append(5);
+    chart->Tick();
+    EXPECT_EQ(chart->Window->Range().shown, 120);
+    EXPECT_EQ(chart->Window->Range().last, 124);
+    EXPECT_EQ(chart->Window->Range().first, 5);
+    EXPECT_EQ(chart->Status(), "125 datapoints available.  Displaying 120.");
+}
+
+TEST(Lifecycle, LivePointsDoNotMoveAViewThatIsScrolledBack)
+{
+    const auto chart = ChartOf(DailyData);
+    chart->Chart("X", 300);
+    chart->Window->OnHScroll(ScrollCode::PageLeft, 0);
+    const int first = chart->Window->Range().first;
+    EXPECT_EQ(first, 61);
+    chart->Append(4);
+    chart->Tick();
+    EXPECT_EQ(chart->Window->Range().first, first);
+    EXPECT_EQ(chart->Status(), "Ready");
+    chart->Window->OnHScroll(ScrollCode::RightEnd, 0);
+    chart->Tick();
+    EXPECT_EQ(chart->Window->Range().last, 303);
+    EXPECT_EQ(chart->Status(), "304 datapoints available.  Displaying 120.");
+}
+
+TEST(Lifecycle, AChangeOfTypeWithAnEmptySymbolIsStoredAndSendsNothing)
+{
+    sChartFixture chart;
+    chart.Desktop.Type.Selected = MinuteData;
+    chart.Window->OnDataTypeChanged(0);
+    EXPECT_EQ(Text(*chart.Key, "RequestDataType"), "1");
+    EXPECT_TRUE(chart.Feed.Calls.empty());
+    EXPECT_TRUE(chart.Desktop.Interval.On);
+}
+
+TEST(Lifecycle, AChangeOfTypeAsksForTheChartAnewEvenDuringALoad)
+{
+    sChartFixture chart;
+    chart.Type("X");
+    chart.Window->OnCommand(CommandDrawChart);
+    chart.Append(3);
+    chart.Feed.Calls.clear();
+    chart.Desktop.Type.Selected = DailyData;
+    chart.Window->OnDataTypeChanged(0);
+    EXPECT_EQ(chart.Feed.Calls, (Log{"unwatch X", "unwatch X", "watch X", "send X"}));
+    EXPECT_EQ(chart.Window->Series()->GetRequestKind(), DailyByDatapoints);
+    EXPECT_EQ(chart.Window->Series()->GetCount(FieldTime), 0);
+    EXPECT_EQ(chart.Desktop.Top.CaptionText, "Daily");
+}
+
+TEST(Lifecycle, TheSameTypeAgainDoesNothing)
+{
+    sChartFixture chart;
+    chart.Chart("X", 3);
+    chart.Feed.Calls.clear();
+    chart.Window->OnDataTypeChanged(0);
+    EXPECT_TRUE(chart.Feed.Calls.empty());
+}
+
+TEST(Lifecycle, ABoxWithoutASelectionGoesBackToWhatHolds)
+{
+    sChartFixture chart;
+    chart.Desktop.Type.Selected = -1;
+    chart.Window->OnDataTypeChanged(0);
+    EXPECT_EQ(chart.Desktop.Type.Selected, 0);
+    chart.Desktop.Interval.Selected = -1;
+    chart.Window->OnIntervalChanged();
+    EXPECT_EQ(chart.Desktop.Interval.Selected, 0);
+}
+
+TEST(Lifecycle, AChangeOfIntervalIsStoredAndAsksAnew)
+{
+    const auto chart = ChartOf(MinuteData);
+    chart->Chart("X", 3);
+    chart->Feed.Calls.clear();
+    chart->Desktop.Interval.Selected = 5;
+    chart->Window->OnIntervalChanged();
+    EXPECT_EQ(Text(*chart->Key, "RequestIntervalIndex"), "5");
+    EXPECT_EQ(chart->Desktop.Top.CaptionText, "10 - Minute");
+    EXPECT_EQ(chart->Window->StatusPart(1), "10 - X");
+    EXPECT_EQ(chart->Window->Series()->GetIntervalSeconds(), 600);
+    EXPECT_EQ(chart->Feed.Calls.back(), "send X");
+}
+
+TEST(Lifecycle, ASymbolSetBeforeTheWindowStartedIsKeptAndStartsNoChart)
+{
+    sChartFixture chart(false);
+    chart.Window = std::make_unique<CChartDlg>(chart.Setup);
+    chart.Window->SetSymbol("EARLY");
+    chart.Window->Initialise();
+    EXPECT_EQ(chart.Window->CurrentSymbol(), "EARLY");
+    EXPECT_TRUE(chart.Feed.Calls.empty());
+    EXPECT_EQ(chart.Desktop.Symbol.Edit, "");
+}
+
+TEST(Lifecycle, AHostsSymbolStartsAChart)
+{
+    sChartFixture chart;
+    chart.Window->SetSymbol("IBM");
+    EXPECT_EQ(chart.Desktop.Symbol.Edit, "IBM");
+    EXPECT_EQ(chart.Feed.Calls, (Log{"watch IBM", "send IBM"}));
+    EXPECT_FALSE(chart.DrawEnabled());
+}
+
+TEST(Lifecycle, ANewChartDisarmsTheTrendlineModeAndRemovesTheLines)
+{
+    const auto chart = ChartOf(DailyData, true);
+    chart->Chart("X", 3);
+    chart->Trends.Mode = 3;
+    chart->Trends.Lines = 2;
+    const int removed = chart->Trends.Removed;
+    chart->Window->OnCommand(CommandDrawChart);
+    EXPECT_EQ(chart->Trends.Mode, 0);
+    EXPECT_EQ(chart->Trends.Removed, removed + 1);
+}
+
+TEST(Lifecycle, StatusTextsAreHeldBackWhileATrendlineModeIsArmed)
+{
+    const auto chart = ChartOf(DailyData, true);
+    chart->Chart("X", 200);
+    chart->Window->SetPrompt("Click somewhere");
+    chart->Trends.Mode = 1;
+    chart->Append(1);
+    chart->Tick();
+    EXPECT_EQ(chart->Status(), "Click somewhere");
+    EXPECT_EQ(chart->Window->Range().knownCount, 201);
+}
+
+TEST(Lifecycle, ANewChartShowsThePointsOfTheSettingsAgain)
+{
+    const auto chart = ChartOf(DailyData);
+    chart->Chart("X", 3);
+    EXPECT_EQ(chart->Window->Range().shown, 3);
+    chart->Window->OnCommand(CommandDrawChart);
+    EXPECT_EQ(chart->Window->Range().shown, 120);
+}
+
+TEST(Lifecycle, AFixedScaleFitsItselfOnceToANewChart)
+{
+    sChartFixture chart(false);
+    chart.Key->Write("Price Bar Show/Hide", std::string("1"));
+    chart.Start();
+    chart.Type("X");
+    chart.Window->OnCommand(CommandDrawChart);
+    EXPECT_TRUE(chart.Window->ResetScale());
+    chart.Reply(5);
+    chart.Tick();
+    EXPECT_FALSE(chart.Window->ResetScale()); // the draw used it up
+}
+
+TEST(Lifecycle, TheEndOfAWindowUnwatchesAndReleasesItsSeries)
+{
+    sChartFixture chart;
+    chart.Chart("X", 3);
+    chart.Feed.Calls.clear();
+    chart.Window.reset();
+    EXPECT_EQ(chart.Feed.Calls, Log{"unwatch X"});
+    EXPECT_TRUE(chart.Feed.Released);
+    EXPECT_TRUE(chart.Feed.DeadAtRelease);
+}
+
+TEST(Lifecycle, TheLastTradeStandsInTheThirdPartWhileLevelOneIsShown)
+{
+    sChartFixture chart;
+    chart.Chart("X", 3); // the last trade is 102
+    EXPECT_EQ(chart.Window->StatusPart(2), "102.0000 x 10");
+    std::string error;
+    EXPECT_TRUE(chart.Window->ApplySetting("Show Level 1", "0", error)) << error;
+    chart.Reply(3);
+    chart.Tick();
+    EXPECT_EQ(chart.Window->StatusPart(2), "");
+}
+
+} // namespace
+} // namespace zantroq
