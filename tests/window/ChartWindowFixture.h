@@ -5,6 +5,7 @@
 
 #include "studies/StudyFactory.h"
 #include "window/ChartDlg.h"
+#include "window/ContextMenus.h"
 
 namespace zantroq::test {
 

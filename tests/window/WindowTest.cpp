@@ -1,0 +1,466 @@
+// Layout, bars, placement, settings and scripts over a whole window.
+#include "ChartWindowFixture.h"
+
+#include "window/ChartSnapshot.h"
+#include "window/ChartsResizer.h"
+#include "window/ReplayRunner.h"
+#include "window/WindowPlacement.h"
+#include "window/WindowTexts.h"
+
+#include <nlohmann/json.hpp>
+
+#include <gtest/gtest.h>
+
+namespace zantroq {
+namespace {
+
+using namespace test;
+using Ints = std::vector<int>;
+
+Ints Bottoms(const CChartDlg& window)
+{
+    const auto& bottoms = window.Resizer().Bottoms();
+    return {bottoms.begin(), bottoms.begin() + window.ShownPanes() + 1};
+}
+
+TEST(ChartsResizer, StacksThePanesBetweenTheBars)
+{
+    sChartFixture chart; // 620x460, a tool bar of 28
+    EXPECT_EQ(chart.Window->Resizer().TopOffset(), 30);
+    EXPECT_EQ(chart.Window->Resizer().Height(), 410); // 460 - 30 - 20: no scroll bar
+    EXPECT_EQ(Bottoms(*chart.Window), (Ints{0, 271, 410}));
+    EXPECT_EQ(chart.Desktop.Host.Rects[1], (sWindowRect{0, 301, 620, 440}));
+    EXPECT_FALSE(chart.Desktop.Host.Visible[2]);
+    EXPECT_EQ(chart.Desktop.Host.ScrollTop, 425);
+    EXPECT_EQ(chart.Desktop.Host.StatusTop, 440);
+    EXPECT_EQ(chart.Window->Pane(0).PixelWidth(), 620);
+    EXPECT_EQ(chart.Window->Pane(0).PixelHeight(), 271);
+}
+
+TEST(ChartsResizer, AVisibleScrollBarTakesItsRoom)
+{
+    auto chart = ChartOf(DailyData);
+    chart->Chart("X", 300);
+    EXPECT_EQ(chart->Window->Resizer().Height(), 393); // 460 - 30 - 37
+    EXPECT_EQ(chart->Window->Pane(0).PixelHeight() + chart->Window->Pane(1).PixelHeight(), 393);
+}
+
+TEST(ChartsResizer, AResizeToNothingIsIgnored)
+{
+    sChartFixture chart;
+    chart.Desktop.Host.Height = 0;
+    chart.Window->OnResize();
+    EXPECT_EQ(chart.Window->Resizer().Height(), 410);
+    chart.Desktop.Host.Height = 560;
+    chart.Window->OnResize();
+    EXPECT_EQ(chart.Window->Resizer().Height(), 510);
+}
+
+TEST(ChartsResizer, ADraggedBorderMovesWhenItIsLetGoAndIsStored)
+{
+    sChartFixture chart;
+    CChartDlg& window = *chart.Window;
+    window.OnChartMouseMove(341, 0, 0, 100, 200);
+    EXPECT_EQ(chart.Desktop.Pointer.Shape, CursorShape::Arrow);
+    window.OnChartMouseMove(342, 0, 0, 100, 3);
+    EXPECT_EQ(chart.Desktop.Pointer.Shape, CursorShape::Split);
+    window.OnChartMouseDown(342, MouseLeft, 0, 100, 3);
+    EXPECT_EQ(chart.Desktop.Pointer.Line, 274);
+    window.OnChartMouseMove(341, MouseLeft, 0, 100, 205);
+    EXPECT_EQ(chart.Desktop.Pointer.Line, 205);
+    EXPECT_EQ(Bottoms(window), (Ints{0, 271, 410}));
+    window.OnChartMouseUp(341, MouseLeft, 0, 100, 205);
+    EXPECT_EQ(chart.Desktop.Pointer.Line, -1);
+    EXPECT_EQ(Bottoms(window), (Ints{0, 205, 410}));
+    EXPECT_EQ(Text(*chart.Key, "Top of chart 1"), "0.500000");
+    EXPECT_EQ(Text(*chart.Key, "Maximized Chart Index"), "999");
+}
+
+TEST(ChartsResizer, TheDragLineStopsSixteenPixelsFromTheNextPane)
+{
+    sChartFixture chart;
+    CChartDlg& window = *chart.Window;
+    window.OnChartMouseMove(341, 0, 0, 100, 271);
+    window.OnChartMouseDown(341, MouseLeft, 0, 100, 271);
+    window.OnChartMouseMove(341, MouseLeft, 0, 100, 394);
+    EXPECT_EQ(chart.Desktop.Pointer.Line, 394);
+    window.OnChartMouseMove(341, MouseLeft, 0, 100, 405);
+    EXPECT_EQ(chart.Desktop.Pointer.Line, 394);
+    window.OnChartMouseUp(341, MouseLeft, 0, 100, 405);
+    EXPECT_EQ(Bottoms(window), (Ints{0, 394, 410}));
+    EXPECT_EQ(window.Settings().Panes.MaximizedIndex, 0); // the lower one was made small
+    EXPECT_EQ(Text(*chart.Key, "Chart 1 Minimized"), "1");
+    EXPECT_EQ(Text(*chart.Key, "Maximized Chart Index"), "0");
+}
+
+TEST(ChartsResizer, PanesAreNotRedrawnDuringADrag)
+{
+    auto chart = ChartOf(DailyData);
+    chart->Chart("X", 20);
+    CChartDlg& window = *chart->Window;
+    struct sView : IPaneView
+    {
+        int Changes = 0;
+        void PaneChanged() override { ++Changes; }
+    } view;
+    const int border = Bottoms(window)[1];
+    window.OnChartMouseMove(341, 0, 0, 100, border);
+    window.OnChartMouseDown(341, MouseLeft, 0, 100, border);
+    window.Pane(0).SetView(&view);
+    for (int y = 100; y < 200; ++y)
+        window.OnChartMouseMove(341, MouseLeft, 0, 100 + y, y);
+    EXPECT_EQ(view.Changes, 0);
+    window.OnChartMouseUp(341, MouseLeft, 0, 100, 150);
+    EXPECT_EQ(view.Changes, 1);
+    window.Pane(0).SetView(nullptr);
+}
+
+TEST(ChartsResizer, StoredStatesLoadBackTheSame)
+{
+    sChartFixture chart;
+    chart.Window->OpenPaneMenu(1, 5, 5);
+    chart.Window->OnMenuCommand(CommandMinimizePane);
+    EXPECT_EQ(Bottoms(*chart.Window), (Ints{0, 394, 410}));
+    chart.Window = std::make_unique<CChartDlg>(chart.Setup);
+    chart.Window->Initialise();
+    EXPECT_EQ(Bottoms(*chart.Window), (Ints{0, 394, 410}));
+    EXPECT_EQ(chart.Window->Settings().Panes.MaximizedIndex, 0);
+}
+
+TEST(ChartsResizer, ANewStudyListRebuildsPanesAndIsStored)
+{
+    auto chart = ChartOf(DailyData);
+    chart->Chart("X", 30);
+    sSettingsEdit edit{chart->Window->Settings()};
+    edit.Settings.Panes.StudyCount = 2;
+    edit.Settings.Panes.StudyTypes = {StudyRSI, StudyVolume};
+    chart->Window->ApplySettings(edit);
+    EXPECT_EQ(chart->Window->ShownPanes(), 3);
+    EXPECT_TRUE(chart->Desktop.Host.Visible[2]);
+    EXPECT_EQ(Text(*chart->Key, "Number of displayed study charts"), "2");
+    EXPECT_EQ(Text(*chart->Key, "Type of study chart 0"), "0");
+    EXPECT_EQ(Text(*chart->Key, "Type of study chart 1"), "6");
+    EXPECT_EQ(Text(*chart->Key, "Top of chart 1"), "0.440000"); // 0.66 * 2/3
+    EXPECT_EQ(Text(*chart->Key, "Top of chart 2"), "0.773333");
+    EXPECT_EQ(chart->Window->DrawManager().Studies()[0]->kind, StudyRSI);
+}
+
+TEST(Bars, StartWithTheStoredChecksAndTheZoomOff)
+{
+    sChartFixture chart;
+    EXPECT_TRUE(chart.Desktop.Commands.Checked[CommandGrid]);
+    EXPECT_TRUE(chart.Desktop.Commands.Checked[CommandPriceBar]);
+    EXPECT_FALSE(chart.Desktop.Commands.On[CommandZoomIn]);
+    EXPECT_FALSE(chart.Desktop.Commands.On[CommandZoomOut]);
+    EXPECT_TRUE(chart.Desktop.Commands.On[CommandSymbolSearch]);
+    EXPECT_FALSE(chart.Desktop.Commands.On[CommandSettings]);
+    EXPECT_FALSE(chart.Desktop.Commands.On[CommandPrint]);
+}
+
+TEST(Bars, AKeyOverAPaneStartsANewSymbol)
+{
+    sChartFixture chart;
+    chart.Desktop.Symbol.Edit = "OLD";
+    chart.Window->OnKeyPress(345, 'M');
+    EXPECT_EQ(chart.Desktop.Symbol.Edit, "M");
+    EXPECT_EQ(chart.Desktop.Symbol.Focused, 1);
+    EXPECT_TRUE(chart.DrawEnabled());
+    for (const int code : {0x1f, 0x70, 0xb9, 0xbb, -2, 13})
+        chart.Window->OnKeyPress(341, code);
+    EXPECT_EQ(chart.Desktop.Symbol.Edit, "M");
+    for (const int code : {0x20, 0x6f, 0xba, -1})
+        chart.Window->OnKeyPress(341, code);
+    EXPECT_EQ(chart.Desktop.Symbol.Focused, 5);
+}
+
+TEST(Bars, SymbolTextIsUpperCaseAndAtMostThirtyCharactersWhileNothingIsSelected)
+{
+    EXPECT_EQ(SymbolBoxText("msft.x", false), "MSFT.X");
+    EXPECT_EQ(SymbolBoxText(std::string(31, 'A'), false), std::string(30, 'A'));
+    EXPECT_EQ(SymbolBoxText(std::string(31, 'A'), true), std::string(31, 'A'));
+}
+
+TEST(Bars, TheLastTwentySymbolsStandNewestFirst)
+{
+    sChartFixture chart;
+    for (int k = 0; k < 21; ++k)
+        chart.Window->SetSymbol("S" + std::to_string(k));
+    chart.Window->SetSymbol("S5");
+    EXPECT_EQ(chart.Desktop.Symbol.List.size(), 20u);
+    EXPECT_EQ(chart.Desktop.Symbol.List.front(), "S5");
+    EXPECT_EQ(chart.Desktop.Symbol.List.back(), "S1"); // S0 fell out
+    EXPECT_EQ(chart.Desktop.Symbol.Selected, 0);
+    EXPECT_EQ(Text(*chart.Key, "SQ1"), "S20");
+}
+
+TEST(Bars, TheGridButtonFlipsStoresAndRebuildsTheGrid)
+{
+    auto chart = ChartOf(DailyData);
+    chart->Chart("X", 60);
+    EXPECT_GT(chart->Window->Pane(0).PaneArea().PaneAxes().X().AxisGrid().Spacing(), 0);
+    chart->Window->OnCommand(CommandGrid);
+    EXPECT_EQ(Text(*chart->Key, "GRID"), "0");
+    EXPECT_FALSE(chart->Desktop.Commands.Checked[CommandGrid]);
+    EXPECT_EQ(chart->Window->Pane(0).PaneArea().PaneAxes().X().AxisGrid().Spacing(), 0);
+    EXPECT_EQ(chart->Window->Pane(1).PaneArea().PaneAxes().Y().AxisGrid().Spacing(), 0);
+    const Log& said = chart->Desktop.Status.Said;
+    ASSERT_GE(said.size(), 2u);
+    EXPECT_EQ(said[said.size() - 2], "Updating Grid...");
+    EXPECT_EQ(said.back(), "Ready");
+    chart->Window->OnCommand(CommandGrid);
+    EXPECT_EQ(chart->Window->Pane(0).PaneArea().PaneAxes().X().AxisGrid().Spacing(), 12); // (60 - 2) / 5 + 1
+}
+
+TEST(Bars, ASymbolFoundBySearchGoesIntoTheBox)
+{
+    sChartFixture chart;
+    chart.Window->OnCommand(CommandSymbolSearch);
+    EXPECT_EQ(chart.Desktop.Symbol.Edit, "");
+    chart.Dialogs.Symbol = "IBM";
+    chart.Window->OnCommand(CommandSymbolSearch);
+    EXPECT_EQ(chart.Desktop.Symbol.Edit, "IBM");
+    EXPECT_TRUE(chart.DrawEnabled());
+}
+
+TEST(Bars, ADialogThatIsNotThereIsSaidToBeUnavailable)
+{
+    sChartFixture chart;
+    chart.Window->OnCommand(CommandPrint);
+    EXPECT_EQ(chart.Status(), "Print is not available.");
+}
+
+TEST(Menus, OfferTrendlineDeletionOnlyWithLines)
+{
+    auto chart = ChartOf(DailyData, true);
+    EXPECT_FALSE(FindMenuItem(chart->Window->MenuOf(0).Items, CommandDeleteAllTrends)->Enabled);
+    chart->Trends.Lines = 1;
+    EXPECT_TRUE(FindMenuItem(chart->Window->MenuOf(0).Items, CommandDeleteTrend)->Enabled);
+    chart->Window->OpenPaneMenu(0, 1, 1);
+    chart->Window->OnMenuCommand(CommandSlopingTrend);
+    EXPECT_EQ(chart->Trends.Commands, Ints{CommandSlopingTrend});
+    EXPECT_FALSE(chart->Window->OpenMenu());
+    chart->Window->OnMenuCommand(CommandSlopingTrend); // no menu is open
+    EXPECT_EQ(chart->Trends.Commands.size(), 1u);
+}
+
+TEST(Menus, ADisabledItemDoesNothing)
+{
+    sChartFixture chart;
+    chart.Window->OpenPaneMenu(0, 1, 1);
+    chart.Window->OnMenuCommand(CommandRestorePane);
+    EXPECT_EQ(Text(*chart.Key, "Chart 0 Minimized"), "(missing)");
+}
+
+TEST(Placement, ARectangleIsFittedToTheScreen)
+{
+    const sWindowRect screen{0, 0, 1920, 1080};
+    EXPECT_EQ(FitToScreen({-50, 10, 550, 410}, screen), (sWindowRect{0, 10, 600, 410}));
+    EXPECT_EQ(FitToScreen({1500, 900, 2100, 1300}, screen), (sWindowRect{1320, 680, 1920, 1080}));
+    EXPECT_EQ(FitToScreen({100, 100, 200, 300}, screen), (sWindowRect{50, 100, 250, 300}));
+}
+
+TEST(Placement, AWindowMovesOnlyWhereTheHostAskedForIt)
+{
+    sChartFixture chart;
+    chart.Window->SetSymbol("X");
+    chart.Window->SetResizeParentWindow(false);
+    EXPECT_EQ(chart.Desktop.Top.Moves, 0);
+    EXPECT_FALSE(chart.Key->Read("RectPosition.Host"));
+    chart.Window->SetResizeParentWindow(true); // nothing is stored for "X - Chart"
+    EXPECT_EQ(chart.Desktop.Top.Moved, (sWindowRect{0, 0, 620, 460}));
+}
+
+TEST(Placement, TheOldTitlesPositionIsSavedAtANewChartAndAtTheEnd)
+{
+    sChartFixture chart;
+    chart.Window->SetResizeParentWindow(true);
+    chart.Window->SetSymbol("X");
+    EXPECT_TRUE(chart.Key->Read("RectPosition.Host"));
+    EXPECT_FALSE(chart.Key->Read("RectPosition.X - Chart"));
+    chart.Desktop.Top.Max = true;
+    chart.Window.reset();
+    const auto rect = chart.Key->Read("RectPosition.X - Chart");
+    ASSERT_TRUE(rect);
+    const std::vector<std::uint8_t> wanted{10, 0, 0, 0, 20, 0, 0, 0, 0x62, 2, 0, 0, 0xA4, 1, 0, 0};
+    EXPECT_EQ(std::get<std::vector<std::uint8_t>>(*rect), wanted);
+    EXPECT_EQ(std::get<std::uint32_t>(*chart.Key->Read("RectPosition.X - Chart.Maximized")), 1u);
+}
+
+TEST(SettingsOk, AlwaysDropsTheChartAndAsksAgain)
+{
+    auto chart = ChartOf(DailyData);
+    chart->Chart("X", 20);
+    chart->Feed.Calls.clear();
+    chart->Window->ApplySettings({chart->Window->Settings()});
+    EXPECT_EQ(chart->Feed.Calls, (Log{"unwatch X", "watch X", "send X"}));
+}
+
+TEST(SettingsOk, WithAnEmptyBoxRedrawsWithoutARequest)
+{
+    auto chart = ChartOf(DailyData);
+    chart->Chart("X", 200);
+    chart->Feed.Calls.clear();
+    chart->Type("");
+    std::string error;
+    EXPECT_TRUE(chart->Window->ApplySetting("PTS INDEX", "0", error)) << error;
+    EXPECT_TRUE(chart->Feed.Calls.empty());
+    EXPECT_EQ(chart->Window->Range().shown, 30);
+    EXPECT_EQ(chart->Desktop.Scroll.PageSize, 30);
+    EXPECT_EQ(Text(*chart->Key, "PTS INDEX"), "0");
+}
+
+TEST(SettingsOk, BeforeAnyChartSendsNothing)
+{
+    sChartFixture chart;
+    std::string error;
+    EXPECT_TRUE(chart.Window->ApplySetting("RequestDataType", "1", error));
+    EXPECT_TRUE(chart.Feed.Calls.empty());
+    EXPECT_EQ(chart.Desktop.Type.Selected, 1);
+    EXPECT_TRUE(chart.Desktop.Interval.On);
+}
+
+TEST(SettingsOk, AWrongValueIsRefusedAndNothingHappens)
+{
+    auto chart = ChartOf(DailyData);
+    chart->Chart("X", 20);
+    chart->Feed.Calls.clear();
+    std::string error;
+    EXPECT_FALSE(chart->Window->ApplySetting("GRID", "maybe", error));
+    EXPECT_NE(error, "");
+    EXPECT_TRUE(chart->Feed.Calls.empty());
+}
+
+TEST(SettingsOk, TheAxisMovesToTheOtherSide)
+{
+    auto chart = ChartOf(DailyData);
+    chart->Chart("X", 20);
+    chart->Type(""); // no request
+    std::string error;
+    EXPECT_TRUE(chart->Window->ApplySetting("Y Axis Orientation", "1", error)) << error;
+    EXPECT_TRUE(chart->Window->Pane(1).PaneArea().PaneAxes().Y2().Shown());
+    EXPECT_FALSE(chart->Window->Pane(1).PaneArea().PaneAxes().Y().Shown());
+}
+
+TEST(Snapshot, TellsTheWindowsState)
+{
+    auto chart = ChartOf(MinuteData);
+    chart->Chart("ABC", 50);
+    const auto json = nlohmann::json::parse(ChartSnapshotText(*chart->Window));
+    EXPECT_EQ(json["version"], 1);
+    EXPECT_EQ(json["symbol"], "ABC");
+    EXPECT_EQ(json["title"], "ABC - Chart");
+    EXPECT_EQ(json["caption"], "1 - Minute");
+    EXPECT_EQ(json["status"], "50 datapoints available.  Displaying 50.");
+    EXPECT_EQ(json["statusParts"][1], "1 - ABC");
+    EXPECT_EQ(json["range"]["count"], 50);
+    EXPECT_EQ(json["range"]["selectedPoint"], -1000000);
+    EXPECT_EQ(json["layout"]["bounds"], nlohmann::json({0.0, 0.66, 1.0}));
+    EXPECT_EQ(json["layout"]["bottoms"], nlohmann::json({0, 271, 410}));
+    EXPECT_EQ(json["commands"].size(), 22u);
+    EXPECT_EQ(json["commands"]["779"]["checked"], true);
+    EXPECT_EQ(json["commands"]["32787"]["enabled"], false);
+    EXPECT_EQ(json["panes"].size(), 2u);
+    EXPECT_EQ(json["panes"][0]["study"], nullptr);
+    EXPECT_EQ(json["panes"][1]["control"], 342);
+    EXPECT_EQ(json["panes"][1]["study"], 6);
+    EXPECT_EQ(json["panes"][1]["rect"], nlohmann::json({0, 301, 620, 139}));
+    EXPECT_EQ(ChartSnapshotText(*chart->Window), ChartSnapshotText(*chart->Window));
+}
+
+struct sReplayHost : IReplayHost
+{
+    explicit sReplayHost(sChartFixture& chart) : Chart(chart) {}
+    bool WaitComplete(int) override
+    {
+        if (!Answers)
+            return false;
+        if (!Chart.Window->CompleteAndDrawn()) {
+            Chart.Reply(200);
+            Chart.Tick();
+        }
+        return true;
+    }
+    void Wait(int) override { Chart.Tick(); }
+    void Resize(int width, int height) override
+    {
+        Chart.Desktop.Host.Width = width;
+        Chart.Desktop.Host.Height = height;
+        Chart.Window->OnResize();
+    }
+    std::string Print(const std::string&) override { return ""; }
+    std::string Snapshot(const std::string& file) override
+    {
+        Files.push_back(file);
+        return file == "bad.json" ? "bad.json could not be written" : "";
+    }
+    sChartFixture& Chart;
+    bool Answers = true;
+    Log Files;
+};
+
+sReplayResult Play(sChartFixture& chart, const std::string& text, bool answers = true)
+{
+    const sReplayScript script = ParseReplayScript(text);
+    EXPECT_EQ(script.Error, "");
+    CReplayMessageBox box;
+    sReplayHost host(chart);
+    host.Answers = answers;
+    return RunReplay(script, *chart.Window, box, host);
+}
+
+TEST(Replay, DrivesTheWindowLikeAPerson)
+{
+    auto chart = ChartOf(DailyData);
+    const sReplayResult result =
+        Play(*chart, "symbol msft\ndraw\nwait complete\ncommand 777\nscroll left-end\n"
+                     "resize 800 600\nkey 341 65\nsnapshot a.json");
+    EXPECT_EQ(result.ExitCode, 0) << result.Message;
+    EXPECT_EQ(chart->Window->CurrentSymbol(), "MSFT");
+    EXPECT_EQ(chart->Window->Range().shown, 90);
+    EXPECT_EQ(chart->Window->Range().first, 0);
+    EXPECT_EQ(chart->Window->ChartPixelWidth(), 800);
+    EXPECT_EQ(chart->Desktop.Symbol.Edit, "A");
+}
+
+TEST(Replay, AThumbDrawsWhereItIsLetGo)
+{
+    auto chart = ChartOf(DailyData);
+    Play(*chart, "symbol X\ndraw\nwait complete\nscroll track 10");
+    EXPECT_EQ(chart->Window->Range().first, 80);
+    Play(*chart, "scroll thumb 20");
+    EXPECT_EQ(chart->Window->Range().first, 20);
+}
+
+TEST(Replay, ChoosesTypesAndIntervals)
+{
+    sChartFixture chart;
+    Play(chart, "type minute\ninterval 15\nsymbol X\ndraw\nwait complete");
+    EXPECT_EQ(chart.Desktop.Top.CaptionText, "15 - Minute");
+}
+
+TEST(Replay, EndsWithThreeWhenTheReplyDoesNotCome)
+{
+    sChartFixture chart;
+    const sReplayResult result = Play(chart, "symbol X\ndraw\nwait complete 1\ncommand 779", false);
+    EXPECT_EQ(result.ExitCode, 3);
+    EXPECT_EQ(result.Message.substr(0, 7), "line 3:");
+    EXPECT_TRUE(chart.Desktop.Commands.Checked[CommandGrid]); // the step behind it did not run
+}
+
+TEST(Replay, EndsWithFourWhenAFileCannotBeWritten)
+{
+    sChartFixture chart;
+    EXPECT_EQ(Play(chart, "snapshot bad.json").ExitCode, 4);
+}
+
+TEST(Replay, PicksFromTheMenuOfTheRightClickBefore)
+{
+    auto chart = ChartOf(DailyData);
+    Play(*chart, "symbol X\ndraw\nwait complete\nmouse down 342 2 100 40\nmenu 32793");
+    EXPECT_EQ(chart->Window->Settings().Panes.MaximizedIndex, 1);
+    Play(*chart, "mouse down 342 2 100 40\nmenu none\nmenu 32791");
+    EXPECT_EQ(chart->Window->Settings().Panes.MaximizedIndex, 1);
+}
+
+} // namespace
+} // namespace zantroq
