@@ -25,9 +25,11 @@ int FirstCloseNeeded(int first, int period)
         std::clamp<long long>(static_cast<long long>(first) - period, 0, std::max(first, 0)));
 }
 
-void WindowSums(const double* values, int length, std::span<double> sums)
+void WindowMeans(const double* values, int length, std::span<double> means)
 {
-    const std::size_t count = sums.size();
+    const std::size_t count = means.size();
+    const auto divisor = static_cast<double>(length);
+    const Lanes divisors{divisor, divisor};
     std::size_t k = 0;
     for (; k + LaneBlock <= count; k += LaneBlock) {
         Lanes sum[LaneParts] = {};
@@ -35,13 +37,13 @@ void WindowSums(const double* values, int length, std::span<double> sums)
             for (std::size_t part = 0; part < LaneParts; ++part)
                 sum[part] += LoadLanes(values + k + static_cast<std::size_t>(j) + part * LaneWidth);
         for (std::size_t part = 0; part < LaneParts; ++part)
-            StoreLanes(sums.data() + k + part * LaneWidth, sum[part]);
+            StoreLanes(means.data() + k + part * LaneWidth, sum[part] / divisors);
     }
     for (; k < count; ++k) {
         double sum = 0;
         for (int j = 0; j < length; ++j)
             sum += values[k + static_cast<std::size_t>(j)];
-        sums[k] = sum;
+        means[k] = sum / divisor;
     }
 }
 
@@ -52,10 +54,7 @@ void SimpleAverages(const sCloseRun& closes, int first, int period, std::span<do
     if (values.empty())
         return;
     const int index = end - static_cast<int>(values.size());
-    WindowSums(closes.Values.data() + (index - period + 1 - closes.First), period, values);
-    const double divisor = period;
-    for (double& value : values)
-        value = value / divisor;
+    WindowMeans(closes.Values.data() + (index - period + 1 - closes.First), period, values);
 }
 
 void ExponentialAverages(const sCloseRun& closes, int first, int period, std::span<double> out)
@@ -65,12 +64,11 @@ void ExponentialAverages(const sCloseRun& closes, int first, int period, std::sp
     if (values.empty())
         return;
     const int index = end - static_cast<int>(values.size());
-    WindowSums(closes.Values.data() + (index - period - closes.First), period, values);
-    const double divisor = period;
+    WindowMeans(closes.Values.data() + (index - period - closes.First), period, values);
     const double weight = 2.0 / (period + 1.0);
     const double* close = closes.Values.data() + (index - closes.First);
     for (std::size_t k = 0; k < values.size(); ++k)
-        values[k] = weight * close[k] + (1.0 - weight) * (values[k] / divisor);
+        values[k] = weight * close[k] + (1.0 - weight) * values[k];
 }
 
 } // namespace zantroq

@@ -31,7 +31,7 @@ int FirstCloseNeeded(int first, int period);
 void SimpleAverages(const sCloseRun& closes, int first, int period, std::span<double> out);
 void ExponentialAverages(const sCloseRun& closes, int first, int period, std::span<double> out);
 
-// sums[k] is values[k] + ... + values[k + length - 1], added in that order from 0.
-void WindowSums(const double* values, int length, std::span<double> sums);
+// means[k] is values[k] + ... + values[k + length - 1], added in that order from 0, over length.
+void WindowMeans(const double* values, int length, std::span<double> means);
 
 } // namespace zantroq
