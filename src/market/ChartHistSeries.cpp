@@ -102,16 +102,16 @@ void CChartHistRequest::AppendTick(const sHIST_POINT& point)
     PrepareArrays(m_time, m_last, m_size, m_bid, m_bidSize, m_ask, m_askSize, m_totalVolume, m_tickId,
                   m_basis);
     m_conditions.Add(point.Conditions);
-    m_time.Add(point.Time);
-    m_last.Add(point.Last);
-    m_size.Add(Stored(point.LastSize));
-    m_bid.Add(point.Bid);
-    m_bidSize.Add(Stored(point.BidSize));
-    m_ask.Add(point.Ask);
-    m_askSize.Add(Stored(point.AskSize));
-    m_totalVolume.Add(point.TotalVolume);
-    m_tickId.Add(Stored(point.TickId));
-    m_basis.Add(FirstCharacter(point.Basis));
+    m_time.AddPrepared(point.Time);
+    m_last.AddPrepared(point.Last);
+    m_size.AddPrepared(Stored(point.LastSize));
+    m_bid.AddPrepared(point.Bid);
+    m_bidSize.AddPrepared(Stored(point.BidSize));
+    m_ask.AddPrepared(point.Ask);
+    m_askSize.AddPrepared(Stored(point.AskSize));
+    m_totalVolume.AddPrepared(point.TotalVolume);
+    m_tickId.AddPrepared(Stored(point.TickId));
+    m_basis.AddPrepared(FirstCharacter(point.Basis));
 }
 
 void CChartHistRequest::AppendInterval(const sHIST_POINT& point)
@@ -119,7 +119,7 @@ void CChartHistRequest::AppendInterval(const sHIST_POINT& point)
     PreparePrices();
     m_size.PrepareAdd();
     AppendPrices(point);
-    m_size.Add(Stored(point.LastSize));
+    m_size.AddPrepared(Stored(point.LastSize));
 }
 
 void CChartHistRequest::AppendDay(const sHIST_POINT& point)
@@ -127,7 +127,7 @@ void CChartHistRequest::AppendDay(const sHIST_POINT& point)
     PreparePrices();
     m_openInterest.PrepareAdd();
     AppendPrices(point);
-    m_openInterest.Add(Stored(point.OpenInterest));
+    m_openInterest.AddPrepared(Stored(point.OpenInterest));
 }
 
 void CChartHistRequest::PreparePrices()
@@ -137,12 +137,12 @@ void CChartHistRequest::PreparePrices()
 
 void CChartHistRequest::AppendPrices(const sHIST_POINT& point)
 {
-    m_time.Add(point.Time);
-    m_open.Add(point.Open);
-    m_high.Add(point.High);
-    m_low.Add(point.Low);
-    m_close.Add(point.Close);
-    m_totalVolume.Add(point.TotalVolume);
+    m_time.AddPrepared(point.Time);
+    m_open.AddPrepared(point.Open);
+    m_high.AddPrepared(point.High);
+    m_low.AddPrepared(point.Low);
+    m_close.AddPrepared(point.Close);
+    m_totalVolume.AddPrepared(point.TotalVolume);
 }
 
 void CChartHistRequest::UpdatePoint(int index, const sHIST_POINT& point)

@@ -62,13 +62,17 @@ public:
             MakeRoom(m_count + 1);
     }
 
+    // Returns the new element's index.
     int Add(const T& value)
     {
         const T copy = value;
         PrepareAdd();
-        new (Elements() + m_count) T(copy);
-        return m_count++;
+        AddPrepared(copy);
+        return m_count - 1;
     }
+
+    // Add without a look at the capacity. REQUIRES: PrepareAdd since the last element was added.
+    void AddPrepared(const T& value) { new (Elements() + m_count++) T(value); }
 
     const T& operator[](int index) const
     {

@@ -31,6 +31,11 @@ const sHIST_POINT* IfValid(const sHIST_POINT& point)
 
 } // namespace
 
+CHistoryLineParser::CHistoryLineParser()
+{
+    m_tick.Basis.assign(1, '\0');
+}
+
 bool ShowsBasis(char basis, bool extendedTrades)
 {
     return basis == 'C' || (extendedTrades && (basis == 'E' || basis == 'O'));
@@ -66,7 +71,7 @@ const sHIST_POINT* CHistoryLineParser::ParseTick(const HistoryFields& fields, bo
     m_tick.Bid = TextToDouble(fields[5]);
     m_tick.Ask = TextToDouble(fields[6]);
     m_tick.TickId = ReadUnsigned(fields[7]);
-    m_tick.Basis.assign(1, basis.front());
+    m_tick.Basis.front() = basis.front();
     return IfValid(m_tick);
 }
 

@@ -21,6 +21,8 @@ int PriceFormatOf(std::string_view price);
 class CHistoryLineParser
 {
 public:
+    CHistoryLineParser();
+
     // The point of a line whose first character is `kind` as a digit; null when the line's trade is not
     // wanted, its kind is not 0 to 9, or its date does not exist. The record holds until the next call. Fails
     // with std::invalid_argument on too few fields.

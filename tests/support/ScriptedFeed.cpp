@@ -156,6 +156,9 @@ bool CScriptedPort::PeerClosed() const
 
 bool CScriptedPort::Send(std::string_view text)
 {
+    // A client's connection stands before this side has accepted it.
+    if (!AwaitConnection())
+        return false;
     int connection = -1;
     {
         const std::lock_guard guard(m_lock);

@@ -43,7 +43,8 @@ public:
     int Connections() const; // ever accepted
     bool PeerClosed() const; // the newest client has closed its side
 
-    // Sends all of the text to the newest client, waiting as needed. False when the connection is gone.
+    // Sends all of the text to the newest client, waiting as needed, for the first client too. False when
+    // there is none.
     bool Send(std::string_view text);
     // Sends the text in pieces that end at these positions, with a pause between them so that each is
     // received by itself.
