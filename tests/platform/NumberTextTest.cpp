@@ -47,8 +47,13 @@ std::uint32_t ReferenceUnsigned(const std::string& text)
 {
     const bool negative = text.find('-') < text.find_first_of("0123456789");
     std::string plain = text;
-    if (negative)
-        plain[plain.find('-')] = ' ';
+    if (negative) {
+        // Only a digit may follow the sign.
+        const std::size_t behind = plain.find('-') + 1;
+        if (behind >= plain.size() || plain[behind] < '0' || plain[behind] > '9')
+            return 0;
+        plain[behind - 1] = ' ';
+    }
     const unsigned long long value = std::strtoull(plain.c_str(), nullptr, 10);
     if (value > UINT32_MAX)
         return UINT32_MAX;
