@@ -17,11 +17,6 @@ CAxisMap::CAxisMap(double low, double high, int firstPixel, int lastPixel) : m_l
     }
 }
 
-double CAxisMap::Value(double pixel) const
-{
-    return m_factor == 0 ? m_low : m_low + (pixel - m_first) / m_factor;
-}
-
 sPlotMap::sPlotMap(const CChart2D& chart, double scale)
 {
     const auto device = [scale](int pixel) {

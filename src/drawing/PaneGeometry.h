@@ -10,6 +10,14 @@
 
 namespace zantroq {
 
+// The nearest whole number, halves upwards, of a place within 256 times FarPixel. Cutting a positive number
+// is a single instruction where rounding down is a call.
+inline int NearestPixel(double place)
+{
+    constexpr double lift = 512.0 * FarPixel;
+    return static_cast<int>(place + (lift + 0.5)) - static_cast<int>(lift);
+}
+
 // Maps low to firstPixel and high to lastPixel, both whole pixels and both inside the plot. A range without
 // extent, or one that is not finite, has no slope: every value lies in the middle and every pixel gives low.
 class CAxisMap
@@ -27,8 +35,8 @@ public:
         return position < -FarPixel ? -FarPixel : position > FarPixel ? FarPixel : position;
     }
     // The nearest whole pixel; halves go up in number. Not for a not-a-number.
-    int Pixel(double value) const { return static_cast<int>(std::floor(Position(value) + 0.5)); }
-    double Value(double pixel) const;
+    int Pixel(double value) const { return NearestPixel(Position(value)); }
+    double Value(double pixel) const { return m_factor == 0 ? m_low : m_low + (pixel - m_first) / m_factor; }
     double PixelsPerUnit() const { return m_factor; }
     bool operator==(const CAxisMap&) const = default;
 

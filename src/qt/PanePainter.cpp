@@ -90,10 +90,14 @@ void CPanePainter::Repaint(const sPlotMap& map, double scale)
             m_fresh = false;
             PaintColumns(whole, map);
         } else {
-            const auto wipe = [&](const sPixelRect& tile) {
-                m_canvas.Fill(tile, m_furniture.Background);
-                m_canvas.Fill({std::max(tile.Left, map.Plot.Left), std::max(tile.Top, map.Plot.Top),
-                               std::min(tile.Right, map.Plot.Right), std::min(tile.Bottom, map.Plot.Bottom)},
+            const sPixelRect& plot = map.Plot;
+            const auto wipe = [&](const sPixelRect& tile) { // each pixel once, but for the plot's edge
+                const bool inside = tile.Left >= plot.Left && tile.Right <= plot.Right &&
+                                    tile.Top >= plot.Top && tile.Bottom <= plot.Bottom;
+                if (!inside)
+                    m_canvas.Fill(tile, m_furniture.Background);
+                m_canvas.Fill({std::max(tile.Left, plot.Left), std::max(tile.Top, plot.Top),
+                               std::min(tile.Right, plot.Right), std::min(tile.Bottom, plot.Bottom)},
                               m_furniture.PlotBackground);
             };
             m_canvas.SetMarking(false);
