@@ -4,8 +4,9 @@ namespace zantroq {
 
 void CBatchCounters::SetAll(bool batched)
 {
+    // A suspension of the price pane alone that is still open goes on.
     for (CChart2D& pane : m_panes)
-        pane.SetBatched(batched);
+        pane.SetBatched(batched || (m_inner > 0 && &pane == &m_panes.front()));
 }
 
 void CBatchCounters::Begin()
@@ -18,12 +19,8 @@ void CBatchCounters::Begin()
 void CBatchCounters::End()
 {
     --m_inner;
-    if (--m_outer != 0)
-        return;
-    SetAll(false);
-    // A suspension of the price pane alone that is still open goes on.
-    if (m_inner > 0)
-        m_panes.front().SetBatched(true);
+    if (--m_outer == 0)
+        SetAll(false);
 }
 
 void CBatchCounters::BeginPrice()

@@ -281,9 +281,10 @@ void sChartParts::SeriesPolled()
         Bars.ShowLastTrade("");
         return;
     }
-    const int type = Settings.Request.DataType;
-    const double price = type == TickData ? series.GetLastAt(last) : series.GetCloseAt(last);
-    const std::int64_t size = type <= MinuteData ? series.GetSizeAt(last) : series.GetTotalVolumeAt(last);
+    // By what the series holds: with an empty symbol box the chosen type may differ from it.
+    const int kind = series.GetRequestKind();
+    const double price = IsTickKind(kind) ? series.GetLastAt(last) : series.GetCloseAt(last);
+    const std::int64_t size = IsDayKind(kind) ? series.GetTotalVolumeAt(last) : series.GetSizeAt(last);
     Bars.ShowLastTrade(Drawing.PriceText(price) + " x " + std::to_string(size));
 }
 
