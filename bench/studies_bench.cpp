@@ -109,8 +109,9 @@ const std::vector<std::pair<const char*, CCompute>>& Computations()
                       double*) { ComputeStochastic(p, 0, n, 25, StochasticSpeed::Slow, a, b); }},
         {"Volume",
          [](const IPriceSource& p, int n, double*, double*, double*) {
-             const sScaledVolumes scaled = ScaleVolumes(p, 0, n, VolumeMaximum::OfThePoints);
-             benchmark::DoNotOptimize(AverageVolume(p, n, scaled.Divisor));
+             static std::vector<std::int64_t> scaled(Points);
+             const sVolumeScale scale = ScaleVolumes(p, 0, n, VolumeMaximum::OfThePoints, scaled.data());
+             benchmark::DoNotOptimize(AverageVolume(p, n, scale.Divisor));
          }},
         {"MoneyFlow14", [](const IPriceSource& p, int n, double* a, double* b,
                            double*) { ComputeMoneyFlow(p, 0, n, 14, a, b); }},

@@ -90,30 +90,32 @@ private:
     double m_sum = 0;
 };
 
-} // namespace
-
-void ComputeMACD(const IPriceSource& prices, std::int64_t index, int count, const sMACDPeriods& periods,
-                 sMACDRunningState& state, double* macd, double* signal)
+// Every index from `from` to `to` - 1 follows the one before, which the state is that of.
+void Continue(const CPriceBlock& close, std::int64_t from, std::int64_t to, const sFactors& k,
+              sMACDRunningState& state, double* __restrict macd, double* __restrict signal)
 {
-    if (periods.Short < 1 || periods.Long < 1 || periods.Signal < 1 || count <= 0)
-        return;
+    double emaShort = state.EmaShort, emaLong = state.EmaLong, smoothed = state.Signal;
+    for (std::int64_t i = from; i < to; ++i) {
+        const double c = close[i];
+        emaShort = (c - emaShort) * k.Short + emaShort;
+        emaLong = (c - emaLong) * k.Long + emaLong;
+        const double difference = emaShort - emaLong;
+        smoothed = (difference - smoothed) * k.Signal + smoothed;
+        macd[i - from] = difference;
+        signal[i - from] = smoothed;
+    }
+    if (from < to)
+        state = {static_cast<std::int32_t>(to - 1), emaShort, emaLong, smoothed};
+}
+
+void ComputePiece(const IPriceSource& prices, std::int64_t index, int count, const sMACDPeriods& periods,
+                  sMACDRunningState& state, double* macd, double* signal)
+{
     const std::int64_t end = index + count;
-    const bool continues = index - 1 == state.Index;
-    const CPriceBlock close(prices, &IPriceSource::ReadClose, continues ? index : 0, end);
-    const sFactors factors(periods);
+    const CPriceBlock close(prices, &IPriceSource::ReadClose, index - 1 == state.Index ? index : 0, end);
     CFullMACD full(close, periods);
-    for (std::int64_t i = index; i < end; ++i) {
-        if (i - 1 == state.Index) {
-            const double c = close[i];
-            const double emaShort = (c - state.EmaShort) * factors.Short + state.EmaShort;
-            const double emaLong = (c - state.EmaLong) * factors.Long + state.EmaLong;
-            const double difference = emaShort - emaLong;
-            const double smoothed = (difference - state.Signal) * factors.Signal + state.Signal;
-            state = {static_cast<std::int32_t>(i), emaShort, emaLong, smoothed};
-            macd[i - index] = difference;
-            signal[i - index] = smoothed;
-            continue;
-        }
+    std::int64_t i = index;
+    for (; i < end && i - 1 != state.Index; ++i) {
         if (!full.HasMACD(i))
             continue;
         full.MoveTo(i);
@@ -123,6 +125,19 @@ void ComputeMACD(const IPriceSource& prices, std::int64_t index, int count, cons
         if (full.IsPastSeed(i))
             state = {static_cast<std::int32_t>(i), full.EmaShort, full.EmaLong, full.Signal};
     }
+    Continue(close, i, end, sFactors(periods), state, macd + (i - index), signal + (i - index));
+}
+
+} // namespace
+
+void ComputeMACD(const IPriceSource& prices, std::int64_t index, int count, const sMACDPeriods& periods,
+                 sMACDRunningState& state, double* macd, double* signal)
+{
+    if (periods.Short < 1 || periods.Long < 1 || periods.Signal < 1)
+        return;
+    InPieces(count, 0, [&](int offset, int length) {
+        ComputePiece(prices, index + offset, length, periods, state, macd + offset, signal + offset);
+    });
 }
 
 } // namespace zantroq

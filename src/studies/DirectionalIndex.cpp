@@ -28,10 +28,9 @@ public:
     {
         const double high = m_high[j], low = m_low[j], closeBefore = m_close[j - 1];
         double range = std::fabs(high - low);
-        if (const double up = std::fabs(closeBefore - high); up > range)
-            range = up;
-        if (const double down = std::fabs(closeBefore - low); down > range)
-            range = down;
+        const double up = std::fabs(closeBefore - high), down = std::fabs(closeBefore - low);
+        range = up > range ? up : range;
+        range = down > range ? down : range;
         // Absolute differences: falling highs count as upward movement.
         const double a = std::fabs(high - m_high[j - 1]), b = std::fabs(low - m_low[j - 1]);
         return {range, a <= b ? 0.0 : a, b <= a ? 0.0 : b};
@@ -114,39 +113,58 @@ private:
     double m_sum = 0;
 };
 
+// Every index from `from` to `to` - 1 follows the one before, which the state is that of.
+void Continue(const CBars& bars, std::int64_t from, std::int64_t to, double k, sADXRunningState& state,
+              double* __restrict plusDI, double* __restrict minusDI, double* __restrict adx)
+{
+    if (from >= to)
+        return;
+    sDirection now{state.AvgTR, state.AvgPlus, state.AvgMinus, state.Adx, 0, 0};
+    for (std::int64_t i = from; i < to; ++i) {
+        now.Step(bars.MovesAt(i), k);
+        now.SmoothADX(k);
+        plusDI[i - from] = now.PlusDI;
+        minusDI[i - from] = now.MinusDI;
+        adx[i - from] = now.Adx;
+    }
+    state = {static_cast<std::int32_t>(to - 1), now.AvgTR, now.AvgPlus, now.AvgMinus, now.Adx};
+}
+
+void ComputePiece(const IPriceSource& prices, std::int64_t index, int count, std::int32_t period,
+                  sADXRunningState& state, double* plusDI, double* minusDI, double* adx)
+{
+    const std::int64_t end = std::min<std::int64_t>(index + count, std::int64_t{prices.Count()} + 2);
+    const std::int64_t from = std::max<std::int64_t>(period, index), seedEnd = 2 * std::int64_t{period};
+    if (from >= end)
+        return;
+    const CBars bars(prices, from - 1 == state.Index ? from - 1 : 0, end);
+    CFullADX full(bars, period);
+    std::int64_t i = from;
+    for (; i < end && i - 1 != state.Index; ++i) {
+        full.MoveTo(i);
+        plusDI[i - index] = full.Now.PlusDI;
+        minusDI[i - index] = full.Now.MinusDI;
+        if (i >= seedEnd)
+            adx[i - index] = full.Now.Adx;
+        if (i > seedEnd)
+            state = {static_cast<std::int32_t>(i), full.Now.AvgTR, full.Now.AvgPlus, full.Now.AvgMinus,
+                     full.Now.Adx};
+    }
+    Continue(bars, i, end, 1.0 / static_cast<double>(period), state, plusDI + (i - index),
+             minusDI + (i - index), adx + (i - index));
+}
+
 } // namespace
 
 void ComputeADX(const IPriceSource& prices, std::int64_t index, int count, std::int32_t period,
                 sADXRunningState& state, double* plusDI, double* minusDI, double* adx)
 {
-    const std::int64_t end = std::min<std::int64_t>(index + count, std::int64_t{prices.Count()} + 2);
-    const std::int64_t from = std::max<std::int64_t>(period, index);
-    if (period < 1 || from >= end)
+    if (period < 1)
         return;
-    const bool continues = from - 1 == state.Index;
-    const CBars bars(prices, continues ? from - 1 : 0, end);
-    const double k = 1.0 / static_cast<double>(period);
-    CFullADX full(bars, period);
-    for (std::int64_t i = from; i < end; ++i) {
-        sDirection now;
-        bool hasADX = true, finished = true;
-        if (i - 1 == state.Index) {
-            now = {state.AvgTR, state.AvgPlus, state.AvgMinus, state.Adx, 0, 0};
-            now.Step(bars.MovesAt(i), k);
-            now.SmoothADX(k);
-        } else {
-            full.MoveTo(i);
-            now = full.Now;
-            hasADX = i >= 2 * std::int64_t{period};
-            finished = i > 2 * std::int64_t{period};
-        }
-        plusDI[i - index] = now.PlusDI;
-        minusDI[i - index] = now.MinusDI;
-        if (hasADX)
-            adx[i - index] = now.Adx;
-        if (finished)
-            state = {static_cast<std::int32_t>(i), now.AvgTR, now.AvgPlus, now.AvgMinus, now.Adx};
-    }
+    InPieces(count, 0, [&](int offset, int length) {
+        ComputePiece(prices, index + offset, length, period, state, plusDI + offset, minusDI + offset,
+                     adx + offset);
+    });
 }
 
 } // namespace zantroq

@@ -33,9 +33,68 @@ int WholePart(double value)
     return std::isnan(value) ? 0 : static_cast<int>(std::clamp(value, -limit, limit));
 }
 
-std::vector<std::span<const double>> Views(const std::vector<std::vector<double>>& values)
+std::size_t ComputedLines(const std::vector<sStudyLine>& lines)
 {
-    return {values.begin(), values.end()};
+    return static_cast<std::size_t>(
+        std::count_if(lines.begin(), lines.end(), [](const auto& line) { return !line.Level; }));
+}
+
+// The arrays of one pane's computed lines, the first `count` elements of each.
+class CLineArrays
+{
+public:
+    CLineArrays(std::span<std::vector<double>> arrays, int count)
+    {
+        for (std::vector<double>& array : arrays) {
+            m_writable.push_back(array.data());
+            m_values.emplace_back(array.data(), static_cast<std::size_t>(count));
+        }
+    }
+    std::span<double* const> Writable() const { return m_writable; }
+    std::span<const std::span<const double>> Values() const { return m_values; }
+
+private:
+    std::vector<double*> m_writable;
+    std::vector<std::span<const double>> m_values;
+};
+
+// Arrays that all panes fill one after the other. They are kept from one draw to the next: at 245,760 points
+// taking fresh memory from the system costs more than filling it.
+struct sScratch
+{
+    // Arrays of `count` holes.
+    CLineArrays Lines(std::size_t lines, int count)
+    {
+        if (Arrays.size() < lines)
+            Arrays.resize(lines);
+        for (std::size_t line = 0; line < lines; ++line)
+            Arrays[line].assign(static_cast<std::size_t>(count), StudyHole);
+        return {{Arrays.data(), lines}, count};
+    }
+    // 1 to count.
+    std::span<const int> X(int count)
+    {
+        const auto size = static_cast<std::size_t>(count);
+        if (Numbers.size() < size) {
+            Numbers.resize(size);
+            std::iota(Numbers.begin(), Numbers.end(), 1);
+        }
+        return {Numbers.data(), size};
+    }
+    std::span<const double> Level(int count, double level)
+    {
+        LevelLine.assign(static_cast<std::size_t>(count), level);
+        return LevelLine;
+    }
+    std::vector<std::vector<double>> Arrays;
+    std::vector<int> Numbers;
+    std::vector<double> LevelLine;
+};
+
+sScratch& Scratch()
+{
+    thread_local sScratch scratch;
+    return scratch;
 }
 
 } // namespace
@@ -68,14 +127,6 @@ void CHistStudyChart::PrepareGroups(int shown)
     }
 }
 
-void CHistStudyChart::ComputeLines(std::int64_t index, std::vector<std::vector<double>>& values)
-{
-    std::vector<double*> out;
-    for (std::vector<double>& line : values)
-        out.push_back(line.data());
-    Compute(index, static_cast<int>(values.front().size()), out);
-}
-
 void CHistStudyChart::DrawStudy()
 {
     const int first = dlg->Range().first, shown = dlg->Range().shown;
@@ -85,30 +136,24 @@ void CHistStudyChart::DrawStudy()
     SetXAxis(*chart, shown, dlg->Settings().Grid != 0);
 
     const std::vector<sStudyLine> lines = Lines();
-    const auto points = static_cast<std::size_t>(shown);
-    const auto computed =
-        std::count_if(lines.begin(), lines.end(), [](const auto& line) { return !line.Level; });
-    std::vector<std::vector<double>> values(static_cast<std::size_t>(computed),
-                                            std::vector<double>(points, StudyHole));
-    ComputeLines(std::int64_t{first} - DrawLag(), values);
+    sScratch& scratch = Scratch();
+    const CLineArrays arrays = scratch.Lines(ComputedLines(lines), shown);
+    Compute(std::int64_t{first} - DrawLag(), shown, arrays.Writable());
 
-    std::vector<int> x(points);
-    std::iota(x.begin(), x.end(), 1);
-    auto next = values.begin();
+    const std::span<const int> x = scratch.X(shown);
+    std::size_t next = 0;
     for (const sStudyLine& line : lines) {
         CPaneData& data = chart->PaneGroups(line.Group).PaneData();
         if (line.Series == 1)
-            data.SetXVector(1, std::span<const int>(x));
-        if (line.Level)
-            data.SetYVector(line.Series, std::vector<double>(points, *line.Level));
-        else
-            data.SetYVector(line.Series, *next++);
+            data.SetXVector(1, x);
+        data.SetYVector(line.Series,
+                        line.Level ? scratch.Level(shown, *line.Level) : arrays.Values()[next++]);
     }
     for (const int group : {1, 2})
         if (SeriesOfGroup(lines, group) > 0)
             chart->PaneGroups(group).CommitPaneData();
 
-    FitDrawnAxis(Views(values));
+    FitDrawnAxis(arrays.Values());
     RefreshStudyHeader();
 }
 
@@ -164,25 +209,21 @@ void CHistStudyChart::UpdateStudy(int newPoints)
     const sUpdatePlan plan = MakeRoom(newPoints);
     const int fresh = plan.Points - plan.FirstNew + 1;
     const std::vector<sStudyLine> lines = Lines();
-    const auto computed =
-        std::count_if(lines.begin(), lines.end(), [](const auto& line) { return !line.Level; });
-    std::vector<std::vector<double>> values(static_cast<std::size_t>(computed),
-                                            std::vector<double>(static_cast<std::size_t>(fresh), StudyHole));
-    ComputeLines(plan.FirstIndex, values);
+    const CLineArrays arrays = Scratch().Lines(ComputedLines(lines), fresh);
+    Compute(plan.FirstIndex, fresh, arrays.Writable());
 
-    auto next = values.begin();
+    std::size_t next = 0;
     for (const sStudyLine& line : lines) {
         CPaneData& data = chart->PaneGroups(line.Group).PaneData();
-        const std::vector<double>* computedLine = line.Level ? nullptr : &*next++;
+        const double* computed = line.Level ? nullptr : arrays.Values()[next++].data();
         for (int i = 0; i < fresh; ++i) {
             const int point = plan.FirstNew + i;
             if (line.Series == 1)
                 data.SetPointX(1, point, point + plan.XOffset);
-            data.SetPointY(line.Series, point,
-                           line.Level ? *line.Level : (*computedLine)[static_cast<std::size_t>(i)]);
+            data.SetPointY(line.Series, point, computed ? computed[i] : *line.Level);
         }
     }
-    FitUpdatedAxis(Views(values));
+    FitUpdatedAxis(arrays.Values());
     RefreshStudyHeader();
 }
 

@@ -113,7 +113,6 @@ protected:
     void WidenAxis(CLineValues values);
 
 private:
-    void ComputeLines(std::int64_t index, std::vector<std::vector<double>>& values);
     void WriteVolumeIntoLastPoint();
 };
 

@@ -4,6 +4,7 @@
 #include "drawing/XAxis.h"
 #include "market/HistoryRecords.h"
 #include "studies/Hole.h"
+#include "studies/StudyArrays.h"
 #include "studies/VolumeScale.h"
 
 #include <algorithm>
@@ -74,16 +75,17 @@ void CHistVOLChart::DrawStudy()
     VolumeMaximum rule = VolumeMaximum::OfThePoints;
     if (dlg->Settings().FixedScale && GetPointCount() > 30)
         rule = dlg->ResetScale() ? VolumeMaximum::OfTheWholeSeries : VolumeMaximum::None;
-    const sScaledVolumes scaled = ScaleVolumes(*prices, first, points, rule);
-    VolumeDivisor = scaled.Divisor;
+    CStudyArray<std::int64_t> scaled(points);
+    const sVolumeScale scale = ScaleVolumes(*prices, first, points, rule, scaled.Data());
+    VolumeDivisor = scale.Divisor;
 
     std::vector<int> x(static_cast<std::size_t>(points));
     std::iota(x.begin(), x.end(), 1);
     CPaneData& volumes = chart->PaneGroups(1).PaneData();
     volumes.SetXVector(1, std::span<const int>(x));
-    volumes.SetYVector(1, std::vector<double>(scaled.Values.begin(), scaled.Values.end()));
+    volumes.SetYVector(1, std::vector<double>(scaled.Span().begin(), scaled.Span().end()));
     chart->PaneGroups(1).CommitPaneData();
-    SetVolumeYAxis(*chart, AxisLook(), scaled.Maximum);
+    SetVolumeYAxis(*chart, AxisLook(), scale.Maximum);
 
     VolumeAverage = CalcVolumeAverage();
     CPaneData& average = chart->PaneGroups(2).PaneData();

@@ -7,8 +7,10 @@
 
 namespace zantroq {
 
-void ComputeMomentum(const IPriceSource& prices, std::int64_t index, int count, std::int32_t period,
-                     double* out)
+namespace {
+
+void MomentumPiece(const IPriceSource& prices, std::int64_t index, int count, std::int32_t period,
+                   double* out)
 {
     const std::int64_t end = index + count, from = std::clamp<std::int64_t>(period, index, end);
     std::fill_n(out, from - index, StudyHole);
@@ -20,7 +22,7 @@ void ComputeMomentum(const IPriceSource& prices, std::int64_t index, int count, 
         value[i] = a[i] - b[i];
 }
 
-void ComputeROC(const IPriceSource& prices, std::int64_t index, int count, std::int32_t period, double* out)
+void ROCPiece(const IPriceSource& prices, std::int64_t index, int count, std::int32_t period, double* out)
 {
     const std::int64_t end = index + count,
                        from = std::clamp<std::int64_t>(std::int64_t{period} + 1, index, end);
@@ -31,6 +33,22 @@ void ComputeROC(const IPriceSource& prices, std::int64_t index, int count, std::
     double* value = out + (from - index);
     for (std::int64_t i = 0; i < end - from; ++i)
         value[i] = b[i] != 0 ? (a[i] - b[i]) / b[i] * 100 : StudyHole;
+}
+
+} // namespace
+
+void ComputeMomentum(const IPriceSource& prices, std::int64_t index, int count, std::int32_t period,
+                     double* out)
+{
+    InPieces(count, 0, [&](int offset, int length) {
+        MomentumPiece(prices, index + offset, length, period, out + offset);
+    });
+}
+
+void ComputeROC(const IPriceSource& prices, std::int64_t index, int count, std::int32_t period, double* out)
+{
+    InPieces(count, 0,
+             [&](int offset, int length) { ROCPiece(prices, index + offset, length, period, out + offset); });
 }
 
 } // namespace zantroq

@@ -22,10 +22,8 @@ CStudyArray<double> TypicalPrices(const IPriceSource& prices, std::int64_t from,
     return typical;
 }
 
-} // namespace
-
-int ComputeMoneyFlow(const IPriceSource& prices, std::int64_t index, int count, std::int32_t period,
-                     double* positive, double* negative)
+int FlowPiece(const IPriceSource& prices, std::int64_t index, int count, std::int32_t period,
+              double* positive, double* negative)
 {
     const std::int64_t end = index + count, p = period;
     const std::int64_t from = std::clamp(p + 1, index, end);
@@ -55,15 +53,33 @@ int ComputeMoneyFlow(const IPriceSource& prices, std::int64_t index, int count, 
     return static_cast<int>(from - index);
 }
 
-void ComputeMFI(const IPriceSource& prices, std::int64_t index, int count, std::int32_t period, double* out)
+void MFIPiece(const IPriceSource& prices, std::int64_t index, int count, std::int32_t period, double* out)
 {
     CStudyArray<double> negative(count);
-    const int left = ComputeMoneyFlow(prices, index, count, period, out, negative.Data());
+    const int left = FlowPiece(prices, index, count, period, out, negative.Data());
     std::fill_n(out, left, StudyHole);
     for (int i = left; i < count; ++i) {
         const double pos = out[i], neg = negative[i];
         out[i] = ((pos - neg) * 50) / (neg + pos) + 50;
     }
+}
+
+} // namespace
+
+int ComputeMoneyFlow(const IPriceSource& prices, std::int64_t index, int count, std::int32_t period,
+                     double* positive, double* negative)
+{
+    int left = 0;
+    InPieces(count, period, [&](int offset, int length) {
+        left += FlowPiece(prices, index + offset, length, period, positive + offset, negative + offset);
+    });
+    return left;
+}
+
+void ComputeMFI(const IPriceSource& prices, std::int64_t index, int count, std::int32_t period, double* out)
+{
+    InPieces(count, period,
+             [&](int offset, int length) { MFIPiece(prices, index + offset, length, period, out + offset); });
 }
 
 } // namespace zantroq

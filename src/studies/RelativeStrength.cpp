@@ -18,7 +18,7 @@ struct sChange
 sChange ChangeAt(const CPriceBlock& close, std::int64_t j)
 {
     const double d = close[j] - close[j - 1];
-    return d > 0 ? sChange{d, 0.0} : sChange{0.0, -d};
+    return {d > 0 ? d : 0.0, d > 0 ? 0.0 : -d};
 }
 
 struct sAverages
@@ -51,40 +51,56 @@ sAverages CatchUp(const CPriceBlock& close, std::int64_t period, std::int64_t n,
     return average;
 }
 
+// Every index from `from` to `to` - 1 follows the one before, which the state is that of.
+void Continue(const CPriceBlock& close, std::int64_t from, std::int64_t to, double k, sRSIRunningState& state,
+              double* __restrict out)
+{
+    double avgGain = state.AvgGain, avgLoss = state.AvgLoss;
+    for (std::int64_t n = from; n < to; ++n) {
+        const sChange change = ChangeAt(close, n);
+        avgGain = avgGain + (change.Gain - avgGain) * k;
+        avgLoss = avgLoss + (change.Loss - avgLoss) * k;
+        out[n - from] = 100 - 100 / (avgGain / avgLoss + 1);
+    }
+    if (from < to)
+        state = {static_cast<std::int32_t>(to - 1), avgGain, avgLoss};
+}
+
+void ComputePiece(const IPriceSource& prices, std::int64_t position, int count, std::int32_t period,
+                  sRSIRunningState& state, double* out)
+{
+    const std::int64_t first = position - 1, end = first + count, points = prices.Count();
+    const std::int64_t from = std::clamp<std::int64_t>(period, first, end);
+    const std::int64_t to = std::clamp<std::int64_t>(points + 1, from, end);
+    std::fill_n(out, from - first, NoValue);
+    std::fill_n(out + (to - first), end - to, NoValue);
+    if (from == to)
+        return;
+    const CPriceBlock close(prices, &IPriceSource::ReadClose, from - 1 == state.Index ? from - 1 : 0, to);
+    std::int64_t n = from;
+    for (; n < to && n - 1 != state.Index; ++n) {
+        sAverages average = Seed(close, period);
+        if (n > std::int64_t{period} + 1) {
+            average = CatchUp(close, period, n, average);
+            state = {static_cast<std::int32_t>(n), average.Gain, average.Loss};
+        }
+        out[n - first] = 100 - 100 / (average.Gain / average.Loss + 1);
+    }
+    Continue(close, n, to, 1.0 / static_cast<double>(period), state, out + (n - first));
+}
+
 } // namespace
 
 void ComputeRSI(const IPriceSource& prices, std::int64_t position, int count, std::int32_t period,
                 sRSIRunningState& state, double* out)
 {
-    const std::int64_t first = position - 1, end = first + count, points = prices.Count();
-    const std::int64_t from = std::clamp<std::int64_t>(period, first, end);
-    const std::int64_t to = std::clamp<std::int64_t>(points + 1, from, end);
-    if (period < 1 || from == to) {
+    if (period < 1) {
         std::fill_n(out, count, NoValue);
         return;
     }
-    std::fill_n(out, from - first, NoValue);
-
-    const bool continues = from - 1 == state.Index;
-    const CPriceBlock close(prices, &IPriceSource::ReadClose, continues ? from - 1 : 0, to);
-    const double k = 1.0 / static_cast<double>(period);
-    for (std::int64_t n = from; n < to; ++n) {
-        sAverages average;
-        if (n - 1 == state.Index) {
-            const sChange change = ChangeAt(close, n);
-            average.Gain = state.AvgGain + (change.Gain - state.AvgGain) * k;
-            average.Loss = state.AvgLoss + (change.Loss - state.AvgLoss) * k;
-            state = {static_cast<std::int32_t>(n), average.Gain, average.Loss};
-        } else {
-            average = Seed(close, period);
-            if (n > std::int64_t{period} + 1) {
-                average = CatchUp(close, period, n, average);
-                state = {static_cast<std::int32_t>(n), average.Gain, average.Loss};
-            }
-        }
-        out[n - first] = 100 - 100 / (average.Gain / average.Loss + 1);
-    }
-    std::fill_n(out + (to - first), end - to, NoValue);
+    InPieces(count, 0, [&](int offset, int length) {
+        ComputePiece(prices, position + offset, length, period, state, out + offset);
+    });
 }
 
 } // namespace zantroq

@@ -73,10 +73,8 @@ void WriteStage(const sStage& values, const sStage& average, std::int64_t index,
     }
 }
 
-} // namespace
-
-void ComputeStochastic(const IPriceSource& prices, std::int64_t index, int count, std::int32_t period,
-                       StochasticSpeed speed, double* k, double* d)
+void StochasticPiece(const IPriceSource& prices, std::int64_t index, int count, std::int32_t period,
+                     StochasticSpeed speed, double* k, double* d)
 {
     const std::int64_t end = index + count, p = period;
     if (p < 1 || end <= p)
@@ -98,6 +96,16 @@ void ComputeStochastic(const IPriceSource& prices, std::int64_t index, int count
     const sStage fast = AverageBefore(raw, fastFrom, std::max(end, fastFrom), p);
     const sStage slow = AverageBefore(fast, slowFrom, std::max(end, slowFrom), p);
     WriteStage(fast, slow, index, end, k, d);
+}
+
+} // namespace
+
+void ComputeStochastic(const IPriceSource& prices, std::int64_t index, int count, std::int32_t period,
+                       StochasticSpeed speed, double* k, double* d)
+{
+    InPieces(count, 4 * std::int64_t{period}, [&](int offset, int length) {
+        StochasticPiece(prices, index + offset, length, period, speed, k + offset, d + offset);
+    });
 }
 
 } // namespace zantroq

@@ -51,9 +51,7 @@ void SumEachWindow(const CPriceBlock& close, const CVolumeBlock& volume, std::in
     SumWindows(change.Data(), count, terms, out);
 }
 
-} // namespace
-
-void ComputeOBV(const IPriceSource& prices, std::int64_t index, int count, std::int32_t period, double* out)
+void OBVPiece(const IPriceSource& prices, std::int64_t index, int count, std::int32_t period, double* out)
 {
     const std::int64_t end = index + count, from = std::clamp<std::int64_t>(period, index, end);
     std::fill_n(out, from - index, StudyHole);
@@ -70,6 +68,14 @@ void ComputeOBV(const IPriceSource& prices, std::int64_t index, int count, std::
         SlideExactly(close, volume, from, end - from, period, value);
     else
         SumEachWindow(close, volume, from, end - from, period, value);
+}
+
+} // namespace
+
+void ComputeOBV(const IPriceSource& prices, std::int64_t index, int count, std::int32_t period, double* out)
+{
+    InPieces(count, period,
+             [&](int offset, int length) { OBVPiece(prices, index + offset, length, period, out + offset); });
 }
 
 } // namespace zantroq

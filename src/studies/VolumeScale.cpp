@@ -6,31 +6,34 @@
 
 namespace zantroq {
 
-sScaledVolumes ScaleVolumes(const IPriceSource& prices, std::int64_t first, int count, VolumeMaximum rule)
+sVolumeScale ScaleVolumes(const IPriceSource& prices, std::int64_t first, int count, VolumeMaximum rule,
+                          std::int64_t* scaled)
 {
-    const CVolumeBlock volume(prices, &IPriceSource::ReadVolume, first, first + std::max(count, 0));
-    sScaledVolumes scaled;
-    scaled.Values.resize(static_cast<std::size_t>(std::max(count, 0)));
-    for (int i = 0; i < count; ++i) {
-        std::int64_t q = volume[first + i];
-        if (scaled.Divisor != 1)
-            q /= scaled.Divisor;
-        while (q > GreatestPlottedVolume) {
-            q /= 10;
-            scaled.Divisor *= 10;
-            // By the whole divisor, not by ten: a second step shrinks the points before it further than it
-            // should, and the pane is known for it.
-            for (int j = 0; j < i; ++j)
-                scaled.Values[static_cast<std::size_t>(j)] /= scaled.Divisor;
-            scaled.Maximum /= scaled.Divisor;
+    sVolumeScale scale;
+    const std::int64_t wholeSeries = prices.GreatestVolume();
+    InPieces(count, 0, [&](int offset, int length) {
+        const CVolumeBlock volume(prices, &IPriceSource::ReadVolume, first + offset, first + offset + length);
+        for (int i = offset; i < offset + length; ++i) {
+            std::int64_t q = volume[first + i];
+            if (scale.Divisor != 1)
+                q /= scale.Divisor;
+            while (q > GreatestPlottedVolume) {
+                q /= 10;
+                scale.Divisor *= 10;
+                // By the whole divisor, not by ten: a second step shrinks the points before it further than
+                // it should, and the pane is known for it.
+                for (int j = 0; j < i; ++j)
+                    scaled[j] /= scale.Divisor;
+                scale.Maximum /= scale.Divisor;
+            }
+            scaled[i] = q;
+            if (rule == VolumeMaximum::OfThePoints)
+                scale.Maximum = std::max(scale.Maximum, q);
+            else if (rule == VolumeMaximum::OfTheWholeSeries)
+                scale.Maximum = wholeSeries;
         }
-        scaled.Values[static_cast<std::size_t>(i)] = q;
-        if (rule == VolumeMaximum::OfThePoints)
-            scaled.Maximum = std::max(scaled.Maximum, q);
-        else if (rule == VolumeMaximum::OfTheWholeSeries)
-            scaled.Maximum = prices.GreatestVolume();
-    }
-    return scaled;
+    });
+    return scale;
 }
 
 std::int32_t AverageVolume(const IPriceSource& prices, std::int64_t points, std::int64_t divisor)
@@ -38,10 +41,13 @@ std::int32_t AverageVolume(const IPriceSource& prices, std::int64_t points, std:
     const std::int64_t count = prices.Count(), m = std::min(points, count);
     if (m <= 0)
         return 0;
-    const CVolumeBlock volume(prices, &IPriceSource::ReadVolume, count - m, count);
     double sum = 0;
-    for (std::int64_t j = count - m; j < count; ++j)
-        sum += static_cast<double>(volume[j]);
+    InPieces(static_cast<int>(m), 0, [&](int offset, int length) {
+        const std::int64_t from = count - m + offset;
+        const CVolumeBlock volume(prices, &IPriceSource::ReadVolume, from, from + length);
+        for (std::int64_t j = from; j < from + length; ++j)
+            sum += static_cast<double>(volume[j]);
+    });
     const double average = (sum / static_cast<double>(m) + 0.5) / static_cast<double>(divisor);
     constexpr double limit = 2147483647.0;
     return static_cast<std::int32_t>(std::clamp(average, -limit, limit));

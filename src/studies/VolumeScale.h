@@ -5,7 +5,6 @@
 #include "drawing/PriceSource.h"
 
 #include <cstdint>
-#include <vector>
 
 namespace zantroq {
 
@@ -19,17 +18,17 @@ enum class VolumeMaximum
     None
 };
 
-struct sScaledVolumes
+struct sVolumeScale
 {
-    std::vector<std::int64_t> Values; // in units of Divisor
-    std::int64_t Divisor = 1;         // a power of ten
-    std::int64_t Maximum = 0;         // what the value axis must reach
+    std::int64_t Divisor = 1; // a power of ten
+    std::int64_t Maximum = 0; // what the value axis must reach
 };
 
-// The volumes of `count` indices from `first`. A volume too large for the pane is divided by ten, as often as
-// it takes, and the divisor with it; the points before it, and the maximum, are then divided by the whole new
-// divisor.
-sScaledVolumes ScaleVolumes(const IPriceSource& prices, std::int64_t first, int count, VolumeMaximum rule);
+// Writes the volumes of `count` indices from `first` to `scaled`, in units of the divisor. A volume too large
+// for the pane is divided by ten, as often as it takes, and the divisor with it; the points before it, and
+// the maximum, are then divided by the whole new divisor.
+sVolumeScale ScaleVolumes(const IPriceSource& prices, std::int64_t first, int count, VolumeMaximum rule,
+                          std::int64_t* scaled);
 
 // The average volume of the last `points` points of the series, or of as many as there are, in units of the
 // divisor; rounded before the division. 0 for no points. Held within 32 bits.

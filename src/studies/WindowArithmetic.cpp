@@ -1,5 +1,6 @@
 #include "studies/WindowArithmetic.h"
 
+#include "drawing/Lanes.h"
 #include "studies/StudyArrays.h"
 
 #include <utility>
@@ -7,8 +8,6 @@
 namespace zantroq {
 
 namespace {
-
-constexpr int Lanes = 16;
 
 struct sLess
 {
@@ -52,18 +51,17 @@ void ExtremesInWindows(const double* __restrict in, std::int64_t count, std::int
 
 } // namespace
 
-void SumWindows(const double* __restrict in, std::int64_t count, std::int64_t terms, double* __restrict sums)
+void SumWindows(const double* in, std::int64_t count, std::int64_t terms, double* sums)
 {
+    constexpr auto block = static_cast<std::int64_t>(LaneBlock);
     std::int64_t i = 0;
-    for (; i + Lanes <= count; i += Lanes) {
-        double sum[Lanes] = {};
-        for (std::int64_t t = 0; t < terms; ++t) {
-            const double* term = in + i + t;
-            for (int lane = 0; lane < Lanes; ++lane)
-                sum[lane] += term[lane];
-        }
-        for (int lane = 0; lane < Lanes; ++lane)
-            sums[i + lane] = sum[lane];
+    for (; i + block <= count; i += block) {
+        Lanes sum[LaneParts] = {};
+        for (std::int64_t t = 0; t < terms; ++t)
+            for (std::size_t part = 0; part < LaneParts; ++part)
+                sum[part] += LoadLanes(in + i + t + part * LaneWidth);
+        for (std::size_t part = 0; part < LaneParts; ++part)
+            StoreLanes(sums + i + part * LaneWidth, sum[part]);
     }
     for (; i < count; ++i) {
         double sum = 0;
