@@ -80,7 +80,7 @@ void CPaneData::SetSeriesCount(int count)
         return;
     if (n == 0)
         m_x.clear();
-    m_y.resize(n, std::vector<double>(m_x.size(), HoleValue()));
+    m_y.resize(n, CSlidingArray(m_x.size(), HoleValue()));
     m_firstPoint.resize(n, 1);
     m_drawnTo.resize(n, 0);
     NoteWhole();
@@ -185,9 +185,9 @@ bool CPaneData::ShiftPoints(int series, int count, int firstSource)
         static_cast<std::int64_t>(firstSource) - 1 + count > PointCount(series))
         return false;
     auto& y = m_y[static_cast<std::size_t>(series - 1)];
-    std::copy_n(y.begin() + (firstSource - 1), count, y.begin());
+    y.MoveToFront(static_cast<std::size_t>(count), static_cast<std::size_t>(firstSource - 1));
     if (series == 1) {
-        std::copy_n(m_x.begin() + (firstSource - 1), count, m_x.begin());
+        m_x.MoveToFront(static_cast<std::size_t>(count), static_cast<std::size_t>(firstSource - 1));
         m_ascending = -1;
     }
     NoteWhole();
@@ -239,8 +239,17 @@ bool CPaneData::GetXVector(int series, std::vector<double>& x) const
 {
     if (!Has(series))
         return false;
-    x = m_x;
+    x.assign(m_x.begin(), m_x.end());
     return true;
+}
+
+std::span<double> CPaneData::WholeY(int series)
+{
+    if (!Has(series))
+        return {};
+    NoteWhole();
+    auto& y = m_y[static_cast<std::size_t>(series - 1)];
+    return {y.data(), y.size()};
 }
 
 std::span<const double> CPaneData::Y(int series) const

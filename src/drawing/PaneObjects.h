@@ -2,6 +2,7 @@
 // it and tells its scene of every change. All on the chart window's thread.
 #pragma once
 
+#include "drawing/SlidingArray.h"
 #include "settings/ChartSettings.h"
 
 #include <bit>
@@ -518,6 +519,9 @@ public:
     bool SetXVector(int series, std::span<const int> x);
     bool SetYVector(int series, std::span<const double> y);
     bool GetXVector(int series, std::vector<double>& x) const;
+    // The y values of a series for who writes all of them in place, which saves a copy of what may be long. Inside a batch,
+    // or with CommitPaneData behind it. Empty for a number out of range.
+    std::span<double> WholeY(int series);
     // A bulk load without a copy: the room of all PointCount values of a series, for the caller to write at
     // once and then to commit with CommitPaneData. Good until a count changes; empty for an unknown series.
     std::span<double> LoadY(int series);
@@ -553,8 +557,8 @@ private:
     }
 
     int m_layout = 1, m_firstShown = 1, m_lastShown = 0;
-    std::vector<double> m_x;
-    std::vector<std::vector<double>> m_y;
+    CSlidingArray m_x;
+    std::vector<CSlidingArray> m_y;
     std::vector<int> m_firstPoint, m_drawnTo;
     mutable signed char m_ascending = 1; // -1: to be found out
     std::uint64_t m_revision = 0;

@@ -1,0 +1,73 @@
+// The numbers of one vector of a pane. A live chart drops points at the left for each one that it takes in at the right; here
+// that costs the points dropped and not those that stay, save that once in a while, after an eighth of the array's length has
+// gone by, the array moves back to the front of its memory.
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <span>
+#include <vector>
+
+namespace zantroq {
+
+class CSlidingArray
+{
+public:
+    CSlidingArray() = default;
+    CSlidingArray(std::size_t size, double value) : m_store(size, value) {}
+
+    std::size_t size() const { return m_store.size() - m_begin; }
+    double* data() { return m_store.data() + m_begin; }
+    const double* data() const { return m_store.data() + m_begin; }
+    double* begin() { return data(); }
+    double* end() { return data() + size(); }
+    const double* begin() const { return data(); }
+    const double* end() const { return data() + size(); }
+    double& operator[](std::size_t i) { return data()[i]; }
+    const double& operator[](std::size_t i) const { return data()[i]; }
+    operator std::span<const double>() const { return {data(), size()}; }
+
+    void resize(std::size_t size, double value = 0) { m_store.resize(m_begin + size, value); }
+    void clear()
+    {
+        m_store.clear();
+        m_begin = 0;
+    }
+
+    // Copies the `count` values that begin at `from` to the beginning; what lies behind them stays as it is. from + count is
+    // at most size().
+    void MoveToFront(std::size_t count, std::size_t from)
+    {
+        const std::size_t had = size();
+        if (from == 0 || count == 0)
+            return;
+        if (from + count != had || from > had / 8) {
+            std::copy_n(data() + from, count, data());
+            return;
+        }
+        if (m_store.size() + from > m_store.capacity())
+            MakeRoom();
+        // The last values appear twice: moved, and where they were.
+        m_store.insert(m_store.end(), from, 0.0);
+        std::copy_n(m_store.end() - static_cast<std::ptrdiff_t>(2 * from), from,
+                    m_store.end() - static_cast<std::ptrdiff_t>(from));
+        m_begin += from;
+    }
+
+private:
+    void MakeRoom()
+    {
+        const std::size_t had = size();
+        if (m_begin < had / 8)
+            m_store.reserve(had + had / 4 + m_begin);
+        else {
+            m_store.erase(m_store.begin(), m_store.begin() + static_cast<std::ptrdiff_t>(m_begin));
+            m_begin = 0;
+        }
+    }
+
+    std::vector<double> m_store; // the array's values, and m_begin ones before them that are gone
+    std::size_t m_begin = 0;
+};
+
+} // namespace zantroq
