@@ -39,62 +39,17 @@ std::size_t ComputedLines(const std::vector<sStudyLine>& lines)
         std::count_if(lines.begin(), lines.end(), [](const auto& line) { return !line.Level; }));
 }
 
-// The arrays of one pane's computed lines, the first `count` elements of each.
-class CLineArrays
+// 1 to count. Kept from one draw to the next and shared by all panes: at 245,760 points taking fresh memory
+// from the system costs more than filling it.
+std::span<const int> PointNumbers(int count)
 {
-public:
-    CLineArrays(std::span<std::vector<double>> arrays, int count)
-    {
-        for (std::vector<double>& array : arrays) {
-            m_writable.push_back(array.data());
-            m_values.emplace_back(array.data(), static_cast<std::size_t>(count));
-        }
+    thread_local std::vector<int> numbers;
+    const auto size = static_cast<std::size_t>(count);
+    if (numbers.size() < size) {
+        numbers.resize(size);
+        std::iota(numbers.begin(), numbers.end(), 1);
     }
-    std::span<double* const> Writable() const { return m_writable; }
-    std::span<const std::span<const double>> Values() const { return m_values; }
-
-private:
-    std::vector<double*> m_writable;
-    std::vector<std::span<const double>> m_values;
-};
-
-// Arrays that all panes fill one after the other. They are kept from one draw to the next: at 245,760 points
-// taking fresh memory from the system costs more than filling it.
-struct sScratch
-{
-    // Arrays of `count` holes.
-    CLineArrays Lines(std::size_t lines, int count)
-    {
-        if (Arrays.size() < lines)
-            Arrays.resize(lines);
-        for (std::size_t line = 0; line < lines; ++line)
-            Arrays[line].assign(static_cast<std::size_t>(count), StudyHole);
-        return {{Arrays.data(), lines}, count};
-    }
-    // 1 to count.
-    std::span<const int> X(int count)
-    {
-        const auto size = static_cast<std::size_t>(count);
-        if (Numbers.size() < size) {
-            Numbers.resize(size);
-            std::iota(Numbers.begin(), Numbers.end(), 1);
-        }
-        return {Numbers.data(), size};
-    }
-    std::span<const double> Level(int count, double level)
-    {
-        LevelLine.assign(static_cast<std::size_t>(count), level);
-        return LevelLine;
-    }
-    std::vector<std::vector<double>> Arrays;
-    std::vector<int> Numbers;
-    std::vector<double> LevelLine;
-};
-
-sScratch& Scratch()
-{
-    thread_local sScratch scratch;
-    return scratch;
+    return {numbers.data(), size};
 }
 
 } // namespace
@@ -135,25 +90,26 @@ void CHistStudyChart::DrawStudy()
     PrepareGroups(shown);
     SetXAxis(*chart, shown, dlg->Settings().Grid != 0);
 
+    std::vector<double*> out;
+    std::vector<std::span<const double>> values;
     const std::vector<sStudyLine> lines = Lines();
-    sScratch& scratch = Scratch();
-    const CLineArrays arrays = scratch.Lines(ComputedLines(lines), shown);
-    Compute(std::int64_t{first} - DrawLag(), shown, arrays.Writable());
-
-    const std::span<const int> x = scratch.X(shown);
-    std::size_t next = 0;
     for (const sStudyLine& line : lines) {
         CPaneData& data = chart->PaneGroups(line.Group).PaneData();
         if (line.Series == 1)
-            data.SetXVector(1, x);
-        data.SetYVector(line.Series,
-                        line.Level ? scratch.Level(shown, *line.Level) : arrays.Values()[next++]);
+            data.SetXVector(1, PointNumbers(shown));
+        const std::span<double> y = data.WholeY(line.Series);
+        std::fill(y.begin(), y.end(), line.Level.value_or(StudyHole));
+        if (line.Level)
+            continue;
+        out.push_back(y.data());
+        values.emplace_back(y);
     }
+    Compute(std::int64_t{first} - DrawLag(), shown, out);
     for (const int group : {1, 2})
         if (SeriesOfGroup(lines, group) > 0)
             chart->PaneGroups(group).CommitPaneData();
 
-    FitDrawnAxis(arrays.Values());
+    FitDrawnAxis(values);
     RefreshStudyHeader();
 }
 
@@ -209,13 +165,17 @@ void CHistStudyChart::UpdateStudy(int newPoints)
     const sUpdatePlan plan = MakeRoom(newPoints);
     const int fresh = plan.Points - plan.FirstNew + 1;
     const std::vector<sStudyLine> lines = Lines();
-    const CLineArrays arrays = Scratch().Lines(ComputedLines(lines), fresh);
-    Compute(plan.FirstIndex, fresh, arrays.Writable());
+    const auto size = static_cast<std::size_t>(fresh);
+    std::vector<std::vector<double>> arrays(ComputedLines(lines), std::vector<double>(size, StudyHole));
+    std::vector<double*> out;
+    for (std::vector<double>& array : arrays)
+        out.push_back(array.data());
+    Compute(plan.FirstIndex, fresh, out);
 
     std::size_t next = 0;
     for (const sStudyLine& line : lines) {
         CPaneData& data = chart->PaneGroups(line.Group).PaneData();
-        const double* computed = line.Level ? nullptr : arrays.Values()[next++].data();
+        const double* computed = line.Level ? nullptr : arrays[next++].data();
         for (int i = 0; i < fresh; ++i) {
             const int point = plan.FirstNew + i;
             if (line.Series == 1)
@@ -223,7 +183,7 @@ void CHistStudyChart::UpdateStudy(int newPoints)
             data.SetPointY(line.Series, point, computed ? computed[i] : *line.Level);
         }
     }
-    FitUpdatedAxis(arrays.Values());
+    FitUpdatedAxis(std::vector<std::span<const double>>(arrays.begin(), arrays.end()));
     RefreshStudyHeader();
 }
 

@@ -45,18 +45,18 @@ std::vector<sStudyLine> CHistVOLChart::Lines() const
     return lines;
 }
 
-std::vector<double> CHistVOLChart::AverageLine(int points, int minuteShift) const
+void CHistVOLChart::WriteAverageLine(std::span<double> line, int minuteShift) const
 {
+    const auto points = static_cast<std::int64_t>(line.size());
     std::int64_t low = 1, high = points;
     if (!AveragesAllData()) {
         low = std::int64_t{GetPointCount()} + 2 - Period() - dlg->Range().first - minuteShift;
         high = Period() - 1 + low;
     }
-    std::vector<double> line(static_cast<std::size_t>(points), StudyHole);
+    std::fill(line.begin(), line.end(), StudyHole);
     for (std::int64_t point = std::max<std::int64_t>(low, 1); point <= std::min<std::int64_t>(high, points);
          ++point)
         line[static_cast<std::size_t>(point - 1)] = VolumeAverage;
-    return line;
 }
 
 void CHistVOLChart::DrawStudy()
@@ -91,7 +91,7 @@ void CHistVOLChart::DrawStudy()
     CPaneData& average = chart->PaneGroups(2).PaneData();
     if (ShowsAverage()) {
         average.SetXVector(1, volumes.X());
-        average.SetYVector(1, AverageLine(shown, dlg->Settings().Request.DataType == MinuteData ? 1 : 0));
+        WriteAverageLine(average.WholeY(1), dlg->Settings().Request.DataType == MinuteData ? 1 : 0);
         chart->PaneGroups(2).CommitPaneData();
     } else {
         average.SetPointCount(1, 0);
@@ -130,7 +130,7 @@ void CHistVOLChart::UpdateStudy(int newPoints)
     if (ShowsAverage()) {
         CPaneData& average = chart->PaneGroups(2).PaneData();
         average.SetXVector(1, volumes.X());
-        average.SetYVector(1, AverageLine(plan.Points, 0));
+        WriteAverageLine(average.WholeY(1), 0);
     }
     RefreshStudyHeader();
 }

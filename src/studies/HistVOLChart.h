@@ -47,8 +47,8 @@ protected:
 private:
     bool ShowsAverage() const { return StudySettings().ShowVolumeAverage != 0; }
     bool AveragesAllData() const { return StudySettings().VolumeAverageAllData != 0; }
-    // The average's y values for points 1 to `points`; minuteShift is taken from where it begins.
-    std::vector<double> AverageLine(int points, int minuteShift) const;
+    // The average's y values for the points from 1 on; minuteShift is taken from where it begins.
+    void WriteAverageLine(std::span<double> line, int minuteShift) const;
     std::string VolumeText(double value) const;
 };
 
