@@ -3,6 +3,7 @@
 #include "Session.h"
 
 #include <QApplication>
+#include <QHashFunctions>
 #include <QStyleFactory>
 
 #include <csignal>
@@ -20,8 +21,8 @@ void OnToolkitMessage(QtMsgType type, const QMessageLogContext& context, const Q
         std::_Exit(zantroq::ExitUsage);
     }
     // What the desktop lacks is no concern of someone who draws a chart.
-    const bool ofDesktop = QByteArray(context.category).startsWith("qt.qpa") ||
-                           message.startsWith("QStandardPaths");
+    const bool ofDesktop =
+        QByteArray(context.category).startsWith("qt.qpa") || message.startsWith("QStandardPaths");
     if (type != QtDebugMsg && type != QtInfoMsg && !ofDesktop)
         std::fprintf(stderr, "zantroq-chart: %s\n", qPrintable(message));
 }
@@ -41,6 +42,8 @@ int main(int argc, char** argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
         qunsetenv("QT_QPA_PLATFORMTHEME");
         qunsetenv("QT_STYLE_OVERRIDE");
+        // The order in which fonts go into a PDF file follows a hash.
+        QHashSeed::setDeterministicGlobalSeed();
     }
     qInstallMessageHandler(OnToolkitMessage);
     if (qEnvironmentVariableIsEmpty("QT_STYLE_OVERRIDE"))

@@ -13,6 +13,8 @@ CChartScrollBar::CChartScrollBar(QWidget* parent) : QScrollBar(Qt::Horizontal, p
     setAccessibleName("Time scroll bar");
     hide();
     connect(this, &QScrollBar::actionTriggered, this, &CChartScrollBar::OnAction);
+    connect(this, &QScrollBar::sliderMoved, this,
+            [this](int position) { OnScroll(ScrollCode::ThumbTrack, position); });
     connect(this, &QScrollBar::sliderReleased, this, &CChartScrollBar::OnReleased);
 }
 
@@ -53,9 +55,7 @@ void CChartScrollBar::SetVisible(bool visible)
 
 void CChartScrollBar::OnAction(int action)
 {
-    const int wanted = sliderPosition();
-    if (action != SliderMove)
-        setSliderPosition(m_position); // the window says where the bar goes
+    setSliderPosition(m_position); // the window says where the bar goes
     switch (action) {
     case SliderSingleStepAdd:
         OnScroll(ScrollCode::LineRight, 0);
@@ -74,9 +74,6 @@ void CChartScrollBar::OnAction(int action)
         break;
     case SliderToMaximum:
         OnScroll(ScrollCode::RightEnd, 0);
-        break;
-    case SliderMove:
-        OnScroll(ScrollCode::ThumbTrack, wanted);
         break;
     default:
         break;

@@ -13,8 +13,8 @@ void CContextMenuPopup::Open(const sContextMenu& model, int x, int y)
     if (Extend)
         Extend(*menu);
     // The menu says that it hides before it says what was picked, so the answer waits a turn of the loop.
-    QObject::connect(menu, &QMenu::aboutToHide, menu,
-                     [this] { QTimer::singleShot(0, [this] { OnPicked(m_picked); }); });
+    connect(menu, &QMenu::aboutToHide, this,
+            [this] { QTimer::singleShot(0, this, [this] { OnPicked(m_picked); }); });
     menu->popup(ToGlobal(model.Pane, x, y));
 }
 
@@ -31,8 +31,7 @@ void CContextMenuPopup::Fill(QMenu& menu, const std::vector<sMenuItem>& items)
         }
         QAction* action = menu.addAction(QString::fromStdString(item.Text));
         action->setEnabled(item.Enabled);
-        QObject::connect(action, &QAction::triggered, action,
-                         [this, command = item.Command] { m_picked = command; });
+        connect(action, &QAction::triggered, this, [this, command = item.Command] { m_picked = command; });
     }
 }
 

@@ -9,7 +9,7 @@
 
 namespace zantroq {
 
-class CContextMenuPopup : public IContextMenu
+class CContextMenuPopup : public QObject, public IContextMenu
 {
 public:
     std::function<QPoint(int pane, int x, int y)> ToGlobal; // a pixel of a pane on the screen

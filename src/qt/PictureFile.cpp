@@ -6,18 +6,6 @@
 namespace zantroq {
 namespace {
 
-// Digits and hexadecimal letters between two marks become zeros, wherever the marks stand.
-void ZeroBetween(QByteArray& text, const QByteArray& opening, const QByteArray& closing)
-{
-    for (qsizetype at = text.indexOf(opening); at >= 0; at = text.indexOf(opening, at)) {
-        at += opening.size();
-        const qsizetype end = text.indexOf(closing, at);
-        for (; at < end; ++at)
-            if (QByteArray("123456789abcdefABCDEF").contains(text[at]))
-                text[at] = '0';
-    }
-}
-
 } // namespace
 
 QString WritePictureFile(const QString& path, const QByteArray& bytes)
@@ -33,15 +21,22 @@ QString WritePictureFile(const QString& path, const QByteArray& bytes)
 
 QByteArray WithoutMoment(QByteArray pdf)
 {
-    ZeroBetween(pdf, "/CreationDate (", ")");
-    ZeroBetween(pdf, "/ID [", "]");
-    ZeroBetween(pdf, "<xmp:CreateDate>", "<");
-    ZeroBetween(pdf, "<xmp:ModifyDate>", "<");
-    ZeroBetween(pdf, "<xmp:MetadataDate>", "<");
-    ZeroBetween(pdf, "xmp:CreateDate=\"", "\"");
-    ZeroBetween(pdf, "xmp:ModifyDate=\"", "\"");
-    ZeroBetween(pdf, "xmp:MetadataDate=\"", "\"");
-    ZeroBetween(pdf, "uuid:", "\"");
+    const QByteArray mark = "/CreationDate (D:";
+    const qsizetype at = pdf.indexOf(mark);
+    if (at < 0)
+        return pdf;
+    const QByteArray moment = "20000101000000"; // a date that is one
+    const qsizetype first = at + mark.size();
+    const qsizetype end = pdf.indexOf(')', first);
+    if (end - first < moment.size())
+        return pdf;
+    pdf.replace(first, moment.size(), moment);
+    // The zone, if one follows, keeps its shape.
+    for (qsizetype place = first + moment.size(); place < end; ++place)
+        if (pdf[place] >= '0' && pdf[place] <= '9')
+            pdf[place] = '0';
+        else if (pdf[place] == '-')
+            pdf[place] = '+';
     return pdf;
 }
 

@@ -10,8 +10,8 @@ namespace zantroq {
 // path and says why not.
 QString WritePictureFile(const QString& path, const QByteArray& bytes);
 
-// A PDF file without the moment and the chance number of its making, so that the same picture has the same
-// bytes. The length of the file and the places in it stay.
+// A PDF file without the moment of its making, so that the same picture has the same bytes. The length of the
+// file and the places in it stay.
 QByteArray WithoutMoment(QByteArray pdf);
 
 } // namespace zantroq

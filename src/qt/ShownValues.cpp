@@ -35,7 +35,7 @@ std::string ShownValuesText(const CChartDlg& window)
         text += FormatTime(point.Time, format);
         for (const double number : {point.Open, point.High, point.Low, point.Close})
             AddNumber(text, number);
-        text += ',' + std::to_string(point.Volume) + '\n';
+        text += ',' + std::to_string(window.DrawManager().Volume(index)) + '\n';
     }
     return text;
 }

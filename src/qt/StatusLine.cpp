@@ -6,10 +6,24 @@
 #include <QPainter>
 #include <QToolTip>
 
+#include <algorithm>
+
 namespace zantroq {
 namespace {
 
 constexpr int Padding = 6;
+constexpr int Narrowest = 62; // percent of a letter's width
+
+// The two narrow parts squeeze their letters before they cut.
+QFont FittingFont(const QFont& font, const QString& text, int width)
+{
+    const int wanted = QFontMetrics(font).horizontalAdvance(text);
+    if (wanted <= width || width <= 0)
+        return font;
+    QFont squeezed = font;
+    squeezed.setStretch(std::max(Narrowest, 100 * width / wanted - 1));
+    return squeezed;
+}
 
 } // namespace
 
@@ -48,10 +62,13 @@ void CStatusLine::paintEvent(QPaintEvent*)
         const QRect room = PartRect(part, width());
         if (part > 0)
             painter.fillRect(room.left(), 4, 1, LineHeight - 7, line);
-        const QRect inner = room.adjusted(Padding, 1, -Padding, 0);
+        const int padding = part == 0 ? Padding : Padding / 2;
+        const QRect inner = room.adjusted(padding, 1, -padding, 0);
         const QString& text = m_texts[static_cast<std::size_t>(part)];
+        const QFont shown = part == 0 ? font() : FittingFont(font(), text, inner.width());
+        painter.setFont(shown);
         painter.drawText(inner, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
-                         fontMetrics().elidedText(text, Qt::ElideRight, inner.width()));
+                         QFontMetrics(shown).elidedText(text, Qt::ElideRight, inner.width()));
     }
 }
 

@@ -1,0 +1,249 @@
+// The control with a real chart window and a real feed behind it.
+#include "qt/ChartFixture.h"
+
+#include <QLineEdit>
+#include <QMenu>
+#include <QWheelEvent>
+
+namespace zantroq::test {
+namespace {
+
+class CChartCtrlTest : public CChartFixture
+{
+protected:
+    int First() { return Window().Range().first; }
+    void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(&View(), key, modifiers); }
+    void Wheel(int turn, Qt::KeyboardModifiers modifiers = {})
+    {
+        QWheelEvent event(QPointF(100, 100), QPointF(100, 100), QPoint(), QPoint(0, turn), Qt::NoButton,
+                          modifiers, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&View(), &event);
+    }
+    void Show()
+    {
+        m_chart->show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(m_chart.get()));
+    }
+};
+
+QMenu* OpenPopup()
+{
+    return qobject_cast<QMenu*>(QApplication::activePopupWidget());
+}
+
+} // namespace
+
+TEST_F(CChartCtrlTest, ASymbolBecomesAChart)
+{
+    EXPECT_EQ(View().Status().Part(0), "Ready...");
+    Draw();
+    EXPECT_EQ(m_chart->windowTitle(), "TEST - Chart");
+    EXPECT_EQ(View().Bars().Symbol().Text(), "TEST");
+    EXPECT_EQ(m_chart->StockSymbol(), "TEST");
+    EXPECT_EQ(Window().Pane(0).PaneGroups(1).PaneData().PointY(1, 30), Days + 2) << "the last high";
+}
+
+TEST_F(CChartCtrlTest, BarsAndPanesFillTheClientArea)
+{
+    Draw();
+    EXPECT_EQ(View().size(), QSize(700, 500));
+    EXPECT_EQ(View().Status().geometry(), QRect(0, 480, 700, 20));
+    EXPECT_EQ(View().Scroll().geometry(), QRect(0, 465, 700, 15));
+    EXPECT_EQ(View().Pane(0)->geometry().top(), 34);
+    EXPECT_EQ(View().Pane(0)->width(), 700);
+    m_chart->SetClientSize({500, 400});
+    EXPECT_EQ(View().Status().geometry(), QRect(0, 380, 500, 20));
+    EXPECT_EQ(View().Pane(0)->geometry().top(), 66) << "two rows of bars";
+}
+
+TEST_F(CChartCtrlTest, ArrowPageHomeAndEndKeysScroll)
+{
+    Draw();
+    Key(Qt::Key_Left);
+    Key(Qt::Key_Left);
+    EXPECT_EQ(First(), 69);
+    Key(Qt::Key_Right);
+    Key(Qt::Key_Right);
+    EXPECT_EQ(First(), 70);
+    Key(Qt::Key_PageUp);
+    EXPECT_EQ(First(), 41);
+    Key(Qt::Key_PageDown);
+    EXPECT_EQ(First(), 70);
+    Key(Qt::Key_Home);
+    EXPECT_EQ(First(), 0);
+    Key(Qt::Key_End);
+    EXPECT_EQ(First(), 70);
+}
+
+TEST_F(CChartCtrlTest, ANotchOfTheWheelIsThreeLineSteps)
+{
+    Draw();
+    Wheel(120);
+    EXPECT_EQ(First(), 68);
+    Wheel(60);
+    EXPECT_EQ(First(), 68) << "half a notch waits for the other half";
+    Wheel(60);
+    EXPECT_EQ(First(), 65);
+    Wheel(-240);
+    EXPECT_EQ(First(), 70);
+}
+
+TEST_F(CChartCtrlTest, ControlWithPlusMinusOrTheWheelZooms)
+{
+    Draw();
+    Key(Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_EQ(Window().Range().shown, 60);
+    Key(Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_EQ(Window().Range().shown, 30);
+    Key(Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_EQ(Window().Range().shown, 30) << "zoom in is disabled here";
+    Wheel(-120, Qt::ControlModifier);
+    EXPECT_EQ(Window().Range().shown, 60);
+    Wheel(120, Qt::ControlModifier);
+    EXPECT_EQ(Window().Range().shown, 30);
+}
+
+TEST_F(CChartCtrlTest, AHostCanSwitchTheConveniencesOff)
+{
+    Draw();
+    m_chart->SetConveniences(false);
+    const int first = First();
+    Key(Qt::Key_Left);
+    Wheel(120);
+    Key(Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_EQ(First(), first);
+    EXPECT_EQ(Window().Range().shown, 30);
+}
+
+TEST_F(CChartCtrlTest, ACharacterTypedOverAPaneStartsASymbol)
+{
+    Draw();
+    Show();
+    QTest::keyClick(View().Pane(0), 'g');
+    EXPECT_EQ(View().Bars().Symbol().Text(), "G");
+    EXPECT_TRUE(View().Bars().Symbol().lineEdit()->hasFocus() || View().Bars().Symbol().hasFocus());
+    QTest::keyClicks(View().Bars().Symbol().lineEdit(), "oog");
+    EXPECT_EQ(View().Bars().Symbol().Text(), "GOOG");
+}
+
+TEST_F(CChartCtrlTest, EnterInTheSymbolBoxDraws)
+{
+    Draw();
+    QTest::keyClicks(View().Bars().Symbol().lineEdit(), "");
+    QTest::keyClick(View().Bars().Symbol().lineEdit(), Qt::Key_Return);
+    EXPECT_EQ(Window().Loading(), 1);
+    EXPECT_TRUE(PumpUntil([this] { return Window().CompleteAndDrawn(); }));
+}
+
+TEST_F(CChartCtrlTest, EnterOnAnEmptyBoxDoesNothingAndTheCommandSaysWhy)
+{
+    QTest::keyClick(View().Bars().Symbol().lineEdit(), Qt::Key_Return);
+    EXPECT_TRUE(Window().AskedBoxes().empty());
+    EXPECT_EQ(Window().Loading(), 0);
+    Window().OnCommand(CommandDrawChart);
+    ASSERT_EQ(Window().AskedBoxes().size(), 1u);
+    EXPECT_EQ(Window().AskedBoxes()[0].Text, "Empty Symbol is not allowed");
+    EXPECT_EQ(Window().AskedBoxes()[0].Caption, "Warning");
+}
+
+TEST_F(CChartCtrlTest, TheScrollBarRestsWhileAChartLoads)
+{
+    Draw();
+    m_chart->SetStockSymbol("NOSUCH");
+    EXPECT_EQ(Window().Loading(), 1);
+    EXPECT_FALSE(View().Scroll().isEnabledTo(&View()));
+    const int first = First();
+    Key(Qt::Key_Left);
+    EXPECT_EQ(First(), first);
+}
+
+TEST_F(CChartCtrlTest, MouseOverABarMovesTheMarker)
+{
+    Draw();
+    Show();
+    QTest::mouseMove(View().Pane(0), QPoint(View().Pane(0)->width() / 2, View().Pane(0)->height() / 2));
+    EXPECT_TRUE(PumpUntil([this] { return Window().SelectedPoint() > 0; }, 2000));
+}
+
+TEST_F(CChartCtrlTest, ABorderTakesTheSplitCursorAndADragMovesIt)
+{
+    Draw();
+    Show();
+    ASSERT_GE(Window().ShownPanes(), 2);
+    CPaneWidget* upper = View().Pane(0);
+    const int before = upper->height();
+    const QPoint border(200, before - 1);
+    QTest::mouseMove(upper, border);
+    ASSERT_TRUE(PumpUntil([&] { return upper->cursor().shape() == Qt::SplitVCursor; }, 2000));
+    QTest::mousePress(upper, Qt::LeftButton, {}, border);
+    QTest::mouseMove(upper, border - QPoint(0, 40));
+    QTest::mouseRelease(upper, Qt::LeftButton, {}, border - QPoint(0, 40));
+    EXPECT_EQ(upper->height(), before - 41);
+    EXPECT_EQ(View().Pane(1)->y(), upper->geometry().bottom() + 1);
+}
+
+TEST_F(CChartCtrlTest, TheMenuKeyOpensTheMenuOfThePane)
+{
+    Draw();
+    Show();
+    Key(Qt::Key_F10);
+    QMenu* menu = OpenPopup();
+    ASSERT_NE(menu, nullptr);
+    QStringList texts;
+    for (const QAction* action : menu->actions())
+        if (!action->isSeparator())
+            texts << action->text();
+    EXPECT_EQ(texts, QStringList({"Draw Trendlines", "Delete Trendline..", "Delete All Trendlines",
+                                  "Restore Ticks", "Restore Bars", "Maximize", "Minimize", "Restore",
+                                  "Copy picture", "Save picture..."}));
+    QAction* maximize = menu->actions().at(7);
+    for (QAction* action : menu->actions())
+        if (action->text() == "Maximize")
+            maximize = action;
+    menu->setActiveAction(maximize);
+    QTest::keyClick(menu, Qt::Key_Return);
+    EXPECT_TRUE(PumpUntil([this] { return Window().IsCollapsed(1); }, 2000));
+    EXPECT_FALSE(Window().OpenMenu().has_value());
+}
+
+TEST_F(CChartCtrlTest, AMenuClosedWithoutAPickIsForgotten)
+{
+    Draw();
+    Show();
+    Key(Qt::Key_Menu);
+    ASSERT_NE(OpenPopup(), nullptr);
+    EXPECT_TRUE(Window().OpenMenu().has_value());
+    OpenPopup()->close();
+    EXPECT_TRUE(PumpUntil([this] { return !Window().OpenMenu().has_value(); }, 2000));
+}
+
+TEST_F(CChartCtrlTest, TheMenuOfAHostWithoutConveniencesHasNoPictureItems)
+{
+    Draw();
+    m_chart->SetConveniences(false);
+    Show();
+    Window().OpenPaneMenu(0, 10, 10);
+    QMenu* menu = OpenPopup();
+    ASSERT_NE(menu, nullptr);
+    EXPECT_EQ(menu->actions().last()->text(), "Restore");
+    menu->close();
+}
+
+TEST_F(CChartCtrlTest, TwoControlsShareOneWorkerAndTheSecondLivesOn)
+{
+    Draw();
+    auto first = std::move(m_chart);
+    MakeChart();
+    first.reset();
+    Draw();
+}
+
+TEST_F(CChartCtrlTest, AControlMayGoWhileItsChartLoads)
+{
+    m_chart->SetStockSymbol("TEST");
+    m_chart.reset();
+    MakeChart();
+    Draw();
+}
+
+} // namespace zantroq::test
