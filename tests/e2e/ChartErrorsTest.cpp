@@ -1,0 +1,132 @@
+// Every way in which zantroq-chart refuses or fails: the exit code, and one sentence with what was wrong, the
+// value and what to do.
+#include "Programs.h"
+
+namespace zantroq::test {
+namespace {
+
+class ChartErrors : public CProgramsWithFeed
+{
+protected:
+    void Refused(const QStringList& words, const std::string& sentence)
+    {
+        const sRun run = Chart(words);
+        EXPECT_EQ(run.ExitCode, 2) << words.join(' ').toStdString();
+        EXPECT_EQ(run.Err, "zantroq-chart: " + sentence + "\n");
+        EXPECT_EQ(run.Out, "");
+    }
+};
+
+} // namespace
+
+TEST_F(ChartErrors, HelpAndVersionGoToStandardOutput)
+{
+    const sRun help = Chart({"--help"});
+    EXPECT_EQ(help.ExitCode, 0);
+    EXPECT_EQ(help.Err, "");
+    for (const char* option : {"--data", "--interval", "--size", "--feed", "--snapshot", "--settle",
+                               "--timeout", "--replay", "--show", "--version"})
+        EXPECT_NE(help.Out.find(option), std::string::npos) << option;
+    EXPECT_EQ(Chart({"--version"}).Out.rfind("zantroq-chart ", 0), 0u);
+}
+
+TEST_F(ChartErrors, WrongValuesAreNamed)
+{
+    Refused({"--interval", "7", "GOOG"},
+            "--interval 7: not offered; use 1, 2, 3, 4, 5, 10, 15, 30, 45, 60 or 120");
+    Refused({"--data", "hourly", "GOOG"},
+            "--data hourly: not a data type; use tick, minute, daily, weekly or monthly");
+    for (const QString size : {"900", "0x5", "9x", "x9", "-1x5", "20000x5", "9x9x9"})
+        Refused({"--size", size, "GOOG"},
+                "--size " + size.toStdString() +
+                    ": not a size; use WIDTHxHEIGHT in pixels, such as 900x700, at most 16384 each");
+    Refused({"--feed", "remote", "GOOG"},
+            "--feed remote: not a feed; use system, embedded or embedded:FOLDER");
+    Refused({"--feed", "embedded:/no/such", "GOOG"},
+            "--feed embedded:/no/such: the part behind the colon is not a folder; name one with recordings");
+    Refused({"--snapshot", "a.bmp", "GOOG"},
+            "--snapshot a.bmp: the ending is not known; use .png, .svg, .pdf or .json");
+    Refused({"--snapshot", "a.png", "--settle", "soon", "GOOG"},
+            "--settle soon: not a time; use a number of milliseconds from 0 on, at most a day");
+    Refused({"--snapshot", "a.png", "--timeout", "-1", "GOOG"},
+            "--timeout -1: not a time; use a number of seconds from 0 on, at most a day");
+}
+
+TEST_F(ChartErrors, OptionsThatDoNotGoTogetherAreNamed)
+{
+    Refused({"--snapshot", "a.png"}, "--snapshot a.png: no symbol was given; name one behind the options");
+    Refused({"--snapshot", "a.png", "A,B"}, "A,B: symbols cannot contain any commas; name one symbol");
+    Refused({"--settle", "5", "GOOG"}, "--settle: goes with --snapshot FILE alone; leave it out or add that");
+    Refused({"--timeout", "5", "GOOG"},
+            "--timeout: goes with --snapshot FILE alone; leave it out or add that");
+    Refused({"--show", "GOOG"},
+            "--show: goes with --replay FILE alone; without --snapshot a window opens anyway");
+}
+
+TEST_F(ChartErrors, UnknownOptionsAndWordsPointToTheHelp)
+{
+    for (const QStringList& words :
+         {QStringList{"--colour"}, QStringList{"GOOG", "MSFT"}, QStringList{"--data"}}) {
+        const sRun run = Chart(words);
+        EXPECT_EQ(run.ExitCode, 2);
+        EXPECT_NE(run.Err.find("see zantroq-chart --help"), std::string::npos) << run.Err;
+    }
+}
+
+TEST_F(ChartErrors, AFeedThatIsNotThereEndsWithExitThree)
+{
+    SetPorts("1", "1");
+    const sRun run = Chart({"GOOG", "--snapshot", "a.png", "--timeout", "0.5"});
+    EXPECT_EQ(run.ExitCode, 3);
+    EXPECT_EQ(run.Err,
+              "zantroq-chart: GOOG: the feed gave no complete reply in time (0.5 s); start zantroq-feed, "
+              "try --feed embedded, or give --timeout more\n");
+    EXPECT_TRUE(Bytes("a.png").isEmpty());
+}
+
+TEST_F(ChartErrors, ASymbolThatTheFeedDoesNotKnowEndsWithExitThree)
+{
+    const sRun run = Chart({"NOSUCH", "--feed", "embedded", "--snapshot", "a.png", "--timeout", "1"});
+    EXPECT_EQ(run.ExitCode, 3);
+    EXPECT_NE(run.Err.find("NOSUCH: the feed gave no complete reply in time (1 s)"), std::string::npos)
+        << run.Err;
+}
+
+TEST_F(ChartErrors, AFileThatCannotBeWrittenEndsWithExitFour)
+{
+    for (const QString name : {"no/such/a.png", "no/such/a.svg", "no/such/a.pdf", "no/such/a.json"}) {
+        const sRun run = Chart({"GOOG", "--data", "daily", "--feed", "embedded", "--snapshot", name});
+        EXPECT_EQ(run.ExitCode, 4);
+        EXPECT_EQ(
+            run.Err.rfind("zantroq-chart: --snapshot " + name.toStdString() + ": cannot be written (", 0), 0u)
+            << run.Err;
+    }
+}
+
+TEST_F(ChartErrors, AWindowWithoutADisplayIsRefused)
+{
+    const std::string sentence =
+        "no window can be opened on this display; set DISPLAY, or give --snapshot FILE to "
+        "draw a picture without one";
+    Refused({"GOOG"}, sentence);
+    QProcessEnvironment broken = Environment();
+    broken.insert("DISPLAY", ":9999");
+    const sRun run = Run(ZANTROQ_CHART, {"GOOG"}, broken);
+    EXPECT_EQ(run.ExitCode, 2);
+    EXPECT_EQ(run.Err, "zantroq-chart: " + sentence + "\n");
+}
+
+TEST_F(ChartErrors, ASnapshotMindsNoBrokenDisplay)
+{
+    QProcessEnvironment broken = Environment();
+    broken.insert("DISPLAY", ":9999");
+    broken.insert("QT_QPA_PLATFORM", "xcb");
+    broken.insert("QT_QPA_PLATFORMTHEME", "gtk3");
+    const sRun run =
+        Run(ZANTROQ_CHART, {"GOOG", "--data", "daily", "--feed", "embedded", "--snapshot", "a.png"}, broken);
+    EXPECT_EQ(run.ExitCode, 0) << run.Err;
+    EXPECT_EQ(run.Err, "");
+    EXPECT_FALSE(Bytes("a.png").isEmpty());
+}
+
+} // namespace zantroq::test
