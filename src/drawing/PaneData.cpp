@@ -9,6 +9,22 @@ namespace {
 
 constexpr std::size_t KeptChanges = 8;
 
+// In blocks without an exit inside, which the compiler compares several numbers at a time.
+template <class T>
+bool SameNumbers(const double* held, const T* given, std::size_t count)
+{
+    constexpr std::size_t block = 512;
+    for (std::size_t from = 0; from < count; from += block) {
+        const std::size_t to = std::min(from + block, count);
+        int different = 0;
+        for (std::size_t i = from; i < to; ++i)
+            different |= held[i] != static_cast<double>(given[i]);
+        if (different)
+            return false;
+    }
+    return true;
+}
+
 } // namespace
 
 void CPaneData::NoteWhole()
@@ -198,7 +214,7 @@ bool CPaneData::SetXVector(int series, std::span<const double> x)
 {
     if (!Has(series) || x.size() < m_x.size())
         return false;
-    if (std::equal(m_x.begin(), m_x.end(), x.begin()))
+    if (SameNumbers(m_x.data(), x.data(), m_x.size()))
         return true;
     std::copy_n(x.begin(), m_x.size(), m_x.begin());
     m_ascending = -1;
@@ -210,7 +226,7 @@ bool CPaneData::SetXVector(int series, std::span<const int> x)
 {
     if (!Has(series) || x.size() < m_x.size())
         return false;
-    if (std::equal(m_x.begin(), m_x.end(), x.begin()))
+    if (SameNumbers(m_x.data(), x.data(), m_x.size()))
         return true;
     std::copy_n(x.begin(), m_x.size(), m_x.begin());
     m_ascending = -1;
