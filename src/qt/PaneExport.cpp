@@ -14,7 +14,7 @@ bool CPrintPage::PaintPane(const CChart2D& pane, int left, int top, int width, i
 {
     if (!m_painter.isActive())
         return false;
-    CPanePainter(pane).PaintInto(m_painter, QRectF(left, top, width, height));
+    CPanePainter(pane, m_family).PaintInto(m_painter, QRectF(left, top, width, height));
     return true;
 }
 

@@ -10,15 +10,18 @@ class QPainter;
 namespace zantroq {
 
 // The page of a print job, or any other painter, as CChart2D::DrawToDevice wants it. The painter is not
-// owned.
+// owned. The family is the panes' text, empty for the usual one.
 class CPrintPage : public IPrintDevice
 {
 public:
-    explicit CPrintPage(QPainter& painter) : m_painter(painter) {}
+    explicit CPrintPage(QPainter& painter, const QString& family = {}) : m_painter(painter), m_family(family)
+    {
+    }
     bool PaintPane(const CChart2D& pane, int left, int top, int width, int height) override;
 
 private:
     QPainter& m_painter;
+    QString m_family;
 };
 
 // Writes a picture of the pane by the ending of the path: .png (at the ratio), .svg, .pdf or .json. False,
