@@ -41,6 +41,11 @@ int CHeadingFont::Ascent() const
     return qRound(QFontMetricsF(m_font).ascent());
 }
 
+int CHeadingFont::LineHeight() const
+{
+    return qRound(QFontMetricsF(m_font).height());
+}
+
 CPageJob::CPageJob(QPagedPaintDevice& device, int copies, CopiesTo to, const sPrintFonts& fonts)
     : m_device(device), m_copies(copies), m_to(to), m_page(m_painter, fonts.Panes), m_font(fonts.Heading)
 {
@@ -77,6 +82,9 @@ void CPageJob::DrawHeading(const sHeading& heading)
                     m_device.logicalDpiY() / double(HeadingUnitsPerInch));
     m_painter.setFont(m_font.Font());
     m_painter.setPen(Qt::black);
+    // A picture as high as the page may have a dark title there.
+    const int room = HeadingFontHeight / 2;
+    m_painter.fillRect(heading.Left - room, 0, heading.Width + 2 * room, m_font.LineHeight(), Qt::white);
     for (const sHeadingRun& run : heading.Runs)
         m_painter.drawText(run.Left, m_font.Ascent(), Text(run.Text));
     m_painter.restore();

@@ -25,6 +25,7 @@ public:
     int Width(std::string_view text) const override;
     int AverageWidth() const override;
     int Ascent() const;
+    int LineHeight() const;
     const QFont& Font() const { return m_font; }
 
 private:
