@@ -7,11 +7,13 @@
 #include "window/PrintedChart.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
 #include <QPrintDialog>
 #include <QProcess>
+#include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -254,6 +256,44 @@ TEST(PrintedPage, ACancelledDialogOnlyReturnsTheFocus)
     EXPECT_TRUE(asked);
     EXPECT_TRUE(chart.Fixture.Desktop.Status.Said.empty());
     EXPECT_EQ(window.focusWidget(), &box);
+}
+
+// The dialog's own fields are found by what they are, as a person finds them.
+TEST(PrintedPage, TheDialogPrintsAsManyCopiesAsAskedIntoTheFileChosenThere)
+{
+    sDarkChart chart(620, 460);
+    chart.Fixture.Desktop.Status.Said.clear();
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("chosen.pdf");
+    QWidget window;
+    QTimer answer;
+    answer.setInterval(20);
+    int copiesAtFirst = 0;
+    QObject::connect(&answer, &QTimer::timeout, &window, [&] {
+        auto* const dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+        if (dialog == nullptr)
+            return;
+        auto* const printers = dialog->findChild<QComboBox*>("printers");
+        auto* const file = dialog->findChild<QLineEdit*>("filename");
+        auto* const copies = dialog->findChild<QSpinBox*>("copies");
+        ASSERT_NE(printers, nullptr);
+        ASSERT_NE(file, nullptr);
+        ASSERT_NE(copies, nullptr);
+        printers->setCurrentIndex(printers->count() - 1); // print to a file
+        file->setText(path);
+        copiesAtFirst = copies->value();
+        copies->setEnabled(true);
+        copies->setValue(3);
+        dialog->accept();
+    });
+    answer.start();
+    PrintWithDialog(chart.Window(), &window);
+    EXPECT_EQ(copiesAtFirst, 1);
+    EXPECT_EQ(chart.Fixture.Desktop.Status.Said,
+              (std::vector<std::string>{"Loading...", "Print ...", "Ready"}));
+    QFile written(path);
+    ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+    EXPECT_EQ(written.readAll().count("/Type /Page\n"), 3);
 }
 
 } // namespace
