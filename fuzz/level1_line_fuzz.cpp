@@ -1,5 +1,5 @@
-// Lines of any kind into the level 1 road, for one watched symbol "A" whose chart has a bar already. The first byte chooses the
-// request's kind and switches.
+// Lines of any kind into the level 1 road, for one watched symbol "A" whose chart has a bar already. The
+// first byte chooses the request's kind and switches.
 #include "market/Level1Stream.h"
 
 #include <stdexcept>

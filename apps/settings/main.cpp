@@ -92,7 +92,8 @@ int main(int argc, char** argv)
     } catch (const CLI::ParseError& error) {
         const auto unknown = app.remaining();
         if (app.get_subcommands().empty() && !unknown.empty())
-            Complain("\"" + unknown.front() + "\" is no subcommand; use list, get, set, delete, export, import or reset");
+            Complain("\"" + unknown.front() +
+                     "\" is no subcommand; use list, get, set, delete, export, import or reset");
         else
             Complain(std::string(error.what()) + "; see zantroq-settings --help");
         return ExitUsage;

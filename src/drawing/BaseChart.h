@@ -1,5 +1,5 @@
-// What a price pane and a study pane have in common: the window they belong to and the scene they draw on. Chart window's
-// thread.
+// What a price pane and a study pane have in common: the window they belong to and the scene they draw on.
+// Chart window's thread.
 #pragma once
 
 #include "drawing/ChartWindow.h"
@@ -28,17 +28,17 @@ public:
     virtual double GetValue(int index) const { return GetClose(index); } // the price a study works on
     virtual std::int64_t GetVolume(int index) const = 0;
     virtual int GetPointCount() const = 0;
-    virtual void DrawStudy() = 0;                    // the whole displayed range
-    virtual void UpdateStudy(int newPoints) = 0;     // append live points
+    virtual void DrawStudy() = 0;                     // the whole displayed range
+    virtual void UpdateStudy(int newPoints) = 0;      // append live points
     virtual std::string GetStudyInfoText() const = 0; // the pane's header
-    virtual void AdjustStudyBars() {}                // fits bar widths after a zoom or resize
+    virtual void AdjustStudyBars() {}                 // fits bar widths after a zoom or resize
 
     // Writes GetStudyInfoText into the pane's header, its label 1.
     virtual void RefreshStudyHeader() = 0;
 
-    int kind = 0;      // a StudyKind
-    int pane = 0;      // 1 to 10: the pane's place in the window
-    bool collapsed = false; // shows only its title
+    int kind = 0;                         // a StudyKind
+    int pane = 0;                         // 1 to 10: the pane's place in the window
+    bool collapsed = false;               // shows only its title
     const IPriceSource* prices = nullptr; // not owned
 };
 

@@ -1,5 +1,5 @@
-// What panes, studies and trendlines ask of their chart window. Everything here is the window's own state; the interface keeps
-// the drawing side free of the window. Chart window's thread.
+// What panes, studies and trendlines ask of their chart window. Everything here is the window's own state;
+// the interface keeps the drawing side free of the window. Chart window's thread.
 #pragma once
 
 #include "drawing/Chart2D.h"
@@ -91,9 +91,10 @@ class ITrendLayer
 {
 public:
     virtual ~ITrendLayer() = default;
-    virtual int SeriesCount() const = 0;   // the last series number taken in group 2 of the price pane, at least 3
-    virtual int LabelCount() const = 0;    // labels in use on the price pane, at least 9
-    virtual void DrawAll() = 0;            // every line, list by list
+    virtual int
+    SeriesCount() const = 0; // the last series number taken in group 2 of the price pane, at least 3
+    virtual int LabelCount() const = 0; // labels in use on the price pane, at least 9
+    virtual void DrawAll() = 0;         // every line, list by list
 };
 
 } // namespace zantroq

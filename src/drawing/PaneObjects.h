@@ -519,8 +519,8 @@ public:
     bool SetXVector(int series, std::span<const int> x);
     bool SetYVector(int series, std::span<const double> y);
     bool GetXVector(int series, std::vector<double>& x) const;
-    // The y values of a series for who writes all of them in place, which saves a copy of what may be long. Inside a batch,
-    // or with CommitPaneData behind it. Empty for a number out of range.
+    // The y values of a series for who writes all of them in place, which saves a copy of what may be long.
+    // Inside a batch, or with CommitPaneData behind it. Empty for a number out of range.
     std::span<double> WholeY(int series);
     // A bulk load without a copy: the room of all PointCount values of a series, for the caller to write at
     // once and then to commit with CommitPaneData. Good until a count changes; empty for an unknown series.

@@ -1,6 +1,6 @@
-// The numbers of one vector of a pane. A live chart drops points at the left for each one that it takes in at the right; here
-// that costs the points dropped and not those that stay, save that once in a while, after an eighth of the array's length has
-// gone by, the array moves back to the front of its memory.
+// The numbers of one vector of a pane. A live chart drops points at the left for each one that it takes in at
+// the right; here that costs the points dropped and not those that stay, save that once in a while, after an
+// eighth of the array's length has gone by, the array moves back to the front of its memory.
 #pragma once
 
 #include <algorithm>
@@ -34,8 +34,8 @@ public:
         m_begin = 0;
     }
 
-    // Copies the `count` values that begin at `from` to the beginning; what lies behind them stays as it is. from + count is
-    // at most size().
+    // Copies the `count` values that begin at `from` to the beginning; what lies behind them stays as it is.
+    // from + count is at most size().
     void MoveToFront(std::size_t count, std::size_t from)
     {
         const std::size_t had = size();

@@ -31,8 +31,8 @@ bool ParsePrice(std::string_view text, sPRICE& price);
 double PriceValue(sPRICE price);
 bool IsBelow(sPRICE a, sPRICE b);
 
-// The same value with that many decimals, rounded half away from zero where digits go. A price too large for so many keeps as
-// many as fit.
+// The same value with that many decimals, rounded half away from zero where digits go. A price too large for
+// so many keeps as many as fit.
 sPRICE WithDecimals(sPRICE price, unsigned decimals);
 
 // Writes the price at `at`, at most 24 characters without a terminating zero, and returns the end.

@@ -58,10 +58,8 @@ void CLevel1Session::Watch(std::string_view symbol, TClock::time_point now, std:
     auto watch = m_watches.find(symbol);
     if (watch == m_watches.end()) {
         const LiveManner manner = MannerOf(*market);
-        watch = m_watches
-                    .try_emplace(std::string(symbol),
-                                 CLiveTrades(*market, UpperCase(symbol), m_catalog.Seed(), manner))
-                    .first;
+        CLiveTrades trades(*market, UpperCase(symbol), m_catalog.Seed(), manner);
+        watch = m_watches.try_emplace(std::string(symbol), sWATCH{std::move(trades), 0, {}}).first;
         sWATCH& made = watch->second;
         made.Start = now;
         // The first trade comes a moment after the watch, however long the market was closed.

@@ -1,5 +1,6 @@
-// One history request: its parameters, the series that its replies fill, and its state. The chart window's thread fills the
-// parameters and reads the series; the worker thread appends to it and amends it. DataLock stands between the two.
+// One history request: its parameters, the series that its replies fill, and its state. The chart window's
+// thread fills the parameters and reads the series; the worker thread appends to it and amends it. DataLock
+// stands between the two.
 #pragma once
 
 #include "market/ConditionArray.h"
@@ -15,10 +16,26 @@
 namespace zantroq {
 
 // Numbers of the series arrays. 0 and 1 are two names of the time array.
-enum SeriesField : int {
-    FieldTime = 0, FieldTimeAlias = 1, FieldOpen = 2, FieldHigh = 3, FieldLow = 4, FieldClose = 5, FieldLast = 6, FieldBid = 7,
-    FieldBidSize = 8, FieldAsk = 9, FieldAskSize = 10, FieldOpenInterest = 11, FieldSize = 12, FieldTotalVolume = 13,
-    FieldTickId = 14, FieldBasis = 15, FieldConditions = 16, FieldCount = 17
+enum SeriesField : int
+{
+    FieldTime = 0,
+    FieldTimeAlias = 1,
+    FieldOpen = 2,
+    FieldHigh = 3,
+    FieldLow = 4,
+    FieldClose = 5,
+    FieldLast = 6,
+    FieldBid = 7,
+    FieldBidSize = 8,
+    FieldAsk = 9,
+    FieldAskSize = 10,
+    FieldOpenInterest = 11,
+    FieldSize = 12,
+    FieldTotalVolume = 13,
+    FieldTickId = 14,
+    FieldBasis = 15,
+    FieldConditions = 16,
+    FieldCount = 17
 };
 
 class CChartHistRequest
@@ -29,11 +46,12 @@ public:
     CChartHistRequest(const CChartHistRequest&) = delete;
     CChartHistRequest& operator=(const CChartHistRequest&) = delete;
 
-    // The number that stands for this request on the wire: 1 to 2147483647, never used twice in a process. A reply can
-    // find the request by it once a command has gone out (RequestTable.h).
+    // The number that stands for this request on the wire: 1 to 2147483647, never used twice in a process. A
+    // reply can find the request by it once a command has gone out (RequestTable.h).
     std::int32_t Handle() const { return m_handle; }
 
-    // Parameters. Setters take the lock; getters return copies and take none, so they belong to the window's thread.
+    // Parameters. Setters take the lock; getters return copies and take none, so they belong to the window's
+    // thread.
     void SetSymbol(std::string symbol);
     void SetDatapoints(std::int32_t count);
     void SetIntervalSeconds(std::int32_t seconds);
@@ -74,12 +92,14 @@ public:
     bool HasExtendedTrades() const;
 
     // The series. Every operation takes the lock for itself unless it says otherwise.
-    void AppendPoint(const sHIST_POINT& point);            // dropped when outside the request's date and time bounds
-    void UpdatePoint(int index, const sHIST_POINT& point); // std::invalid_argument outside the series; no range check
-    void GetPoint(int index, sHIST_POINT& point) const;    // index clamped; std::invalid_argument on an empty series
+    void AppendPoint(const sHIST_POINT& point); // dropped when outside the request's date and time bounds
+    void UpdatePoint(int index,
+                     const sHIST_POINT& point); // std::invalid_argument outside the series; no range check
+    void GetPoint(int index,
+                  sHIST_POINT& point) const; // index clamped; std::invalid_argument on an empty series
     void GetChartPoint(int index, sHIST_DATA& point) const;
-    int GetCount(int field) const;     // std::invalid_argument for a field outside 0 to 16
-    int GetLastIndex(int field) const; // GetCount - 1
+    int GetCount(int field) const;                   // std::invalid_argument for a field outside 0 to 16
+    int GetLastIndex(int field) const;               // GetCount - 1
     sTIME_W_MILLISECONDS GetTimeAt(int index) const; // outside: 1 January 1980 12:00:00
     double GetLastAt(int index) const;               // this and the following: 0 outside
     std::int32_t GetSizeAt(int index) const;
@@ -93,15 +113,15 @@ public:
     void ResetSeries();
     void ClearSeries(); // all arrays to length 0; closes the race with an appending worker by taking the lock
 
-    // Bulk reads: as many as exist of `count` elements from `first`, copied under one lock. Return how many were copied;
-    // a negative first or an empty overlap copies nothing. CopyDoubles takes fields 2 to 7 and 9; CopyIntegers fields 8, 10
-    // to 14 (widened with their sign); CopyTimes field 0.
+    // Bulk reads: as many as exist of `count` elements from `first`, copied under one lock. Return how many
+    // were copied; a negative first or an empty overlap copies nothing. CopyDoubles takes fields 2 to 7 and
+    // 9; CopyIntegers fields 8, 10 to 14 (widened with their sign); CopyTimes field 0.
     int CopyDoubles(int field, int first, int count, double* out) const;
     int CopyIntegers(int field, int first, int count, std::int64_t* out) const;
     int CopyTimes(int first, int count, sTIME_W_MILLISECONDS* out) const;
 
-    // Whether live trades may extend or amend this series: a request that is bounded at its end takes none, nor do weekly and
-    // monthly ones. Reads the parameters under the lock, so it may be asked on the worker.
+    // Whether live trades may extend or amend this series: a request that is bounded at its end takes none,
+    // nor do weekly and monthly ones. Reads the parameters under the lock, so it may be asked on the worker.
     bool AcceptsUpdates() const;
 
 private:
@@ -135,8 +155,9 @@ private:
     mutable CLock DataLock;
 
     CGrowableArray<sTIME_W_MILLISECONDS> m_time GUARDED_BY(DataLock);
-    CGrowableArray<double> m_open GUARDED_BY(DataLock), m_high GUARDED_BY(DataLock), m_low GUARDED_BY(DataLock),
-        m_close GUARDED_BY(DataLock), m_last GUARDED_BY(DataLock), m_bid GUARDED_BY(DataLock), m_ask GUARDED_BY(DataLock);
+    CGrowableArray<double> m_open GUARDED_BY(DataLock), m_high GUARDED_BY(DataLock),
+        m_low GUARDED_BY(DataLock), m_close GUARDED_BY(DataLock), m_last GUARDED_BY(DataLock),
+        m_bid GUARDED_BY(DataLock), m_ask GUARDED_BY(DataLock);
     CGrowableArray<std::int32_t> m_bidSize GUARDED_BY(DataLock), m_askSize GUARDED_BY(DataLock),
         m_openInterest GUARDED_BY(DataLock), m_size GUARDED_BY(DataLock), m_tickId GUARDED_BY(DataLock);
     CGrowableArray<std::int64_t> m_totalVolume GUARDED_BY(DataLock);

@@ -9,7 +9,8 @@
 namespace zantroq {
 
 // The request kinds; the number is also the first digit of the request identifier on the wire.
-enum RequestKind : std::int32_t {
+enum RequestKind : std::int32_t
+{
     NoRequestKind = -1,
     TicksByDatapoints = 0,     // HTX
     TicksByDays = 1,           // HTD
@@ -23,14 +24,31 @@ enum RequestKind : std::int32_t {
     MonthlyByDatapoints = 9    // HMX
 };
 
-constexpr bool IsTickKind(int kind) { return kind >= 0 && kind <= 2; }
-constexpr bool IsIntervalKind(int kind) { return kind >= 3 && kind <= 5; }
-constexpr bool IsDayKind(int kind) { return kind >= 6 && kind <= 9; }
+constexpr bool IsTickKind(int kind)
+{
+    return kind >= 0 && kind <= 2;
+}
+constexpr bool IsIntervalKind(int kind)
+{
+    return kind >= 3 && kind <= 5;
+}
+constexpr bool IsDayKind(int kind)
+{
+    return kind >= 6 && kind <= 9;
+}
 
 // What the user chooses to see.
-enum DataType : std::int32_t { TickData = 0, MinuteData = 1, DailyData = 2, WeeklyData = 3, MonthlyData = 4 };
+enum DataType : std::int32_t
+{
+    TickData = 0,
+    MinuteData = 1,
+    DailyData = 2,
+    WeeklyData = 3,
+    MonthlyData = 4
+};
 
-// 30 December 1980 13:00:00, the time of a default-constructed chart point. Panes can see it for a point past the end.
+// 30 December 1980 13:00:00, the time of a default-constructed chart point. Panes can see it for a point past
+// the end.
 inline constexpr double DefaultPointTime = 29585.0 + 13.0 / 24.0;
 
 // The chart-facing point.

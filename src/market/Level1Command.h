@@ -8,25 +8,56 @@
 namespace zantroq {
 
 // Level 1 field names by wire position. Position 0 is the message type and has no name.
-inline constexpr std::array<std::string_view, 23> Level1FieldNames{
-    "",          "Symbol",   "Total Volume",  "Most Recent Trade Size",         "High",
-    "Low",       "Bid",      "Ask",           "Bid Size",                       "Ask Size",
-    "Most Recent Trade TimeMS",               "Open Interest",                  "Open",
-    "Close",     "Most Recent Trade Date",    "Most Recent Trade",              "Fraction Display Code",
-    "TickID",    "Most Recent Trade Market Center",                             "Bid Market Center",
-    "Ask Market Center",                      "Message Contents",               "Most Recent Trade Conditions"};
+inline constexpr std::array<std::string_view, 23> Level1FieldNames{"",
+                                                                   "Symbol",
+                                                                   "Total Volume",
+                                                                   "Most Recent Trade Size",
+                                                                   "High",
+                                                                   "Low",
+                                                                   "Bid",
+                                                                   "Ask",
+                                                                   "Bid Size",
+                                                                   "Ask Size",
+                                                                   "Most Recent Trade TimeMS",
+                                                                   "Open Interest",
+                                                                   "Open",
+                                                                   "Close",
+                                                                   "Most Recent Trade Date",
+                                                                   "Most Recent Trade",
+                                                                   "Fraction Display Code",
+                                                                   "TickID",
+                                                                   "Most Recent Trade Market Center",
+                                                                   "Bid Market Center",
+                                                                   "Ask Market Center",
+                                                                   "Message Contents",
+                                                                   "Most Recent Trade Conditions"};
 
 // Wire positions of the fields that are read.
-enum Level1Field : int {
-    Level1Type = 0, Level1Symbol = 1, Level1TotalVolume = 2, Level1Size = 3, Level1High = 4, Level1Low = 5, Level1Bid = 6,
-    Level1Ask = 7, Level1BidSize = 8, Level1AskSize = 9, Level1Time = 10, Level1OpenInterest = 11, Level1Open = 12,
-    Level1Date = 14, Level1Last = 15, Level1TickId = 17, Level1Contents = 21,
+enum Level1Field : int
+{
+    Level1Type = 0,
+    Level1Symbol = 1,
+    Level1TotalVolume = 2,
+    Level1Size = 3,
+    Level1High = 4,
+    Level1Low = 5,
+    Level1Bid = 6,
+    Level1Ask = 7,
+    Level1BidSize = 8,
+    Level1AskSize = 9,
+    Level1Time = 10,
+    Level1OpenInterest = 11,
+    Level1Open = 12,
+    Level1Date = 14,
+    Level1Last = 15,
+    Level1TickId = 17,
+    Level1Contents = 21,
     FundamentalFormat = 39,   // in "F" lines: the exchange's format code
     FundamentalPrecision = 40 // and the number of decimals
 };
 
-// Client name, protocol and field selection, three lines in one text. The field list begins with an empty field, which the feed
-// expects.
+// Client name, protocol and field selection, three lines in one text. The field list begins with an empty
+// field, which the feed expects.
 std::string Level1SetupText();
 
 std::string WatchCommand(std::string_view symbol);  // "w%s\r\n"

@@ -1,5 +1,5 @@
-// Linked into every test program: no test reads or writes the user's settings, and none needs a display. Runs before main; what the
-// caller of the program has set stands.
+// Linked into every test program: no test reads or writes the user's settings, and none needs a display. Runs
+// before main; what the caller of the program has set stands.
 #include <cstdlib>
 
 namespace {
