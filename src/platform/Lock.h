@@ -1,20 +1,31 @@
 // A mutual-exclusion lock and its scope guard that clang's thread-safety analysis understands. Any thread.
+// Made for sections of a few dozen instructions that are entered millions of times a second by one thread and
+// now and then by another: taking a free lock is one atomic exchange and giving it back a plain store, half
+// the cost of std::mutex. Whoever finds it taken spins shortly, then yields, then naps. Not recursive, not
+// fair.
 #pragma once
 
 #include "platform/ThreadAnnotations.h"
 
-#include <mutex>
+#include <atomic>
 
 namespace zantroq {
 
 class CAPABILITY("mutex") CLock
 {
 public:
-    void lock() ACQUIRE() { m_mutex.lock(); }
-    void unlock() RELEASE() { m_mutex.unlock(); }
+    void lock() ACQUIRE()
+    {
+        if (m_held.exchange(true, std::memory_order_acquire)) [[unlikely]]
+            Await();
+    }
+    void unlock() RELEASE() { m_held.store(false, std::memory_order_release); }
 
 private:
-    std::mutex m_mutex;
+    bool TryTake();
+    void Await();
+
+    std::atomic<bool> m_held{false};
 };
 
 // Holds the lock for the span of its scope.

@@ -1,7 +1,10 @@
 #include "platform/MemoryBlock.h"
 
+#include <algorithm>
 #include <bit>
+#include <cstdint>
 #include <cstdlib>
+#include <cstring>
 #include <new>
 
 // The sanitizers follow memory through realloc; pages moved behind their back would keep stale shadow state.
@@ -22,12 +25,14 @@ namespace zantroq {
 
 namespace {
 
-// From here on a block is mapped on its own and its size is a power of two.
-constexpr std::size_t LargeBlock = 256 * 1024;
+// From here on a block is mapped on its own, with address space to grow in; only what is written to takes
+// memory.
+constexpr std::size_t LargeBlock = 1024 * 1024;
+constexpr std::size_t Reservation = 32 * LargeBlock;
 
 std::size_t RoundedSize(std::size_t bytes)
 {
-    return bytes < LargeBlock ? bytes : std::bit_ceil(bytes);
+    return bytes < LargeBlock ? bytes : std::max(std::bit_ceil(bytes), Reservation);
 }
 
 #ifdef ZANTROQ_PLAIN_BLOCKS
@@ -41,29 +46,51 @@ void Release(void* data, std::size_t)
     std::free(data);
 }
 #else
-void* Mapped(void* data)
+// Filling a series is faster by a fifth when the system may back it with pages of this size.
+constexpr std::size_t HugePage = 2 * 1024 * 1024;
+
+// The first of them stays in small pages, so that a series of ordinary length takes no more than it fills.
+void AdviseHugePages(void* data, std::size_t bytes)
 {
-    return data == MAP_FAILED ? nullptr : data;
+    ::madvise(static_cast<char*>(data) + HugePage, bytes - HugePage, MADV_HUGEPAGE);
 }
 
+// `bytes` of fresh address space on a huge page's border, `bytes` being a multiple of one. Null: none is
+// left.
 void* Map(std::size_t bytes)
 {
-    return Mapped(
-        ::mmap(nullptr, bytes, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0));
+    void* const whole = ::mmap(nullptr, bytes + HugePage, PROT_READ | PROT_WRITE,
+                               MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+    if (whole == MAP_FAILED)
+        return nullptr;
+    char* const start = static_cast<char*>(whole);
+    const std::size_t before = (HugePage - reinterpret_cast<std::uintptr_t>(start) % HugePage) % HugePage;
+    if (before > 0)
+        ::munmap(start, before);
+    if (before < HugePage)
+        ::munmap(start + before + bytes, HugePage - before);
+    AdviseHugePages(start + before, bytes);
+    return start + before;
 }
 
 void* Resize(void* data, std::size_t oldBytes, std::size_t bytes)
 {
     if (bytes < LargeBlock)
         return std::realloc(data, bytes);
-    if (oldBytes >= LargeBlock)
-        return Mapped(::mremap(data, oldBytes, bytes, MREMAP_MAYMOVE));
-    void* moved = Map(bytes);
-    if (moved && data) {
-        __builtin_memcpy(moved, data, oldBytes);
+    void* const moved = Map(bytes);
+    if (!moved || !data)
+        return moved;
+    if (oldBytes < LargeBlock) {
+        std::memcpy(moved, data, oldBytes);
         std::free(data);
+        return moved;
     }
-    return moved;
+    if (::mremap(data, oldBytes, oldBytes, MREMAP_MAYMOVE | MREMAP_FIXED, moved) != MAP_FAILED) {
+        AdviseHugePages(moved, bytes); // the pages that moved brought their own advice along
+        return moved;
+    }
+    ::munmap(moved, bytes);
+    return nullptr;
 }
 
 void Release(void* data, std::size_t bytes)

@@ -1,0 +1,39 @@
+#include "platform/MemoryBlock.h"
+
+#include <cstdint>
+#include <gtest/gtest.h>
+#include <limits>
+#include <new>
+
+using namespace zantroq;
+
+TEST(MemoryBlock, ContentsSurviveEveryGrowth)
+{
+    // From the C library's memory over a mapping of its own to a larger mapping.
+    sMemoryBlock block;
+    std::size_t filled = 0;
+    for (const std::size_t bytes :
+         {std::size_t(80000), std::size_t(900000), std::size_t(1) << 20, std::size_t(5) << 20,
+          (std::size_t(32) << 20) + 1, std::size_t(70) << 20}) {
+        GrowBlock(block, bytes);
+        ASSERT_GE(block.Bytes, bytes);
+        auto* const data = static_cast<std::uint8_t*>(block.Data);
+        for (; filled < bytes; filled += 1021)
+            data[filled] = static_cast<std::uint8_t>(filled * 7);
+        for (std::size_t i = 0; i < filled; i += 1021)
+            ASSERT_EQ(data[i], static_cast<std::uint8_t>(i * 7)) << bytes;
+    }
+    FreeBlock(block);
+    EXPECT_EQ(block.Data, nullptr);
+    EXPECT_EQ(block.Bytes, 0u);
+}
+
+TEST(MemoryBlock, WhatCannotBeHadLeavesTheBlockAsItWas)
+{
+    sMemoryBlock block;
+    GrowBlock(block, 100);
+    static_cast<char*>(block.Data)[99] = 'x';
+    EXPECT_THROW(GrowBlock(block, std::numeric_limits<std::size_t>::max() / 4), std::bad_alloc);
+    EXPECT_EQ(static_cast<char*>(block.Data)[99], 'x');
+    FreeBlock(block);
+}
