@@ -9,6 +9,12 @@
 
 namespace zantroq {
 
+namespace {
+
+constexpr int MostReceivesInARow = 16;
+
+} // namespace
+
 struct CAsyncSocket::sState
 {
     explicit sState(asio::io_context& context) : Socket(context) {}
@@ -17,6 +23,7 @@ struct CAsyncSocket::sState
     std::atomic<int> Native{-1}; // for Send on other threads; -1: no socket
     CAsyncSocket* Owner = nullptr;
     bool Wanted = false; // a Receive since the last notification asked for more
+    bool Filled = false; // and got all it had room for, so that more has most likely come
 };
 
 CAsyncSocket::CAsyncSocket(CWorkerThread& thread) : m_state(std::make_shared<sState>(thread.m_loop->Context))
@@ -58,15 +65,22 @@ void CAsyncSocket::Connect(std::uint16_t port)
 
 void CAsyncSocket::AwaitBytes()
 {
-    m_state->Wanted = false;
     m_state->Socket.async_wait(asio::ip::tcp::socket::wait_read,
                                [state = m_state](const asio::error_code& error) {
                                    CAsyncSocket* const self = state->Owner;
                                    if (!self || error == asio::error::operation_aborted)
                                        return;
-                                   self->OnReceive(error.value());
-                                   if (state->Owner && state->Wanted)
-                                       self->AwaitBytes();
+                                   // A large reply is read in one go, but not so long that the other socket
+                                   // or a posted message waits for more than some milliseconds.
+                                   for (int i = 0; i < MostReceivesInARow; ++i) {
+                                       state->Wanted = state->Filled = false;
+                                       self->OnReceive(error.value());
+                                       if (!state->Owner || !state->Wanted)
+                                           return;
+                                       if (!state->Filled)
+                                           break;
+                                   }
+                                   self->AwaitBytes();
                                });
 }
 
@@ -77,6 +91,7 @@ int CAsyncSocket::Receive(char* bytes, int size)
     const auto received = ::recv(m_state->Native, bytes, static_cast<std::size_t>(size), MSG_DONTWAIT);
     const bool nothingYet = received < 0 && (errno == EAGAIN || errno == EWOULDBLOCK || errno == EINTR);
     m_state->Wanted = received > 0 || nothingYet;
+    m_state->Filled = received == size;
     return static_cast<int>(received);
 }
 
