@@ -166,10 +166,6 @@ void CChartHistRequest::SetPriceFormat(std::int32_t code)
 {
     PriceFormat = code;
 }
-std::int32_t CChartHistRequest::GetPriceFormat() const
-{
-    return PriceFormat;
-}
 void CChartHistRequest::SetUseExchangeFormat(bool use)
 {
     UseExchangeFormat = use;
@@ -182,10 +178,6 @@ void CChartHistRequest::MarkDead()
 {
     Alive = false;
 }
-bool CChartHistRequest::IsAlive() const
-{
-    return Alive;
-}
 bool CChartHistRequest::HasBidAskUpdates() const
 {
     return BidAskUpdates;
@@ -193,10 +185,6 @@ bool CChartHistRequest::HasBidAskUpdates() const
 void CChartHistRequest::SetExtendedTrades(bool extended)
 {
     ExtendedTrades = extended;
-}
-bool CChartHistRequest::HasExtendedTrades() const
-{
-    return ExtendedTrades;
 }
 
 bool CChartHistRequest::AcceptsUpdates() const

@@ -82,14 +82,14 @@ public:
     void SetComplete(bool complete);
     bool IsComplete() const;
     void SetPriceFormat(std::int32_t code);
-    std::int32_t GetPriceFormat() const;
+    std::int32_t GetPriceFormat() const { return PriceFormat; }
     void SetUseExchangeFormat(bool use);
     bool UsesExchangeFormat() const;
     void MarkDead();
-    bool IsAlive() const;
+    bool IsAlive() const { return Alive; }
     bool HasBidAskUpdates() const;
     void SetExtendedTrades(bool extended);
-    bool HasExtendedTrades() const;
+    bool HasExtendedTrades() const { return ExtendedTrades; }
 
     // The series. Every operation takes the lock for itself unless it says otherwise.
     void AppendPoint(const sHIST_POINT& point); // dropped when outside the request's date and time bounds
@@ -130,6 +130,7 @@ private:
     void AppendInterval(const sHIST_POINT& point) REQUIRES(DataLock);
     void AppendDay(const sHIST_POINT& point) REQUIRES(DataLock);
     void AppendPrices(const sHIST_POINT& point) REQUIRES(DataLock);
+    void PrepareTicks() REQUIRES(DataLock);
     void PreparePrices() REQUIRES(DataLock);
     int ClampedIndex(int index) const REQUIRES(DataLock);
     void Empty() REQUIRES(DataLock);
@@ -163,6 +164,8 @@ private:
     CGrowableArray<std::int64_t> m_totalVolume GUARDED_BY(DataLock);
     CGrowableArray<char> m_basis GUARDED_BY(DataLock);
     CConditionArray m_conditions GUARDED_BY(DataLock);
+    // Ticks that all their arrays can surely take: one look at it stands for a look at each. 0: not known.
+    int m_tickRoom GUARDED_BY(DataLock) = 0;
 };
 
 } // namespace zantroq

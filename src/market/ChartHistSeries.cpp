@@ -47,6 +47,12 @@ template<class... Arrays> void PrepareArrays(Arrays&... arrays)
     (arrays.PrepareAdd(), ...);
 }
 
+// How many elements each of the arrays can take before the first of them must grow.
+template<class... Arrays> int RoomIn(const Arrays&... arrays)
+{
+    return std::min({(arrays.Capacity() - arrays.Count())...});
+}
+
 template<class... Arrays> void RemoveFrom(int index, Arrays&... arrays)
 {
     ((arrays.Count() > index ? arrays.RemoveAt(index) : void()), ...);
@@ -99,8 +105,8 @@ void CChartHistRequest::AppendPoint(const sHIST_POINT& point)
 // long.
 void CChartHistRequest::AppendTick(const sHIST_POINT& point)
 {
-    PrepareArrays(m_time, m_last, m_size, m_bid, m_bidSize, m_ask, m_askSize, m_totalVolume, m_tickId,
-                  m_basis);
+    if (m_tickRoom == 0)
+        PrepareTicks();
     m_conditions.Add(point.Conditions);
     m_time.AddPrepared(point.Time);
     m_last.AddPrepared(point.Last);
@@ -112,6 +118,15 @@ void CChartHistRequest::AppendTick(const sHIST_POINT& point)
     m_totalVolume.AddPrepared(point.TotalVolume);
     m_tickId.AddPrepared(Stored(point.TickId));
     m_basis.AddPrepared(FirstCharacter(point.Basis));
+    --m_tickRoom;
+}
+
+void CChartHistRequest::PrepareTicks()
+{
+    PrepareArrays(m_time, m_last, m_size, m_bid, m_bidSize, m_ask, m_askSize, m_totalVolume, m_tickId,
+                  m_basis);
+    m_tickRoom =
+        RoomIn(m_time, m_last, m_size, m_bid, m_bidSize, m_ask, m_askSize, m_totalVolume, m_tickId, m_basis);
 }
 
 void CChartHistRequest::AppendInterval(const sHIST_POINT& point)
@@ -132,6 +147,7 @@ void CChartHistRequest::AppendDay(const sHIST_POINT& point)
 
 void CChartHistRequest::PreparePrices()
 {
+    m_tickRoom = 0;
     PrepareArrays(m_time, m_open, m_high, m_low, m_close, m_totalVolume);
 }
 
@@ -343,6 +359,7 @@ void CChartHistRequest::RemovePoint(int index)
 
 void CChartHistRequest::Empty()
 {
+    m_tickRoom = 0;
     EmptyArrays(m_time, m_open, m_high, m_low, m_close, m_last, m_bid, m_bidSize, m_ask, m_askSize,
                 m_openInterest, m_size, m_totalVolume, m_tickId, m_basis);
     m_conditions.Clear();

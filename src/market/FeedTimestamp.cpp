@@ -1,5 +1,6 @@
 #include "market/FeedTimestamp.h"
 
+#include "platform/DigitBlock.h"
 #include "platform/NumberText.h"
 
 #include <cstring>
@@ -18,10 +19,23 @@ bool IsDigit(char c)
     return static_cast<unsigned char>(c - '0') < 10;
 }
 
-// Two digits as a number, or -1.
-int PlainPair(const char* at)
+// Hour, minute and second of eight characters HH:MM:SS, of which the third and the sixth may be anything, as
+// seconds of the day; -1 when there is no such time.
+int ClockSeconds(const char* at)
 {
-    return IsDigit(at[0]) && IsDigit(at[1]) ? (at[0] - '0') * 10 + (at[1] - '0') : -1;
+    if constexpr (HasDigitBlocks) {
+        constexpr std::uint64_t Parts = 0xFFFF00FFFF00FFFFu;
+        const std::uint64_t block = LoadBlock(at) & Parts;
+        const std::uint64_t pairs = JoinPairs(block);
+        const int hour = pairs & 0xFF, minute = pairs >> 24 & 0xFF, second = pairs >> 48 & 0xFF;
+        const bool exists = MarkNoDigits(block) == 0 && hour < 24 && minute < 60 && second < 60;
+        return exists ? hour * 3600 + minute * 60 + second : -1;
+    }
+    const auto pair = [](const char* c) {
+        return IsDigit(c[0]) && IsDigit(c[1]) ? (c[0] - '0') * 10 + (c[1] - '0') : 99;
+    };
+    const int hour = pair(at), minute = pair(at + 3), second = pair(at + 6);
+    return hour < 24 && minute < 60 && second < 60 ? hour * 3600 + minute * 60 + second : -1;
 }
 
 std::uint16_t Milliseconds(std::string_view text)
@@ -51,34 +65,61 @@ bool CFeedTimestamp::FindDay(std::string_view text, double& dayNumber)
         if (!m_known)
             return false;
         m_dayNumber = day.Time;
+        m_clockKnown = false;
         std::memcpy(m_date.data(), text.data(), DateLength);
     }
     dayNumber = m_dayNumber;
     return true;
 }
 
-sTIME_W_MILLISECONDS CFeedTimestamp::Read(std::string_view text, bool withMilliseconds)
+bool CFeedTimestamp::ReadClock(std::string_view text, double& time)
 {
-    const std::uint16_t milliseconds = withMilliseconds ? Milliseconds(text) : 0;
     double dayNumber = 0;
-    if (text.size() >= 19 && FindDay(text, dayNumber)) {
-        const int hour = PlainPair(&text[11]), minute = PlainPair(&text[14]), second = PlainPair(&text[17]);
-        if (hour >= 0 && hour < 24 && minute >= 0 && minute < 60 && second >= 0 && second < 60)
-            return {dayNumber + (hour * 3600 + minute * 60 + second) / 86400.0, TimeValid, milliseconds};
+    if (!FindDay(text, dayNumber))
+        return false;
+    std::uint64_t clock;
+    std::memcpy(&clock, text.data() + TimeOffset, sizeof clock);
+    if (!m_clockKnown || clock != m_clock) {
+        const int seconds = ClockSeconds(text.data() + TimeOffset);
+        if (seconds < 0)
+            return false;
+        m_clockTime = dayNumber + seconds / 86400.0;
+        m_clock = clock;
+        m_clockKnown = true;
+    }
+    time = m_clockTime;
+    return true;
+}
+
+void CFeedTimestamp::Read(std::string_view text, std::uint16_t milliseconds, sTIME_W_MILLISECONDS& time)
+{
+    if (text.size() >= TimeOffset + sizeof m_clock && ReadClock(text, time.Time)) {
+        time.Status = TimeValid;
+        time.Milliseconds = milliseconds;
+        return;
     }
     sCALENDAR_TIME parts = DateParts(text);
     parts.Hour = PartAt(text, 11, 2);
     parts.Minute = PartAt(text, 14, 2);
     parts.Second = PartAt(text, 17, 2);
-    return MakeTime(parts, milliseconds);
+    time = MakeTime(parts, milliseconds);
 }
 
-sTIME_W_MILLISECONDS CFeedTimestamp::ReadDay(std::string_view text)
+void CFeedTimestamp::ReadTick(std::string_view text, sTIME_W_MILLISECONDS& time)
+{
+    Read(text, Milliseconds(text), time);
+}
+
+void CFeedTimestamp::ReadInterval(std::string_view text, sTIME_W_MILLISECONDS& time)
+{
+    Read(text, 0, time);
+}
+
+void CFeedTimestamp::ReadDay(std::string_view text, sTIME_W_MILLISECONDS& time)
 {
     double dayNumber = 0;
-    if (FindDay(text, dayNumber))
-        return {dayNumber, TimeValid, 0};
-    return MakeTime(DateParts(text));
+    time =
+        FindDay(text, dayNumber) ? sTIME_W_MILLISECONDS{dayNumber, TimeValid, 0} : MakeTime(DateParts(text));
 }
 
 } // namespace zantroq

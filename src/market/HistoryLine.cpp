@@ -3,25 +3,40 @@
 #include "platform/NumberText.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 namespace zantroq {
 
 namespace {
 
-std::uint32_t ReadUnsigned(std::string_view text)
+// The three read a field that the line is known to have.
+double Price(const HistoryFields& fields, int field)
 {
+    return TextToDouble(fields.At(field), fields.Before(field));
+}
+
+std::uint32_t Unsigned(const HistoryFields& fields, int field)
+{
+    const std::string_view text = fields.At(field);
     std::uint64_t value = 0;
-    if (PlainInteger(text, value) && value <= 0xFFFFFFFFu)
+    if (PlainInteger(text, fields.Before(field), value) && value <= 0xFFFFFFFFu)
         return static_cast<std::uint32_t>(value);
     return TextToUnsigned(text);
 }
 
-std::int64_t ReadInt64(std::string_view text)
+std::int64_t Integer(const HistoryFields& fields, int field)
 {
+    const std::string_view text = fields.At(field);
     std::uint64_t value = 0;
-    if (PlainInteger(text, value) && value <= 0x7FFFFFFFFFFFFFFFu)
+    if (PlainInteger(text, fields.Before(field), value) && value <= 0x7FFFFFFFFFFFFFFFu)
         return static_cast<std::int64_t>(value);
     return TextToInt64(text);
+}
+
+void RequireFields(const HistoryFields& fields, int count)
+{
+    if (fields.Count() < count)
+        throw std::invalid_argument("line has too few fields");
 }
 
 const sHIST_POINT* IfValid(const sHIST_POINT& point)
@@ -61,41 +76,44 @@ const sHIST_POINT* CHistoryLineParser::Parse(int kind, const HistoryFields& fiel
 
 const sHIST_POINT* CHistoryLineParser::ParseTick(const HistoryFields& fields, bool extendedTrades)
 {
-    const std::string_view basis = fields[8];
+    RequireFields(fields, 9);
+    const std::string_view basis = fields.At(8);
     if (basis.empty() || !ShowsBasis(basis.front(), extendedTrades))
         return nullptr;
-    m_tick.Time = m_timestamp.ReadTick(fields[1]);
-    m_tick.Last = TextToDouble(fields[2]);
-    m_tick.LastSize = ReadUnsigned(fields[3]);
-    m_tick.TotalVolume = ReadInt64(fields[4]);
-    m_tick.Bid = TextToDouble(fields[5]);
-    m_tick.Ask = TextToDouble(fields[6]);
-    m_tick.TickId = ReadUnsigned(fields[7]);
+    m_timestamp.ReadTick(fields.At(1), m_tick.Time);
+    m_tick.Last = Price(fields, 2);
+    m_tick.LastSize = Unsigned(fields, 3);
+    m_tick.TotalVolume = Integer(fields, 4);
+    m_tick.Bid = Price(fields, 5);
+    m_tick.Ask = Price(fields, 6);
+    m_tick.TickId = Unsigned(fields, 7);
     m_tick.Basis.front() = basis.front();
     return IfValid(m_tick);
 }
 
 const sHIST_POINT* CHistoryLineParser::ParseInterval(const HistoryFields& fields)
 {
-    m_interval.LastSize = ReadUnsigned(fields[7]);
-    m_interval.Time = m_timestamp.ReadInterval(fields[1]);
-    m_interval.High = TextToDouble(fields[2]);
-    m_interval.Low = TextToDouble(fields[3]);
-    m_interval.Open = TextToDouble(fields[4]);
-    m_interval.Close = TextToDouble(fields[5]);
-    m_interval.TotalVolume = ReadInt64(fields[6]);
+    RequireFields(fields, 8);
+    m_interval.LastSize = Unsigned(fields, 7);
+    m_timestamp.ReadInterval(fields.At(1), m_interval.Time);
+    m_interval.High = Price(fields, 2);
+    m_interval.Low = Price(fields, 3);
+    m_interval.Open = Price(fields, 4);
+    m_interval.Close = Price(fields, 5);
+    m_interval.TotalVolume = Integer(fields, 6);
     return IfValid(m_interval);
 }
 
 const sHIST_POINT* CHistoryLineParser::ParseDay(const HistoryFields& fields)
 {
-    m_day.OpenInterest = ReadUnsigned(fields[7]);
-    m_day.Time = m_timestamp.ReadDay(fields[1]);
-    m_day.High = TextToDouble(fields[2]);
-    m_day.Low = TextToDouble(fields[3]);
-    m_day.Open = TextToDouble(fields[4]);
-    m_day.Close = TextToDouble(fields[5]);
-    m_day.TotalVolume = ReadInt64(fields[6]);
+    RequireFields(fields, 8);
+    m_day.OpenInterest = Unsigned(fields, 7);
+    m_timestamp.ReadDay(fields.At(1), m_day.Time);
+    m_day.High = Price(fields, 2);
+    m_day.Low = Price(fields, 3);
+    m_day.Open = Price(fields, 4);
+    m_day.Close = Price(fields, 5);
+    m_day.TotalVolume = Integer(fields, 6);
     return IfValid(m_day);
 }
 

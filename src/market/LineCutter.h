@@ -4,14 +4,13 @@
 // buffer; when one line fills the buffer, Room() is empty for good. Belongs to the thread that reads.
 #pragma once
 
+#include "platform/ByteMarks.h"
+
+#include <bit>
 #include <cstring>
 #include <memory>
 #include <span>
 #include <string_view>
-
-#if defined(__SSE2__)
-#include <emmintrin.h>
-#endif
 
 namespace zantroq {
 
@@ -62,31 +61,23 @@ public:
     }
 
 private:
-    static constexpr int BlockSize = 16;
+    static constexpr int BlockSize = 64;
 
     // Calls onMark with the position of each CR, LF and zero byte from `at` to `total`, in order.
     template<class OnMark> static void ForEachMark(const char* buffer, int at, int total, OnMark&& onMark)
     {
-#if defined(__SSE2__)
-        const __m128i carriageReturn = _mm_set1_epi8('\r'), lineFeed = _mm_set1_epi8('\n'),
-                      zero = _mm_setzero_si128();
         // The buffer has a spare block behind it; what is read past `total` is masked out.
         for (; at < total; at += BlockSize) {
-            const __m128i block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(buffer + at));
-            const __m128i found = _mm_or_si128(
-                _mm_or_si128(_mm_cmpeq_epi8(block, carriageReturn), _mm_cmpeq_epi8(block, lineFeed)),
-                _mm_cmpeq_epi8(block, zero));
-            auto marks = static_cast<unsigned>(_mm_movemask_epi8(found));
+            std::uint64_t marks = MarkAtMost(buffer + at, '\r');
             if (total - at < BlockSize)
-                marks &= (1u << (total - at)) - 1;
-            for (; marks; marks &= marks - 1)
-                onMark(at + __builtin_ctz(marks));
+                marks &= (1ull << (total - at)) - 1;
+            for (; marks; marks &= marks - 1) {
+                const int mark = at + std::countr_zero(marks);
+                const char found = buffer[mark];
+                if (found == '\n' || found == '\r' || found == '\0')
+                    onMark(mark);
+            }
         }
-#else
-        for (; at < total; ++at)
-            if (buffer[at] == '\r' || buffer[at] == '\n' || buffer[at] == '\0')
-                onMark(at);
-#endif
     }
 
     const int m_capacity;

@@ -2,13 +2,13 @@
 // them is not looked at. A field that the line does not have fails with std::invalid_argument.
 #pragma once
 
+#include "platform/ByteMarks.h"
+
 #include <array>
+#include <bit>
+#include <cstring>
 #include <stdexcept>
 #include <string_view>
-
-#if defined(__SSE2__)
-#include <emmintrin.h>
-#endif
 
 namespace zantroq {
 
@@ -20,42 +20,61 @@ public:
         m_starts[0] = 0;
         const int size = static_cast<int>(line.size());
         int at = 0;
-#if defined(__SSE2__)
-        const __m128i comma = _mm_set1_epi8(',');
-        for (; at + 16 <= size; at += 16) {
-            const __m128i block = _mm_loadu_si128(reinterpret_cast<const __m128i*>(m_line + at));
-            auto marks = static_cast<unsigned>(_mm_movemask_epi8(_mm_cmpeq_epi8(block, comma)));
-            for (; marks; marks &= marks - 1) {
-                m_starts[++m_count] = at + __builtin_ctz(marks) + 1;
-                if (m_count == Most)
-                    return;
-            }
-        }
-#endif
-        for (; at < size; ++at) {
-            if (m_line[at] != ',')
-                continue;
-            m_starts[++m_count] = at + 1;
-            if (m_count == Most)
+        for (; at + BlockSize <= size; at += BlockSize)
+            if (!TakeMarks(MarkEqual(m_line + at, ','), at))
                 return;
-        }
+        if (at < size && !TakeMarks(RestMarks(at, size), at))
+            return;
         m_starts[++m_count] = size + 1;
     }
 
-    int Count() const
-    {
-        return m_count;
-    }
+    int Count() const { return m_count; }
 
     std::string_view operator[](int field) const
     {
         if (field >= m_count)
             throw std::invalid_argument("line has too few fields");
+        return At(field);
+    }
+
+    // The field without a look at the count. REQUIRES: field < Count().
+    std::string_view At(int field) const
+    {
         return {m_line + m_starts[field],
                 static_cast<std::size_t>(m_starts[field + 1] - m_starts[field] - 1)};
     }
 
+    // Bytes of the line in front of the field. REQUIRES: field < Count().
+    std::size_t Before(int field) const { return static_cast<std::size_t>(m_starts[field]); }
+
 private:
+    static constexpr int BlockSize = 64;
+
+    // The commas of the fewer than 64 bytes from `at`. Nothing behind the line is read.
+    std::uint64_t RestMarks(int at, int size) const
+    {
+        if (size >= BlockSize)
+            return MarkEqual(m_line + size - BlockSize, ',') >> (at + BlockSize - size);
+        char block[BlockSize] = {};
+        std::memcpy(block, m_line, static_cast<std::size_t>(size));
+        return MarkEqual(block, ',');
+    }
+
+    // False: all the fields that are kept have been found.
+    bool TakeStart(int start)
+    {
+        m_starts[++m_count] = start;
+        return m_count < Most;
+    }
+
+    bool TakeMarks(std::uint64_t marks, int at)
+    {
+        for (; marks; marks &= marks - 1)
+            if (!TakeStart(at + std::countr_zero(marks) + 1))
+                return false;
+        return true;
+    }
+
     const char* m_line;
     int m_count = 0;
     std::array<int, Most + 1> m_starts; // field i runs from m_starts[i] to the comma before m_starts[i + 1]

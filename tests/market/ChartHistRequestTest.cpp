@@ -449,3 +449,26 @@ TEST(GrowableArray, IndexesOutsideAreInvalidArguments)
     EXPECT_THROW(array.RemoveAt(1), std::invalid_argument);
     EXPECT_THROW(array.SetCount(-1), std::invalid_argument);
 }
+
+TEST(ChartHistRequest, BarsBetweenTicksDoNotUpsetTheRoomForTicks)
+{
+    CChartHistRequest request;
+    sHIST_POINT point;
+    const auto append = [&](int kind, int count) {
+        request.SetRequestKind(kind);
+        for (int i = 0; i < count; ++i)
+            request.AppendPoint(point);
+    };
+    append(TicksByDatapoints, 9990);
+    append(IntervalsByDatapoints, 10005); // the arrays that both fill run past their first ten thousand
+    append(TicksByDatapoints, 20000);
+    EXPECT_EQ(request.GetCount(FieldTime), 39995);
+    EXPECT_EQ(request.GetCount(FieldLast), 29990);
+    EXPECT_EQ(request.GetCount(FieldOpen), 10005);
+    EXPECT_EQ(request.GetCount(FieldSize), 39995);
+    EXPECT_EQ(request.GetCount(FieldConditions), 29990);
+    request.RemovePoint(29989);
+    request.ClearSeries();
+    append(TicksByDatapoints, 1);
+    EXPECT_EQ(request.GetCount(FieldTime), 1);
+}

@@ -185,6 +185,24 @@ TEST(HistoryReply, TheRememberedDateDoesNotLeakIntoOtherDates)
     EXPECT_EQ(chart.TimeText(3), "2014-01-03 00:00:00");
 }
 
+TEST(HistoryReply, TheRememberedTimeOfDayDoesNotLeakIntoOtherTimes)
+{
+    CSeriesFixture chart(0);
+    const char* const stamps[] = {"2014-01-02 09:30:01.250", "2014-01-02 09:30:01.999",
+                                  "2014-01-02 09:30:02.000", "2014-01-03 09:30:02.001",
+                                  "2014-01-03 25:30:02.001", "2014-01-03 09:30:02.002",
+                                  "2014-01-03 09-30-02.003"};
+    for (const char* stamp : stamps)
+        chart.Feed(std::string(stamp) + ",1,1,1,1,1,1,C");
+    ASSERT_EQ(chart.Count(), 6) << "there is no hour 25";
+    const char* const times[] = {"2014-01-02 09:30:01", "2014-01-02 09:30:01", "2014-01-02 09:30:02",
+                                 "2014-01-03 09:30:02", "2014-01-03 09:30:02", "2014-01-03 09:30:02"};
+    for (int i = 0; i < 6; ++i)
+        EXPECT_EQ(chart.TimeText(i), times[i]) << i;
+    EXPECT_EQ(chart.Point(1).Time.Milliseconds, 999);
+    EXPECT_EQ(chart.Point(5).Time.Milliseconds, 3);
+}
+
 TEST(HistoryReply, NumbersReadTheirPrefix)
 {
     CSeriesFixture chart(0);

@@ -210,3 +210,33 @@ TEST(NumberText, PlainIntegersAreDigitsAlone)
     for (const char* text : {"", "+1", "-1", " 1", "1 ", "1.0", "12345678901234567890"})
         EXPECT_FALSE(PlainInteger(text, value)) << text;
 }
+
+RC_GTEST_PROP(NumberText, ANumberInsideALineReadsLikeTheNumberAlone, ())
+{
+    const std::string number =
+        *rc::gen::oneOf(NumberLike(), Digits(9), rc::gen::map(Digits(4), [](std::string text) {
+                            text.insert(text.size() / 2, ".");
+                            return text;
+                        }));
+    const std::string line = *rc::gen::container<std::string>(rc::gen::arbitrary<char>()) + number;
+    const std::size_t before = line.size() - number.size();
+    const std::string_view field = std::string_view(line).substr(before);
+    RC_ASSERT(SameDouble(TextToDouble(field, before), Reference(number)));
+    std::uint64_t plain = 0, inLine = 0;
+    const bool isPlain = PlainInteger(number, plain);
+    RC_ASSERT(PlainInteger(field, before, inLine) == isPlain);
+    RC_ASSERT(!isPlain || inLine == plain);
+}
+
+TEST(NumberText, EightCharactersInsideALineMayHoldAnyByte)
+{
+    const std::string front = "12345678";
+    for (int at = 0; at < 5; ++at)
+        for (int byte = 1; byte < 256; ++byte) {
+            std::string number = "10125";
+            number[static_cast<std::size_t>(at)] = static_cast<char>(byte);
+            const std::string line = front + number;
+            ASSERT_TRUE(SameDouble(TextToDouble(std::string_view(line).substr(8), 8), Reference(number)))
+                << at << ' ' << byte;
+        }
+}
