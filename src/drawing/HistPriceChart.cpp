@@ -99,8 +99,11 @@ void CHistPriceChart::SetUp()
     AddPlainLabel(*chart, settings).SetAttachment(AttachToData);
     AddTitleLabel(*chart);
     const int wanted = manager->Trends() ? manager->Trends()->LabelCount() : PriceLabels;
-    while (labels.Count() < wanted || labels.Count() < PriceLabels)
+    while (labels.Count() < PriceLabels)
         AddPlainLabel(*chart, settings);
+    while (labels.Count() < wanted) // those of the retracements
+        AddPlainLabel(*chart, settings).Interior().SetForeground(
+            settings.Trends[TrendFibonacciRetracements].Color);
 
     SetupSeries();
     SetChartType();

@@ -22,6 +22,21 @@ int DevicePixels(int panePixels, double scale)
     return std::max(1, static_cast<int>(std::floor(std::clamp(panePixels, 1, 1000) * scale + 0.5)));
 }
 
+// The first of the values from `i` on that may be drawn, as far as whole blocks of holes tell; never beyond
+// the end.
+std::size_t SkipUndrawn(std::span<const double> y, std::size_t i)
+{
+    constexpr std::size_t block = 32;
+    for (; i + block <= y.size(); i += block) {
+        bool any = false;
+        for (std::size_t k = 0; k < block; ++k)
+            any |= y[i + k] != CPaneData::HoleValue();
+        if (any)
+            break;
+    }
+    return i;
+}
+
 constexpr int WidestBody = 41; // pane pixels: a handful of points would else be blocks
 
 // Candles, H/L/O/C bars and bars, as functions that turn a point into rectangles. `Points` is all that they
@@ -422,6 +437,11 @@ std::size_t CPaneInk::EndOfColumn(std::span<const double> x, std::size_t i, int 
     return end;
 }
 
+bool CPaneInk::IsCrowded() const
+{
+    return m_detail == InkDetail::Reduced && m_ascending && m_map.X.PixelsPerUnit() < 0.5;
+}
+
 void CPaneInk::DrawAll(const CPaneGroup& group)
 {
     m_rects.clear();
@@ -539,12 +559,12 @@ void CPaneInk::DrawLine(const CPaneGroup& group, int series, std::size_t firstPo
         const double place = std::isinf(value) ? (value > 0 ? top : bottom) : m_map.Y.Position(value);
         return NearestPixel(place * sInkVertex::One);
     };
-    const bool reduced = m_detail == InkDetail::Reduced,
-               crowded = reduced && m_ascending && m_map.X.PixelsPerUnit() < 0.5;
+    const bool reduced = m_detail == InkDetail::Reduced, crowded = IsCrowded();
     bool joined = i > 0 && i <= points && !line.Vertices.empty() && IsDrawn(y[i - 1]);
     for (; i < points; ++i) {
         if (!IsDrawn(y[i]) || !IsDrawn(x[i]) || std::isinf(x[i])) {
             joined = false;
+            i = SkipUndrawn(data.Y(series), i + 1) - 1;
             continue;
         }
         const int column = m_map.X.Pixel(x[i]), h = height(y[i]);
@@ -589,6 +609,7 @@ void CPaneInk::DrawLine(const CPaneGroup& group, int series, std::size_t firstPo
 void CPaneInk::DrawSymbols(const CPaneGroup& group)
 {
     const CPaneData& data = group.PaneData();
+    const bool crowded = IsCrowded();
     for (int series = data.FirstVisible(); series <= data.LastVisible(); ++series) {
         const CSymbolLook& look = StyleOf(group, series).SymbolLook();
         if (look.Shape() == SymbolNone)
@@ -596,17 +617,36 @@ void CPaneInk::DrawSymbols(const CPaneGroup& group)
         const int size = DevicePixels(look.Size(), m_scale), half = size / 2;
         const std::span<const double> x = data.X(), y = data.Y(series);
         sInkRect before{};
-        for (std::size_t i = 0; i < x.size(); ++i) {
-            if (!IsDrawn(y[i]) || !IsDrawn(x[i]) || std::isinf(x[i]) || std::isinf(y[i]))
-                continue;
-            const int column = m_map.X.Pixel(x[i]) - half, row = m_map.Y.Pixel(y[i]) - half;
-            sInkRect box{std::max(column, m_map.Plot.Left), std::max(row, m_map.Plot.Top),
-                         std::min(column + size, m_map.Plot.Right), std::min(row + size, m_map.Plot.Bottom),
-                         look.SymbolColour()};
+        const auto emit = [&](int column, int top, int bottom) {
+            const sInkRect box{std::max(column - half, m_map.Plot.Left), std::max(top - half, m_map.Plot.Top),
+                               std::min(column - half + size, m_map.Plot.Right),
+                               std::min(bottom - half + size, m_map.Plot.Bottom), look.SymbolColour()};
             // One colour: the same box again shows nothing new.
             if (box.Left < box.Right && box.Top < box.Bottom && !(box == before))
                 m_rects.push_back(box);
             before = box;
+        };
+        for (std::size_t i = SkipUndrawn(y, 0); i < x.size(); i = SkipUndrawn(y, i + 1)) {
+            if (!IsDrawn(y[i]) || !IsDrawn(x[i]) || std::isinf(x[i]) || std::isinf(y[i]))
+                continue;
+            const int column = m_map.X.Pixel(x[i]);
+            if (crowded) {
+                // A column of plain numbers at once, where the symbols that stand furthest apart leave no
+                // gap.
+                const std::size_t end = EndOfColumn(x, i, column);
+                sLeastGreatest found;
+                if (end - i > 2 && FindLeastGreatest(y.subspan(i, end - i), found)) {
+                    const int a = m_map.Y.Pixel(found.Least), b = m_map.Y.Pixel(found.Greatest);
+                    if (std::abs(a - b) <= size || std::min(a, b) - half >= m_map.Plot.Bottom ||
+                        std::max(a, b) - half + size <= m_map.Plot.Top) {
+                        emit(column, std::min(a, b), std::max(a, b));
+                        i = end - 1;
+                        continue;
+                    }
+                }
+            }
+            const int row = m_map.Y.Pixel(y[i]);
+            emit(column, row, row);
         }
         m_widest = std::max(m_widest, size);
         m_ascending = false;

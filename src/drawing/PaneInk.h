@@ -96,6 +96,7 @@ private:
     std::size_t FirstOfColumn(const CPaneData& data, std::size_t from, int column) const;
     std::size_t EndOfColumn(std::span<const double> x, std::size_t i, int column);
     bool HasBars(const CPaneGroup& group) const;
+    bool IsCrowded() const; // many points a column, in order: they may be looked at together
 
     int m_group;
     InkDetail m_detail;

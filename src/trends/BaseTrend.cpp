@@ -20,7 +20,7 @@ void CBaseTrend::Draw()
     const sSpan span = Span();
     const int right = m_extendable ? Shown() : span.Right;
     WriteTrendSeries(*m_owner, m_series, Look(), XVector::Write, span.Left, right,
-                     [this](int) { return m_value; });
+                     [value = m_value](int) { return value; });
 }
 
 void CBaseTrend::Erase()

@@ -125,9 +125,9 @@ void CFibonacciRetracementsTrend::Erase()
 int CFibonacciRetracementsTrend::HitDistance(int x, int y) const
 {
     int p1 = 0, p2 = 0;
-    if (!RayRange(p1, p2))
+    if (!RayRange(p1, p2) || p2 < 2) // a single point is no line
         return NotHittable;
-    int best = p2 < 2 ? NotHittable : SegmentDistance(*m_owner, m_series, p1, p2, x, y);
+    int best = SegmentDistance(*m_owner, m_series, p1, p2, x, y);
     for (int series : m_levelSeries)
         best = std::min(best, LevelDistance(*m_owner, series, p1, p2, x, y));
     return best;

@@ -14,10 +14,10 @@ void CParallelTrend::Draw()
 {
     CSlopingTrend::Draw();
     const sSpan span = Span();
-    const double slope = span.Slope(), offset = m_offset;
-    WriteTrendSeries(
-        *m_owner, m_series2, Look(), XVector::Keep, span.Left, m_extendable ? Shown() : span.Right,
-        [&span, slope, offset](int i) { return span.LeftValue + slope * (i - span.Left) + offset; });
+    WriteTrendSeries(*m_owner, m_series2, Look(), XVector::Keep, span.Left,
+                     m_extendable ? Shown() : span.Right,
+                     [left = span.Left, start = span.LeftValue, slope = span.Slope(),
+                      offset = m_offset](int i) { return start + slope * (i - left) + offset; });
 }
 
 int CParallelTrend::HitDistance(int x, int y) const

@@ -5,7 +5,11 @@ namespace zantroq {
 void SetUpTrendSeries(IChartWindow& window, int series)
 {
     CPaneGroup& group = window.Pane(0).PaneGroups(2);
-    group.PaneData().SetSeriesCount(series);
+    CPaneData& data = group.PaneData();
+    data.SetSeriesCount(series);
+    // The price pane's set-up limited what is shown to the series there were then.
+    if (data.LastShownSeries() != 0 && data.LastShownSeries() < series)
+        data.SetLastShownSeries(series);
     CSeriesStyle& style = group.SeriesStyles(series);
     style.LineLook().SetPattern(LineSolid);
     style.SymbolLook().SetShape(SymbolMark);

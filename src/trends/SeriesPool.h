@@ -27,7 +27,7 @@ private:
     std::deque<int> m_freeSeries;
 };
 
-// The look of a new trendline series; the price pane's rebuild uses it too.
+// Brings group 2 up to a new series, shows it and gives it the look of a new trendline.
 void SetUpTrendSeries(IChartWindow& window, int series);
 
 } // namespace zantroq

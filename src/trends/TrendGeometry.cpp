@@ -1,5 +1,7 @@
 #include "trends/TrendGeometry.h"
 
+#include "drawing/PaneGeometry.h"
+
 #include <cmath>
 #include <cstdlib>
 
@@ -26,6 +28,19 @@ int PointDistance(int dx, int dy)
     return RoundedPixels(std::sqrt(x * x + y * y));
 }
 
+// x is the axis base, the one behind it, and so on. It nearly always is already, so that all points are
+// looked at without a branch first.
+void NumberPoints(CPaneData& data, int base, int shown)
+{
+    const std::span<const double> x = data.X();
+    const int points = std::min(shown, static_cast<int>(x.size()));
+    bool differs = false;
+    for (int i = 0; i < points; ++i)
+        differs |= x[static_cast<std::size_t>(i)] != base + i;
+    for (int i = 1; differs && i <= points; ++i)
+        data.SetPointX(1, i, base + i - 1);
+}
+
 } // namespace
 
 int AxisBase(IChartWindow& window)
@@ -33,17 +48,7 @@ int AxisBase(IChartWindow& window)
     return static_cast<int>(window.Pane(0).PaneArea().PaneAxes().X().ViewLow().Value());
 }
 
-std::vector<double>& TrendScratch(IChartWindow& window)
-{
-    static thread_local std::vector<double> scratch;
-    const std::size_t points = static_cast<std::size_t>(
-        std::max({window.Range().shown, Overlay(window).PaneData().PointCount(1), 0}));
-    scratch.assign(points, CPaneData::HoleValue());
-    return scratch;
-}
-
-void CommitTrendSeries(IChartWindow& window, int series, const sTrendLook& look, XVector x,
-                       const std::vector<double>& y)
+std::span<double> BeginTrendSeries(IChartWindow& window, int series, const sTrendLook& look, XVector x)
 {
     CPaneGroup& group = Overlay(window);
     CLineLook& line = group.SeriesStyles(series).LineLook();
@@ -54,21 +59,22 @@ void CommitTrendSeries(IChartWindow& window, int series, const sTrendLook& look,
     data.SetFirstPoint(series, 1);
     data.SetDrawnTo(series, 0);
     const int shown = window.Range().shown;
-    if (x == XVector::Write) {
-        const int base = AxisBase(window);
-        for (int i = 1; i <= shown; ++i) {
-            if (data.PointX(1, i) != base + i - 1)
-                data.SetPointX(1, i, base + i - 1);
-        }
-    }
-    data.SetYVector(series, y);
+    if (x == XVector::Write)
+        NumberPoints(data, AxisBase(window), shown);
     data.AdvanceDrawn(series, shown);
+    return data.WholeY(series);
+}
+
+void EndTrendSeries(IChartWindow& window)
+{
+    Overlay(window).CommitPaneData();
 }
 
 void EraseTrendSeries(IChartWindow& window, int series)
 {
-    CPaneData& data = Overlay(window).PaneData();
-    data.SetYVector(series, TrendScratch(window));
+    const std::span<double> y = Overlay(window).PaneData().WholeY(series);
+    std::fill(y.begin(), y.end(), CPaneData::HoleValue());
+    EndTrendSeries(window);
 }
 
 int LevelDistance(IChartWindow& window, int series, int p1, int p2, int x, int y)
@@ -88,21 +94,24 @@ int LevelDistance(IChartWindow& window, int series, int p1, int p2, int x, int y
 
 int SegmentDistance(IChartWindow& window, int series, int p1, int p2, int x, int y)
 {
-    const CPaneGroup& group = Overlay(window);
-    int x1 = 0, y1 = -1, x2 = 0, y2 = -1;
-    for (; p1 <= p2; ++p1) {
-        group.PointToPixel(series, p1, x1, y1);
-        if (y1 != -1)
-            break;
-    }
+    // A line may begin or end a long way off the plot: one map serves all its points.
+    const sPlotMap map(window.Pane(0));
+    const CPaneData& data = Overlay(window).PaneData();
+    const std::span<const double> dataX = data.X(), dataY = data.Y(series);
+    const auto seen = [&](int point, int& pixelX, int& pixelY) {
+        const auto i = static_cast<std::size_t>(point - 1);
+        if (i >= dataY.size() || !IsDrawn(dataY[i]) || std::isinf(dataY[i]) || !IsDrawn(dataX[i]))
+            return false;
+        pixelX = map.X.Pixel(dataX[i]);
+        pixelY = map.Y.Pixel(dataY[i]);
+        return map.Contains(pixelX, pixelY);
+    };
+    int x1 = 0, y1 = 0, x2 = 0, y2 = 0;
+    while (p1 <= p2 && !seen(p1, x1, y1))
+        ++p1;
+    while (p2 > p1 && !seen(p2, x2, y2))
+        --p2;
     if (p1 >= p2)
-        return NotHittable;
-    for (; p2 > p1; --p2) {
-        group.PointToPixel(series, p2, x2, y2);
-        if (y2 != -1)
-            break;
-    }
-    if (p1 == p2)
         return NotHittable;
     if (x <= x1)
         return PointDistance(x1 - x, y1 - y);

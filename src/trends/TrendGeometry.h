@@ -9,7 +9,7 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <vector>
+#include <span>
 
 namespace zantroq {
 
@@ -36,25 +36,28 @@ inline int DisplayPosition(const IChartWindow& window, int index)
 // The integer part of the x axis's left edge.
 int AxisBase(IChartWindow& window);
 
-// The curves of one draw are built here, so that a draw allocates nothing once the window has been seen at
-// its widest.
-std::vector<double>& TrendScratch(IChartWindow& window);
+// The values of a series of group 2 for a whole draw to write in place, with its look set: first point 1,
+// drawn to the last displayed point. Empty when the pane has no such series.
+std::span<double> BeginTrendSeries(IChartWindow& window, int series, const sTrendLook& look, XVector x);
+// Tells the scene that they are written.
+void EndTrendSeries(IChartWindow& window);
 
-// Hands the scratch vector to a series of group 2 with its look: first point 1, drawn to the last displayed
-// point.
-void CommitTrendSeries(IChartWindow& window, int series, const sTrendLook& look, XVector x,
-                       const std::vector<double>& y);
-
-// Writes value(i) at positions from..to of a series and the hole value at the other displayed points.
+// Writes value(i) at positions from..to of a series and the hole value at the other displayed points. One
+// pass, nothing allocated. Inside of a batch.
 template<class Value>
 void WriteTrendSeries(IChartWindow& window, int series, const sTrendLook& look, XVector x, int from, int to,
                       Value value)
 {
-    std::vector<double>& y = TrendScratch(window);
-    const int last = std::min(to, window.Range().shown);
-    for (int i = std::max(from, 1); i <= last; ++i)
-        y[static_cast<std::size_t>(i - 1)] = value(i);
-    CommitTrendSeries(window, series, look, x, y);
+    const std::span<double> y = BeginTrendSeries(window, series, look, x);
+    const int points = static_cast<int>(y.size());
+    const int first = std::clamp(from, 1, points + 1);
+    const int last = std::max(std::min({to, window.Range().shown, points}), first - 1);
+    double* const values = y.data();
+    std::fill_n(values, first - 1, CPaneData::HoleValue());
+    for (int i = first; i <= last; ++i)
+        values[i - 1] = value(i);
+    std::fill_n(values + last, points - last, CPaneData::HoleValue());
+    EndTrendSeries(window);
 }
 
 // The hole value at every displayed point of a series.

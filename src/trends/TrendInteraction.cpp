@@ -205,12 +205,12 @@ void CTrendInteraction::OnDeleteClick(int x, int y)
             m_trendState = TrendIdle;
             return;
         }
-    } else if (m_currentTrend) {
-        // The line may have gone while the box was open, with a new chart.
+    } else if (m_currentTrend) { // else it went while the box was open, with a new chart
         CPriceBatch batch(m_window);
         m_currentTrend->SetMarkers(false);
     }
-    Prompt(PromptDelete);
+    if (m_trendState == DeleteTrend) // a new chart may have ended the mode while the box was open
+        Prompt(PromptDelete);
 }
 
 void CTrendInteraction::OnFlashTimer()
@@ -258,8 +258,9 @@ bool CTrendInteraction::MoveEndPoint(int index, int xi, double x, double y)
     trend.m_endIndex = index;
     if (m_trendState != HorizontalEnd) {
         // The anchor sits on a whole index, yet the line passes under the pointer.
-        const int run = index - trend.m_startIndex;
-        trend.SetEndValue(((y - trend.m_value) / ((x - xi) + run)) * run + trend.m_value);
+        const int start = trend.m_startIndex;
+        trend.SetEndValue(((y - trend.m_value) / ((x - xi) + index - start)) * (index - start) +
+                          trend.m_value);
     }
     return true;
 }

@@ -488,6 +488,8 @@ TEST(PriceDraw, TrendlinesAreRedrawnAndTheirSeriesKept)
     FillForty(chart);
     chart.trends.seriesCount = 7;
     chart.trends.labelCount = 18;
+    chart.window.settings.Trends[TrendFibonacciRetracements].Color = 0x123456;
+    chart.window.settings.PriceLabelColor = 0x654321;
     chart.manager.FullRedraw();
     EXPECT_EQ(chart.trends.draws, 1);
     EXPECT_EQ(chart.Overlays().SeriesCount(), 7);
@@ -495,7 +497,12 @@ TEST(PriceDraw, TrendlinesAreRedrawnAndTheirSeriesKept)
     ASSERT_EQ(chart.Labels().Count(), 18);
     EXPECT_FALSE(chart.Labels().Item(18).Shown());
     EXPECT_EQ(chart.Labels().Item(18).Border(), 1);
+    EXPECT_EQ(chart.Labels().Item(18).BoxAttachment(), 0);
+    EXPECT_EQ(chart.Labels().Item(18).BoxEdge(), 4);
     EXPECT_EQ(chart.Labels().Item(18).Attachment(), AttachToPixel);
+    for (int label = 10; label <= 18; ++label)
+        EXPECT_EQ(chart.Labels().Item(label).Interior().Foreground(), 0x123456u) << label;
+    EXPECT_EQ(chart.Labels().Item(9).Interior().Foreground(), 0x654321u);
     EXPECT_EQ(chart.window.priceBatchDepth, 0);
 }
 

@@ -388,6 +388,29 @@ TEST_F(TrendMachine, RubberBandPassesUnderThePointer)
     }
 }
 
+// The order of the operations is part of the result: the index joins the fraction before the start leaves it.
+TEST_F(TrendMachine, EndPriceIsWorkedOutInOneOrder)
+{
+    prices.count = 300000;
+    window.Show(245700, 60, 50.0, 150.0);
+    machine.OnCommand(DrawSloping);
+    Down(1, 10, 100);
+    for (int px = 200; px < 560; ++px) {
+        machine.OnMouseMove(px, 77);
+        double x = 0, y = 0;
+        ASSERT_EQ(window.pane.PaneGroups(1).PixelToData(px, 77, x, y), GeometryFound);
+        const CBaseTrend& trend = *machine.Current();
+        const int xi = static_cast<int>(x + 0.5), index = 245700 - 1 + xi;
+        double run = x - xi;
+        run += index;
+        run -= trend.m_startIndex;
+        double wanted = (y - trend.m_value) / run;
+        wanted *= index - trend.m_startIndex;
+        wanted += trend.m_value;
+        ASSERT_EQ(trend.GetEndValue(), wanted) << px;
+    }
+}
+
 TEST_F(TrendMachine, SecondParallelLineSitsUnderThePointer)
 {
     machine.OnCommand(DrawParallel);
@@ -544,6 +567,18 @@ TEST_F(TrendDeletion, DeletingTheLastLineEndsTheModeAndDeletingAnotherKeepsIt)
     EXPECT_EQ(lists.Count(), 0);
     EXPECT_EQ(machine.State(), 0);
     EXPECT_EQ(status.text, "Ready");
+}
+
+TEST_F(TrendDeletion, ModeThatEndsWhileTheBoxIsOpenStaysEnded)
+{
+    box.whileOpen = [this] {
+        machine.OnNewChart();
+        machine.OnRequest();
+        status.text = "Loading Data...";
+    };
+    ClickAbove(0);
+    EXPECT_EQ(machine.State(), TrendIdle);
+    EXPECT_EQ(status.text, "Loading Data...");
 }
 
 TEST_F(TrendDeletion, LineThatGoesWhileTheBoxIsOpenDoesNoHarm)

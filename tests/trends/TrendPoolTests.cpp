@@ -25,6 +25,20 @@ TEST_F(TrendPool, NewSeriesAreSetUpWithSolidLineAndGreyMarks)
     EXPECT_EQ(lists.SeriesCount(), 5);
 }
 
+TEST_F(TrendPool, NewSeriesIsShownAtOnceWhateverThePaneWasSetUpFor)
+{
+    CPaneData& data = window.pane.PaneGroups(2).PaneData();
+    data.SetLastShownSeries(3);
+    for (const int series : {4, 5}) {
+        EXPECT_EQ(lists.AllocateSeries(), series);
+        EXPECT_EQ(data.LastVisible(), series);
+    }
+    data.SetLastShownSeries(0); // no limit stays none
+    lists.AllocateSeries();
+    EXPECT_EQ(data.LastShownSeries(), 0);
+    EXPECT_EQ(data.LastVisible(), 6);
+}
+
 TEST_F(TrendPool, SeriesGivenBackAreUsedAgainFirstInFirstOut)
 {
     machine.OnCommand(DrawSpeedResistance);
@@ -123,6 +137,12 @@ TEST_F(TrendPool, WithOnePointShownNothingCanBeHit)
     Pixel(1, 100, px, py);
     lists.FindNearest(px, py, &distance);
     EXPECT_EQ(distance, NotHittable);
+    window.Show(110, 1, 50, 150); // the lines now begin left of the one point that is shown
+    lists.DrawAll();
+    for (int kind = 0; kind < TrendKinds; ++kind) {
+        const CTrendList& list = lists.List(static_cast<TrendKind>(kind));
+        EXPECT_EQ(list.Item(0).HitDistance(px, py), NotHittable) << kind;
+    }
 }
 
 TEST_F(TrendPool, SettersReachEveryMemberOfAKind)
