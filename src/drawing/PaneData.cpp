@@ -27,16 +27,23 @@ bool SameNumbers(const double* held, const T* given, std::size_t count)
 
 } // namespace
 
-void CPaneData::NoteWhole()
+void CPaneData::NoteWhole(int series)
 {
     m_wholeRevision = ++m_revision;
+    (series == 0 ? m_frameRevision : m_yRevision[static_cast<std::size_t>(series - 1)]) = m_revision;
     m_changes.clear();
     TouchData();
 }
 
-void CPaneData::NotePoints(int first, int last)
+bool CPaneData::SeriesChangedSince(int series, std::uint64_t revision) const
 {
-    ++m_revision;
+    return FrameChangedSince(revision) ||
+           (Has(series) && revision < m_yRevision[static_cast<std::size_t>(series - 1)]);
+}
+
+void CPaneData::NotePoints(int series, int first, int last)
+{
+    m_yRevision[static_cast<std::size_t>(series - 1)] = ++m_revision;
     if (!m_changes.empty() && m_changes.back().Revision > m_askedRevision) {
         sChange& change = m_changes.back(); // nobody has asked since: one record for all of it
         change = {m_revision, std::min(change.First, first), std::max(change.Last, last)};
@@ -97,6 +104,7 @@ void CPaneData::SetSeriesCount(int count)
     if (n == 0)
         m_x.clear();
     m_y.resize(n, CSlidingArray(m_x.size(), HoleValue()));
+    m_yRevision.resize(n, 0);
     m_firstPoint.resize(n, 1);
     m_drawnTo.resize(n, 0);
     NoteWhole();
@@ -192,7 +200,7 @@ void CPaneData::SetPointY(int series, int point, double y)
     if (IsSame(held, y))
         return;
     held = y;
-    NotePoints(point, point);
+    NotePoints(series, point, point);
 }
 
 bool CPaneData::ShiftPoints(int series, int count, int firstSource)
@@ -239,7 +247,7 @@ bool CPaneData::SetYVector(int series, std::span<const double> y)
     if (!Has(series) || y.size() < m_x.size())
         return false;
     std::copy_n(y.begin(), m_x.size(), m_y[static_cast<std::size_t>(series - 1)].begin());
-    NoteWhole();
+    NoteWhole(series);
     return true;
 }
 
@@ -247,7 +255,7 @@ std::span<double> CPaneData::LoadY(int series)
 {
     if (!Has(series))
         return {};
-    NoteWhole();
+    NoteWhole(series);
     return m_y[static_cast<std::size_t>(series - 1)];
 }
 
@@ -263,7 +271,7 @@ std::span<double> CPaneData::WholeY(int series)
 {
     if (!Has(series))
         return {};
-    NoteWhole();
+    NoteWhole(series);
     auto& y = m_y[static_cast<std::size_t>(series - 1)];
     return {y.data(), y.size()};
 }

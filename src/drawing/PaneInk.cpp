@@ -4,6 +4,7 @@
 
 #include <bit>
 #include <limits>
+#include <utility>
 
 namespace zantroq {
 
@@ -389,7 +390,7 @@ CPaneInk::sDamage CPaneInk::Update(const CChart2D& chart, const sPlotMap& map, d
     sLook look = LookOf(chart, map, scale);
     const sPointChanges changes = data.ChangesSince(m_revision);
     const bool known = m_drawn && look == m_look;
-    m_revision = data.Revision();
+    const std::uint64_t since = std::exchange(m_revision, data.Revision());
     if (known && !changes.Whole && changes.Last < changes.First)
         return {};
     m_map = map;
@@ -404,7 +405,8 @@ CPaneInk::sDamage CPaneInk::Update(const CChart2D& chart, const sPlotMap& map, d
             return {false, std::max(m_map.Plot.Left, m_map.X.Pixel(x[first > 0 ? first - 1 : 0]) - reach),
                     std::min(m_map.Plot.Right, m_map.X.Pixel(x[last]) + reach + 1)};
     }
-    DrawAll(group);
+    if (!known || !DrawChangedLines(group, since))
+        DrawAll(group);
     m_drawn = true;
     return {true, m_map.Plot.Left, m_map.Plot.Right};
 }
@@ -527,16 +529,46 @@ void CPaneInk::DrawLines(const CPaneGroup& group)
 {
     const CPaneData& data = group.PaneData();
     for (int series = data.FirstVisible(); series <= data.LastVisible(); ++series) {
-        const CLineLook& look = StyleOf(group, series).LineLook();
-        if (look.Pattern() == LineNone)
+        const CSeriesStyle& style = StyleOf(group, series);
+        const CLineLook& look = style.LineLook();
+        const bool marked = style.SymbolLook().Shape() != SymbolNone;
+        if (look.Pattern() == LineNone && !marked)
             continue;
         sInkLine line{look.LineColour(), DevicePixels(look.Width(), m_scale), look.Pattern(), {}};
         DrawLine(group, series, 0, line);
+        if (marked)
+            DrawSymbols(group, series);
+        if (look.Pattern() == LineNone)
+            continue;
         m_widest = std::max(m_widest, 2 * line.Width);
         m_lines.push_back(std::move(line));
         m_lineSeries.push_back(series);
     }
-    DrawSymbols(group);
+    m_ascending = m_ascending && m_rects.empty(); // marks stand series by series
+}
+
+// Lines of one look whose points alone changed: the others stay as they are. False when everything has to be
+// drawn.
+bool CPaneInk::DrawChangedLines(const CPaneGroup& group, std::uint64_t since)
+{
+    const CPaneData& data = group.PaneData();
+    if (m_map.Empty() || HasBars(group) || data.FrameChangedSince(since))
+        return false;
+    m_rects.clear();
+    m_ascending = data.XAscending();
+    sInkLine bare;
+    std::size_t next = 0;
+    for (int series = data.FirstVisible(); series <= data.LastVisible(); ++series) {
+        const bool drawn = next < m_lineSeries.size() && m_lineSeries[next] == series;
+        const bool marked = StyleOf(group, series).SymbolLook().Shape() != SymbolNone;
+        if (marked || (drawn && data.SeriesChangedSince(series, since)))
+            DrawLine(group, series, 0, drawn ? m_lines[next] : bare);
+        if (marked)
+            DrawSymbols(group, series);
+        next += drawn;
+    }
+    m_ascending = m_ascending && m_rects.empty();
+    return true;
 }
 
 void CPaneInk::DrawLine(const CPaneGroup& group, int series, std::size_t firstPoint, sInkLine& line)
@@ -560,6 +592,7 @@ void CPaneInk::DrawLine(const CPaneGroup& group, int series, std::size_t firstPo
         return NearestPixel(place * sInkVertex::One);
     };
     const bool reduced = m_detail == InkDetail::Reduced, crowded = IsCrowded();
+    m_runs.clear();
     bool joined = i > 0 && i <= points && !line.Vertices.empty() && IsDrawn(y[i - 1]);
     for (; i < points; ++i) {
         if (!IsDrawn(y[i]) || !IsDrawn(x[i]) || std::isinf(x[i])) {
@@ -573,7 +606,10 @@ void CPaneInk::DrawLine(const CPaneGroup& group, int series, std::size_t firstPo
             // between does not.
             const std::size_t end = EndOfColumn(data.X(), i, column);
             sLeastGreatest found;
-            if (end - i > 2 && FindLeastGreatest({y + i, y + end}, found)) {
+            const bool plain = end - i > 2 && FindLeastGreatest({y + i, y + end}, found);
+            if (m_runs.empty() || m_runs.back().End <= i) // else a column with gaps, begun already
+                m_runs.push_back({i, end, found.Least, found.Greatest, plain});
+            if (plain) {
                 const int a = height(found.Least), b = height(found.Greatest);
                 if (joined && line.Vertices.back().Column == column) {
                     sInkVertex& vertex = line.Vertices.back();
@@ -606,50 +642,47 @@ void CPaneInk::DrawLine(const CPaneGroup& group, int series, std::size_t firstPo
     }
 }
 
-void CPaneInk::DrawSymbols(const CPaneGroup& group)
+// The marks of the line drawn last.
+void CPaneInk::DrawSymbols(const CPaneGroup& group, int series)
 {
     const CPaneData& data = group.PaneData();
-    const bool crowded = IsCrowded();
-    for (int series = data.FirstVisible(); series <= data.LastVisible(); ++series) {
-        const CSymbolLook& look = StyleOf(group, series).SymbolLook();
-        if (look.Shape() == SymbolNone)
-            continue;
-        const int size = DevicePixels(look.Size(), m_scale), half = size / 2;
-        const std::span<const double> x = data.X(), y = data.Y(series);
-        sInkRect before{};
-        const auto emit = [&](int column, int top, int bottom) {
-            const sInkRect box{std::max(column - half, m_map.Plot.Left), std::max(top - half, m_map.Plot.Top),
-                               std::min(column - half + size, m_map.Plot.Right),
-                               std::min(bottom - half + size, m_map.Plot.Bottom), look.SymbolColour()};
-            // One colour: the same box again shows nothing new.
-            if (box.Left < box.Right && box.Top < box.Bottom && !(box == before))
-                m_rects.push_back(box);
-            before = box;
-        };
-        for (std::size_t i = SkipUndrawn(y, 0); i < x.size(); i = SkipUndrawn(y, i + 1)) {
-            if (!IsDrawn(y[i]) || !IsDrawn(x[i]) || std::isinf(x[i]) || std::isinf(y[i]))
+    const CSymbolLook& look = StyleOf(group, series).SymbolLook();
+    const int size = DevicePixels(look.Size(), m_scale), half = size / 2;
+    const std::span<const double> x = data.X(), y = data.Y(series);
+    sInkRect before{};
+    const auto emit = [&](int column, int top, int bottom) {
+        const sInkRect box{std::max(column - half, m_map.Plot.Left), std::max(top - half, m_map.Plot.Top),
+                           std::min(column - half + size, m_map.Plot.Right),
+                           std::min(bottom - half + size, m_map.Plot.Bottom), look.SymbolColour()};
+        // One colour: the same box again shows nothing new.
+        if (box.Left < box.Right && box.Top < box.Bottom && !(box == before))
+            m_rects.push_back(box);
+        before = box;
+    };
+    const auto single = [&](std::size_t i) {
+        if (!IsDrawn(y[i]) || !IsDrawn(x[i]) || std::isinf(x[i]) || std::isinf(y[i]))
+            return;
+        const int row = m_map.Y.Pixel(y[i]);
+        emit(m_map.X.Pixel(x[i]), row, row);
+    };
+    m_widest = std::max(m_widest, size);
+    if (!IsCrowded()) {
+        for (std::size_t i = 0; i < x.size(); ++i)
+            single(i);
+        return;
+    }
+    for (const sRun& run : m_runs) {
+        if (run.Plain) {
+            // Where the marks that stand furthest apart leave no gap, they are one.
+            const int a = m_map.Y.Pixel(run.Least), b = m_map.Y.Pixel(run.Greatest);
+            if (std::abs(a - b) <= size || std::min(a, b) - half >= m_map.Plot.Bottom ||
+                std::max(a, b) - half + size <= m_map.Plot.Top) {
+                emit(m_map.X.Pixel(x[run.First]), std::min(a, b), std::max(a, b));
                 continue;
-            const int column = m_map.X.Pixel(x[i]);
-            if (crowded) {
-                // A column of plain numbers at once, where the symbols that stand furthest apart leave no
-                // gap.
-                const std::size_t end = EndOfColumn(x, i, column);
-                sLeastGreatest found;
-                if (end - i > 2 && FindLeastGreatest(y.subspan(i, end - i), found)) {
-                    const int a = m_map.Y.Pixel(found.Least), b = m_map.Y.Pixel(found.Greatest);
-                    if (std::abs(a - b) <= size || std::min(a, b) - half >= m_map.Plot.Bottom ||
-                        std::max(a, b) - half + size <= m_map.Plot.Top) {
-                        emit(column, std::min(a, b), std::max(a, b));
-                        i = end - 1;
-                        continue;
-                    }
-                }
             }
-            const int row = m_map.Y.Pixel(y[i]);
-            emit(column, row, row);
         }
-        m_widest = std::max(m_widest, size);
-        m_ascending = false;
+        for (std::size_t i = run.First; i < run.End; ++i)
+            single(i);
     }
 }
 

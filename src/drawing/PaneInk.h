@@ -86,12 +86,20 @@ private:
         std::size_t FirstPoint, FirstRect;
     };
 
+    struct sRun // points of a line in one column, looked at together
+    {
+        std::size_t First, End;
+        double Least, Greatest; // when Plain
+        bool Plain;             // every one of them a number
+    };
+
     sLook LookOf(const CChart2D& chart, const sPlotMap& map, double scale) const;
     void DrawAll(const CPaneGroup& group);
     bool DrawTail(const CPaneGroup& group, std::size_t firstPoint);
     bool DrawBars(const CPaneGroup& group, std::size_t firstPoint);
-    void DrawSymbols(const CPaneGroup& group);
     void DrawLines(const CPaneGroup& group);
+    bool DrawChangedLines(const CPaneGroup& group, std::uint64_t since);
+    void DrawSymbols(const CPaneGroup& group, int series);
     void DrawLine(const CPaneGroup& group, int series, std::size_t firstPoint, sInkLine& line);
     std::size_t FirstOfColumn(const CPaneData& data, std::size_t from, int column) const;
     std::size_t EndOfColumn(std::span<const double> x, std::size_t i, int column);
@@ -114,6 +122,7 @@ private:
     std::vector<sColumnStart> m_columns;
     std::vector<sInkLine> m_lines;
     std::vector<int> m_lineSeries;
+    std::vector<sRun> m_runs; // of the line drawn last
 };
 
 } // namespace zantroq

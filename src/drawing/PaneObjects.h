@@ -541,6 +541,10 @@ public:
     // since.
     std::uint64_t Revision() const { return m_revision; }
     sPointChanges ChangesSince(std::uint64_t revision) const;
+    // Whether a series has to be looked at again: its own y values changed since, or what all series share.
+    bool SeriesChangedSince(int series, std::uint64_t revision) const;
+    // Whether what all series share changed since: sizes or x values.
+    bool FrameChangedSince(std::uint64_t revision) const { return revision < m_frameRevision; }
 
 private:
     struct sChange
@@ -548,8 +552,8 @@ private:
         std::uint64_t Revision;
         int First, Last;
     };
-    void NoteWhole();
-    void NotePoints(int first, int last);
+    void NoteWhole(int series = 0); // 0: of all series
+    void NotePoints(int series, int first, int last);
     bool Has(int series) const { return series >= 1 && series <= SeriesCount(); }
     bool Has(int series, int point) const
     {
@@ -562,6 +566,8 @@ private:
     std::vector<int> m_firstPoint, m_drawnTo;
     mutable signed char m_ascending = 1; // -1: to be found out
     std::uint64_t m_revision = 0;
+    std::uint64_t m_frameRevision = 0;         // the last change of what all series share
+    std::vector<std::uint64_t> m_yRevision;    // the last change of each series' y values
     std::uint64_t m_wholeRevision = 0;         // before it single changes are not known
     mutable std::uint64_t m_askedRevision = 0; // the newest that anybody has been told of
     std::vector<sChange> m_changes;            // oldest first, a few

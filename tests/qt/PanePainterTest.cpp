@@ -111,6 +111,57 @@ TEST(PaneReduction, LinesOfEveryPatternAndWidthLookAsEveryPointPainted)
     }
 }
 
+TEST(PaneReduction, MarksOnLinesLookAsEveryPointPainted)
+{
+    std::mt19937 random(17);
+    for (int round = 0; round < 60; ++round) {
+        const int count = round % 3 == 0 ? 60 : round % 3 == 1 ? 900 : 9000;
+        std::vector<double> y = RoughCurve(count, random, round % 5 == 0);
+        if (round % 2 == 1) { // a straight line with holes before and behind it, steeper from round to round
+            const int from = count / 7, to = count - count / 5;
+            for (int i = 0; i < count; ++i)
+                y[static_cast<std::size_t>(i)] =
+                    i < from || i > to ? Hole : 30 + (i - from) * std::pow(2.0, round * 0.2) * 10 / count;
+        }
+        const Pane pane = test::LinePane(280, 180, y);
+        CSymbolLook& look = pane->PaneGroups(1).SeriesStyles(1).SymbolLook();
+        look.SetShape(SymbolMark);
+        look.SetSize(1 + round % 4);
+        look.SetColour(0xC0C0C0);
+        test::FitAxes(*pane, count, 20, 80);
+        ASSERT_TRUE(LooksAsEveryPointPainted(*pane, 1 + 0.5 * (round % 4))) << round;
+    }
+}
+
+TEST(PaneReduction, LinesThatAreWrittenAnewLookAsEveryPointPainted)
+{
+    std::mt19937 random(19);
+    for (const int count : {50, 3000}) {
+        const Pane pane = test::LinePane(280, 180, RoughCurve(count, random, true));
+        CPaneData& data = pane->PaneGroups(1).PaneData();
+        data.SetSeriesCount(5);
+        pane->PaneGroups(1).SeriesStyles(3).SymbolLook().SetShape(SymbolMark);
+        pane->PaneGroups(1).SeriesStyles(3).SymbolLook().SetSize(3);
+        pane->PaneGroups(1).SeriesStyles(5).LineLook().SetPattern(LineNone);
+        pane->PaneGroups(1).SeriesStyles(5).SymbolLook().SetShape(SymbolMark);
+        test::FitAxes(*pane, count, 20, 80);
+        CPanePainter kept(*pane, Family);
+        kept.Picture(1);
+        for (int round = 0; round < 40; ++round) {
+            const int series = 1 + round % 5;
+            if (round % 4 == 3)
+                data.SetPointY(series, 1 + count / 2, 20 + round);
+            else
+                data.SetYVector(series, RoughCurve(count, random, round % 2 == 0));
+            if (round % 9 == 8)
+                data.SetPointCount(1, count - round);
+            CPanePainter plain(*pane, Family, InkDetail::EveryPoint);
+            ASSERT_TRUE(SamePicture(kept.Picture(1), plain.Picture(1)))
+                << count << " points, round " << round;
+        }
+    }
+}
+
 TEST(PaneReduction, XInAnyOrderLooksAsEveryPointPainted)
 {
     std::mt19937 random(13);
