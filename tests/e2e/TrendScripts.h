@@ -23,9 +23,9 @@ struct sPlainPane
         const json& pane = state.at("panes").at(0);
         const json &rect = pane.at("rect"), &plot = pane.at("plot"), &axes = pane.at("axes");
         Left = plot.at("left");
-        Right = rect.at(2).get<int>() - rect.at(0).get<int>() - plot.at("right").get<int>() - 1;
+        Right = rect.at(2).get<int>() - plot.at("right").get<int>() - 1;
         Top = plot.at("top");
-        Bottom = rect.at(3).get<int>() - rect.at(1).get<int>() - plot.at("bottom").get<int>() - 1;
+        Bottom = rect.at(3).get<int>() - plot.at("bottom").get<int>() - 1;
         LowX = axes.at("x").at("viewLow");
         HighX = axes.at("x").at("viewHigh");
         LowY = axes.at("y").at("viewLow");

@@ -12,25 +12,20 @@ using TrendScripts = CTrendScripts;
 TEST_F(TrendScripts, EachKindStandsOnItsPointsThroughScrollingAndZooming)
 {
     const sPlainPane pane = Begin();
-    std::string steps;
     for (const sTrendTool& tool : TrendTools) {
+        SCOPED_TRACE(tool.Kind);
         const std::string kind = tool.Kind;
-        // Each from an empty chart, by the menu.
-        steps += "draw\nwait complete\n" + Down({pane.Left + 5, pane.Top + 5}, 2) + "menu " +
-                 std::to_string(tool.Command) + "\n" + Snapshot(kind + "-armed") +
-                 Down(At(pane, tool.Points[0])) + Snapshot(kind + "-begun") + Move(At(pane, tool.Points[1])) +
-                 Snapshot(kind + "-moved") + Down(At(pane, tool.Points[1]));
+        std::string steps = // by the menu
+            Down({pane.Left + 5, pane.Top + 5}, 2) + "menu " + std::to_string(tool.Command) + "\n" +
+            Snapshot(kind + "-armed") + Down(At(pane, tool.Points[0])) + Snapshot(kind + "-begun") +
+            Move(At(pane, tool.Points[1])) + Snapshot(kind + "-moved") + Down(At(pane, tool.Points[1]));
         if (tool.Third)
             steps += Move(At(pane, tool.Points[2])) + Down(At(pane, tool.Points[2]));
         steps += Snapshot(kind + "-done") + "scroll line-left\nscroll line-left\n" +
                  Snapshot(kind + "-left") + "command 777\ncommand 777\n" + Snapshot(kind + "-near") +
                  "scroll right-end\n" + Snapshot(kind + "-end") + "command 778\ncommand 778\ncommand 778\n" +
                  Snapshot(kind + "-far");
-    }
-    ASSERT_NO_FATAL_FAILURE(Play(steps));
-    for (const sTrendTool& tool : TrendTools) {
-        SCOPED_TRACE(tool.Kind);
-        const std::string kind = tool.Kind;
+        ASSERT_NO_FATAL_FAILURE(Play(steps));
         const sPlainTrend plain = PlainOf(tool, pane);
         EXPECT_EQ(State(kind + "-armed").at("trendState"), tool.FirstState);
         EXPECT_EQ(State(kind + "-armed").at("trends").size(), 0u);
@@ -63,18 +58,21 @@ TEST_F(TrendScripts, EachKindStandsOnItsPointsThroughScrollingAndZooming)
         const json& line = done.at("trends").at(0);
         EXPECT_EQ(line.at("startIndex"), plain.Start);
         EXPECT_EQ(line.at("endIndex"), plain.End);
-        if (kind != "horizontal")
+        if (kind != "horizontal") {
             EXPECT_NEAR(line.at("endValue").get<double>(), plain.EndValue, 1e-8);
+        }
         EXPECT_EQ(line.contains("offset"), kind == "parallel");
-        if (kind == "parallel")
+        if (kind == "parallel") {
             EXPECT_NEAR(line.at("offset").get<double>(), plain.Offset, 1e-8);
+        }
         EXPECT_EQ(line.contains("thirdIndex"), kind == "pitchfork");
         if (kind == "pitchfork") {
             EXPECT_EQ(line.at("thirdIndex"), plain.Third);
             EXPECT_NEAR(line.at("thirdValue").get<double>(), plain.ThirdValue, 1e-8);
         }
-        if (labelled)
+        if (labelled) {
             EXPECT_EQ(line.at("firstLabel"), 10);
+        }
         for (const int number : numbers)
             EXPECT_EQ(SeriesOf(done, number).at("symbol").at("shape"), 1);
 
@@ -145,8 +143,9 @@ TEST_F(TrendScripts, ColourWidthAndExtendableOfEachKindComeFromTheSettings)
     std::string steps;
     int value = 100;
     for (const sTrendTool& tool : TrendTools) {
+        ++value;
         const std::string name = std::string("set \"") + tool.Setting + " Trendline ";
-        steps += name + "Color\" " + std::to_string(++value) + "\n" + name + "Width\" " +
+        steps += name + "Color\" " + std::to_string(value) + "\n" + name + "Width\" " +
                  std::to_string(value % 5 + 2) + "\n" + name + "Extendable\" 0\n";
     }
     steps += "wait complete\n";
@@ -262,8 +261,9 @@ TEST_F(TrendScripts, DeletionInEveryOrderGivesSeriesAndLabelsBack)
                 for (const json& y : SeriesOf(state, number).at("y"))
                     ASSERT_TRUE(y.is_null()) << "series " << number;
             EXPECT_EQ(state.at("trendState"), n == 3 ? 0 : 17);
-            if (n == 3)
+            if (n == 3) {
                 EXPECT_EQ(state.at("status"), "Ready");
+            }
         }
         // The click without an answer was answered with no.
         const json boxes = State("3").at("boxes");
