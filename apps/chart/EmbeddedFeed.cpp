@@ -1,6 +1,8 @@
 #include "EmbeddedFeed.h"
 
 #include "CommandLine.h"
+#include "feed/MarketCatalog.h"
+#include "market/HistoryRecords.h"
 #include "market/ZantroPorts.h"
 
 namespace zantroq {
@@ -9,9 +11,16 @@ namespace {
 // Market seconds a second: so slow that no simulated trade ever happens.
 constexpr double Standstill = 1e-9;
 
+enum class Finest
+{
+    Ticks,
+    Minutes,
+    Days
+};
+
 } // namespace
 
-CEmbeddedFeed::CEmbeddedFeed(const sCommandLine& line)
+CEmbeddedFeed::CEmbeddedFeed(const sCommandLine& line) : m_folder(line.FeedFolder)
 {
     feed::sFEED_OPTIONS options;
     if (!line.FeedFolder.empty())
@@ -39,6 +48,30 @@ bool CEmbeddedFeed::Start(std::string& error)
 std::shared_ptr<ISettingsKey> CEmbeddedFeed::PortKey() const
 {
     return MakePortKey(m_server->LookupPort(), m_server->Level1Port());
+}
+
+std::string CEmbeddedFeed::Advice(const std::string& symbol, int dataType) const
+{
+    feed::CMarketCatalog catalog(1, [](const std::string&) {});
+    catalog.AddFolder(feed::ShippedDataFolder());
+    if (!m_folder.empty())
+        catalog.AddFolder(m_folder);
+    const feed::IMarketSource* const market = catalog.Find(symbol);
+    if (market == nullptr)
+        return "the embedded feed has no recording of it; name a folder that has one with --feed "
+               "embedded:FOLDER";
+    // What is finer than the finest that a symbol has cannot be made.
+    Finest finest = Finest::Days;
+    if (!market->TickDays().empty())
+        finest = Finest::Ticks;
+    else if (!market->MinuteDays().empty())
+        finest = Finest::Minutes;
+    if (dataType == TickData && finest == Finest::Minutes)
+        return "the embedded feed has no ticks of it, but minutes, which --data minute shows";
+    if (dataType <= MinuteData && finest == Finest::Days)
+        return std::string("the embedded feed has ") + (dataType == TickData ? "no ticks" : "no minutes") +
+               " of it, but daily prices, which --data daily shows";
+    return "the embedded feed has data of it; check the range in the settings, or give --timeout more";
 }
 
 } // namespace zantroq

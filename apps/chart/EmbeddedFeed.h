@@ -7,6 +7,7 @@
 #include <QObject>
 
 #include <memory>
+#include <string>
 
 namespace zantroq {
 
@@ -24,11 +25,16 @@ public:
     bool Start(std::string& error);
     std::shared_ptr<ISettingsKey> PortKey() const; // once started
 
+    // What to do when no complete reply came for a symbol, as half a sentence: what the feed has of it, and
+    // how to see that. Reads the recordings again.
+    std::string Advice(const std::string& symbol, int dataType) const;
+
 signals:
     // A sentence for the user; from the feed's thread.
     void Notice(const QString& sentence);
 
 private:
+    const std::string m_folder; // may be empty
     std::unique_ptr<feed::CFeedServer> m_server;
 };
 

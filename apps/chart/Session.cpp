@@ -136,8 +136,9 @@ int CSession::RunSnapshot()
     if (!WaitComplete(m_line.TimeoutMs)) {
         Complain(m_line.Symbol + ": the feed gave no complete reply in time (" +
                  QString::number(m_line.TimeoutMs / 1000.0).toStdString() + " s); " +
-                 (m_line.EmbeddedFeed ? "check that there is a recording of it, or give --timeout more"
-                                      : "start zantroq-feed, try --feed embedded, or give --timeout more"));
+                 (m_feed != nullptr
+                      ? m_feed->Advice(m_line.Symbol, m_window->Chart().Window().Settings().Request.DataType)
+                      : "start zantroq-feed, try --feed embedded, or give --timeout more"));
         return ExitNoAnswer;
     }
     if (m_line.SettleMs > 0)
@@ -194,7 +195,7 @@ void CSession::Resize(int width, int height)
 
 std::string CSession::Print(const std::string& file)
 {
-    return file + ": printing is not there yet; write a snapshot to a .pdf file instead";
+    return m_window->Chart().PrintToFile(QString::fromStdString(file)).toStdString();
 }
 
 std::string CSession::Snapshot(const std::string& file)

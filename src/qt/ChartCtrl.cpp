@@ -2,17 +2,21 @@
 
 #include "market/ManagerThreadHolder.h"
 #include "qt/ChartPicture.h"
+#include "qt/ChartPrinter.h"
 #include "qt/ChartView.h"
 #include "qt/MessageBox.h"
 #include "qt/ShownValues.h"
 #include "studies/StudyFactory.h"
 #include "window/ChartDlg.h"
 #include "window/ManagerThreadFeed.h"
+#include "window/WindowDialogs.h"
 
 #include <QClipboard>
 #include <QFileDialog>
 #include <QGuiApplication>
 #include <QMessageBox>
+
+#include <functional>
 
 namespace zantroq {
 namespace {
@@ -24,6 +28,15 @@ public:
     void Open(const sContextMenu&, int, int) override {}
 };
 
+class CDialogs : public IWindowDialogs
+{
+public:
+    bool HasPrint() const override { return true; }
+    void RunPrint() override { Print(); }
+
+    std::function<void()> Print = [] {};
+};
+
 } // namespace
 
 struct CChartCtrl::sServices
@@ -31,6 +44,7 @@ struct CChartCtrl::sServices
     explicit sServices(QWidget& parent) : Box(parent), Feed(ManagerThreadHolder()) {}
 
     CMessageBox Box;
+    CDialogs Dialogs;
     CMenuAsData Menu;
     CManagerThreadFeed Feed;
     CStudyFactory Studies;
@@ -54,7 +68,11 @@ CChartCtrl::CChartCtrl(QWidget* parent, const sChartCtrlSetup& setup)
     m_window = std::make_unique<CChartDlg>(sChartDlgSetup{.Services = m_view->Services(box, menu),
                                                           .Key = *m_chartKey,
                                                           .Feed = m_services->Feed,
-                                                          .Studies = &m_services->Studies});
+                                                          .Studies = &m_services->Studies,
+                                                          .Dialogs = &m_services->Dialogs});
+    // Where nobody sees a dialog, nobody can close it: it counts as cancelled.
+    if (setup.Popups)
+        m_services->Dialogs.Print = [this] { PrintWithDialog(*m_window, this); };
     m_view->Attach(*m_window);
     m_view->Menu().Extend = [this](QMenu& popup) {
         if (!Conveniences())
@@ -62,6 +80,9 @@ CChartCtrl::CChartCtrl(QWidget* parent, const sChartCtrlSetup& setup)
         popup.addSeparator();
         popup.addAction("Copy picture", this, &CChartCtrl::CopyPicture);
         popup.addAction("Save picture...", this, &CChartCtrl::AskForPicture);
+        QAction* const print =
+            popup.addAction("Print...", this, [this] { m_view->RunCommand(CommandPrint); });
+        print->setEnabled(m_view->MayRun(CommandPrint));
     };
     m_window->Initialise();
 }
@@ -121,6 +142,11 @@ QString CChartCtrl::SavePicture(const QString& path) const
     if (path.endsWith(".csv", Qt::CaseInsensitive))
         return SaveShownValues(*m_window, path);
     return SaveChartPicture({*m_window, m_view->size(), m_notice}, path, devicePixelRatioF());
+}
+
+QString CChartCtrl::PrintToFile(const QString& path)
+{
+    return PrintToPdf(*m_window, path);
 }
 
 void CChartCtrl::CopyPicture()

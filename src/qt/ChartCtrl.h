@@ -25,7 +25,7 @@ struct sChartCtrlSetup
     std::shared_ptr<ISettingsKey> ChartKey; // where the chart's settings are kept
     std::shared_ptr<ISettingsKey> FeedKey;  // the feed's ports; see MakePortKey
     IMessageBox* Box = nullptr;             // answers the window's questions; not owned
-    bool Popups = true;                     // false: context menus exist as data only
+    bool Popups = true; // false: context menus exist as data only, and the print dialog counts as cancelled
 };
 
 class CChartCtrl : public QWidget
@@ -36,7 +36,8 @@ class CChartCtrl : public QWidget
     // Whether the control brings its top-level window back to where a chart of the same title last stood, and
     // keeps that place.
     Q_PROPERTY(bool ResizeParentWindow READ ResizeParentWindow WRITE SetResizeParentWindow)
-    // Wheel, arrow keys, Ctrl with + and -, F10 and the menu key, and the picture items of the context menu.
+    // Wheel, arrow keys, Ctrl with +, - and P, F10 and the menu key, and the items for pictures and printing
+    // in the context menu.
     Q_PROPERTY(bool Conveniences READ Conveniences WRITE SetConveniences)
 
 public:
@@ -62,6 +63,8 @@ public:
     // sentence that says what is wrong.
     QString SavePicture(const QString& path) const;
     QImage Picture() const;
+    // The print command onto a PDF file, without a dialog. Empty, or one sentence that says what is wrong.
+    QString PrintToFile(const QString& path);
 
 signals:
     void StockSymbolChanged(const QString& symbol);

@@ -202,9 +202,15 @@ bool CChartView::MayScroll() const
     return m_window != nullptr && m_scroll->isEnabledTo(this) && m_scroll->Visible();
 }
 
+bool CChartView::MayRun(int command) const
+{
+    return m_window != nullptr && m_bars->Commands().isEnabledTo(this) &&
+           m_bars->Commands().IsEnabled(command);
+}
+
 void CChartView::RunCommand(int command)
 {
-    if (m_bars->Commands().isEnabledTo(this) && m_bars->Commands().IsEnabled(command))
+    if (MayRun(command))
         m_window->OnCommand(command);
 }
 
@@ -238,6 +244,8 @@ void CChartView::keyPressEvent(QKeyEvent* event)
         return control ? RunCommand(CommandZoomIn) : event->ignore();
     case Qt::Key_Minus:
         return control ? RunCommand(CommandZoomOut) : event->ignore();
+    case Qt::Key_P:
+        return control ? RunCommand(CommandPrint) : event->ignore();
     default:
         QWidget::keyPressEvent(event);
     }

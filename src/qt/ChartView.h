@@ -37,9 +37,12 @@ public:
     CPaneWidget* Pane(int number) { return m_panes.at(static_cast<std::size_t>(number)); }
     CContextMenuPopup& Menu() { return m_menu; }
 
-    // Wheel, arrow keys, Ctrl with + and -, F10 and the menu key. On unless the host switches them off.
+    // Wheel, arrow keys, Ctrl with +, - and P, F10 and the menu key. On unless the host switches them off.
     void SetConveniences(bool on) { m_conveniences = on; }
     bool Conveniences() const { return m_conveniences; }
+
+    bool MayRun(int command) const; // enabled, and no chart is being loaded
+    void RunCommand(int command);   // if it may run
 
     // Client size of the chart window, shown or not.
     void SetClientSize(int width, int height);
@@ -71,7 +74,6 @@ private:
     void PaneKey(int control, int code) override;
 
     void LayOut();
-    void RunCommand(int command); // unless it is disabled
     void OpenMenuByKey();
     bool MayScroll() const;
 

@@ -88,7 +88,23 @@ TEST_F(ChartErrors, ASymbolThatTheFeedDoesNotKnowEndsWithExitThree)
 {
     const sRun run = Chart({"NOSUCH", "--feed", "embedded", "--snapshot", "a.png", "--timeout", "1"});
     EXPECT_EQ(run.ExitCode, 3);
-    EXPECT_NE(run.Err.find("NOSUCH: the feed gave no complete reply in time (1 s)"), std::string::npos)
+    EXPECT_EQ(
+        run.Err,
+        "zantroq-chart: NOSUCH: the feed gave no complete reply in time (1 s); the embedded feed has no "
+        "recording of it; name a folder that has one with --feed embedded:FOLDER\n");
+}
+
+TEST_F(ChartErrors, DataThatTheEmbeddedFeedLacksPointsToWhatItHas)
+{
+    sRun run = Chart({"GOOG", "--feed", "embedded", "--snapshot", "a.png", "--timeout", "1"});
+    EXPECT_EQ(run.ExitCode, 3);
+    EXPECT_EQ(run.Err,
+              "zantroq-chart: GOOG: the feed gave no complete reply in time (1 s); the embedded feed has no "
+              "ticks of it, but daily prices, which --data daily shows\n");
+    Write("MIN.minute.csv", "time,open,high,low,close,volume\n2024-01-02 09:31:00,1,2,1,2,10\n");
+    run = Chart({"MIN", "--feed", "embedded:.", "--snapshot", "a.png", "--timeout", "1"});
+    EXPECT_EQ(run.ExitCode, 3);
+    EXPECT_NE(run.Err.find("no ticks of it, but minutes, which --data minute shows"), std::string::npos)
         << run.Err;
 }
 

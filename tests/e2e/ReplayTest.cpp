@@ -90,6 +90,30 @@ TEST_F(Replay, AFileThatCannotBeWrittenEndsWithExitFour)
     EXPECT_NE(run.Err.find("line 1: no/such/1.json: cannot be written"), std::string::npos) << run.Err;
 }
 
+TEST_F(Replay, PrintWritesThePageAsPdf)
+{
+    const sRun run = Play("type daily\nsymbol GOOG\ndraw\nwait complete\nprint page.pdf\nsnapshot 1.json\n");
+    ASSERT_EQ(run.ExitCode, 0) << run.Err;
+    EXPECT_TRUE(Bytes("page.pdf").startsWith("%PDF-"));
+    EXPECT_EQ(State("1.json").at("status"), "Ready");
+    EXPECT_EQ(State("1.json").at("commands").at("776").at("enabled"), true);
+    EXPECT_EQ(State("1.json").at("commands").at("32780").at("enabled"), true);
+}
+
+TEST_F(Replay, APageThatCannotBeWrittenEndsWithExitFour)
+{
+    const sRun run = Play("print no/such/page.pdf\n");
+    EXPECT_EQ(run.ExitCode, 4);
+    EXPECT_NE(run.Err.find("line 1: no/such/page.pdf: cannot be written ("), std::string::npos) << run.Err;
+}
+
+TEST_F(Replay, ThePrintCommandCountsAsCancelledWhereNobodySeesItsDialog)
+{
+    const sRun run = Play("snapshot 1.json\ncommand 776\nsnapshot 2.json\n");
+    ASSERT_EQ(run.ExitCode, 0) << run.Err;
+    EXPECT_EQ(Bytes("1.json"), Bytes("2.json"));
+}
+
 TEST_F(Replay, SettingsAreWrittenAsBySheet)
 {
     const sRun run = Play("set GRID 0\nsnapshot 1.json\n");

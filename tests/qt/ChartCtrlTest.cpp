@@ -1,8 +1,12 @@
 // The control with a real chart window and a real feed behind it.
 #include "qt/ChartFixture.h"
 
+#include <QAction>
+#include <QFile>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPrintDialog>
+#include <QTimer>
 #include <QWheelEvent>
 
 namespace zantroq::test {
@@ -195,7 +199,7 @@ TEST_F(CChartCtrlTest, TheMenuKeyOpensTheMenuOfThePane)
             texts << action->text();
     EXPECT_EQ(texts, QStringList({"Draw Trendlines", "Delete Trendline..", "Delete All Trendlines",
                                   "Restore Ticks", "Restore Bars", "Maximize", "Minimize", "Restore",
-                                  "Copy picture", "Save picture..."}));
+                                  "Copy picture", "Save picture...", "Print..."}));
     QAction* maximize = menu->actions().at(7);
     for (QAction* action : menu->actions())
         if (action->text() == "Maximize")
@@ -227,6 +231,54 @@ TEST_F(CChartCtrlTest, TheMenuOfAHostWithoutConveniencesHasNoPictureItems)
     ASSERT_NE(menu, nullptr);
     EXPECT_EQ(menu->actions().last()->text(), "Restore");
     menu->close();
+}
+
+TEST_F(CChartCtrlTest, ControlWithPAndThePrintButtonOpenThePrintDialogAndGiveTheFocusBack)
+{
+    Draw();
+    Show();
+    int asked = 0;
+    QTimer cancel;
+    cancel.setInterval(20);
+    QObject::connect(&cancel, &QTimer::timeout, &cancel, [&asked] {
+        if (auto* const dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget())) {
+            ++asked;
+            dialog->reject();
+        }
+    });
+    cancel.start();
+    QApplication::setActiveWindow(m_chart.get());
+    View().Pane(0)->setFocus();
+    const QString status = View().Status().Part(0);
+    QTest::keyClick(View().Pane(0), Qt::Key_P, Qt::ControlModifier);
+    EXPECT_EQ(asked, 1);
+    EXPECT_EQ(m_chart->window()->focusWidget(), View().Pane(0));
+    EXPECT_EQ(View().Bars().Symbol().Text(), "TEST") << "a shortcut is no typed character";
+    ASSERT_TRUE(View().Bars().Commands().IsEnabled(CommandPrint));
+    View().Bars().Commands().Action(CommandPrint)->trigger();
+    EXPECT_EQ(asked, 2);
+    EXPECT_EQ(View().Status().Part(0), status) << "a cancelled dialog says nothing";
+}
+
+TEST_F(CChartCtrlTest, PrintRestsWhileAChartLoads)
+{
+    Draw();
+    m_chart->SetStockSymbol("NOSUCH");
+    EXPECT_FALSE(View().MayRun(CommandPrint));
+    Key(Qt::Key_P, Qt::ControlModifier); // a dialog would never end here
+}
+
+TEST_F(CChartCtrlTest, PrintsOntoAFileAndNamesOneThatCannotBeWritten)
+{
+    Draw();
+    const QString path = m_folder.filePath("page.pdf");
+    EXPECT_EQ(m_chart->PrintToFile(path), "");
+    QFile page(path);
+    ASSERT_TRUE(page.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(page.readAll().startsWith("%PDF-"));
+    EXPECT_EQ(View().Status().Part(0), "Ready");
+    const QString nowhere = m_folder.filePath("no/such/page.pdf");
+    EXPECT_TRUE(m_chart->PrintToFile(nowhere).startsWith(nowhere + ": cannot be written ("));
 }
 
 TEST_F(CChartCtrlTest, TwoControlsShareOneWorkerAndTheSecondLivesOn)
