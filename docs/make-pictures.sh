@@ -1,5 +1,6 @@
 #!/bin/sh
-# Remakes the pictures of the documents: docs/images/studies/<name>.png, one for each study, and all.png with all ten.
+# Remakes the pictures of the documents: docs/images/studies/<name>.png, one for each study, and all.png with all ten;
+# docs/images/trends/<name>.png, one for each kind of trendline, drawn with the mouse of a replay script.
 # Usage: docs/make-pictures.sh [FOLDER OF THE BUILT PROGRAMS]     (default: build/release/bin)
 # Works on a settings file of its own; needs no display and no feed.
 set -eu
@@ -52,3 +53,32 @@ picture mfi 8
 picture adx 9
 size=1200x1400
 picture all 0 1 2 3 4 5 6 7 8 9
+
+# trend NAME COMMAND X1 Y1 X2 Y2 [X3 Y3]: a line drawn at these pixels of the price pane.
+images=$root/docs/images/trends
+mkdir -p "$images"
+trend() {
+    name=$1
+    command=$2
+    shift 2
+    "$bin/zantroq-settings" reset --yes
+    set_value "Number of displayed study charts" 0
+    {
+        printf 'resize 700 420\ntype daily\nsymbol GOOG\ndraw\nwait complete\ncommand %s\n' "$command"
+        while [ $# -gt 0 ]; do
+            printf 'mouse move 341 0 %s %s\nmouse down 341 1 %s %s\n' "$1" "$2" "$1" "$2"
+            shift 2
+        done
+        # The right click ends the mode, and its prompt with it.
+        printf 'mouse down 341 2 5 5\nsnapshot "%s"\n' "$images/$name.png"
+    } >"$work/script.txt"
+    "$bin/zantroq-chart" --feed embedded --replay "$work/script.txt"
+}
+
+trend horizontal 32779 335 192 520 192
+trend sloping 32784 88 88 470 155
+trend parallel 32785 88 88 470 155 355 195
+trend pitchfork 32786 330 125 385 185 220 95
+trend fibonacci-fan 32789 88 88 345 125
+trend fibonacci-retracements 32790 260 92 345 158
+trend speed-resistance 32788 88 88 345 150
