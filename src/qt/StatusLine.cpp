@@ -13,8 +13,9 @@ namespace {
 
 constexpr int Padding = 6;
 constexpr int Narrowest = 62; // percent of a letter's width
+constexpr int Smallest = 10;  // pixels of a letter's height
 
-// The two narrow parts squeeze their letters before they cut.
+// The two narrow parts squeeze their letters, then make them smaller, before they cut.
 QFont FittingFont(const QFont& font, const QString& text, int width)
 {
     const int wanted = QFontMetrics(font).horizontalAdvance(text);
@@ -22,6 +23,8 @@ QFont FittingFont(const QFont& font, const QString& text, int width)
         return font;
     QFont squeezed = font;
     squeezed.setStretch(std::max(Narrowest, 100 * width / wanted - 1));
+    while (QFontMetrics(squeezed).horizontalAdvance(text) > width && squeezed.pixelSize() > Smallest)
+        squeezed.setPixelSize(squeezed.pixelSize() - 1);
     return squeezed;
 }
 

@@ -281,6 +281,34 @@ TEST_F(CChartCtrlTest, PrintsOntoAFileAndNamesOneThatCannotBeWritten)
     EXPECT_TRUE(m_chart->PrintToFile(nowhere).startsWith(nowhere + ": cannot be written ("));
 }
 
+TEST_F(CChartCtrlTest, BarsAndIconsFollowADarkDesktop)
+{
+    Draw();
+    Show();
+    const QPalette light = QApplication::palette();
+    QPalette dark;
+    for (const QPalette::ColorRole role : {QPalette::Window, QPalette::Button, QPalette::Base})
+        dark.setColor(role, QColor(0x2a, 0x2d, 0x31));
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
+        dark.setColor(role, QColor(0xe6, 0xe6, 0xe6));
+    QApplication::setPalette(dark);
+    QTest::qWait(50);
+    const QImage image = m_chart->grab().toImage();
+    QApplication::setPalette(light);
+    // The tools, the scroll bar's right end and the status bar are dark with something light on them.
+    for (const QRect& part : {QRect(0, 0, 600, 30), QRect(0, 481, 300, 18)}) {
+        int shade = 0, brightest = 0;
+        for (int y = part.top(); y <= part.bottom(); ++y)
+            for (int x = part.left(); x <= part.right(); ++x) {
+                const int grey = qGray(image.pixel(x, y));
+                shade += grey;
+                brightest = std::max(brightest, grey);
+            }
+        EXPECT_LT(shade / (part.width() * part.height()), 80);
+        EXPECT_GT(brightest, 190);
+    }
+}
+
 TEST_F(CChartCtrlTest, TwoControlsShareOneWorkerAndTheSecondLivesOn)
 {
     Draw();
