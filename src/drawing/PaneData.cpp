@@ -10,8 +10,7 @@ namespace {
 constexpr std::size_t KeptChanges = 8;
 
 // In blocks without an exit inside, which the compiler compares several numbers at a time.
-template <class T>
-bool SameNumbers(const double* held, const T* given, std::size_t count)
+template<class T> bool SameNumbers(const double* held, const T* given, std::size_t count)
 {
     constexpr std::size_t block = 512;
     for (std::size_t from = 0; from < count; from += block) {
@@ -101,10 +100,14 @@ void CPaneData::SetSeriesCount(int count)
     const auto n = static_cast<std::size_t>(std::clamp(count, 0, MaxSeries));
     if (n == m_y.size())
         return;
-    if (n == 0)
+    if (n == 0) {
         m_x.clear();
+        m_numbered = true;
+        m_ascending = 1;
+    }
     m_y.resize(n, CSlidingArray(m_x.size(), HoleValue()));
     m_yRevision.resize(n, 0);
+    m_constant.resize(n);
     m_firstPoint.resize(n, 1);
     m_drawnTo.resize(n, 0);
     NoteWhole();
@@ -123,12 +126,15 @@ void CPaneData::SetPointCount(int series, int count)
     const std::size_t had = m_x.size();
     if (n == had)
         return;
-    m_ascending = -1;
+    if (!m_numbered)
+        m_ascending = -1;
     m_x.resize(n);
     if (n > had)
         std::iota(m_x.begin() + static_cast<std::ptrdiff_t>(had), m_x.end(), static_cast<double>(had + 1));
     for (auto& y : m_y)
         y.resize(n, HoleValue());
+    if (n > had)
+        std::fill(m_constant.begin(), m_constant.end(), std::nullopt);
     NoteWhole();
 }
 
@@ -183,6 +189,7 @@ void CPaneData::SetPointX(int series, int point, double x)
     else if (m_ascending == 0)
         m_ascending = -1;
     m_x[i] = x;
+    m_numbered = false;
     NoteWhole();
 }
 
@@ -200,6 +207,7 @@ void CPaneData::SetPointY(int series, int point, double y)
     if (IsSame(held, y))
         return;
     held = y;
+    Constant(series).reset();
     NotePoints(series, point, point);
 }
 
@@ -212,7 +220,7 @@ bool CPaneData::ShiftPoints(int series, int count, int firstSource)
     y.MoveToFront(static_cast<std::size_t>(count), static_cast<std::size_t>(firstSource - 1));
     if (series == 1) {
         m_x.MoveToFront(static_cast<std::size_t>(count), static_cast<std::size_t>(firstSource - 1));
-        m_ascending = -1;
+        ForgetX();
     }
     NoteWhole();
     return true;
@@ -225,9 +233,35 @@ bool CPaneData::SetXVector(int series, std::span<const double> x)
     if (SameNumbers(m_x.data(), x.data(), m_x.size()))
         return true;
     std::copy_n(x.begin(), m_x.size(), m_x.begin());
-    m_ascending = -1;
+    ForgetX();
     NoteWhole();
     return true;
+}
+
+void CPaneData::ForgetX()
+{
+    m_ascending = -1;
+    m_numbered = false;
+}
+
+void CPaneData::NumberPoints()
+{
+    if (m_numbered)
+        return;
+    std::iota(m_x.begin(), m_x.end(), 1.0);
+    m_numbered = true;
+    m_ascending = 1;
+    NoteWhole();
+}
+
+void CPaneData::SetConstantY(int series, double y)
+{
+    if (!Has(series) || (Constant(series) && IsSame(*Constant(series), y)))
+        return;
+    auto& values = m_y[static_cast<std::size_t>(series - 1)];
+    std::fill(values.begin(), values.end(), y);
+    Constant(series) = y;
+    NoteWhole(series);
 }
 
 bool CPaneData::SetXVector(int series, std::span<const int> x)
@@ -237,7 +271,7 @@ bool CPaneData::SetXVector(int series, std::span<const int> x)
     if (SameNumbers(m_x.data(), x.data(), m_x.size()))
         return true;
     std::copy_n(x.begin(), m_x.size(), m_x.begin());
-    m_ascending = -1;
+    ForgetX();
     NoteWhole();
     return true;
 }
@@ -247,6 +281,7 @@ bool CPaneData::SetYVector(int series, std::span<const double> y)
     if (!Has(series) || y.size() < m_x.size())
         return false;
     std::copy_n(y.begin(), m_x.size(), m_y[static_cast<std::size_t>(series - 1)].begin());
+    Constant(series).reset();
     NoteWhole(series);
     return true;
 }
@@ -255,6 +290,7 @@ std::span<double> CPaneData::LoadY(int series)
 {
     if (!Has(series))
         return {};
+    Constant(series).reset();
     NoteWhole(series);
     return m_y[static_cast<std::size_t>(series - 1)];
 }
@@ -271,6 +307,7 @@ std::span<double> CPaneData::WholeY(int series)
 {
     if (!Has(series))
         return {};
+    Constant(series).reset();
     NoteWhole(series);
     auto& y = m_y[static_cast<std::size_t>(series - 1)];
     return {y.data(), y.size()};

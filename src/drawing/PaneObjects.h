@@ -518,6 +518,10 @@ public:
     bool SetXVector(int series, std::span<const double> x);
     bool SetXVector(int series, std::span<const int> x);
     bool SetYVector(int series, std::span<const double> y);
+    // x becomes 1 to PointCount, and every y of a series one value. Both cost nothing where it is so already, since a
+    // pane remembers it: a whole draw of many points sets them again each time.
+    void NumberPoints();
+    void SetConstantY(int series, double y);
     bool GetXVector(int series, std::vector<double>& x) const;
     // The y values of a series for who writes all of them in place, which saves a copy of what may be long.
     // Inside a batch, or with CommitPaneData behind it. Empty for a number out of range.
@@ -554,6 +558,8 @@ private:
     };
     void NoteWhole(int series = 0); // 0: of all series
     void NotePoints(int series, int first, int last);
+    void ForgetX();
+    std::optional<double>& Constant(int series) { return m_constant[static_cast<std::size_t>(series - 1)]; }
     bool Has(int series) const { return series >= 1 && series <= SeriesCount(); }
     bool Has(int series, int point) const
     {
@@ -564,7 +570,9 @@ private:
     CSlidingArray m_x;
     std::vector<CSlidingArray> m_y;
     std::vector<int> m_firstPoint, m_drawnTo;
-    mutable signed char m_ascending = 1; // -1: to be found out
+    std::vector<std::optional<double>> m_constant; // by series: the one value known to stand at every point
+    bool m_numbered = true;                        // x is known to be 1, 2, 3, ...
+    mutable signed char m_ascending = 1;           // -1: to be found out
     std::uint64_t m_revision = 0;
     std::uint64_t m_frameRevision = 0;         // the last change of what all series share
     std::vector<std::uint64_t> m_yRevision;    // the last change of each series' y values

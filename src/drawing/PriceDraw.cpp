@@ -40,21 +40,6 @@ private:
 constexpr int ScanBlock =
     16384; // points read at a time where they are only looked at: they stay in the nearest cache
 
-// x values are the points' places, which most draws leave as they are.
-void NumberPoints(CPaneData& data, int count)
-{
-    const std::span<const double> x = data.X();
-    int same = 0;
-    while (same < count && x[static_cast<std::size_t>(same)] == same + 1)
-        ++same;
-    if (same == count)
-        return;
-    std::vector<double> places(static_cast<std::size_t>(count));
-    for (int i = 0; i < count; ++i)
-        places[static_cast<std::size_t>(i)] = i + 1;
-    data.SetXVector(1, places);
-}
-
 // The longest way back that a curve reaches from its first point.
 int LongestPeriod(const sOverlaySettings& settings)
 {
@@ -142,8 +127,8 @@ void CHistPriceChart::MakeRoom(const sDrawnPoints& points)
     CPaneData& overlays = Overlays();
     bars.SetPointCount(1, points.Count);
     overlays.SetPointCount(1, points.Count);
-    NumberPoints(bars, points.Count);
-    NumberPoints(overlays, points.Count);
+    bars.NumberPoints();
+    overlays.NumberPoints();
     // A trendline drawn since the set-up has brought its series along.
     if (overlays.LastShownSeries() != 0 && overlays.LastShownSeries() < overlays.SeriesCount())
         overlays.SetLastShownSeries(overlays.SeriesCount());

@@ -25,11 +25,8 @@ void CHistADXChart::Compute(std::int64_t index, int count, std::span<double* con
     ComputeADX(*prices, index, count, Period(), StudyRunningState(), out[1], out[2], out[0]);
 }
 
-void CHistADXChart::FitDrawnAxis(CLineValues values)
+void CHistADXChart::FitDrawnAxis(const sValueRange& range)
 {
-    sValueRange range{0, 100};
-    for (const std::span<const double> line : values)
-        range.Widen(line);
     SetStudyYAxis(*chart, AxisLook(), range.Max, range.Min);
     if (dlg->Settings().Grid != 0)
         ValueAxis().AxisGrid().SetSpacing(25); // whatever spacing the axis took

@@ -36,7 +36,8 @@ public:
 protected:
     std::vector<sStudyLine> Lines() const override;
     void Compute(std::int64_t index, int count, std::span<double* const> out) override;
-    void FitDrawnAxis(CLineValues values) override;
+    std::optional<sValueRange> RangeStart() const override { return sValueRange{0, 100}; }
+    void FitDrawnAxis(const sValueRange& range) override;
     std::string HeadText() const override;
     std::string MarkedText(int point) const override;
 };

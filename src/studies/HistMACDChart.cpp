@@ -38,11 +38,8 @@ void CHistMACDChart::Compute(std::int64_t index, int count, std::span<double* co
         histogram[i] = IsHole(signal[i]) ? StudyHole : macd[i] - signal[i];
 }
 
-void CHistMACDChart::FitDrawnAxis(CLineValues values)
+void CHistMACDChart::FitDrawnAxis(const sValueRange& range)
 {
-    sValueRange range{0, 0};
-    for (const std::span<const double> line : values)
-        range.Widen(line);
     chart->PaneArea().PaneAxes().Y().SetSetting21(0);
     SetStudyYAxis(*chart, AxisLook(), range.Max, range.Min);
     AdjustStudyBars();

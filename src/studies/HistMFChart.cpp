@@ -25,15 +25,8 @@ void CHistMFChart::Compute(std::int64_t index, int count, std::span<double* cons
         total[i] = IsHole(positive[i]) || IsHole(negative[i]) ? StudyHole : positive[i] + negative[i];
 }
 
-void CHistMFChart::FitDrawnAxis(CLineValues values)
+void CHistMFChart::FitDrawnAxis(const sValueRange& range)
 {
-    sValueRange range{-1000000.0, 1000000.0};
-    for (std::size_t i = 0; i < values[0].size(); ++i) {
-        if (IsHole(values[0][i]))
-            continue;
-        for (const std::span<const double> line : values)
-            range.Widen(line[i]);
-    }
     ValueAxis().AxisOrigin().SetValue(0);
     SetStudyYAxis(*chart, AxisLook(), range.Max, range.Min);
 }

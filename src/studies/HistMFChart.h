@@ -22,7 +22,9 @@ public:
 protected:
     std::vector<sStudyLine> Lines() const override;
     void Compute(std::int64_t index, int count, std::span<double* const> out) override;
-    void FitDrawnAxis(CLineValues values) override;
+    std::int64_t LookBack() const override { return Period(); }
+    std::optional<sValueRange> RangeStart() const override { return sValueRange{-1000000.0, 1000000.0}; }
+    void FitDrawnAxis(const sValueRange& range) override;
     void FitUpdatedAxis(CLineValues values) override { WidenAxis(values); }
     std::string HeadText() const override;
     std::string MarkedText(int point) const override;

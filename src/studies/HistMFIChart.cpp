@@ -24,7 +24,7 @@ void CHistMFIChart::Compute(std::int64_t index, int count, std::span<double* con
     ComputeMFI(*prices, index, count, Period(), out[0]);
 }
 
-void CHistMFIChart::FitDrawnAxis(CLineValues /*values*/)
+void CHistMFIChart::FitDrawnAxis(const sValueRange& /*range*/)
 {
     SetPercentYAxis(*chart, AxisLook(), 100.5, -0.5);
 }

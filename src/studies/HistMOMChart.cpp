@@ -21,12 +21,10 @@ void CHistMOMChart::Compute(std::int64_t index, int count, std::span<double* con
     ComputeMomentum(*prices, index, count, Period(), out[0]);
 }
 
-void CHistMOMChart::FitDrawnAxis(CLineValues values)
+void CHistMOMChart::FitDrawnAxis(const sValueRange& range)
 {
     if (dlg->Settings().FixedScale && !dlg->ResetScale() && GetPointCount() >= 31)
         return;
-    sValueRange range{-100000000.0, 100000000.0};
-    range.Widen(values[0]);
     SetStudyYAxis(*chart, AxisLook(), range.Max, range.Min);
 }
 

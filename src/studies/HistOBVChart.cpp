@@ -21,10 +21,8 @@ void CHistOBVChart::Compute(std::int64_t index, int count, std::span<double* con
     ComputeOBV(*prices, index, count, Period(), out[0]);
 }
 
-void CHistOBVChart::FitDrawnAxis(CLineValues values)
+void CHistOBVChart::FitDrawnAxis(const sValueRange& range)
 {
-    sValueRange range{-100000000.0, 100000000.0};
-    range.Widen(values[0]);
     SetStudyYAxis(*chart, AxisLook(), range.Max, range.Min);
 }
 

@@ -16,10 +16,8 @@ void CHistROCChart::Compute(std::int64_t index, int count, std::span<double* con
     ComputeROC(*prices, index, count, Period(), out[0]);
 }
 
-void CHistROCChart::FitDrawnAxis(CLineValues values)
+void CHistROCChart::FitDrawnAxis(const sValueRange& range)
 {
-    sValueRange range{-100000000.0, 100000000.0};
-    range.Widen(values[0]);
     SetStudyYAxis(*chart, AxisLook(), range.Max, range.Min);
 }
 

@@ -22,7 +22,8 @@ protected:
     std::vector<sStudyLine> Lines() const override { return {{1, 1, DataColour()}}; }
     int GroupChartType(int /*group*/) const override { return ChartBars; }
     void Compute(std::int64_t index, int count, std::span<double* const> out) override;
-    void FitDrawnAxis(CLineValues values) override;
+    std::optional<sValueRange> RangeStart() const override { return sValueRange{-100000000.0, 100000000.0}; }
+    void FitDrawnAxis(const sValueRange& range) override;
     void FitUpdatedAxis(CLineValues values) override { WidenAxis(values); }
     std::string HeadText() const override;
     std::string MarkedText(int point) const override;

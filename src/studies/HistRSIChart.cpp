@@ -34,7 +34,7 @@ void CHistRSIChart::Compute(std::int64_t index, int count, std::span<double* con
             rsi[i] = StudyHole;
 }
 
-void CHistRSIChart::FitDrawnAxis(CLineValues /*values*/)
+void CHistRSIChart::FitDrawnAxis(const sValueRange& /*range*/)
 {
     SetPercentYAxis(*chart, AxisLook(), 100, 0);
 }

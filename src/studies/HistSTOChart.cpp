@@ -32,7 +32,7 @@ void CHistSTOChart::Compute(std::int64_t index, int count, std::span<double* con
     ComputeStochastic(*prices, index, count, Period(), SpeedOf(StudySettings()), out[0], out[1]);
 }
 
-void CHistSTOChart::FitDrawnAxis(CLineValues /*values*/)
+void CHistSTOChart::FitDrawnAxis(const sValueRange& /*range*/)
 {
     SetPercentYAxis(*chart, AxisLook(), 100, 0);
 }

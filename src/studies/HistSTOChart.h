@@ -29,7 +29,8 @@ public:
 protected:
     std::vector<sStudyLine> Lines() const override;
     void Compute(std::int64_t index, int count, std::span<double* const> out) override;
-    void FitDrawnAxis(CLineValues values) override;
+    std::int64_t LookBack() const override { return 4 * std::int64_t{Period()}; }
+    void FitDrawnAxis(const sValueRange& range) override;
     std::string HeadText() const override;
     std::string MarkedText(int point) const override;
 };

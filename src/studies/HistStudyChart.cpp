@@ -1,13 +1,14 @@
 #include "studies/HistStudyChart.h"
 
+#include "drawing/LeastGreatest.h"
 #include "drawing/NumberTexts.h"
 #include "drawing/SeriesStyleTable.h"
 #include "drawing/XAxis.h"
 #include "studies/Hole.h"
+#include "studies/StudyArrays.h"
 
 #include <algorithm>
 #include <cmath>
-#include <numeric>
 
 namespace zantroq {
 
@@ -39,20 +40,20 @@ std::size_t ComputedLines(const std::vector<sStudyLine>& lines)
         std::count_if(lines.begin(), lines.end(), [](const auto& line) { return !line.Level; }));
 }
 
-// 1 to count. Kept from one draw to the next and shared by all panes: at 245,760 points taking fresh memory
-// from the system costs more than filling it.
-std::span<const int> PointNumbers(int count)
-{
-    thread_local std::vector<int> numbers;
-    const auto size = static_cast<std::size_t>(count);
-    if (numbers.size() < size) {
-        numbers.resize(size);
-        std::iota(numbers.begin(), numbers.end(), 1);
-    }
-    return {numbers.data(), size};
-}
-
 } // namespace
+
+void sValueRange::Widen(std::span<const double> values)
+{
+    sLeastGreatest found;
+    // Of a 0 and a -0 the earlier one counts, which the quick search does not tell.
+    if (FindLeastGreatest(values, found) && found.Least != 0 && found.Greatest != 0) {
+        Widen(found.Least);
+        Widen(found.Greatest);
+        return;
+    }
+    for (const double value : values)
+        Widen(value);
+}
 
 sStudyAxisLook CHistStudyChart::AxisLook() const
 {
@@ -90,27 +91,43 @@ void CHistStudyChart::DrawStudy()
     PrepareGroups(shown);
     SetXAxis(*chart, shown, dlg->Settings().Grid != 0);
 
-    std::vector<double*> out;
-    std::vector<std::span<const double>> values;
     const std::vector<sStudyLine> lines = Lines();
-    for (const sStudyLine& line : lines) {
-        CPaneData& data = chart->PaneGroups(line.Group).PaneData();
-        if (line.Series == 1)
-            data.SetXVector(1, PointNumbers(shown));
-        const std::span<double> y = data.WholeY(line.Series);
-        std::fill(y.begin(), y.end(), line.Level.value_or(StudyHole));
-        if (line.Level)
-            continue;
-        out.push_back(y.data());
-        values.emplace_back(y);
-    }
-    Compute(std::int64_t{first} - DrawLag(), shown, out);
+    const sValueRange range = ComputeLines(lines, first, shown);
     for (const int group : {1, 2})
         if (SeriesOfGroup(lines, group) > 0)
             chart->PaneGroups(group).CommitPaneData();
 
-    FitDrawnAxis(values);
+    FitDrawnAxis(range);
     RefreshStudyHeader();
+}
+
+// In stretches that are still in the processor's cache when they are preset to holes, computed, and looked at
+// for the axis.
+sValueRange CHistStudyChart::ComputeLines(const std::vector<sStudyLine>& lines, int first, int shown)
+{
+    std::vector<double*> whole, out;
+    for (const sStudyLine& line : lines) {
+        CPaneData& data = chart->PaneGroups(line.Group).PaneData();
+        data.NumberPoints();
+        if (line.Level)
+            data.SetConstantY(line.Series, *line.Level);
+        else
+            whole.push_back(data.WholeY(line.Series).data());
+    }
+    const std::optional<sValueRange> start = RangeStart();
+    sValueRange range = start.value_or(sValueRange{0, 0});
+    InPieces(shown, LookBack(), [&](int offset, int length) {
+        out.clear();
+        for (double* line : whole) {
+            out.push_back(line + offset);
+            std::fill_n(line + offset, length, StudyHole);
+        }
+        Compute(std::int64_t{first} - DrawLag() + offset, length, out);
+        for (const double* line : out)
+            if (start)
+                range.Widen({line, static_cast<std::size_t>(length)});
+    });
+    return range;
 }
 
 CHistStudyChart::sUpdatePlan CHistStudyChart::MakeRoom(int newPoints)

@@ -38,11 +38,7 @@ struct sValueRange
         if (value < Min)
             Min = value;
     }
-    void Widen(std::span<const double> values)
-    {
-        for (const double value : values)
-            Widen(value);
-    }
+    void Widen(std::span<const double> values);
 };
 
 class CHistStudyChart : public CStudyChart
@@ -81,8 +77,14 @@ protected:
     // Computes `count` points from `index` into one array for each computed line, preset to the hole value.
     virtual void Compute(std::int64_t index, int count, std::span<double* const> out) = 0;
 
-    // The value axis after a whole draw, and after live points.
-    virtual void FitDrawnAxis(CLineValues values) = 0;
+    // How far before its own points a stretch of the series must be read.
+    virtual std::int64_t LookBack() const { return 0; }
+
+    // What the range of a drawn axis starts from; none where the axis does not follow the values.
+    virtual std::optional<sValueRange> RangeStart() const { return {}; }
+
+    // The value axis after a whole draw, from the range of all computed values, and after live points.
+    virtual void FitDrawnAxis(const sValueRange& range) = 0;
     virtual void FitUpdatedAxis(CLineValues /*values*/) {}
 
     virtual std::string HeadText() const = 0;
@@ -107,6 +109,7 @@ protected:
         int FirstIndex; // the series index of FirstNew
     };
     void PrepareGroups(int shown);
+    sValueRange ComputeLines(const std::vector<sStudyLine>& lines, int first, int shown);
     // Shifts and sizes all series, moves the marker and the x axis.
     sUpdatePlan MakeRoom(int newPoints);
     // Sets SetStudyYAxis from the axis's present data range, widened, if a value lies outside it.

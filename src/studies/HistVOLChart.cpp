@@ -4,13 +4,10 @@
 #include "drawing/XAxis.h"
 #include "market/HistoryRecords.h"
 #include "studies/Hole.h"
-#include "studies/StudyArrays.h"
-#include "studies/VolumeScale.h"
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <numeric>
 
 namespace zantroq {
 
@@ -45,14 +42,29 @@ std::vector<sStudyLine> CHistVOLChart::Lines() const
     return lines;
 }
 
-void CHistVOLChart::WriteAverageLine(std::span<double> line, int minuteShift) const
+// The pane's points can differ from those that the price pane has only while a window is being set up.
+sVolumeScale CHistVOLChart::LoadVolumes(int first, int count, VolumeMaximum rule) const
 {
-    const auto points = static_cast<std::int64_t>(line.size());
-    std::int64_t low = 1, high = points;
-    if (!AveragesAllData()) {
-        low = std::int64_t{GetPointCount()} + 2 - Period() - dlg->Range().first - minuteShift;
-        high = Period() - 1 + low;
+    CPaneData& volumes = chart->PaneGroups(1).PaneData();
+    if (volumes.PointCount(1) == count)
+        return ScaleVolumes(*prices, first, count, rule, volumes.WholeY(1).data());
+    std::vector<double> scaled(static_cast<std::size_t>(count));
+    const sVolumeScale scale = ScaleVolumes(*prices, first, count, rule, scaled.data());
+    volumes.SetYVector(1, scaled);
+    return scale;
+}
+
+void CHistVOLChart::WriteAverageLine(int minuteShift) const
+{
+    CPaneData& average = chart->PaneGroups(2).PaneData();
+    if (AveragesAllData()) {
+        average.SetConstantY(1, VolumeAverage);
+        return;
     }
+    const std::span<double> line = average.WholeY(1);
+    const auto points = static_cast<std::int64_t>(line.size());
+    const std::int64_t low = std::int64_t{GetPointCount()} + 2 - Period() - dlg->Range().first - minuteShift;
+    const std::int64_t high = Period() - 1 + low;
     std::fill(line.begin(), line.end(), StudyHole);
     for (std::int64_t point = std::max<std::int64_t>(low, 1); point <= std::min<std::int64_t>(high, points);
          ++point)
@@ -75,23 +87,18 @@ void CHistVOLChart::DrawStudy()
     VolumeMaximum rule = VolumeMaximum::OfThePoints;
     if (dlg->Settings().FixedScale && GetPointCount() > 30)
         rule = dlg->ResetScale() ? VolumeMaximum::OfTheWholeSeries : VolumeMaximum::None;
-    CStudyArray<std::int64_t> scaled(points);
-    const sVolumeScale scale = ScaleVolumes(*prices, first, points, rule, scaled.Data());
-    VolumeDivisor = scale.Divisor;
-
-    std::vector<int> x(static_cast<std::size_t>(points));
-    std::iota(x.begin(), x.end(), 1);
     CPaneData& volumes = chart->PaneGroups(1).PaneData();
-    volumes.SetXVector(1, std::span<const int>(x));
-    volumes.SetYVector(1, std::vector<double>(scaled.Span().begin(), scaled.Span().end()));
+    volumes.NumberPoints();
+    const sVolumeScale scale = LoadVolumes(first, points, rule);
+    VolumeDivisor = scale.Divisor;
     chart->PaneGroups(1).CommitPaneData();
     SetVolumeYAxis(*chart, AxisLook(), scale.Maximum);
 
     VolumeAverage = CalcVolumeAverage();
     CPaneData& average = chart->PaneGroups(2).PaneData();
     if (ShowsAverage()) {
-        average.SetXVector(1, volumes.X());
-        WriteAverageLine(average.WholeY(1), dlg->Settings().Request.DataType == MinuteData ? 1 : 0);
+        average.NumberPoints();
+        WriteAverageLine(dlg->Settings().Request.DataType == MinuteData ? 1 : 0);
         chart->PaneGroups(2).CommitPaneData();
     } else {
         average.SetPointCount(1, 0);
@@ -128,9 +135,8 @@ void CHistVOLChart::UpdateStudy(int newPoints)
 
     VolumeAverage = CalcVolumeAverage();
     if (ShowsAverage()) {
-        CPaneData& average = chart->PaneGroups(2).PaneData();
-        average.SetXVector(1, volumes.X());
-        WriteAverageLine(average.WholeY(1), 0);
+        chart->PaneGroups(2).PaneData().SetXVector(1, volumes.X());
+        WriteAverageLine(0);
     }
     RefreshStudyHeader();
 }

@@ -18,6 +18,7 @@
 #pragma once
 
 #include "studies/HistStudyChart.h"
+#include "studies/VolumeScale.h"
 
 namespace zantroq {
 
@@ -40,7 +41,7 @@ public:
 protected:
     std::vector<sStudyLine> Lines() const override;
     void Compute(std::int64_t index, int count, std::span<double* const> out) override;
-    void FitDrawnAxis(CLineValues /*values*/) override {}
+    void FitDrawnAxis(const sValueRange& /*range*/) override {}
     std::string HeadText() const override;
     std::string MarkedText(int point) const override;
 
@@ -48,7 +49,8 @@ private:
     bool ShowsAverage() const { return StudySettings().ShowVolumeAverage != 0; }
     bool AveragesAllData() const { return StudySettings().VolumeAverageAllData != 0; }
     // The average's y values for the points from 1 on; minuteShift is taken from where it begins.
-    void WriteAverageLine(std::span<double> line, int minuteShift) const;
+    void WriteAverageLine(int minuteShift) const;
+    sVolumeScale LoadVolumes(int first, int count, VolumeMaximum rule) const;
     std::string VolumeText(double value) const;
 };
 

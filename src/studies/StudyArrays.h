@@ -70,7 +70,7 @@ private:
 // more than the arithmetic, and long against the `lookback` points that each must read before its own.
 template<class Work> void InPieces(int count, std::int64_t lookback, const Work& work)
 {
-    constexpr std::int64_t shortest = 4096, longest = std::numeric_limits<int>::max();
+    constexpr std::int64_t shortest = 1024, longest = std::numeric_limits<int>::max();
     const std::int64_t back = std::clamp<std::int64_t>(lookback, 0, longest / 8);
     const int piece = static_cast<int>(std::max(shortest, back * 8));
     for (int offset = 0; offset < count;) {

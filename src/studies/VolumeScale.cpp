@@ -3,11 +3,17 @@
 #include "studies/StudyArrays.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace zantroq {
 
-sVolumeScale ScaleVolumes(const IPriceSource& prices, std::int64_t first, int count, VolumeMaximum rule,
-                          std::int64_t* scaled)
+namespace {
+
+// Half of what a double counts to without a gap.
+constexpr double Half = 4503599627370496.0;
+
+sVolumeScale ScaleLargeVolumes(const IPriceSource& prices, std::int64_t first, int count, VolumeMaximum rule,
+                               std::int64_t* scaled)
 {
     sVolumeScale scale;
     const std::int64_t wholeSeries = prices.GreatestVolume();
@@ -36,17 +42,76 @@ sVolumeScale ScaleVolumes(const IPriceSource& prices, std::int64_t first, int co
     return scale;
 }
 
+// sum and the volumes, added in order. The order does not matter, and integers are faster, while no partial
+// sum can leave the whole numbers that a double holds: no volume is above `exact`, which is Half shared out
+// among all volumes of the average.
+double SumVolumes(const std::int64_t* volume, int count, double sum, double exact)
+{
+    std::int64_t total = 0, least = 0, greatest = 0;
+    for (int i = 0; i < count; ++i) {
+        least = std::min(least, volume[i]);
+        greatest = std::max(greatest, volume[i]);
+        total = static_cast<std::int64_t>(static_cast<std::uint64_t>(total) +
+                                          static_cast<std::uint64_t>(volume[i]));
+    }
+    if (static_cast<double>(greatest) <= exact && static_cast<double>(least) >= -exact &&
+        std::fabs(sum) <= Half)
+        return sum + static_cast<double>(total);
+    for (int i = 0; i < count; ++i)
+        sum += static_cast<double>(volume[i]);
+    return sum;
+}
+
+// False, with nothing of use written, when a volume needs a divisor.
+bool CopyVolumes(const IPriceSource& prices, std::int64_t first, int count, std::int64_t& greatest,
+                 double* plotted)
+{
+    bool fits = true;
+    InPieces(count, 0, [&](int offset, int length) {
+        if (!fits)
+            return;
+        const CVolumeBlock volume(prices, &IPriceSource::ReadVolume, first + offset, first + offset + length);
+        const std::int64_t* v = volume.At(first + offset);
+        for (int i = 0; i < length; ++i) {
+            greatest = std::max(greatest, v[i]);
+            plotted[offset + i] = static_cast<double>(v[i]);
+        }
+        fits = greatest <= GreatestPlottedVolume;
+    });
+    return fits;
+}
+
+} // namespace
+
+sVolumeScale ScaleVolumes(const IPriceSource& prices, std::int64_t first, int count, VolumeMaximum rule,
+                          double* scaled)
+{
+    std::int64_t greatest = 0;
+    if (CopyVolumes(prices, first, count, greatest, scaled)) {
+        sVolumeScale scale;
+        if (rule == VolumeMaximum::OfThePoints)
+            scale.Maximum = greatest;
+        else if (rule == VolumeMaximum::OfTheWholeSeries && count > 0)
+            scale.Maximum = prices.GreatestVolume();
+        return scale;
+    }
+    CStudyArray<std::int64_t> whole(count);
+    const sVolumeScale scale = ScaleLargeVolumes(prices, first, count, rule, whole.Data());
+    std::copy_n(whole.Data(), count, scaled);
+    return scale;
+}
+
 std::int32_t AverageVolume(const IPriceSource& prices, std::int64_t points, std::int64_t divisor)
 {
     const std::int64_t count = prices.Count(), m = std::min(points, count);
     if (m <= 0)
         return 0;
+    const double exact = Half / static_cast<double>(m);
     double sum = 0;
     InPieces(static_cast<int>(m), 0, [&](int offset, int length) {
         const std::int64_t from = count - m + offset;
         const CVolumeBlock volume(prices, &IPriceSource::ReadVolume, from, from + length);
-        for (std::int64_t j = from; j < from + length; ++j)
-            sum += static_cast<double>(volume[j]);
+        sum = SumVolumes(volume.At(from), length, sum, exact);
     });
     const double average = (sum / static_cast<double>(m) + 0.5) / static_cast<double>(divisor);
     constexpr double limit = 2147483647.0;

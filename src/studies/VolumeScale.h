@@ -28,7 +28,7 @@ struct sVolumeScale
 // for the pane is divided by ten, as often as it takes, and the divisor with it; the points before it, and
 // the maximum, are then divided by the whole new divisor.
 sVolumeScale ScaleVolumes(const IPriceSource& prices, std::int64_t first, int count, VolumeMaximum rule,
-                          std::int64_t* scaled);
+                          double* scaled);
 
 // The average volume of the last `points` points of the series, or of as many as there are, in units of the
 // divisor; rounded before the division. 0 for no points. Held within 32 bits.
