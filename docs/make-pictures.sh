@@ -21,7 +21,7 @@ set_value() { "$bin/zantroq-settings" set "$1" "$2" --type sz; }
 picture() {
     name=$1
     shift
-    "$bin/zantroq-settings" reset --yes
+    "$bin/zantroq-settings" reset --yes 2>/dev/null
     set_value "RequestDataType" 2
     set_value "PTS INDEX" 3
     set_value "Number of displayed study charts" $#
@@ -40,7 +40,7 @@ picture() {
     "$bin/zantroq-chart" --feed embedded --size "$size" --data daily --snapshot "$images/$name.png" GOOG
 }
 
-size=900x420
+size=700x420
 picture rsi 0
 picture momentum 1
 picture roc 2
@@ -51,7 +51,7 @@ picture volume 6
 picture money-flow 7
 picture mfi 8
 picture adx 9
-size=1200x1400
+size=1000x1300
 picture all 0 1 2 3 4 5 6 7 8 9
 
 # trend NAME COMMAND X1 Y1 X2 Y2 [X3 Y3]: a line drawn at these pixels of the price pane.
