@@ -1,7 +1,9 @@
 // The studies over 245,760 daily bars of a running request, one thread, with yardsticks in the same run.
 //
 //   ReadCloses            yardstick: one bulk read of all closes under the series' lock
-//   Compute/<study>       the arithmetic of one study over the whole series, reading included
+//   Compute/<study>       the arithmetic of one study over the whole series, reading included; 10000 is a
+//   period far
+//                         beyond the usual ones, whose cost grows with it
 //   Plain/<study>         yardstick: the plain definition, point by point over bare vectors without any lock
 //   ComputeSlow25Short, PlainSlow25Short   slow stochastics of period 25 over 3,840 bars, the plain one being
 //                         too slow for more; Compute/Slow25 is that of the whole series
@@ -108,15 +110,18 @@ const std::vector<std::pair<const char*, CCompute>>& Computations()
         {"Slow25", [](const IPriceSource& p, int n, double* a, double* b,
                       double*) { ComputeStochastic(p, 0, n, 25, StochasticSpeed::Slow, a, b); }},
         {"Volume",
-         [](const IPriceSource& p, int n, double*, double*, double*) {
-             static std::vector<std::int64_t> scaled(Points);
-             const sVolumeScale scale = ScaleVolumes(p, 0, n, VolumeMaximum::OfThePoints, scaled.data());
+         [](const IPriceSource& p, int n, double* a, double*, double*) {
+             const sVolumeScale scale = ScaleVolumes(p, 0, n, VolumeMaximum::OfThePoints, a);
              benchmark::DoNotOptimize(AverageVolume(p, n, scale.Divisor));
          }},
         {"MoneyFlow14", [](const IPriceSource& p, int n, double* a, double* b,
                            double*) { ComputeMoneyFlow(p, 0, n, 14, a, b); }},
         {"MFI14",
          [](const IPriceSource& p, int n, double* a, double*, double*) { ComputeMFI(p, 0, n, 14, a); }},
+        {"MoneyFlow10000", [](const IPriceSource& p, int n, double* a, double* b,
+                              double*) { ComputeMoneyFlow(p, 0, n, 10000, a, b); }},
+        {"Slow10000", [](const IPriceSource& p, int n, double* a, double* b,
+                         double*) { ComputeStochastic(p, 0, n, 10000, StochasticSpeed::Slow, a, b); }},
         {"ADX14",
          [](const IPriceSource& p, int n, double* a, double* b, double* c) {
              sADXRunningState state;

@@ -1,6 +1,7 @@
 // The vectors of a pane scroll without being moved; they must look as if each shift were a plain copy.
 #include "drawing/Chart2D.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
@@ -58,6 +59,67 @@ TEST(ScrollingPane, WholeYIsWrittenInPlace)
     EXPECT_EQ(data.PointY(1, 3), CPaneData::HoleValue());
     EXPECT_TRUE(data.ChangesSince(before).Whole);
     EXPECT_TRUE(data.WholeY(3).empty());
+}
+
+TEST(ScrollingPane, NumberingPointsRestoresXAfterAnyChange)
+{
+    CChart2D pane;
+    CPaneData& data = pane.PaneGroups(1).PaneData();
+    data.SetSeriesCount(1);
+    data.SetPointCount(1, 4);
+    const auto expectNumbers = [&] {
+        data.NumberPoints();
+        EXPECT_THAT(std::vector<double>(data.X().begin(), data.X().end()), testing::ElementsAre(1, 2, 3, 4));
+        EXPECT_TRUE(data.XAscending());
+    };
+    expectNumbers();
+    data.SetPointX(1, 2, 7);
+    expectNumbers();
+    ASSERT_TRUE(data.ShiftPoints(1, 3, 2));
+    expectNumbers();
+    ASSERT_TRUE(data.SetXVector(1, std::vector<double>{9, 8, 7, 6}));
+    expectNumbers();
+    ASSERT_TRUE(data.SetXVector(1, std::vector<int>{5, 6, 7, 8}));
+    expectNumbers();
+    data.SetPointCount(1, 2);
+    data.SetPointCount(1, 4);
+    expectNumbers();
+    const std::uint64_t revision = data.Revision();
+    data.NumberPoints();
+    EXPECT_EQ(data.Revision(), revision) << "nothing changed";
+}
+
+TEST(ScrollingPane, AConstantIsWrittenAgainAfterAnyOtherWrite)
+{
+    CChart2D pane;
+    CPaneData& data = pane.PaneGroups(1).PaneData();
+    data.SetSeriesCount(2);
+    data.SetPointCount(1, 3);
+    const auto expectConstant = [&](double y) {
+        data.SetConstantY(2, y);
+        const auto values = data.Y(2);
+        EXPECT_THAT(std::vector<double>(values.begin(), values.end()),
+                    testing::ElementsAreArray(std::vector<double>(values.size(), y)));
+    };
+    expectConstant(70);
+    expectConstant(30);
+    data.SetPointY(2, 3, 5);
+    expectConstant(30);
+    data.WholeY(2)[0] = 1;
+    expectConstant(30);
+    data.LoadY(2)[1] = 1;
+    expectConstant(30);
+    ASSERT_TRUE(data.SetYVector(2, std::vector<double>{1, 2, 3}));
+    expectConstant(30);
+    data.SetPointCount(1, 5);
+    expectConstant(30);
+    ASSERT_TRUE(data.ShiftPoints(2, 4, 2));
+    expectConstant(30);
+    const std::uint64_t revision = data.Revision();
+    data.SetConstantY(2, 30);
+    data.SetConstantY(3, 30);
+    EXPECT_EQ(data.Revision(), revision) << "nothing changed";
+    EXPECT_DOUBLE_EQ(data.PointY(1, 1), CPaneData::HoleValue());
 }
 
 } // namespace
