@@ -102,8 +102,9 @@ void CHistPriceChart::SetUp()
     while (labels.Count() < PriceLabels)
         AddPlainLabel(*chart, settings);
     while (labels.Count() < wanted) // those of the retracements
-        AddPlainLabel(*chart, settings).Interior().SetForeground(
-            settings.Trends[TrendFibonacciRetracements].Color);
+        AddPlainLabel(*chart, settings)
+            .Interior()
+            .SetForeground(settings.Trends[TrendFibonacciRetracements].Color);
 
     SetupSeries();
     SetChartType();

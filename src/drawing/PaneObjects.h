@@ -518,8 +518,8 @@ public:
     bool SetXVector(int series, std::span<const double> x);
     bool SetXVector(int series, std::span<const int> x);
     bool SetYVector(int series, std::span<const double> y);
-    // x becomes 1 to PointCount, and every y of a series one value. Both cost nothing where it is so already, since a
-    // pane remembers it: a whole draw of many points sets them again each time.
+    // x becomes 1 to PointCount, and every y of a series one value. Both cost nothing where it is so already,
+    // since a pane remembers it: a whole draw of many points sets them again each time.
     void NumberPoints();
     void SetConstantY(int series, double y);
     bool GetXVector(int series, std::vector<double>& x) const;
