@@ -64,7 +64,7 @@ void CHistVOLChart::WriteAverageLine(int minuteShift) const
     const std::span<double> line = average.WholeY(1);
     const auto points = static_cast<std::int64_t>(line.size());
     const std::int64_t low = std::int64_t{GetPointCount()} + 2 - Period() - dlg->Range().first - minuteShift;
-    const std::int64_t high = Period() - 1 + low;
+    const std::int64_t high = low + Period() - 1;
     std::fill(line.begin(), line.end(), StudyHole);
     for (std::int64_t point = std::max<std::int64_t>(low, 1); point <= std::min<std::int64_t>(high, points);
          ++point)
