@@ -28,13 +28,7 @@ void CFibonacciFanTrend::Draw()
 
 int CFibonacciFanTrend::HitDistance(int x, int y) const
 {
-    int p1 = 0, p2 = 0;
-    if (!RayRange(p1, p2))
-        return NotHittable;
-    int best = NotHittable;
-    for (int series : AllSeries())
-        best = std::min(best, SegmentDistance(*m_owner, series, p1, p2, x, y));
-    return best;
+    return NearestRay(x, y);
 }
 
 } // namespace zantroq

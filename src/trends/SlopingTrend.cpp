@@ -26,4 +26,15 @@ int CSlopingTrend::HitDistance(int x, int y) const
     return AnchorRange(p1, p2) ? SegmentDistance(*m_owner, m_series, p1, p2, x, y) : NotHittable;
 }
 
+int CSlopingTrend::NearestRay(int x, int y) const
+{
+    int p1 = 0, p2 = 0;
+    if (!RayRange(p1, p2))
+        return NotHittable;
+    int best = NotHittable;
+    for (int series : AllSeries())
+        best = std::min(best, SegmentDistance(*m_owner, series, p1, p2, x, y));
+    return best;
+}
+
 } // namespace zantroq

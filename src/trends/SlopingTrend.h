@@ -19,6 +19,9 @@ public:
     double m_endValue; // the price at m_endIndex; the first click's until the mouse moves
 
 protected:
+    // The least distance to the rays of a kind whose every series runs from the left anchor to the last
+    // point.
+    int NearestRay(int x, int y) const;
     // vL + slope * (i - pL) from the left anchor to position `right`, plus an offset.
     void DrawLine(int series, XVector x, int right, double slope, double leftValue, int left);
 };
