@@ -1,0 +1,44 @@
+// What all objects of a pane's tree share: knowing their scene and telling it of a change. Chart window's
+// thread.
+#pragma once
+
+#include <bit>
+#include <cstdint>
+#include <type_traits>
+#include <utility>
+
+namespace zantroq {
+
+class CChart2D;
+
+// Whether writing b over a would change nothing. Numbers are compared bit by bit: a not-a-number equals
+// itself, and a zero's sign counts.
+template<class T> bool IsSame(const T& a, const T& b)
+{
+    if constexpr (std::is_same_v<T, double>)
+        return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b);
+    else
+        return a == b;
+}
+
+// A node that knows its scene.
+class CPaneNode
+{
+public:
+    explicit CPaneNode(CChart2D* chart) : m_chart(chart) {}
+
+protected:
+    void Touch();
+    void TouchData(); // a change of points alone
+    // Writes a member and tells the scene, unless the member held that value already.
+    template<class T> void Assign(T& member, std::type_identity_t<T> value)
+    {
+        if (IsSame<T>(member, value))
+            return;
+        member = std::move(value);
+        Touch();
+    }
+    CChart2D* m_chart;
+};
+
+} // namespace zantroq
