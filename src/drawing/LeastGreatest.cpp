@@ -51,26 +51,4 @@ bool FindLeastGreatest(std::span<const double> values, sLeastGreatest& found)
     return true;
 }
 
-std::size_t SkipWithin(const double* a, const double* b, std::size_t first, std::size_t end, double least,
-                       double greatest)
-{
-#ifdef __SSE2__
-    const __m128d low = _mm_set1_pd(least), high = _mm_set1_pd(greatest);
-    const auto outside = [&](const double* values) {
-        const __m128d two = _mm_loadu_pd(values);
-        return _mm_or_pd(_mm_cmplt_pd(two, low), _mm_cmpgt_pd(two, high));
-    };
-    for (; end - first >= 4; end -= 4) {
-        const __m128d later = _mm_or_pd(outside(a + end - 2), outside(b + end - 2));
-        const __m128d earlier = _mm_or_pd(outside(a + end - 4), outside(b + end - 4));
-        if (_mm_movemask_pd(_mm_or_pd(later, earlier)) != 0)
-            break;
-    }
-#endif
-    while (end > first &&
-           !(a[end - 1] < least || a[end - 1] > greatest || b[end - 1] < least || b[end - 1] > greatest))
-        --end;
-    return end;
-}
-
 } // namespace zantroq

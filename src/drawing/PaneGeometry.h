@@ -37,7 +37,9 @@ public:
     // The nearest whole pixel; halves go up in number. Not for a not-a-number.
     int Pixel(double value) const { return NearestPixel(Position(value)); }
     double Value(double pixel) const { return m_factor == 0 ? m_low : m_low + (pixel - m_first) / m_factor; }
-    double PixelsPerUnit() const { return m_factor; }
+    double PixelsPerUnit() const { return m_factor; } // 0: no slope
+    double Low() const { return m_low; }              // the value in the middle of pixel First()
+    double First() const { return m_first; }
     bool operator==(const CAxisMap&) const = default;
 
 private:

@@ -10,20 +10,15 @@
 // Kept from one painting to the next: a changed last point costs its own column. Chart window's thread.
 #pragma once
 
+#include "drawing/InkRect.h"
 #include "drawing/PaneGeometry.h"
+#include "drawing/PointColumns.h"
 
 #include <cstdint>
 #include <span>
 #include <vector>
 
 namespace zantroq {
-
-struct sInkRect
-{
-    int Left, Top, Right, Bottom; // device pixels, Right and Bottom exclusive, inside the plot
-    Colour Color;
-    bool operator==(const sInkRect&) const = default;
-};
 
 // One stay of a line in a pixel column. Heights are in 1/256 device pixels from the top of the picture to the
 // middle of the line.
@@ -50,6 +45,8 @@ enum class InkDetail
     Reduced,
     EveryPoint, // the plain definition, for comparison
 };
+
+struct sBarSource;
 
 class CPaneInk
 {
@@ -97,12 +94,11 @@ private:
     void DrawAll(const CPaneGroup& group);
     bool DrawTail(const CPaneGroup& group, std::size_t firstPoint);
     bool DrawBars(const CPaneGroup& group, std::size_t firstPoint);
+    bool DrawBarsFrom(const sBarSource& source, std::size_t i, bool examineAll);
     void DrawLines(const CPaneGroup& group);
     bool DrawChangedLines(const CPaneGroup& group, std::uint64_t since);
     void DrawSymbols(const CPaneGroup& group, int series);
     void DrawLine(const CPaneGroup& group, int series, std::size_t firstPoint, sInkLine& line);
-    std::size_t FirstOfColumn(const CPaneData& data, std::size_t from, int column) const;
-    std::size_t EndOfColumn(std::span<const double> x, std::size_t i, int column);
     bool HasBars(const CPaneGroup& group) const;
     bool IsCrowded() const; // many points a column, in order: they may be looked at together
 
@@ -117,7 +113,7 @@ private:
     bool m_drawn = false, m_ascending = true;
     int m_widest = 1, m_barWidth = 1;
     double m_origin = 0;
-    std::size_t m_stride = 1; // points in the column looked at last
+    CPointColumns m_points; // of the drawing at hand
     std::vector<sInkRect> m_rects;
     std::vector<sColumnStart> m_columns;
     std::vector<sInkLine> m_lines;

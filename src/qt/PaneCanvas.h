@@ -6,6 +6,7 @@
 
 #include <QRgb>
 
+#include <span>
 #include <string_view>
 
 namespace zantroq {
@@ -27,6 +28,12 @@ class IPaneCanvas
 public:
     virtual ~IPaneCanvas() = default;
     virtual void Fill(const sPixelRect& rect, QRgb colour) = 0;
+    // One after the other.
+    virtual void Rects(std::span<const sInkRect> rects)
+    {
+        for (const sInkRect& rect : rects)
+            Fill({rect.Left, rect.Top, rect.Right, rect.Bottom}, ScreenColour(rect.Color));
+    }
     virtual void Line(const sInkLine& line, const sPixelRect& plot) = 0; // clipped to the plot
     virtual void Text(int left, int top, std::string_view text, QRgb colour) = 0;
 };

@@ -91,13 +91,13 @@ void CPanePainter::Repaint(const sPlotMap& map, double scale)
             PaintColumns(whole, map);
         } else {
             const sPixelRect& plot = map.Plot;
-            const auto wipe = [&](const sPixelRect& tile) { // each pixel once, but for the plot's edge
-                const bool inside = tile.Left >= plot.Left && tile.Right <= plot.Right &&
-                                    tile.Top >= plot.Top && tile.Bottom <= plot.Bottom;
+            const auto wipe = [&](const sPixelRect& ink) {
+                const bool inside = ink.Left >= plot.Left && ink.Right <= plot.Right && ink.Top >= plot.Top &&
+                                    ink.Bottom <= plot.Bottom;
                 if (!inside)
-                    m_canvas.Fill(tile, m_furniture.Background);
-                m_canvas.Fill({std::max(tile.Left, plot.Left), std::max(tile.Top, plot.Top),
-                               std::min(tile.Right, plot.Right), std::min(tile.Bottom, plot.Bottom)},
+                    m_canvas.Fill(ink, m_furniture.Background);
+                m_canvas.Fill({std::max(ink.Left, plot.Left), std::max(ink.Top, plot.Top),
+                               std::min(ink.Right, plot.Right), std::min(ink.Bottom, plot.Bottom)},
                               m_furniture.PlotBackground);
             };
             m_canvas.SetMarking(false);
@@ -121,6 +121,7 @@ void CPanePainter::Repaint(const sPlotMap& map, double scale)
 void CPanePainter::PaintColumns(const sPixelRect& clip, const sPlotMap& map)
 {
     m_canvas.SetMarking(false);
+    m_canvas.ForgetInk(clip);
     const sPixelRect& plot = map.Plot;
     const bool inside = clip.Left >= plot.Left && clip.Right <= plot.Right && clip.Top >= plot.Top &&
                         clip.Bottom <= plot.Bottom;
@@ -144,18 +145,16 @@ void CPanePainter::PaintColumns(const sPixelRect& clip, const sPlotMap& map)
 void CPanePainter::PaintData(IPaneCanvas& canvas, int left, int right, const sPixelRect& plot)
 {
     const auto bars = [&](const CPaneInk& ink) {
-        const std::vector<sInkRect>& rects = ink.Rects();
-        auto rect = rects.begin();
-        const int from = left - 2 * ink.WidestRect(), to = right + 2 * ink.WidestRect();
-        if (ink.RectsAscend() &&
-            left > plot.Left) // a little slack: the parts of a candle begin at different columns
-            rect = std::partition_point(rect, rects.end(), [&](const sInkRect& r) { return r.Right < from; });
-        for (; rect != rects.end(); ++rect) {
-            if (rect->Left > to && ink.RectsAscend())
-                break;
-            if (rect->Left < right && rect->Right > left)
-                canvas.Fill({rect->Left, rect->Top, rect->Right, rect->Bottom}, ScreenColour(rect->Color));
+        std::span<const sInkRect> rects = ink.Rects();
+        if (ink.RectsAscend() && (left > plot.Left || right < plot.Right)) {
+            // A little slack: the parts of a candle begin at different columns.
+            const int from = left - 2 * ink.WidestRect(), to = right + 2 * ink.WidestRect();
+            const auto first =
+                std::partition_point(rects.begin(), rects.end(), [&](auto& r) { return r.Right < from; });
+            const auto last = std::partition_point(first, rects.end(), [&](auto& r) { return r.Left <= to; });
+            rects = {first, last};
         }
+        canvas.Rects(rects);
     };
     // A histogram stands behind the curves, whichever group it is in.
     const bool histogramFirst = m_ink[0].Rects().empty() && m_ink[1].Lines().empty();

@@ -50,25 +50,10 @@ void CRasterCanvas::SetPicture(QImage& picture)
         return;
     m_width = picture.width();
     m_height = picture.height();
-    m_tileColumns = (m_width + TileWidth - 1) / TileWidth;
-    m_tileRows = (m_height + TileHeight - 1) / TileHeight;
-    m_tiles.assign(static_cast<std::size_t>(m_tileColumns) * static_cast<std::size_t>(m_tileRows), 0);
+    m_trail.Clear();
     m_mask.assign(static_cast<std::size_t>(m_width) * static_cast<std::size_t>(m_height), 0);
     m_extents.assign(static_cast<std::size_t>(m_width), {m_height, 0});
     m_clip = {0, 0, m_width, m_height};
-}
-
-void CRasterCanvas::ForgetInk()
-{
-    std::fill(m_tiles.begin(), m_tiles.end(), std::uint8_t{0});
-}
-
-void CRasterCanvas::Mark(int left, int top, int right, int bottom)
-{
-    const int lastRow = (bottom - 1) / TileHeight, lastColumn = (right - 1) / TileWidth;
-    for (int row = top / TileHeight; row <= lastRow; ++row)
-        for (int column = left / TileWidth; column <= lastColumn; ++column)
-            m_tiles[static_cast<std::size_t>(row * m_tileColumns + column)] = 1;
 }
 
 void CRasterCanvas::Fill(const sPixelRect& rect, QRgb colour)
@@ -83,8 +68,42 @@ void CRasterCanvas::Fill(const sPixelRect& rect, QRgb colour)
     else
         for (int y = cut.Top; y < cut.Bottom; ++y, line += m_stride)
             std::fill_n(line, cut.Width(), colour);
-    if (m_marking)
-        Mark(cut.Left, cut.Top, cut.Right, cut.Bottom);
+    Mark(cut);
+}
+
+void CRasterCanvas::Rects(std::span<const sInkRect> rects)
+{
+    for (std::size_t i = 0; i < rects.size();) {
+        const sInkRect& rect = rects[i];
+        if (rect.Right - rect.Left == 1) {
+            i = ThinRects(rects, i);
+        } else {
+            Fill({rect.Left, rect.Top, rect.Right, rect.Bottom}, ScreenColour(rect.Color));
+            ++i;
+        }
+    }
+}
+
+// The rectangles from `i` on that stand in one column of a pixel's width. Returns the first behind them.
+std::size_t CRasterCanvas::ThinRects(std::span<const sInkRect> rects, std::size_t i)
+{
+    const int column = rects[i].Left;
+    const bool inSight = column >= m_clip.Left && column < m_clip.Right;
+    sPixelRect inked{column, m_clip.Bottom, column + 1, m_clip.Top};
+    for (; i < rects.size() && rects[i].Left == column && rects[i].Right == column + 1; ++i) {
+        const int top = std::max(rects[i].Top, m_clip.Top), bottom = std::min(rects[i].Bottom, m_clip.Bottom);
+        if (!inSight || top >= bottom)
+            continue;
+        const QRgb colour = ScreenColour(rects[i].Color);
+        QRgb* pixel = m_pixels + static_cast<std::ptrdiff_t>(top) * m_stride + column;
+        for (int y = top; y < bottom; ++y, pixel += m_stride)
+            *pixel = colour;
+        inked.Top = std::min(inked.Top, top);
+        inked.Bottom = std::max(inked.Bottom, bottom);
+    }
+    if (inked.Top < inked.Bottom)
+        Mark(inked);
+    return i;
 }
 
 void CRasterCanvas::Text(int left, int top, std::string_view text, QRgb colour)
@@ -103,8 +122,7 @@ void CRasterCanvas::Text(int left, int top, std::string_view text, QRgb colour)
             if (coverage[x] != 0)
                 line[x] = coverage[x] == 255 ? colour : BlendPixel(line[x], colour, coverage[x]);
     }
-    if (m_marking)
-        Mark(cut.Left, cut.Top, cut.Right, cut.Bottom);
+    Mark(cut);
 }
 
 inline void CRasterCanvas::Cover(int x, int y, int coverage)
@@ -145,8 +163,7 @@ void CRasterCanvas::Solid(const sPixelRect& rect)
     for (int y = rect.Top; y < rect.Bottom; ++y, line += m_stride)
         for (int x = 0; x < rect.Width(); ++x)
             line[x] = m_colour;
-    if (m_marking)
-        Mark(rect.Left, rect.Top, rect.Right, rect.Bottom);
+    Mark(rect);
 }
 
 void CRasterCanvas::Segment(int column0, int y0, int column1, int y1, const sInkLine& line)
@@ -240,8 +257,7 @@ void CRasterCanvas::Blend(QRgb colour)
             *pixel = *mask == 255 ? colour : BlendPixel(*pixel, colour, *mask);
             *mask = 0;
         }
-        if (m_marking)
-            Mark(x, extent.Top, x + 1, extent.Bottom);
+        Mark({x, extent.Top, x + 1, extent.Bottom});
         extent = {m_height, 0};
     }
 }

@@ -1,13 +1,16 @@
-// Writes a pane's pixels straight into a picture. It remembers in tiles where ink went, so that the next
-// painting wipes only those. Everything is cut to a clip of device columns. Chart window's thread.
+// Writes a pane's pixels straight into a picture. It remembers where ink went, so that the next painting
+// wipes only that. Everything is cut to a clip of device columns. Chart window's thread.
 #pragma once
 
+#include "qt/InkTrail.h"
 #include "qt/PaneCanvas.h"
 #include "qt/PaneText.h"
 
 #include <QImage>
 
 #include <cstdint>
+#include <span>
+#include <utility>
 #include <vector>
 
 namespace zantroq {
@@ -22,38 +25,36 @@ public:
     void SetClip(const sPixelRect& clip) { m_clip = clip; }
     const sPixelRect& Clip() const { return m_clip; }
 
-    // Ink drawn while marking is on is wiped by WipeInk. Rect by rect, `wipe` fills the tiles' background.
+    // Ink drawn while marking is on is wiped by WipeInk: `wipe` fills a rectangle with what lies under it.
     void SetMarking(bool marking) { m_marking = marking; }
     template<class F> void WipeInk(F wipe)
     {
-        for (int row = 0; row < m_tileRows; ++row)
-            for (int column = 0; column < m_tileColumns; ++column)
-                if (std::uint8_t& tile = m_tiles[static_cast<std::size_t>(row * m_tileColumns + column)];
-                    tile != 0) {
-                    tile = 0;
-                    int end = column + 1; // neighbours go together
-                    while (end < m_tileColumns &&
-                           m_tiles[static_cast<std::size_t>(row * m_tileColumns + end)] != 0)
-                        m_tiles[static_cast<std::size_t>(row * m_tileColumns + end++)] = 0;
-                    wipe(sPixelRect{column * TileWidth, row * TileHeight, end * TileWidth,
-                                    (row + 1) * TileHeight});
-                    column = end - 1;
-                }
+        std::swap(m_wiped, m_trail);
+        m_trail.Clear();
+        for (const sPixelRect& rect : m_wiped.Rects())
+            wipe(rect);
     }
-    void ForgetInk();
+    void ForgetInk() { m_trail.Clear(); }
+    // What lies inside is about to be painted from nothing.
+    void ForgetInk(const sPixelRect& inside) { m_trail.DropNewest(inside); }
 
     void Fill(const sPixelRect& rect, QRgb colour) override;
+    void Rects(std::span<const sInkRect> rects) override;
     void Line(const sInkLine& line, const sPixelRect& plot) override;
     void Text(int left, int top, std::string_view text, QRgb colour) override;
 
 private:
-    static constexpr int TileWidth = 32, TileHeight = 8;
     struct sExtent
     {
         int Top, Bottom;
     };
 
-    void Mark(int left, int top, int right, int bottom);
+    void Mark(const sPixelRect& rect)
+    {
+        if (m_marking)
+            m_trail.Add(rect);
+    }
+    std::size_t ThinRects(std::span<const sInkRect> rects, std::size_t i);
     void Cover(int x, int y, int coverage);
     void CoverRows(int x, int top256, int bottom256);
     void Solid(const sPixelRect& rect);
@@ -68,8 +69,8 @@ private:
     sPixelRect m_clip, m_plot;                   // the plot cut to the clip
     QRgb m_colour = 0;                           // of the line at hand
     bool m_marking = false;
-    int m_tileColumns = 0, m_tileRows = 0;
-    std::vector<std::uint8_t> m_tiles;
+    CInkTrail m_trail;
+    CInkTrail m_wiped; // kept for its memory
     // One line at a time: the coverage of its pixels, the greatest where its parts meet, and the rows touched
     // in each column.
     std::vector<std::uint8_t> m_mask;

@@ -88,6 +88,20 @@ TEST(PaneReduction, CandlesWithGapsAndHolesLookAsEveryPointPainted)
     }
 }
 
+TEST(PaneReduction, CandlesOnAnAxisThatRunsDownOrNowhereLookAsEveryPointPainted)
+{
+    const Pane pane = test::CandlePane(280, 180, 3000, 1);
+    CPaneAxis& axis = pane->PaneArea().PaneAxes().Y();
+    const double low = axis.ViewLow().Value(), high = axis.ViewHigh().Value();
+    axis.ViewLow().SetValue(high);
+    axis.ViewHigh().SetValue(low);
+    EXPECT_TRUE(LooksAsEveryPointPainted(*pane, 1));
+    axis.ViewHigh().SetValue(high);
+    EXPECT_TRUE(LooksAsEveryPointPainted(*pane, 1));
+    axis.ViewLow().SetValue((low + high) / 2); // candles begin far below the plot and reach into it
+    EXPECT_TRUE(LooksAsEveryPointPainted(*pane, 2));
+}
+
 TEST(PaneReduction, PriceBarsAndHistogramsLookAsEveryPointPainted)
 {
     std::mt19937 random(5);

@@ -1,0 +1,360 @@
+#include "drawing/BarInk.h"
+
+#include "drawing/InkStyle.h"
+#include "drawing/LeastGreatest.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <utility>
+
+namespace zantroq {
+
+namespace {
+
+constexpr int WidestBody = 41; // pane pixels: a handful of points would else be blocks
+
+// Room between a body and its neighbour: a fifth of the room of a point, nothing below three pixels.
+int BodyWidth(int room)
+{
+    if (room <= 3)
+        return std::max(1, room);
+    const int body = room - std::max(1, room / 5);
+    return body % 2 == 0 ? body - 1 : body; // odd, so that the wick stands in the middle
+}
+
+inline void Prefetch(const double* at)
+{
+#ifdef __GNUC__
+    __builtin_prefetch(at);
+#else
+    static_cast<void>(at);
+#endif
+}
+
+// The values that lie for sure within the pixel rows of one piece: the rows' edges taken a little inside.
+class CCovered
+{
+public:
+    explicit CCovered(const CAxisMap& map)
+        : m_map(map), m_unitsPerPixel(map.PixelsPerUnit() == 0 ? 0 : 1 / map.PixelsPerUnit())
+    {
+    }
+    void Set(int top, int bottom)
+    {
+        if (m_unitsPerPixel == 0) { // all values lie in one row
+            Least = -std::numeric_limits<double>::infinity();
+            Greatest = -Least;
+            return;
+        }
+        const double a = Value(top - 0.49), b = Value(bottom - 0.51);
+        Greatest = std::max(a, b);
+        Least = std::min(a, b);
+    }
+    double Least = 0, Greatest = 0;
+
+private:
+    double Value(double pixel) const { return m_map.Low() + (pixel - m_map.First()) * m_unitsPerPixel; }
+
+    const CAxisMap& m_map;
+    const double m_unitsPerPixel;
+};
+
+} // namespace
+
+sBarSource sBarSource::Of(const CPaneGroup& group, const sPlotMap& map, double scale, int barWidth)
+{
+    const CPaneData& data = group.PaneData();
+    const int first = data.FirstVisible();
+    sBarSource source;
+    source.Type = group.Type();
+    source.High = data.Y(first);
+    const CSeriesStyle& main = StyleOf(group, first);
+    source.Up =
+        main.LineLook().Pattern() == LineNone ? main.FillLook().FillColour() : main.LineLook().LineColour();
+    // A bar is never wider than the room of a point, so that a crowded pane stays readable.
+    const int room =
+        static_cast<int>(std::clamp(std::abs(map.X.PixelsPerUnit()), 1.0, WidestBody * std::max(1.0, scale)));
+    if (IsBarType(source.Type)) {
+        source.Width = BodyWidth(std::min(room, DevicePixels(barWidth, scale)));
+        return source;
+    }
+    source.Low = data.Y(first + 1);
+    source.Open = data.Y(first + 2);
+    source.Close = data.Y(first + 3);
+    const int hair = std::max(1, static_cast<int>(scale));
+    if (source.Type == ChartHiLoOpenClose) {
+        source.Width = std::min(DevicePixels(main.LineLook().Width(), scale), std::max(1, room / 3));
+        source.Wick = source.Width;
+        source.Tick = room < 3 * source.Width ? 0 : std::min(room * 2 / 5, static_cast<int>(7 * scale));
+        return source;
+    }
+    const CSeriesStyle& up = StyleOf(group, first + 1);
+    const CSeriesStyle& down = StyleOf(group, first + 2);
+    const CSeriesStyle& outline = StyleOf(group, first + 3);
+    source.Up = up.FillLook().FillColour();
+    source.Down = down.FillLook().FillColour();
+    source.Outline = outline.FillLook().FillColour();
+    source.Outlined = outline.LineLook().Pattern() != LineNone;
+    const int width = std::max(up.LineLook().Width(), down.LineLook().Width());
+    source.Width = width < 1 ? 1 : BodyWidth(std::min(room, DevicePixels(width, scale)));
+    source.Wick = std::min(hair, source.Width);
+    return source;
+}
+
+CBarInk::CBarInk(const sBarSource& source, const sPlotMap& map, std::vector<sInkRect>& rects)
+    : m_source(source),
+      m_map(map),
+      m_rects(rects),
+      m_bars(IsBarType(source.Type)),
+      m_plainRows(map.Y.PixelsPerUnit() < 0)
+{
+}
+
+void CBarInk::Draw(std::size_t i, int column)
+{
+    if (m_bars)
+        return DrawBar(i, column);
+    if (!Complete(i))
+        return;
+    if (m_source.Type == ChartCandles)
+        DrawCandle(i, column);
+    else
+        DrawPriceBar(i, column);
+}
+
+bool CBarInk::Complete(std::size_t i) const
+{
+    return IsDrawn(m_source.High[i]) && IsDrawn(m_source.Low[i]) && IsDrawn(m_source.Open[i]) &&
+           IsDrawn(m_source.Close[i]);
+}
+
+void CBarInk::Span(double a, double b, int& top, int& bottom) const
+{
+    const int first = m_map.Y.Pixel(a), second = m_map.Y.Pixel(b);
+    top = std::min(first, second);
+    bottom = std::max(first, second) + 1;
+}
+
+void CBarInk::Emit(int left, int top, int right, int bottom, Colour colour)
+{
+    left = std::max(left, m_map.Plot.Left);
+    right = std::min(right, m_map.Plot.Right);
+    top = std::max(top, m_map.Plot.Top);
+    bottom = std::min(bottom, m_map.Plot.Bottom);
+    if (left < right && top < bottom)
+        m_rects.push_back({left, top, right, bottom, colour});
+}
+
+void CBarInk::DrawBar(std::size_t i, int column)
+{
+    if (!IsDrawn(m_source.High[i]))
+        return;
+    int top = 0, bottom = 0;
+    Span(m_source.High[i], m_source.Origin, top, bottom);
+    const int left = column - m_source.Width / 2;
+    Emit(left, top, left + m_source.Width, bottom, m_source.Up);
+}
+
+void CBarInk::DrawPriceBar(std::size_t i, int column)
+{
+    int top = 0, bottom = 0;
+    Span(m_source.High[i], m_source.Low[i], top, bottom);
+    const int left = column - m_source.Width / 2, right = left + m_source.Width;
+    const auto tick = [&](double value, int from, int to) {
+        const int y = m_map.Y.Pixel(value) - (m_source.Width - 1) / 2;
+        Emit(from, y, to, y + m_source.Width, m_source.Up);
+    };
+    if (m_source.Tick > 0)
+        tick(m_source.Open[i], left - m_source.Tick, left);
+    Emit(left, top, right, bottom, m_source.Up);
+    if (m_source.Tick > 0)
+        tick(m_source.Close[i], right, right + m_source.Tick);
+}
+
+void CBarInk::DrawCandle(std::size_t i, int column)
+{
+    const Colour colour = IsUp(i) ? m_source.Up : m_source.Down;
+    int top = 0, bottom = 0;
+    Span(m_source.High[i], m_source.Low[i], top, bottom);
+    const int wick = column - m_source.Wick / 2;
+    Emit(wick, top, wick + m_source.Wick, bottom, colour);
+    if (m_source.Width <= m_source.Wick)
+        return;
+    Span(m_source.Open[i], m_source.Close[i], top, bottom);
+    const int left = column - m_source.Width / 2, right = left + m_source.Width, edge = m_source.Wick;
+    const bool framed = m_source.Outlined || !m_source.Filled;
+    const Colour frame = m_source.Outlined && m_source.Filled ? m_source.Outline : colour;
+    const Colour inside = m_source.Filled ? colour : m_source.Hollow;
+    if (!framed || m_source.Width < 5 * edge || bottom - top < 3 * edge)
+        return Emit(left, top, right, bottom, colour);
+    Emit(left, top, right, bottom, frame);
+    Emit(left + edge, top + edge, right - edge, bottom - edge, inside);
+}
+
+// Columns are walked backwards, which the processor does not foresee.
+void CBarInk::Foresee(std::size_t first, std::size_t count) const
+{
+    constexpr std::size_t line = 8; // numbers of a cache line
+    const std::size_t end = std::min(first + count, m_source.High.size());
+    for (std::size_t i = first; i < end; i += line) {
+        Prefetch(m_source.High.data() + i);
+        if (i < m_source.Low.size())
+            Prefetch(m_source.Low.data() + i);
+    }
+}
+
+void CBarInk::DrawThin(std::size_t first, std::size_t last, int column)
+{
+    std::swap(m_found, m_before);
+    std::swap(m_column, m_columnBefore);
+    m_found.clear();
+    m_column = column;
+    Scan(first, last);
+    Emit(m_before, m_columnBefore);
+}
+
+bool CBarInk::FinishThin()
+{
+    Emit(m_found, m_column);
+    m_found.clear();
+    return m_allComplete;
+}
+
+// Finds what is seen of the points, the last one on top.
+void CBarInk::Scan(std::size_t first, std::size_t last)
+{
+    m_pieces.clear();
+    std::size_t i = last;
+    while (i > first)
+        if (m_pieces.size() == 1)
+            i = ScanOnePiece(first, i);
+        else
+            TakeAny(--i);
+}
+
+// While what is covered has no gap, only points that reach beyond it matter. Returns where a point was met
+// that leaves a gap, which has been taken, or first.
+std::size_t CBarInk::ScanOnePiece(std::size_t first, std::size_t i)
+{
+    const double* const high = m_source.High.data();
+    const double* const low = m_bars ? high : m_source.Low.data();
+    sPiece& piece = m_pieces[0];
+    CCovered covered(m_map.Y);
+    covered.Set(piece.Top, piece.Bottom);
+    while (i > first) {
+        i = SkipWithin(high, low, first, i, covered.Least, covered.Greatest);
+        const std::size_t stop = i - std::min<std::size_t>(i - first, 8);
+        // Where one point reaches beyond, its neighbours often do.
+        while (i > stop) {
+            --i;
+            const double a = high[i], b = m_bars ? m_source.Origin : low[i];
+            const double greatest = std::max(a, b), least = std::min(a, b);
+            if (greatest <= covered.Greatest && least >= covered.Least)
+                continue;
+            if (!IsDrawn(a) || !IsDrawn(b))
+                continue;
+            if (!m_plainRows || m_examineAll || least > covered.Greatest || greatest < covered.Least) {
+                TakeAny(i);
+                if (m_pieces.size() != 1)
+                    return i;
+                covered.Set(piece.Top, piece.Bottom);
+                continue;
+            }
+            // It touches what is covered: it can only lengthen it, at either end.
+            if (greatest > covered.Greatest) {
+                const int top = std::max(m_map.Y.Pixel(greatest), m_map.Plot.Top);
+                if (top < piece.Top)
+                    Found(top, std::exchange(piece.Top, top), i);
+            }
+            if (least < covered.Least) {
+                const int bottom = std::min(m_map.Y.Pixel(least) + 1, m_map.Plot.Bottom);
+                if (bottom > piece.Bottom)
+                    Found(std::exchange(piece.Bottom, bottom), bottom, i);
+            }
+            covered.Set(piece.Top, piece.Bottom);
+            if (piece.Top == m_map.Plot.Top && piece.Bottom == m_map.Plot.Bottom)
+                return first;
+        }
+    }
+    return i;
+}
+
+// One point, whatever the pieces are.
+void CBarInk::TakeAny(std::size_t i)
+{
+    const double a = m_source.High[i], b = m_bars ? m_source.Origin : m_source.Low[i];
+    if (!IsDrawn(a) || !IsDrawn(b) || (m_examineAll && !m_bars && !Complete(i)))
+        return;
+    int top = 0, bottom = 0;
+    Span(a, b, top, bottom);
+    top = std::max(top, m_map.Plot.Top);
+    bottom = std::min(bottom, m_map.Plot.Bottom);
+    if (top < bottom)
+        Cover(top, bottom, i);
+}
+
+inline void CBarInk::Found(int top, int bottom, std::size_t i)
+{
+    m_found.push_back({top, bottom, i});
+    if (!m_bars) {
+        Prefetch(m_source.Open.data() + i);
+        Prefetch(m_source.Close.data() + i);
+    }
+}
+
+// Finds what [top, bottom) shows beside the pieces that are there, and joins it to them.
+void CBarInk::Cover(int top, int bottom, std::size_t i)
+{
+    int from = top;
+    std::size_t at = 0;
+    while (at < m_pieces.size() && m_pieces[at].Bottom < top)
+        ++at;
+    std::size_t end = at;
+    sPiece joined{top, bottom};
+    for (; end < m_pieces.size() && m_pieces[end].Top <= bottom; ++end) {
+        if (from < m_pieces[end].Top)
+            Found(from, std::min(bottom, m_pieces[end].Top), i);
+        from = std::max(from, m_pieces[end].Bottom);
+        joined = {std::min(joined.Top, m_pieces[end].Top), std::max(joined.Bottom, m_pieces[end].Bottom)};
+    }
+    if (from < bottom)
+        Found(from, bottom, i);
+    if (at == end)
+        m_pieces.insert(m_pieces.begin() + static_cast<std::ptrdiff_t>(at), joined);
+    else {
+        m_pieces[at] = joined;
+        m_pieces.erase(m_pieces.begin() + static_cast<std::ptrdiff_t>(at) + 1,
+                       m_pieces.begin() + static_cast<std::ptrdiff_t>(end));
+    }
+}
+
+// What was found becomes rectangles, neighbours of one colour together.
+void CBarInk::Emit(const std::vector<sFound>& found, int column)
+{
+    const bool candles = m_source.Type == ChartCandles;
+    const std::size_t begin = m_rects.size();
+    for (const sFound& part : found) {
+        Colour colour = m_source.Up;
+        if (!m_bars) {
+            m_allComplete =
+                m_allComplete && IsDrawn(m_source.Open[part.Point]) && IsDrawn(m_source.Close[part.Point]);
+            if (candles && !IsUp(part.Point))
+                colour = m_source.Down;
+        }
+        if (m_rects.size() > begin && m_rects.back().Color == colour) {
+            sInkRect& last = m_rects.back();
+            if (part.Bottom == last.Top) {
+                last.Top = part.Top;
+                continue;
+            }
+            if (part.Top == last.Bottom) {
+                last.Bottom = part.Bottom;
+                continue;
+            }
+        }
+        m_rects.push_back({column, part.Top, column + 1, part.Bottom, colour});
+    }
+}
+
+} // namespace zantroq

@@ -1,0 +1,42 @@
+// Which points lie in which pixel column, for x values that ascend. x values that are known to be 1, 2, 3,
+// ... are not read at all. Lives for one drawing; the values must stay as they are meanwhile.
+#pragma once
+
+#include "drawing/PaneGeometry.h"
+
+#include <cstddef>
+
+namespace zantroq {
+
+class CPointColumns
+{
+public:
+    CPointColumns() = default;
+    CPointColumns(const CPaneData& data, const CAxisMap& map)
+        : m_x(data.X().data()), m_count(data.X().size()), m_numbered(data.XNumbered()), m_map(map)
+    {
+    }
+
+    std::size_t Count() const { return m_count; }
+    // Whether the point has a place at all.
+    bool IsPlaced(std::size_t i) const { return m_numbered || (IsDrawn(m_x[i]) && !std::isinf(m_x[i])); }
+    // REQUIRES: IsPlaced(i).
+    int ColumnOf(std::size_t i) const
+    {
+        return m_map.Pixel(m_numbered ? static_cast<double>(i + 1) : m_x[i]);
+    }
+
+    // The first point from `from` on that lies in the column or right of it.
+    std::size_t First(std::size_t from, int column) const;
+    // The end of the column's points, i being one of them.
+    std::size_t End(std::size_t i, int column);
+
+private:
+    const double* m_x = nullptr;
+    std::size_t m_count = 0;
+    bool m_numbered = false;
+    CAxisMap m_map;
+    std::size_t m_stride = 1; // points in the column looked at last
+};
+
+} // namespace zantroq
