@@ -20,6 +20,12 @@ sPixelRect Cut(const sPixelRect& a, const sPixelRect& b)
             std::min(a.Bottom, b.Bottom)};
 }
 
+bool LiesInside(const sInkRect& inner, const sInkRect& outer)
+{
+    return inner.Left >= outer.Left && inner.Right <= outer.Right && inner.Top >= outer.Top &&
+           inner.Bottom <= outer.Bottom;
+}
+
 // Dashes go by the pixel's place, so that they stand still while points come and go.
 bool InDash(const sInkLine& line, int place)
 {
@@ -77,11 +83,35 @@ void CRasterCanvas::Rects(std::span<const sInkRect> rects)
         const sInkRect& rect = rects[i];
         if (rect.Right - rect.Left == 1) {
             i = ThinRects(rects, i);
+        } else if (i + 1 < rects.size() && LiesInside(rects[i + 1], rect)) {
+            Framed(rect, rects[i + 1]);
+            i += 2;
         } else {
             Fill({rect.Left, rect.Top, rect.Right, rect.Bottom}, ScreenColour(rect.Color));
             ++i;
         }
     }
+}
+
+// A rectangle and one inside of it, each pixel once.
+void CRasterCanvas::Framed(const sInkRect& frame, const sInkRect& inside)
+{
+    const sPixelRect outer = Cut({frame.Left, frame.Top, frame.Right, frame.Bottom}, m_clip);
+    const sPixelRect inner = Cut({inside.Left, inside.Top, inside.Right, inside.Bottom}, m_clip);
+    if (inner.Left >= inner.Right || inner.Top >= inner.Bottom)
+        return Fill(outer, ScreenColour(frame.Color));
+    const QRgb edge = ScreenColour(frame.Color), filling = ScreenColour(inside.Color);
+    QRgb* line = m_pixels + static_cast<std::ptrdiff_t>(outer.Top) * m_stride;
+    for (int y = outer.Top; y < outer.Bottom; ++y, line += m_stride) {
+        if (y < inner.Top || y >= inner.Bottom) {
+            std::fill(line + outer.Left, line + outer.Right, edge);
+            continue;
+        }
+        std::fill(line + outer.Left, line + inner.Left, edge);
+        std::fill(line + inner.Left, line + inner.Right, filling);
+        std::fill(line + inner.Right, line + outer.Right, edge);
+    }
+    Mark(outer);
 }
 
 // The rectangles from `i` on that stand in one column of a pixel's width. Returns the first behind them.

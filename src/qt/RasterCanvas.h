@@ -54,6 +54,7 @@ private:
         if (m_marking)
             m_trail.Add(rect);
     }
+    void Framed(const sInkRect& frame, const sInkRect& inside);
     std::size_t ThinRects(std::span<const sInkRect> rects, std::size_t i);
     void Cover(int x, int y, int coverage);
     void CoverRows(int x, int top256, int bottom256);
