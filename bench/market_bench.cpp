@@ -5,8 +5,9 @@
 //   TicksFromMemory        the same text through line cutter, parser, range check and append into a series
 //   TicksFromMemoryBounded the same with date and time bounds set, all points inside
 //   YardstickSocket        the text over a loopback socket, receiving and finding line ends only
-//   TicksOverSocket        the text from a loopback feed to Complete, first byte to flag, while another
-//   thread polls every 1 ms;
+//   YardstickSocketKept    the same, and 68 bytes a line, as many as a tick takes, written to fresh memory:
+//   what the machine itself takes TicksOverSocket        the text from a loopback feed to Complete, first
+//   byte to flag, while another thread polls every 1 ms;
 //                          counters give the bytes a tick that the series added and the process's resident
 //                          memory in MB
 //   LiveTick               one level 1 trade merged into a tick series
@@ -14,6 +15,7 @@
 #include "market/Level1Stream.h"
 #include "market/LineCutter.h"
 #include "market/ManagerThreadHolder.h"
+#include "platform/MemoryBlock.h"
 
 #include <algorithm>
 #include <arpa/inet.h>
@@ -258,7 +260,8 @@ double Seconds(Clock::time_point from)
     return std::chrono::duration<double>(Clock::now() - from).count();
 }
 
-void YardstickSocket(benchmark::State& state)
+// Receives the text and finds line ends; onLine(number of the line) for each.
+template<class F> void ReceiveLines(benchmark::State& state, F makeOnLine)
 {
     const std::string text = TickText("0123456");
     for (auto _ : state) {
@@ -276,6 +279,7 @@ void YardstickSocket(benchmark::State& state)
         if (::connect(client, reinterpret_cast<sockaddr*>(&address), sizeof address) != 0)
             state.SkipWithError("no connection");
         std::vector<char> buffer(65536);
+        auto onLine = makeOnLine();
         std::size_t lines = 0;
         Clock::time_point first{};
         for (;;) {
@@ -287,7 +291,7 @@ void YardstickSocket(benchmark::State& state)
             const char* at = buffer.data();
             const char* const end = at + count;
             while ((at = static_cast<const char*>(std::memchr(at, '\n', static_cast<std::size_t>(end - at)))))
-                ++lines, ++at;
+                onLine(lines++), ++at;
         }
         state.SetIterationTime(Seconds(first));
         ::close(client);
@@ -296,6 +300,32 @@ void YardstickSocket(benchmark::State& state)
             state.SkipWithError("lines are missing");
     }
     ReportLines(state);
+}
+
+void YardstickSocket(benchmark::State& state)
+{
+    ReceiveLines(state, [] { return [](std::size_t) {}; });
+}
+
+struct sFreshMemory
+{
+    sFreshMemory() = default;
+    sFreshMemory(const sFreshMemory&) = delete;
+    sFreshMemory& operator=(const sFreshMemory&) = delete;
+    ~sFreshMemory() { FreeBlock(Block); }
+    void operator()(std::size_t line)
+    {
+        constexpr std::size_t bytesALine = 68, step = 10000;
+        if (line % step == 0)
+            GrowBlock(Block, (line + step) * bytesALine);
+        std::memset(static_cast<char*>(Block.Data) + line * bytesALine, static_cast<int>(line), bytesALine);
+    }
+    sMemoryBlock Block;
+};
+
+void YardstickSocketKept(benchmark::State& state)
+{
+    ReceiveLines(state, [] { return sFreshMemory(); });
 }
 
 void TicksOverSocket(benchmark::State& state)
@@ -359,6 +389,7 @@ BENCHMARK(YardstickWarm)->Unit(benchmark::kMillisecond);
 BENCHMARK(TicksFromMemory)->Unit(benchmark::kMillisecond);
 BENCHMARK(TicksFromMemoryBounded)->Unit(benchmark::kMillisecond);
 BENCHMARK(YardstickSocket)->Unit(benchmark::kMillisecond)->UseManualTime();
+BENCHMARK(YardstickSocketKept)->Unit(benchmark::kMillisecond)->UseManualTime();
 BENCHMARK(TicksOverSocket)->Unit(benchmark::kMillisecond)->UseManualTime();
 BENCHMARK(LiveTick);
 
