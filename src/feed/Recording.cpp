@@ -211,6 +211,10 @@ std::vector<sFEED_BAR> ReadBars(RecordingKind kind, std::string_view text, const
 
 bool ReadWholeFile(const std::filesystem::path& path, std::string& text)
 {
+    // Opening a pipe waits for a writer, and the size of a folder is whatever the system makes of it.
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(path, error))
+        return false;
     std::ifstream file(path, std::ios::binary | std::ios::ate);
     if (!file)
         return false;

@@ -36,7 +36,7 @@ std::vector<sFEED_TICK> ReadTicks(std::string_view text, const std::string& file
 std::vector<sFEED_BAR> ReadBars(RecordingKind kind, std::string_view text, const std::string& file,
                                 sRECORDING_REPORT& report);
 
-// The whole file; false when it cannot be read.
+// The whole file; false when it cannot be read or is no plain file.
 bool ReadWholeFile(const std::filesystem::path& path, std::string& text);
 
 } // namespace zantroq::feed

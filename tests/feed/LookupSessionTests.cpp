@@ -8,6 +8,7 @@
 #include <fstream>
 #include <gtest/gtest.h>
 #include <sstream>
+#include <sys/stat.h>
 
 namespace zantroq::feed {
 namespace {
@@ -315,6 +316,22 @@ TEST_F(LookupSession, ALaterFolderReplacesARecordingOfTheSameKindAlone)
     EXPECT_EQ(Ask("HIX,DY,60,0,1,3"), "3,2020-01-01 10:00:00,1,1,1,1,0,0\r\n3,!ENDMSG!,\r\n");
     ASSERT_EQ(m_notices.size(), 1u);
     EXPECT_NE(m_notices[0].find("SIM.X.daily.csv"), std::string::npos);
+}
+
+// A pipe would hold the feed up until somebody writes to it, and a folder has no size to read by.
+TEST_F(LookupSession, WhatIsNoPlainFileIsNoRecording)
+{
+    CTemporaryFolder second;
+    std::filesystem::create_directory(second.Path() / "DIR.daily.csv");
+    ASSERT_EQ(mkfifo((second.Path() / "PIPE.tick.csv").c_str(), 0600), 0);
+    std::filesystem::create_directory(second.Path() / "symbols.csv");
+    second.Write("LAST.daily.csv", "date,open,high,low,close\n2020-01-01,1,1,1,1\n");
+    m_catalog.AddFolder(second.Path());
+    const std::string tail = ": cannot be read; the file is not used";
+    EXPECT_EQ(m_notices, (std::vector<std::string>{(second.Path() / "DIR.daily.csv").string() + tail,
+                                                   (second.Path() / "PIPE.tick.csv").string() + tail,
+                                                   (second.Path() / "symbols.csv").string() + tail}));
+    EXPECT_EQ(Ask("HDX,LAST,0,1,6"), "6,2020-01-01,1,1,1,1,0,0\r\n6,!ENDMSG!,\r\n");
 }
 
 // Every line that the page on recordings shows is served as it shows it.
