@@ -1,8 +1,10 @@
-// One tick and one bar as the feed keeps them. Plain data.
+// One tick, one bar and one symbol of the search as the feed keeps them. Plain data.
 #pragma once
 
 #include "feed/DecimalPrice.h"
 #include "feed/FeedTime.h"
+
+#include <string>
 
 namespace zantroq::feed {
 
@@ -23,6 +25,13 @@ struct sFEED_BAR
     std::int64_t Volume = 0;      // of the bar alone
     std::int64_t TotalVolume = 0; // interval bars: of the day up to the bar's end
     std::uint32_t OpenInterest = 0;
+};
+
+struct sLISTED_SYMBOL
+{
+    std::string Symbol;                   // as written in symbols.csv or in the file name; never with a comma
+    int MarketId = 0, SecurityTypeId = 0; // 0 to 255
+    std::string Description;              // never empty, never with a comma
 };
 
 inline bool IsTrade(const sFEED_TICK& tick)

@@ -7,7 +7,6 @@
 #include "feed/SimulatedMarket.h"
 
 #include <algorithm>
-#include <charconv>
 
 namespace zantroq::feed {
 namespace {
@@ -20,13 +19,6 @@ struct sENDING
 constexpr sENDING Endings[] = {{".tick.csv", RecordingKind::Ticks},
                                {".minute.csv", RecordingKind::Minutes},
                                {".daily.csv", RecordingKind::Daily}};
-
-int ToInteger(std::string_view text)
-{
-    int number = 0;
-    std::from_chars(text.data(), text.data() + text.size(), number);
-    return number;
-}
 
 void Tell(const CMarketCatalog::TNotice& notice, const std::string& file, const sRECORDING_REPORT& report)
 {
@@ -43,8 +35,8 @@ CMarketCatalog::CMarketCatalog(std::uint64_t seed, TNotice notice)
     : m_seed(seed), m_notice(notice ? std::move(notice) : [](const std::string&) {})
 {
     for (const sSIMULATION& simulation : NamedSimulations())
-        List(std::string(simulation.Name), SimulatedMarketId, SimulatedSecurityTypeId,
-             std::string(simulation.Description));
+        List({std::string(simulation.Name), SimulatedMarketId, SimulatedSecurityTypeId,
+              std::string(simulation.Description)});
 }
 
 void CMarketCatalog::AddFolder(const std::filesystem::path& folder)
@@ -76,6 +68,10 @@ void CMarketCatalog::AddRecording(const std::filesystem::path& path)
                      ": names that begin with \"SIM.\" are for simulated symbols; the file is not used");
             return;
         }
+        if (symbol.find(',') != std::string::npos) {
+            m_notice(file + ": a symbol with a comma cannot be asked for; the file is not used");
+            return;
+        }
         std::string text;
         if (!ReadWholeFile(path, text)) {
             m_notice(file + ": cannot be read; the file is not used");
@@ -90,7 +86,7 @@ void CMarketCatalog::AddRecording(const std::filesystem::path& path)
                 ReadBars(ending.Kind, text, file, report);
         Tell(m_notice, file, report);
         if (!m_listed.contains(symbol))
-            List(symbol, UnknownMarketId, UnknownSecurityTypeId, symbol);
+            List({symbol, UnknownMarketId, UnknownSecurityTypeId, symbol});
     }
 }
 
@@ -102,26 +98,9 @@ void CMarketCatalog::AddSymbols(const std::filesystem::path& path)
         return;
     }
     sRECORDING_REPORT report;
-    std::string_view rest = text, line;
-    std::vector<std::string_view> fields;
-    for (std::size_t number = 1; TakeLine(rest, line); ++number) {
-        if (number == 1 || TrimBlanks(line).empty())
-            continue;
-        SplitCsvLine(line, fields);
-        if (fields.size() < 4 || fields[0].empty())
-            report.Skip(path.string(), number, "not symbol,market_id,security_type_id,description");
-        else
-            List(std::string(fields[0]), ToInteger(fields[1]), ToInteger(fields[2]), std::string(fields[3]));
-    }
+    for (const sLISTED_SYMBOL& listed : ReadSymbols(text, path.string(), report))
+        List(listed);
     Tell(m_notice, path.string(), report);
-}
-
-void CMarketCatalog::List(const std::string& symbol, int marketId, int securityTypeId,
-                          const std::string& description)
-{
-    sLISTED_SYMBOL& listed = m_listed[symbol];
-    listed = {symbol, marketId, securityTypeId, description.empty() ? symbol : description};
-    std::replace(listed.Description.begin(), listed.Description.end(), ',', ' ');
 }
 
 const IMarketSource* CMarketCatalog::Find(std::string_view symbol)

@@ -15,13 +15,6 @@
 
 namespace zantroq::feed {
 
-struct sLISTED_SYMBOL
-{
-    std::string Symbol; // as written in symbols.csv or in the file name
-    int MarketId = 0, SecurityTypeId = 0;
-    std::string Description; // never empty, never with a comma
-};
-
 // Built on one thread; afterwards used by the feed's thread alone.
 class CMarketCatalog
 {
@@ -53,7 +46,7 @@ private:
     };
     void AddRecording(const std::filesystem::path& path);
     void AddSymbols(const std::filesystem::path& path);
-    void List(const std::string& symbol, int marketId, int securityTypeId, const std::string& description);
+    void List(const sLISTED_SYMBOL& listed) { m_listed[listed.Symbol] = listed; }
 
     const std::uint64_t m_seed;
     const TNotice m_notice;

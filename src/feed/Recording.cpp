@@ -131,6 +131,15 @@ bool ReadTime(CCsvRows& rows, std::size_t column, std::string_view name, TFeedTi
     return false;
 }
 
+bool ReadListId(CCsvRows& rows, std::size_t column, std::string_view name, int& id)
+{
+    constexpr int largest = 255;
+    if (ReadCount(rows.Field(column), id) && id <= largest)
+        return true;
+    rows.Skip(Quoted(std::string(name) + " is not a number from 0 to 255:", rows.Field(column)));
+    return false;
+}
+
 template<class TRecord, class TTime> void SortByTime(std::vector<TRecord>& records, TTime time)
 {
     const auto earlier = [time](const TRecord& a, const TRecord& b) { return a.*time < b.*time; };
@@ -207,6 +216,33 @@ std::vector<sFEED_BAR> ReadBars(RecordingKind kind, std::string_view text, const
     }
     SortByTime(bars, &sFEED_BAR::Stamp);
     return bars;
+}
+
+std::vector<sLISTED_SYMBOL> ReadSymbols(std::string_view text, const std::string& file,
+                                        sRECORDING_REPORT& report)
+{
+    CCsvRows rows(text, file, report);
+    const std::size_t symbol = rows.Column("symbol", true), market = rows.Column("market_id", true);
+    const std::size_t type = rows.Column("security_type_id", true);
+    const std::size_t description = rows.Column("description", false);
+    std::vector<sLISTED_SYMBOL> symbols;
+    while (rows.Next()) {
+        sLISTED_SYMBOL listed;
+        listed.Symbol = rows.Field(symbol);
+        if (listed.Symbol.empty() || listed.Symbol.find(',') != std::string::npos) {
+            rows.Skip(Quoted("symbol is empty or holds a comma:", listed.Symbol));
+            continue;
+        }
+        if (!ReadListId(rows, market, "market_id", listed.MarketId) ||
+            !ReadListId(rows, type, "security_type_id", listed.SecurityTypeId))
+            continue;
+        listed.Description = rows.Field(description);
+        if (listed.Description.empty())
+            listed.Description = listed.Symbol;
+        std::replace(listed.Description.begin(), listed.Description.end(), ',', ' ');
+        symbols.push_back(std::move(listed));
+    }
+    return symbols;
 }
 
 bool ReadWholeFile(const std::filesystem::path& path, std::string& text)

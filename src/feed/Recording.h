@@ -1,5 +1,5 @@
-// Reading of recordings: CSV files with a header line, described in docs/recordings.md. A bad row costs that
-// row alone. No thread of its own; what comes back is plain data.
+// Reading of recordings and symbol lists: CSV files with a header line, described in docs/recordings.md. A
+// bad row costs that row alone. No thread of its own; what comes back is plain data.
 #pragma once
 
 #include "feed/FeedRecords.h"
@@ -35,6 +35,11 @@ struct sRECORDING_REPORT
 std::vector<sFEED_TICK> ReadTicks(std::string_view text, const std::string& file, sRECORDING_REPORT& report);
 std::vector<sFEED_BAR> ReadBars(RecordingKind kind, std::string_view text, const std::string& file,
                                 sRECORDING_REPORT& report);
+
+// The symbols that a symbols.csv names, in the file's order. Commas in a description become blanks, and the
+// symbol stands for one that is empty. Without the needed columns nothing is read and the report says so.
+std::vector<sLISTED_SYMBOL> ReadSymbols(std::string_view text, const std::string& file,
+                                        sRECORDING_REPORT& report);
 
 // The whole file; false when it cannot be read or is no plain file.
 bool ReadWholeFile(const std::filesystem::path& path, std::string& text);

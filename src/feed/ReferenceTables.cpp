@@ -3,6 +3,7 @@
 #include "feed/CsvLine.h"
 #include "feed/MarketCatalog.h"
 
+#include <algorithm>
 #include <charconv>
 #include <set>
 
@@ -56,9 +57,7 @@ std::string SecurityTypesReply()
 bool FindReply(const std::map<std::string, sLISTED_SYMBOL>& listed,
                const std::vector<std::string_view>& fields, std::string& reply)
 {
-    std::size_t count = fields.size();
-    while (count > 6 && fields[count - 1].empty() && fields[count - 2].empty() && fields[4].size() <= 1)
-        --count;
+    const std::size_t count = fields.size();
     if (count < 6 || fields[1].empty())
         return false;
     const std::string id(fields[1]);
@@ -74,7 +73,9 @@ bool FindReply(const std::map<std::string, sLISTED_SYMBOL>& listed,
         reply = id + ",E,Unknown filter kind; use e or t or leave it empty\r\n";
         return true;
     }
-    const std::string wanted = UpperCase(TrimBlanks(text));
+    std::string wanted = UpperCase(TrimBlanks(text));
+    // As in the descriptions that it is compared with.
+    std::replace(wanted.begin(), wanted.end(), ',', ' ');
     if (wanted.empty()) {
         reply = id + ",E,Empty search text\r\n";
         return true;

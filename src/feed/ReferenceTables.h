@@ -23,8 +23,9 @@ std::string SecurityTypesReply();
 
 // FIND,<id>,<field>,<text>,<filter kind>,<filter ids>: field "s" finds symbols that begin with the text, "d"
 // descriptions that hold it, in either case of letters; kind "e" keeps the markets, "t" the security types
-// that the ids, parted by blanks, name. The text may hold commas. Rows come in the order of their symbols.
-// `fields` are those of the whole line; false when there are too few.
+// that the ids, parted by blanks, name. The text may hold commas, which count as blanks: the last two fields
+// are the kind and the ids. Rows come in the order of their symbols. `fields` are those of the whole line;
+// false when there are too few.
 bool FindReply(const std::map<std::string, sLISTED_SYMBOL>& listed,
                const std::vector<std::string_view>& fields, std::string& reply);
 

@@ -265,6 +265,15 @@ TEST_F(LookupSession, FindLooksThroughSymbolsAndDescriptions)
     EXPECT_EQ(Ask("FIND,7,d,daily  inc,,"), Ask("FIND,7,s,DY,,"));
 }
 
+// The kind and the ids are the last two fields, however many commas the text holds.
+TEST_F(LookupSession, FindTakesTextsWithCommas)
+{
+    EXPECT_EQ(Ask("FIND,7,d,Daily, Inc,,"), Ask("FIND,7,s,DY,,"));
+    EXPECT_EQ(Ask("FIND,7,d,y,b,,"), "7,!ENDMSG!,\r\n");
+    EXPECT_EQ(Ask("FIND,7,d,Daily, Inc,e,2 3"), Ask("FIND,7,s,DY,,"));
+    EXPECT_EQ(Ask("FIND,7,d,Daily, Inc,e,3"), "7,!ENDMSG!,\r\n");
+}
+
 TEST_F(LookupSession, FindKeepsToMarketsOrSecurityTypes)
 {
     EXPECT_EQ(Ask("FIND,7,d,i,e,3 4"), "7,TK,3,5,Tick Tock\r\n7,!ENDMSG!,\r\n");
@@ -311,11 +320,13 @@ TEST_F(LookupSession, ALaterFolderReplacesARecordingOfTheSameKindAlone)
     second.Write("DY.daily.csv", "date,open,high,low,close\n2020-01-01,1,1,1,1\n");
     second.Write("DY.minute.csv", "time,open,high,low,close\n2020-01-01 10:00:00,1,1,1,1\n");
     second.Write("SIM.X.daily.csv", "date,open,high,low,close\n2020-01-01,1,1,1,1\n");
+    second.Write("A,B.daily.csv", "date,open,high,low,close\n2020-01-01,1,1,1,1\n");
     m_catalog.AddFolder(second.Path());
     EXPECT_EQ(Ask("HDX,DY,0,1,6"), "6,2020-01-01,1,1,1,1,0,0\r\n6,!ENDMSG!,\r\n");
     EXPECT_EQ(Ask("HIX,DY,60,0,1,3"), "3,2020-01-01 10:00:00,1,1,1,1,0,0\r\n3,!ENDMSG!,\r\n");
-    ASSERT_EQ(m_notices.size(), 1u);
-    EXPECT_NE(m_notices[0].find("SIM.X.daily.csv"), std::string::npos);
+    ASSERT_EQ(m_notices.size(), 2u);
+    EXPECT_NE(m_notices[0].find("A,B.daily.csv: a symbol with a comma"), std::string::npos);
+    EXPECT_NE(m_notices[1].find("SIM.X.daily.csv"), std::string::npos);
 }
 
 // A pipe would hold the feed up until somebody writes to it, and a folder has no size to read by.

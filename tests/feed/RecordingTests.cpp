@@ -195,4 +195,53 @@ TEST(Recordings, RowsOutOfOrderAreSortedAndEqualTimesKeepTheirOrder)
     EXPECT_EQ(Text(ticks[0].Bid), "1");
 }
 
+TEST(SymbolList, ColumnsAreFoundByNameAndADescriptionMayBeMissing)
+{
+    sRECORDING_REPORT report;
+    const auto listed = ReadSymbols("\xEF\xBB\xBF\nmarket_id,Symbol,security_type_id\n2,A,255\n0,B,0\n",
+                                    "symbols.csv", report);
+    ASSERT_EQ(listed.size(), 2u);
+    EXPECT_EQ(listed[0].Symbol, "A");
+    EXPECT_EQ(listed[0].MarketId, 2);
+    EXPECT_EQ(listed[0].SecurityTypeId, 255);
+    EXPECT_EQ(listed[0].Description, "A"); // the symbol stands for it
+    EXPECT_EQ(listed[1].Symbol, "B");
+    EXPECT_EQ(report.SkippedRows, 0u);
+}
+
+TEST(SymbolList, ABadRowNamesFileAndLineAndCostsThatRowAlone)
+{
+    sRECORDING_REPORT report;
+    const auto listed = ReadSymbols("symbol,market_id,security_type_id,description\n"
+                                    "A,x,1,Not a number\n"
+                                    "B,256,1,Too large\n"
+                                    "C,1,-1,Below zero\n"
+                                    "D,1\n"
+                                    ",1,1,No symbol\n"
+                                    "\"E,F\",1,1,A comma\n"
+                                    "G,1,1,\"Good, that one\"\n",
+                                    "symbols.csv", report);
+    ASSERT_EQ(listed.size(), 1u);
+    EXPECT_EQ(listed[0].Symbol, "G");
+    EXPECT_EQ(listed[0].Description, "Good  that one");
+    EXPECT_EQ(report.SkippedRows, 6u);
+    EXPECT_EQ(report.Problems, (std::vector<std::string>{
+                                   "symbols.csv:2: market_id is not a number from 0 to 255: \"x\"",
+                                   "symbols.csv:3: market_id is not a number from 0 to 255: \"256\"",
+                                   "symbols.csv:4: security_type_id is not a number from 0 to 255: \"-1\"",
+                                   "symbols.csv:5: security_type_id is not a number from 0 to 255: \"\"",
+                                   "symbols.csv:6: symbol is empty or holds a comma: \"\"",
+                                   "symbols.csv:7: symbol is empty or holds a comma: \"E,F\"",
+                               }));
+}
+
+TEST(SymbolList, WithoutAHeaderTheFileIsNotUsed)
+{
+    sRECORDING_REPORT report;
+    EXPECT_TRUE(ReadSymbols("GOOG,2,1,Google Inc.\nMSFT,2,1,Microsoft\n", "symbols.csv", report).empty());
+    ASSERT_EQ(report.Problems.size(), 1u);
+    EXPECT_EQ(report.Problems[0],
+              "symbols.csv:1: the header line has no column \"symbol\"; the file is not used");
+}
+
 } // namespace zantroq::feed
