@@ -2,6 +2,7 @@
 
 #include "feed/CsvLine.h"
 
+#include <algorithm>
 #include <charconv>
 #include <system_error>
 
@@ -25,6 +26,9 @@ constexpr sTEMPLATE Templates[] = {
     {"HWX", HistoryData::Weekly, "sno#"},        {"HMX", HistoryData::Monthly, "sno#"},
 };
 
+// More than the calendar has.
+constexpr std::int64_t MostDays = 10'000'000;
+
 bool ReadWhole(std::string_view text, std::int64_t& number)
 {
     if (text.empty())
@@ -44,9 +48,7 @@ bool ReadRangeEnd(std::string_view text, bool isEnd, std::optional<TFeedTime>& b
         return false;
     const bool hasTime = text.find(' ') != std::string_view::npos;
     if (isEnd)
-        time = hasTime ? time / MsPerSecond * MsPerSecond + MsPerSecond - 1 : time + MsPerDay - 1;
-    if (isEnd && hasTime && time < 0)
-        time -= MsPerSecond; // division rounds towards zero, and the whole second lies behind it
+        time += hasTime ? MsPerSecond - 1 - TimeOfDay(time) % MsPerSecond : MsPerDay - 1;
     bound = time;
     return true;
 }
@@ -76,7 +78,10 @@ bool ReadField(char letter, std::string_view text, sHISTORY_COMMAND& command)
     case 'n':
         return ReadWhole(text, command.Datapoints);
     case 'd':
-        return ReadWhole(text, command.Days);
+        if (!ReadWhole(text, command.Days))
+            return false;
+        command.Days = std::min(command.Days, MostDays);
+        return true;
     case 'b':
     case 'B':
         return ReadRangeEnd(text, false, command.Begin);

@@ -126,6 +126,20 @@ TEST_F(LookupSession, ARangeIncludesBothEnds)
               "2,!ENDMSG!,\r\n");
 }
 
+// The end of a whole second came out a second early on days that count below zero.
+TEST_F(LookupSession, ARangeBefore1970IncludesBothEnds)
+{
+    CTemporaryFolder second;
+    second.Write("OLD.tick.csv", "time,last\n1960-03-01 09:29:59.999,1\n1960-03-01 09:30:00,2\n"
+                                 "1960-03-01 16:00:00,3\n1960-03-01 16:00:00.999,4\n1960-03-01 16:00:01,5\n");
+    m_catalog.AddFolder(second.Path());
+    EXPECT_EQ(Ask("HTT,OLD,19600301 093000,19600301 160000,,,,1,2"),
+              "2,1960-03-01 09:30:00.000,2,0,0,2,2,0,C\r\n2,1960-03-01 16:00:00.000,3,0,0,3,3,0,C\r\n"
+              "2,1960-03-01 16:00:00.999,4,0,0,4,4,0,C\r\n2,!ENDMSG!,\r\n");
+    // However far back: the days of the calendar are fewer than a 64-bit number can count.
+    EXPECT_EQ(Ask("HTD,OLD,9223372036854775807,,,,1,1"), Ask("HTX,OLD,0,1,1"));
+}
+
 TEST_F(LookupSession, ARangeWithoutEndsIsOpen)
 {
     EXPECT_EQ(Ask("HTT,TK, , ,,,,1,0"), Ask("HTX,TK,0,1,0"));
