@@ -3,11 +3,16 @@
 #include "feed/CsvLine.h"
 #include "feed/LookupSession.h"
 
+#include <algorithm>
+
 namespace zantroq::feed {
 namespace {
 
 // Clients read level 1 lines through small buffers, and a line carries its symbol.
 constexpr std::size_t MaxSymbol = 100;
+
+// Milliseconds, some thirty years: at a speed of next to nothing a wait is longer than a clock can count.
+constexpr double LongestWait = 1e12;
 
 } // namespace
 
@@ -87,9 +92,9 @@ bool CLevel1Session::DueOf(const sWATCH& watch, TClock::time_point& due) const
     TFeedTime time = 0;
     if (!watch.Trades.NextTime(time))
         return false;
-    const std::chrono::duration<double, std::milli> wait(static_cast<double>(time - watch.MarketStart) /
-                                                         m_options.Speed);
-    due = watch.Start + std::chrono::duration_cast<TClock::duration>(wait);
+    const double wait = static_cast<double>(time - watch.MarketStart) / m_options.Speed;
+    due = watch.Start + std::chrono::duration_cast<TClock::duration>(
+                            std::chrono::duration<double, std::milli>(std::min(wait, LongestWait)));
     return true;
 }
 

@@ -216,6 +216,21 @@ TEST_F(Level1Session, TheSameSeedGivesTheSameTradesAndSpeedOnlyTheirPace)
     EXPECT_EQ(quick, plain);
 }
 
+// A wait beyond what the clock can count once came out as a moment of the past, and every trade at once.
+TEST_F(Level1Session, TheSlowestSpeedWaitsForEver)
+{
+    for (const double speed : {1e-9, 1e-13, 1e-300, 5e-324}) {
+        CLevel1Session session(m_catalog, {.SimulateAll = true, .Speed = speed});
+        Say(session, "wMN");
+        std::string text;
+        session.WriteDue(m_now + 24h, 100'000, text);
+        EXPECT_TRUE(text.empty()) << speed;
+        CLevel1Session::TClock::time_point due;
+        ASSERT_TRUE(session.NextDue(due));
+        EXPECT_GT(due, m_now + 24h) << speed;
+    }
+}
+
 TEST_F(Level1Session, TheBlockLimitLosesNoTrade)
 {
     CLevel1Session whole(m_catalog, {.SimulateAll = true}), pieces(m_catalog, {.SimulateAll = true});
