@@ -29,6 +29,11 @@ int Fail(ExitCode code, const std::string& sentence)
     return code;
 }
 
+int FailOutput()
+{
+    return Fail(NoOutput, "standard output: cannot be written; give it a place that can");
+}
+
 template<class TNumber> bool ReadWhole(const std::string& text, TNumber& number)
 {
     const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
@@ -61,7 +66,8 @@ int main(int argc, char** argv)
     try {
         app.parse(argc, argv);
     } catch (const CLI::Success& request) {
-        return app.exit(request);
+        app.exit(request);
+        return std::cout.flush() ? Success : FailOutput();
     } catch (const CLI::ParseError& error) {
         return Fail(WrongUsage, std::string(error.what()) + "; --help lists the options");
     }
@@ -106,7 +112,7 @@ int main(int argc, char** argv)
     std::cout << "listening on 127.0.0.1:" << server.LookupPort() << " and 127.0.0.1:" << server.Level1Port()
               << std::endl;
     if (!std::cout)
-        return Fail(NoOutput, "standard output: cannot be written; give it a place that can");
+        return FailOutput();
     context.run();
     server.Stop();
     return Success;

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <csignal>
 #include <cstdio>
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <regex>
 #include <sstream>
@@ -19,14 +20,16 @@ namespace {
 class CFeedProgram
 {
 public:
-    explicit CFeedProgram(std::vector<std::string> arguments) : m_errors(m_folder.Path() / "errors")
+    // Where no output file is named, the test reads the output.
+    explicit CFeedProgram(std::vector<std::string> arguments, const char* output = nullptr)
+        : m_errors(m_folder.Path() / "errors")
     {
         int pipes[2];
         if (pipe(pipes) != 0)
             throw std::runtime_error("no pipe");
         m_process = fork();
         if (m_process == 0) {
-            dup2(pipes[1], STDOUT_FILENO);
+            dup2(output ? open(output, O_WRONLY) : pipes[1], STDOUT_FILENO);
             if (!std::freopen(m_errors.c_str(), "w", stderr))
                 _exit(99);
             close(pipes[0]);
@@ -196,6 +199,18 @@ TEST(FeedProgram, HelpAndVersionAreResults)
     EXPECT_TRUE(version.Line().starts_with("zantroq-feed "));
     EXPECT_EQ(version.Wait(), 0);
     EXPECT_EQ(version.Errors(), "");
+}
+
+TEST(FeedProgram, AnOutputThatCannotBeWrittenIsExitFourAndOneSentence)
+{
+    const std::vector<std::vector<std::string>> commands = {
+        {"--help"}, {"--version"}, {"--lookup-port", "0", "--level1-port", "0"}};
+    for (const auto& arguments : commands) {
+        CFeedProgram program(arguments, "/dev/full");
+        EXPECT_EQ(program.Wait(), 4) << arguments[0];
+        EXPECT_EQ(program.Errors(),
+                  "zantroq-feed: standard output: cannot be written; give it a place that can\n");
+    }
 }
 
 } // namespace zantroq::feed
