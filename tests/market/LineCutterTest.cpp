@@ -71,6 +71,20 @@ TEST(LineCutter, KeepsACutLineUntilTheRestComes)
     EXPECT_EQ(feeder.Cutter.Pending(), 0);
 }
 
+TEST(LineCutter, AReceiveThatEndsAtALineEndLeavesNothingPending)
+{
+    for (const char* text : {"whole\n", "whole\r", "whole\r\n", "\n"}) {
+        CFeeder feeder;
+        feeder.Put("cut ");
+        feeder.Put(text);
+        EXPECT_EQ(feeder.Cutter.Pending(), 0);
+        EXPECT_EQ(feeder.Cutter.Room().size(), 4095u) << "the next line starts at the front of the buffer";
+        feeder.Put("next\n");
+        EXPECT_EQ(feeder.Seen.front(), text[0] == 'w' ? "cut whole" : "cut ");
+        EXPECT_EQ(feeder.Seen.back(), "next");
+    }
+}
+
 TEST(LineCutter, ABlockThatFillsTheBufferInMidLineContinues)
 {
     CFeeder feeder(CLineCutter::LookupCapacity);
