@@ -10,6 +10,16 @@ namespace zantroq {
 
 namespace {
 
+std::int64_t Number(const SettingValue& value)
+{
+    if (const auto* text = std::get_if<std::string>(&value))
+        return TextToInt(*text);
+    if (const auto* number = std::get_if<std::uint32_t>(&value))
+        return *number;
+    const auto& bytes = std::get<std::vector<std::uint8_t>>(value);
+    return TextToInt(std::string(bytes.begin(), bytes.end()));
+}
+
 class CPortKey : public ISettingsKey
 {
 public:
@@ -45,12 +55,8 @@ std::uint16_t CZantroPorts::GetPort(const char* valueName, const char* defaultTe
     if (!m_key)
         return defaultPort;
     const std::optional<SettingValue> value = m_key->Read(valueName);
-    if (value) {
-        if (const auto* text = std::get_if<std::string>(&*value))
-            return static_cast<std::uint16_t>(TextToInt(*text));
-        if (const auto* number = std::get_if<std::uint32_t>(&*value))
-            return static_cast<std::uint16_t>(*number);
-    }
+    if (value)
+        return static_cast<std::uint16_t>(Number(*value));
     m_key->Write(valueName, SettingValue{std::string(defaultText)});
     return defaultPort;
 }

@@ -286,6 +286,28 @@ TEST_F(CFeedTest, TheWorkerLivesFromTheFirstControlToTheLast)
     EXPECT_EQ(m_holder.ControlCount(), 0);
 }
 
+// The worker is gone, so the end marker that would free the series can no longer come.
+TEST_F(CFeedTest, TheLastControlGoesWhileAReplyIsLoading)
+{
+    auto request = Request(6);
+    m_holder.AddControl(m_feed.Key());
+    m_holder.WatchSymbol(*request);
+    m_holder.SendHistoryRequest(*request);
+    ASSERT_TRUE(m_feed.Lookup.AwaitReceived("HDX"));
+    m_feed.Lookup.Send(Day(*request, "2014-01-02"));
+    ASSERT_TRUE(AwaitTrue([&] { return request->GetCount(0) == 1; }));
+    const std::int32_t handle = request->Handle();
+    m_holder.RemoveControl(request.get());
+    GiveUpRequest(std::move(request));
+    EXPECT_FALSE(m_holder.Running());
+    EXPECT_TRUE(AwaitTrue([&] { return m_feed.Level1.PeerClosed() && m_feed.Lookup.PeerClosed(); }));
+    const RequestPtr left = FindRequest(handle);
+    ASSERT_TRUE(left);
+    EXPECT_FALSE(left->IsAlive());
+    EXPECT_EQ(left->GetCount(0), 1);
+    EXPECT_FALSE(EndReply(*left)); // this test's own tidying
+}
+
 TEST(ZantroPorts, ReadsTheLeadingDigitsOfTheStoredText)
 {
     auto key = std::make_shared<CMapKey>();
@@ -294,6 +316,19 @@ TEST(ZantroPorts, ReadsTheLeadingDigitsOfTheStoredText)
     CZantroPorts ports(key);
     EXPECT_EQ(ports.LookupPort(), 9200);
     EXPECT_EQ(ports.Level1Port(), 6009);
+}
+
+TEST(ZantroPorts, AValueThatIsThereIsNeverOverwritten)
+{
+    auto key = std::make_shared<CMapKey>();
+    const SettingValue bytes = std::vector<std::uint8_t>{'9', '3', '0', '0', 0, '7'}, empty = std::string();
+    key->Values["LookupPort"] = bytes;
+    key->Values["Level1Port"] = empty;
+    CZantroPorts ports(key);
+    EXPECT_EQ(ports.LookupPort(), 9300); // whatever its type, by its leading digits
+    EXPECT_EQ(ports.Level1Port(), 0);
+    EXPECT_EQ(key->Values.at("LookupPort"), bytes);
+    EXPECT_EQ(key->Values.at("Level1Port"), empty);
 }
 
 TEST(ZantroPorts, MissingValuesAreWrittenBackWithTheirDefaults)
