@@ -2,6 +2,7 @@
 
 #include <charconv>
 #include <nlohmann/json.hpp>
+#include <set>
 
 namespace zantroq {
 namespace {
@@ -74,16 +75,22 @@ SettingValue ValueOf(const Json& entry)
 
 Json ParseShallow(std::string_view text)
 {
-    const auto refuseDepth = [](int depth, Json::parse_event_t event, Json&) {
-        const bool opens =
-            event == Json::parse_event_t::object_start || event == Json::parse_event_t::array_start;
-        if (opens && depth >= DeepestLevel)
+    std::vector<std::set<std::string>> names; // of the objects that are open
+    const auto refuse = [&](int depth, Json::parse_event_t event, Json& parsed) {
+        using Event = Json::parse_event_t;
+        if ((event == Event::object_start || event == Event::array_start) && depth >= DeepestLevel)
             throw CSettingsFormatError(
                 "too deeply nested: values stand in names and names in keys, nothing deeper");
+        if (event == Event::object_start)
+            names.emplace_back();
+        else if (event == Event::object_end)
+            names.pop_back();
+        else if (event == Event::key && !names.back().insert(parsed.get<std::string>()).second)
+            throw CSettingsFormatError("\"" + parsed.get<std::string>() + "\" stands twice in one object");
         return true;
     };
     try {
-        return Json::parse(text.begin(), text.end(), refuseDepth);
+        return Json::parse(text.begin(), text.end(), refuse);
     } catch (const Json::parse_error& error) {
         throw CSettingsFormatError("not JSON at byte " + std::to_string(error.byte));
     } catch (const Json::out_of_range&) {

@@ -53,6 +53,18 @@ TEST(SettingsExchange, AnythingElseIsRefused)
               "value \"n\" of key \"K\": its value must be a text");
 }
 
+// Of two values by one name the library keeps the last in silence.
+TEST(SettingsExchange, ANameThatStandsTwiceIsRefused)
+{
+    EXPECT_EQ(ErrorOf(R"({"K":{"a":{"type":"sz","value":"1"}},"K":{"b":{"type":"sz","value":"2"}}})"),
+              "\"K\" stands twice in one object");
+    EXPECT_EQ(ErrorOf(R"({"K":{"a":{"type":"sz","value":"1"},"a":{"type":"sz","value":"2"}}})"),
+              "\"a\" stands twice in one object");
+    EXPECT_EQ(ErrorOf(R"({"K":{"a":{"type":"sz","value":"1","type":"sz"}}})"),
+              "\"type\" stands twice in one object");
+    EXPECT_EQ(ErrorOf(R"({"K":{"a":{"type":"sz","value":"1"}},"L":{"a":{"type":"sz","value":"2"}}})"), "");
+}
+
 // The JSON library reports such a number by an error of its own kind, which went past the handler.
 TEST(SettingsExchange, ANumberBeyondAllRangesIsAFormatError)
 {
