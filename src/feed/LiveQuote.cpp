@@ -9,11 +9,12 @@
 namespace zantroq::feed {
 namespace {
 
-constexpr int DisplayCodeField = 39;
+// A line of more would not fit its readers' buffers.
+constexpr std::size_t MostFields = 88;
 constexpr std::string_view MarketCenter = "1";
 constexpr std::string_view PlainConditions = "01";
 
-void AppendField(QuoteField field, std::string_view symbol, const sLIVE_QUOTE& quote, std::string& text)
+void AppendField(Level1Field field, std::string_view symbol, const sLIVE_QUOTE& quote, std::string& text)
 {
     char number[32];
     const auto price = [&](sPRICE value) {
@@ -22,66 +23,68 @@ void AppendField(QuoteField field, std::string_view symbol, const sLIVE_QUOTE& q
     };
     const auto integer = [&](auto value) { text.append(number, WriteInteger(number, value)); };
     switch (field) {
-    case QuoteField::Symbol:
+    case Level1Type: // stands in front of the fields
+        break;
+    case Level1Symbol:
         text += symbol;
         break;
-    case QuoteField::TotalVolume:
+    case Level1TotalVolume:
         integer(quote.TotalVolume);
         break;
-    case QuoteField::TradeSize:
+    case Level1Size:
         integer(quote.Size);
         break;
-    case QuoteField::High:
+    case Level1High:
         price(quote.High);
         break;
-    case QuoteField::Low:
+    case Level1Low:
         price(quote.Low);
         break;
-    case QuoteField::Bid:
+    case Level1Bid:
         price(quote.Bid);
         break;
-    case QuoteField::Ask:
+    case Level1Ask:
         price(quote.Ask);
         break;
-    case QuoteField::BidSize:
+    case Level1BidSize:
         integer(quote.BidSize);
         break;
-    case QuoteField::AskSize:
+    case Level1AskSize:
         integer(quote.AskSize);
         break;
-    case QuoteField::TradeTime:
+    case Level1Time:
         text.append(number, WriteMilliseconds(number, TimeOfDay(quote.Time)));
         break;
-    case QuoteField::OpenInterest:
+    case Level1OpenInterest:
         integer(quote.OpenInterest);
         break;
-    case QuoteField::Open:
+    case Level1Open:
         price(quote.Open);
         break;
-    case QuoteField::Close:
+    case Level1Close:
         price(quote.PreviousClose);
         break;
-    case QuoteField::TradeDate:
+    case Level1Date:
         text.append(number, WriteMonthDayYear(number, DayOf(quote.Time)));
         break;
-    case QuoteField::Trade:
+    case Level1Last:
         price(quote.Last);
         break;
-    case QuoteField::DisplayCode:
+    case Level1DisplayCode:
         integer(quote.DisplayCode);
         break;
-    case QuoteField::TickId:
+    case Level1TickId:
         integer(quote.TickId);
         break;
-    case QuoteField::TradeMarket:
-    case QuoteField::BidMarket:
-    case QuoteField::AskMarket:
+    case Level1TradeMarket:
+    case Level1BidMarket:
+    case Level1AskMarket:
         text += MarketCenter;
         break;
-    case QuoteField::Contents:
+    case Level1Contents:
         text += quote.Contents;
         break;
-    case QuoteField::Conditions:
+    case Level1Conditions:
         text += PlainConditions;
         break;
     }
@@ -92,8 +95,8 @@ void AppendField(QuoteField field, std::string_view symbol, const sLIVE_QUOTE& q
 TFieldSelection AllQuoteFields()
 {
     TFieldSelection selection;
-    for (std::size_t i = 0; i < QuoteFieldNames.size(); ++i)
-        selection.push_back(static_cast<QuoteField>(i));
+    for (int field = Level1Symbol; field <= Level1Conditions; ++field)
+        selection.push_back(static_cast<Level1Field>(field));
     return selection;
 }
 
@@ -103,15 +106,15 @@ bool ReadFieldSelection(std::string_view names, TFieldSelection& selection)
     SplitAtCommas(names, fields);
     TFieldSelection read;
     for (const auto name : fields) {
-        const auto known = std::find(QuoteFieldNames.begin(), QuoteFieldNames.end(), name);
-        if (known != QuoteFieldNames.end() && read.size() < 4 * QuoteFieldNames.size())
-            read.push_back(static_cast<QuoteField>(known - QuoteFieldNames.begin()));
+        const auto known = std::find(Level1FieldNames.begin() + Level1Symbol, Level1FieldNames.end(), name);
+        if (known != Level1FieldNames.end() && read.size() < MostFields)
+            read.push_back(static_cast<Level1Field>(known - Level1FieldNames.begin()));
     }
     if (read.empty())
         return false;
-    if (read.front() != QuoteField::Symbol) {
-        std::erase(read, QuoteField::Symbol);
-        read.insert(read.begin(), QuoteField::Symbol);
+    if (read.front() != Level1Symbol) {
+        std::erase(read, Level1Symbol);
+        read.insert(read.begin(), Level1Symbol);
     }
     selection = read;
     return true;
@@ -120,9 +123,9 @@ bool ReadFieldSelection(std::string_view names, TFieldSelection& selection)
 std::string FieldNamesText(const TFieldSelection& selection)
 {
     std::string text;
-    for (const QuoteField field : selection) {
+    for (const Level1Field field : selection) {
         text += ',';
-        text += QuoteFieldNames[static_cast<std::size_t>(field)];
+        text += Level1FieldNames[static_cast<std::size_t>(field)];
     }
     return text;
 }
@@ -131,7 +134,7 @@ void AppendQuoteLine(char type, std::string_view symbol, const sLIVE_QUOTE& quot
                      const TFieldSelection& selection, std::string& text)
 {
     text += type;
-    for (const QuoteField field : selection) {
+    for (const Level1Field field : selection) {
         text += ',';
         AppendField(field, symbol, quote, text);
     }
@@ -148,7 +151,7 @@ void AppendFundamentalLine(std::string_view symbol, const sLIVE_QUOTE& quote, co
                          listed->Description
                    : std::string(",,");
     constexpr int described = 4;
-    text.append(DisplayCodeField - described, ',');
+    text.append(FundamentalFormat - described, ',');
     text += std::to_string(quote.DisplayCode);
     text += ',';
     text += std::to_string(quote.Decimals);

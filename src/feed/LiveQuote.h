@@ -8,15 +8,13 @@
 #pragma once
 
 #include "feed/FeedRecords.h"
+#include "market/Level1Command.h"
 
-#include <array>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace zantroq::feed {
-
-struct sLISTED_SYMBOL;
 
 struct sLIVE_QUOTE
 {
@@ -33,58 +31,9 @@ struct sLIVE_QUOTE
     std::string_view Contents;
 };
 
-enum class QuoteField
-{
-    Symbol,
-    TotalVolume,
-    TradeSize,
-    High,
-    Low,
-    Bid,
-    Ask,
-    BidSize,
-    AskSize,
-    TradeTime,
-    OpenInterest,
-    Open,
-    Close,
-    TradeDate,
-    Trade,
-    DisplayCode,
-    TickId,
-    TradeMarket,
-    BidMarket,
-    AskMarket,
-    Contents,
-    Conditions
-};
+using TFieldSelection = std::vector<Level1Field>;
 
-inline constexpr std::array<std::string_view, 22> QuoteFieldNames = {"Symbol",
-                                                                     "Total Volume",
-                                                                     "Most Recent Trade Size",
-                                                                     "High",
-                                                                     "Low",
-                                                                     "Bid",
-                                                                     "Ask",
-                                                                     "Bid Size",
-                                                                     "Ask Size",
-                                                                     "Most Recent Trade TimeMS",
-                                                                     "Open Interest",
-                                                                     "Open",
-                                                                     "Close",
-                                                                     "Most Recent Trade Date",
-                                                                     "Most Recent Trade",
-                                                                     "Fraction Display Code",
-                                                                     "TickID",
-                                                                     "Most Recent Trade Market Center",
-                                                                     "Bid Market Center",
-                                                                     "Ask Market Center",
-                                                                     "Message Contents",
-                                                                     "Most Recent Trade Conditions"};
-
-using TFieldSelection = std::vector<QuoteField>;
-
-// All 22 in the order of their names above.
+// All 22 by their wire position.
 TFieldSelection AllQuoteFields();
 // Names parted by commas. Empty and unknown names are passed over and take no place; the symbol is put in
 // front where it was not asked for. False, and selection untouched, when no name is known.

@@ -1,4 +1,5 @@
-// The texts that the chart sends on the level 1 port, and the fields it selects there. Pure, any thread.
+// The texts that the chart sends on the level 1 port, and the fields it selects there. The local feed writes
+// its lines by the same numbers. Pure, any thread.
 #pragma once
 
 #include <array>
@@ -32,7 +33,7 @@ inline constexpr std::array<std::string_view, 23> Level1FieldNames{"",
                                                                    "Message Contents",
                                                                    "Most Recent Trade Conditions"};
 
-// Wire positions of the fields that are read.
+// Wire positions of the fields.
 enum Level1Field : int
 {
     Level1Type = 0,
@@ -48,12 +49,23 @@ enum Level1Field : int
     Level1Time = 10,
     Level1OpenInterest = 11,
     Level1Open = 12,
+    Level1Close = 13,
     Level1Date = 14,
     Level1Last = 15,
+    Level1DisplayCode = 16,
     Level1TickId = 17,
+    Level1TradeMarket = 18,
+    Level1BidMarket = 19,
+    Level1AskMarket = 20,
     Level1Contents = 21,
-    FundamentalFormat = 39,   // in "F" lines: the exchange's format code
-    FundamentalPrecision = 40 // and the number of decimals
+    Level1Conditions = 22
+};
+
+// And those of "F" lines, which have fields of their own.
+enum FundamentalField : int
+{
+    FundamentalFormat = 39,   // the exchange's format code
+    FundamentalPrecision = 40 // the number of decimals
 };
 
 // Client name, protocol and field selection, three lines in one text. The field list begins with an empty
