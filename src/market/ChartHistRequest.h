@@ -132,6 +132,9 @@ private:
     void AppendPrices(const sHIST_POINT& point) REQUIRES(DataLock);
     void PrepareTicks() REQUIRES(DataLock);
     void PreparePrices() REQUIRES(DataLock);
+    template<class Series, class Point, class Call>
+    static void ForEachField(Series& series, int kind, Point& point, Call call) NO_THREAD_SAFETY_ANALYSIS;
+    template<class Call> int WithArray(int field, Call call) const REQUIRES(DataLock);
     int ClampedIndex(int index) const REQUIRES(DataLock);
     void Empty() REQUIRES(DataLock);
     void SetText(std::string& member, std::string text);

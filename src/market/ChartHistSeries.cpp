@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstring>
 #include <stdexcept>
+#include <type_traits>
 
 namespace zantroq {
 
@@ -22,9 +23,32 @@ std::int32_t Stored(std::uint32_t value)
     return static_cast<std::int32_t>(value);
 }
 
-std::uint32_t Loaded(std::int32_t value)
+template<class Element, class Array>
+constexpr bool IsArrayOf = std::is_same_v<Array, CGrowableArray<Element>>;
+
+template<class Array>
+constexpr bool HoldsIntegers = IsArrayOf<std::int32_t, Array> || IsArrayOf<std::int64_t, Array>;
+
+// A field of a point as its array keeps it.
+template<class Array, class Value> decltype(auto) ForArray(const Array&, const Value& value)
 {
-    return static_cast<std::uint32_t>(value);
+    if constexpr (IsArrayOf<char, Array>)
+        return FirstCharacter(value);
+    else if constexpr (std::is_same_v<Value, std::uint32_t>)
+        return Stored(value);
+    else
+        return (value);
+}
+
+// And the other way.
+template<class Array, class Value> void TakeFrom(const Array& array, int index, Value& value)
+{
+    if constexpr (IsArrayOf<char, Array>)
+        value.assign(1, array[index]);
+    else if constexpr (std::is_same_v<Array, CConditionArray>)
+        value = array.Get(index);
+    else
+        value = static_cast<Value>(array[index]);
 }
 
 template<class Array> auto ValueOrZero(const Array& array, int index)
@@ -35,11 +59,6 @@ template<class Array> auto ValueOrZero(const Array& array, int index)
 template<class... Arrays> void EmptyArrays(Arrays&... arrays)
 {
     ((arrays.SetCount(0), arrays.SetGrowStep(SeriesGrowStep)), ...);
-}
-
-template<class... Arrays> void CheckIndex(int index, const Arrays&... arrays)
-{
-    (arrays.Check(index), ...);
 }
 
 template<class... Arrays> void PrepareArrays(Arrays&... arrays)
@@ -161,39 +180,44 @@ void CChartHistRequest::AppendPrices(const sHIST_POINT& point)
     m_totalVolume.AddPrepared(point.TotalVolume);
 }
 
+// The arrays that a kind fills beside the fields of a point that they hold.
+template<class Series, class Point, class Call>
+void CChartHistRequest::ForEachField(Series& series, int kind, Point& point, Call call)
+{
+    if (IsTickKind(kind)) {
+        call(series.m_time, point.Time);
+        call(series.m_last, point.Last);
+        call(series.m_size, point.LastSize);
+        call(series.m_bid, point.Bid);
+        call(series.m_bidSize, point.BidSize);
+        call(series.m_ask, point.Ask);
+        call(series.m_askSize, point.AskSize);
+        call(series.m_totalVolume, point.TotalVolume);
+        call(series.m_tickId, point.TickId);
+        call(series.m_basis, point.Basis);
+        call(series.m_conditions, point.Conditions);
+    } else if (IsIntervalKind(kind) || IsDayKind(kind)) {
+        call(series.m_time, point.Time);
+        call(series.m_open, point.Open);
+        call(series.m_high, point.High);
+        call(series.m_low, point.Low);
+        call(series.m_close, point.Close);
+        call(series.m_totalVolume, point.TotalVolume);
+        if (IsIntervalKind(kind))
+            call(series.m_size, point.LastSize);
+        else
+            call(series.m_openInterest, point.OpenInterest);
+    }
+}
+
 void CChartHistRequest::UpdatePoint(int index, const sHIST_POINT& point)
 {
     CLockGuard guard(DataLock);
     const int kind = Kind;
-    if (IsTickKind(kind)) {
-        CheckIndex(index, m_time, m_last, m_size, m_bid, m_bidSize, m_ask, m_askSize, m_totalVolume, m_tickId,
-                   m_basis, m_conditions);
-        m_time.SetAt(index, point.Time);
-        m_last.SetAt(index, point.Last);
-        m_size.SetAt(index, Stored(point.LastSize));
-        m_bid.SetAt(index, point.Bid);
-        m_bidSize.SetAt(index, Stored(point.BidSize));
-        m_ask.SetAt(index, point.Ask);
-        m_askSize.SetAt(index, Stored(point.AskSize));
-        m_totalVolume.SetAt(index, point.TotalVolume);
-        m_tickId.SetAt(index, Stored(point.TickId));
-        m_basis.SetAt(index, FirstCharacter(point.Basis));
-        m_conditions.SetAt(index, point.Conditions);
-        return;
-    }
-    if (!IsIntervalKind(kind) && !IsDayKind(kind))
-        return;
-    CheckIndex(index, m_time, m_open, m_high, m_low, m_close, m_totalVolume);
-    if (IsIntervalKind(kind))
-        m_size.SetAt(index, Stored(point.LastSize));
-    else
-        m_openInterest.SetAt(index, Stored(point.OpenInterest));
-    m_time.SetAt(index, point.Time);
-    m_open.SetAt(index, point.Open);
-    m_high.SetAt(index, point.High);
-    m_low.SetAt(index, point.Low);
-    m_close.SetAt(index, point.Close);
-    m_totalVolume.SetAt(index, point.TotalVolume);
+    // All of them first, so that a point is written whole or not at all.
+    ForEachField(*this, kind, point, [&](const auto& array, const auto&) { array.Check(index); });
+    ForEachField(*this, kind, point,
+                 [&](auto& array, const auto& value) { array.SetAt(index, ForArray(array, value)); });
 }
 
 // On an empty series the result is -1, which every array refuses.
@@ -205,34 +229,8 @@ int CChartHistRequest::ClampedIndex(int index) const
 void CChartHistRequest::GetPoint(int index, sHIST_POINT& point) const
 {
     CLockGuard guard(DataLock);
-    const int kind = Kind;
     const int at = ClampedIndex(index);
-    if (IsTickKind(kind)) {
-        point.Time = m_time[at];
-        point.Last = m_last[at];
-        point.LastSize = Loaded(m_size[at]);
-        point.Bid = m_bid[at];
-        point.BidSize = Loaded(m_bidSize[at]);
-        point.Ask = m_ask[at];
-        point.AskSize = Loaded(m_askSize[at]);
-        point.TotalVolume = m_totalVolume[at];
-        point.TickId = Loaded(m_tickId[at]);
-        point.Basis.assign(1, m_basis[at]);
-        point.Conditions = m_conditions.Get(at);
-        return;
-    }
-    if (!IsIntervalKind(kind) && !IsDayKind(kind))
-        return;
-    point.Time = m_time[at];
-    point.Open = m_open[at];
-    point.High = m_high[at];
-    point.Low = m_low[at];
-    point.Close = m_close[at];
-    point.TotalVolume = m_totalVolume[at];
-    if (IsIntervalKind(kind))
-        point.LastSize = Loaded(m_size[at]);
-    else
-        point.OpenInterest = Loaded(m_openInterest[at]);
+    ForEachField(*this, Kind, point, [&](const auto& array, auto& value) { TakeFrom(array, at, value); });
 }
 
 void CChartHistRequest::GetChartPoint(int index, sHIST_DATA& point) const
@@ -257,46 +255,52 @@ void CChartHistRequest::GetChartPoint(int index, sHIST_DATA& point) const
         point.Volume = m_size[at];
 }
 
-int CChartHistRequest::GetCount(int field) const
+// What `call` makes of the array with this number.
+template<class Call> int CChartHistRequest::WithArray(int field, Call call) const
 {
-    CLockGuard guard(DataLock);
     switch (field) {
     case FieldTime:
     case FieldTimeAlias:
-        return m_time.Count();
+        return call(m_time);
     case FieldOpen:
-        return m_open.Count();
+        return call(m_open);
     case FieldHigh:
-        return m_high.Count();
+        return call(m_high);
     case FieldLow:
-        return m_low.Count();
+        return call(m_low);
     case FieldClose:
-        return m_close.Count();
+        return call(m_close);
     case FieldLast:
-        return m_last.Count();
+        return call(m_last);
     case FieldBid:
-        return m_bid.Count();
+        return call(m_bid);
     case FieldBidSize:
-        return m_bidSize.Count();
+        return call(m_bidSize);
     case FieldAsk:
-        return m_ask.Count();
+        return call(m_ask);
     case FieldAskSize:
-        return m_askSize.Count();
+        return call(m_askSize);
     case FieldOpenInterest:
-        return m_openInterest.Count();
+        return call(m_openInterest);
     case FieldSize:
-        return m_size.Count();
+        return call(m_size);
     case FieldTotalVolume:
-        return m_totalVolume.Count();
+        return call(m_totalVolume);
     case FieldTickId:
-        return m_tickId.Count();
+        return call(m_tickId);
     case FieldBasis:
-        return m_basis.Count();
+        return call(m_basis);
     case FieldConditions:
-        return m_conditions.Count();
+        return call(m_conditions);
     default:
         WrongField();
     }
+}
+
+int CChartHistRequest::GetCount(int field) const
+{
+    CLockGuard guard(DataLock);
+    return WithArray(field, [](const auto& array) { return array.Count(); });
 }
 
 int CChartHistRequest::GetLastIndex(int field) const
@@ -380,45 +384,23 @@ void CChartHistRequest::ClearSeries()
 int CChartHistRequest::CopyDoubles(int field, int first, int count, double* out) const
 {
     CLockGuard guard(DataLock);
-    switch (field) {
-    case FieldOpen:
-        return CopyPlain(m_open, first, count, out);
-    case FieldHigh:
-        return CopyPlain(m_high, first, count, out);
-    case FieldLow:
-        return CopyPlain(m_low, first, count, out);
-    case FieldClose:
-        return CopyPlain(m_close, first, count, out);
-    case FieldLast:
-        return CopyPlain(m_last, first, count, out);
-    case FieldBid:
-        return CopyPlain(m_bid, first, count, out);
-    case FieldAsk:
-        return CopyPlain(m_ask, first, count, out);
-    default:
-        WrongField();
-    }
+    return WithArray(field, [&]<class Array>(const Array& array) -> int {
+        if constexpr (IsArrayOf<double, Array>)
+            return CopyPlain(array, first, count, out);
+        else
+            WrongField();
+    });
 }
 
 int CChartHistRequest::CopyIntegers(int field, int first, int count, std::int64_t* out) const
 {
     CLockGuard guard(DataLock);
-    switch (field) {
-    case FieldBidSize:
-        return CopyWidened(m_bidSize, first, count, out);
-    case FieldAskSize:
-        return CopyWidened(m_askSize, first, count, out);
-    case FieldOpenInterest:
-        return CopyWidened(m_openInterest, first, count, out);
-    case FieldSize:
-        return CopyWidened(m_size, first, count, out);
-    case FieldTotalVolume:
-        return CopyWidened(m_totalVolume, first, count, out);
-    case FieldTickId:
-        return CopyWidened(m_tickId, first, count, out);
-    default:
-        WrongField();
-    }
+    return WithArray(field, [&]<class Array>(const Array& array) -> int {
+        if constexpr (HoldsIntegers<Array>)
+            return CopyWidened(array, first, count, out);
+        else
+            WrongField();
+    });
 }
 
 int CChartHistRequest::CopyTimes(int first, int count, sTIME_W_MILLISECONDS* out) const

@@ -262,6 +262,66 @@ TEST(ChartHistRequest, UpdateOverwritesOnePointWithoutTheRangeCheck)
     EXPECT_THROW(request.UpdatePoint(-1, point), std::invalid_argument);
 }
 
+TEST(ChartHistRequest, UpdateWritesEveryFieldOfTheKindAndNoOther)
+{
+    sHIST_POINT fresh = PointAt(2015, 6, 7, 8, 9, 10);
+    fresh.Time.Milliseconds = 11;
+    fresh.Last = 12;
+    fresh.LastSize = 4000000013u;
+    fresh.Bid = 14;
+    fresh.Ask = 15;
+    fresh.TotalVolume = 5000000016;
+    fresh.Open = 17;
+    fresh.High = 18;
+    fresh.Low = 19;
+    fresh.Basis = "Eba";
+    fresh.BidSize = 4000000020u;
+    fresh.AskSize = 21;
+    fresh.TickId = 4000000022u;
+    fresh.Close = 23;
+    fresh.Conditions = "24";
+    fresh.OpenInterest = 4000000025u;
+    for (int kind = 0; kind <= 9; ++kind) {
+        CChartHistRequest request;
+        Fill(request, kind, 3);
+        request.UpdatePoint(1, fresh);
+        sHIST_POINT point; // what the kind does not hold stays as it was made
+        request.GetPoint(1, point);
+        const bool ticks = IsTickKind(kind), days = IsDayKind(kind);
+        EXPECT_EQ(point.Time, fresh.Time);
+        EXPECT_EQ(point.TotalVolume, 5000000016);
+        EXPECT_EQ(point.Last, ticks ? 12 : 0);
+        EXPECT_EQ(point.LastSize, days ? 0 : 4000000013u);
+        EXPECT_EQ(point.Bid, ticks ? 14 : 0);
+        EXPECT_EQ(point.Ask, ticks ? 15 : 0);
+        EXPECT_EQ(point.Open, ticks ? 0 : 17);
+        EXPECT_EQ(point.High, ticks ? 0 : 18);
+        EXPECT_EQ(point.Low, ticks ? 0 : 19);
+        EXPECT_EQ(point.Basis, ticks ? "E" : "");
+        EXPECT_EQ(point.BidSize, ticks ? 4000000020u : 0);
+        EXPECT_EQ(point.AskSize, ticks ? 21u : 0);
+        EXPECT_EQ(point.TickId, ticks ? 4000000022u : 0);
+        EXPECT_EQ(point.Close, ticks ? 0 : 23);
+        EXPECT_EQ(point.Conditions, ticks ? "24" : "");
+        EXPECT_EQ(point.OpenInterest, days ? 4000000025u : 0);
+        sHIST_POINT before;
+        request.GetPoint(0, before);
+        EXPECT_NE(before.Time, fresh.Time);
+    }
+}
+
+TEST(ChartHistRequest, AnUpdateThatFailsChangesNothing)
+{
+    CChartHistRequest request;
+    Fill(request, IntervalsByDatapoints, 2);
+    request.SetRequestKind(DailyByDatapoints); // which has no open interest yet
+    sHIST_POINT point = PointAt(2015, 1, 1);
+    point.Close = 8;
+    EXPECT_THROW(request.UpdatePoint(1, point), std::invalid_argument);
+    EXPECT_EQ(request.GetCloseAt(1), 2);
+    EXPECT_EQ(FormatTime(request.GetTimeAt(1), "%Y"), "2014");
+}
+
 TEST(ChartHistRequest, RemovingAPointKeepsTheArraysAligned)
 {
     for (int kind = 0; kind <= 9; ++kind) {
