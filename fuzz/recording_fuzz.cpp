@@ -1,5 +1,5 @@
-// Arbitrary text read as each kind of recording; whatever comes out is built into longer bars and asked for.
-// The first byte chooses the kind.
+// Arbitrary text read as each kind of recording and as a symbol list; whatever comes out is built into longer
+// bars and asked for. The first byte chooses the kind of recording.
 #include "feed/BarBuilder.h"
 #include "feed/HistoryReply.h"
 #include "feed/RecordedMarket.h"
@@ -25,6 +25,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (report.Problems.size() > report.SkippedRows ||
         report.Problems.size() > sRECORDING_REPORT::MaxProblems)
         std::abort();
+    sRECORDING_REPORT listReport;
+    for (const sLISTED_SYMBOL& listed : ReadSymbols(text, "fuzz", listReport))
+        if (listed.Symbol.empty() || listed.MarketId < 0 || listed.MarketId > 255 ||
+            (listed.Symbol + listed.Description).find(',') != std::string::npos)
+            std::abort();
     const CRecordedMarket market(std::move(ticks), std::move(minutes), std::move(daily));
     for (const HistoryData kind : {HistoryData::Ticks, HistoryData::Intervals, HistoryData::Daily,
                                    HistoryData::Weekly, HistoryData::Monthly}) {

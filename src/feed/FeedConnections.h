@@ -44,7 +44,6 @@ public:
 
 private:
     void Read();
-    void ReadOn();
     void Send();
     void WaitForTrade();
 
@@ -57,7 +56,7 @@ private:
     CLineCutter m_cutter;
     std::string m_pending, m_underWay; // to be sent next, being sent
     std::array<char, 4096> m_received;
-    bool m_sending = false, m_reading = false, m_ended = false, m_closed = false;
+    bool m_sending = false, m_reading = false, m_closed = false;
 };
 
 } // namespace zantroq::feed
