@@ -38,6 +38,8 @@ inline constexpr const char* FeedSettingsKey = "Software\\Zantro\\Quovex\\Startu
 // Nothing is created before the first write. A missing, unreadable, locked or damaged file reads as all
 // values missing; a read-only one is read, and what cannot be written is skipped. While another process holds
 // the file locked, a call waits three seconds at most, and the calls of the ten seconds after it do not wait.
+// In the ten seconds after a read that failed nothing is written or deleted through this key, so that no
+// default takes the place of a value that could only not be read.
 std::unique_ptr<ISettingsKey> OpenSettingsKey(std::string keyPath);
 
 // The same in a file of the caller's choice.

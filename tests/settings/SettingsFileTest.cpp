@@ -208,6 +208,29 @@ TEST_F(SettingsFile, ALockedFileSaysSoAndTheKeyWaitsOnlyOnce)
     EXPECT_EQ(key->Read("a"), SettingValue(1u));
 }
 
+// A window that starts while the file is locked finds every value missing and writes the defaults. If the
+// lock goes just then, they would take the place of what the user had stored.
+TEST_F(SettingsFile, WhatALockKeptFromBeingReadIsNotOverwritten)
+{
+    CSettingsFile(Path).Write("K", "PTS INDEX", std::string("7"));
+    CSettingsFile(Path).Write("K", "STUDY AVG PERIOD 0", std::string("33"));
+    sqlite3* holder = nullptr;
+    ASSERT_EQ(sqlite3_open(Path.c_str(), &holder), SQLITE_OK);
+    ASSERT_EQ(sqlite3_exec(holder,
+                           "PRAGMA locking_mode=EXCLUSIVE; BEGIN EXCLUSIVE; SELECT count(*) FROM setting",
+                           nullptr, nullptr, nullptr),
+              SQLITE_OK);
+    const auto key = OpenSettingsKey(Path, "K");
+    EXPECT_FALSE(key->Read("PTS INDEX"));
+    sqlite3_exec(holder, "COMMIT", nullptr, nullptr, nullptr);
+    sqlite3_close(holder);
+    EXPECT_FALSE(key->Write("PTS INDEX", std::string("3")));
+    EXPECT_FALSE(key->Delete("STUDY AVG PERIOD 0"));
+    EXPECT_EQ(key->Read("PTS INDEX"), SettingValue(std::string("7")));
+    EXPECT_EQ(key->Read("STUDY AVG PERIOD 0"), SettingValue(std::string("33")));
+    EXPECT_TRUE(OpenSettingsKey(Path, "K")->Write("PTS INDEX", std::string("4"))); // who has read nothing
+}
+
 TEST_F(SettingsFile, AReadOnlyFileIsReadAndNotWritten)
 {
     CSettingsFile(Path).Write("K", "a", 1u);
