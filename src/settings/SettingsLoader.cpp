@@ -47,13 +47,14 @@ void LoadPeriodList(CSettingsStore& store, sChartSettings& settings, const sSett
     }
     const sSettingRow& old = RowOf(row.Id == PeriodId ? OldPeriodId : OldCustomPeriodId);
     auto& periods = row.Id == PeriodId ? settings.Studies.Periods : settings.Studies.CustomPeriods;
-    for (int study = old.FirstNumber; study <= old.LastNumber; ++study) {
-        const std::string name = SettingName(old, study);
-        if (const std::int32_t value = store.ReadInt(name); value != MissingInt)
+    for (int study = old.FirstNumber; study <= old.LastNumber; ++study)
+        if (const std::int32_t value = store.ReadInt(SettingName(old, study)); value != MissingInt)
             periods[static_cast<std::size_t>(study)] = value;
-        store.DeleteValue(name);
-    }
-    store.WriteString(row.Name, SettingText(settings, {&row}));
+    // Whatever happens in between, the periods stand in one form or the other.
+    if (!store.WriteString(row.Name, SettingText(settings, {&row})))
+        return;
+    for (int study = old.FirstNumber; study <= old.LastNumber; ++study)
+        store.DeleteValue(SettingName(old, study));
 }
 
 bool AscendsToOne(const sPaneStack& panes)

@@ -128,6 +128,39 @@ TEST_F(SettingsLoader, OlderPeriodsEndAsOneListAndAreGone)
             << name;
 }
 
+// A process that is killed in between, or a file that takes no writes, would lose the periods otherwise.
+TEST_F(SettingsLoader, OlderPeriodsGoOnlyWhenTheListStands)
+{
+    struct sKey : ISettingsKey
+    {
+        std::unique_ptr<ISettingsKey> Memory = MakeMemorySettingsKey();
+        bool Writes = true;
+        int DeletedBefore = 0;
+        std::optional<SettingValue> Read(std::string_view name) override { return Memory->Read(name); }
+        bool Write(std::string_view name, const SettingValue& value) override
+        {
+            return Writes && Memory->Write(name, value);
+        }
+        bool Delete(std::string_view name) override
+        {
+            const bool custom = name.starts_with("STUDY CUSTOM");
+            if (!Memory->Read(custom ? "STUDY CUSTOM AVG PERIOD" : "STUDY AVG PERIOD"))
+                ++DeletedBefore;
+            return Memory->Delete(name);
+        }
+        std::vector<std::pair<std::string, SettingValue>> List() override { return Memory->List(); }
+    };
+    sKey key;
+    key.Write("STUDY AVG PERIOD 3", std::string("44"));
+    key.Writes = false;
+    EXPECT_EQ(LoadChartSettings(key, "20260102").Studies.Periods[3], 44);
+    EXPECT_EQ(key.Read("STUDY AVG PERIOD 3"), SettingValue(std::string("44")));
+    key.Writes = true;
+    EXPECT_EQ(LoadChartSettings(key, "20260102").Studies.Periods[3], 44);
+    EXPECT_FALSE(key.Read("STUDY AVG PERIOD 3"));
+    EXPECT_EQ(key.DeletedBefore, 0);
+}
+
 TEST_F(SettingsLoader, AMissingOlderPeriodTakesItsDefault)
 {
     Put("STUDY AVG PERIOD 4", "77");
