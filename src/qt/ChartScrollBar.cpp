@@ -40,11 +40,12 @@ void CChartScrollBar::SetPosition(int position)
 void CChartScrollBar::Show()
 {
     const QSignalBlocker quiet(this);
+    const int held = sliderPosition();
     QScrollBar::setRange(0, std::max(0, Limit()));
     setPageStep(std::max(1, m_page));
     setValue(m_position);
-    if (!isSliderDown())
-        setSliderPosition(m_position);
+    // A thumb in the user's hand stays there, though the view may follow new points meanwhile.
+    setSliderPosition(isSliderDown() ? held : m_position);
 }
 
 void CChartScrollBar::SetVisible(bool visible)

@@ -270,3 +270,20 @@ TEST_F(CScrollBarTest, ADraggedThumbTracksAndThenTakesItsPosition)
     EXPECT_EQ(m_scrolls[1].first, ScrollCode::EndScroll);
     EXPECT_EQ(m_bar.Position(), 50);
 }
+
+TEST_F(CScrollBarTest, AThumbInTheHandStaysThereWhileTheWindowMovesTheBar)
+{
+    m_bar.SetPosition(71);
+    m_bar.setSliderDown(true);
+    m_bar.setSliderPosition(50);
+    m_scrolls.clear();
+    // New points come while the thumb is held: the window takes the bar along with them.
+    m_bar.SetRange(0, 101);
+    m_bar.SetPosition(72);
+    EXPECT_EQ(m_bar.Position(), 72);
+    EXPECT_EQ(m_bar.sliderPosition(), 50);
+    EXPECT_TRUE(m_scrolls.empty()) << "the hand did not move";
+    m_bar.setSliderDown(false);
+    ASSERT_EQ(m_scrolls.size(), 2u);
+    EXPECT_EQ(m_scrolls[0], std::pair(ScrollCode::ThumbPosition, 50));
+}
