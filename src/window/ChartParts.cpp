@@ -214,7 +214,10 @@ void sChartParts::RestorePoints(int command)
     const bool ticks = command == CommandRestoreTicks;
     const char* const text = ticks ? "Restore deleted ticks?" : "Restore deleted intervals?";
     const char* const caption = ticks ? "Restoring ticks" : "Restoring intervals";
+    const int chart = Drawing.ChartNumber();
     if (Services.Box.Ask(text, caption, BoxButtons::YesNo, BoxIcon::Question) != BoxAnswer::Yes)
+        return;
+    if (chart != Drawing.ChartNumber()) // a host asked for another chart meanwhile
         return;
     Lifecycle.ReloadSeries();
     Display.Redraw();

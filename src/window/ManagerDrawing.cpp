@@ -17,6 +17,7 @@ void CManagerDrawing::SetSource(CChartHistRequest* request, int dataType)
 
 void CManagerDrawing::ClearPanes()
 {
+    ++m_chartNumber;
     // Without a series the whole redraw sets the panes up and draws nothing. What an older reply may still
     // append meanwhile is not shown, and the mark of an edited series stays until the new one has arrived.
     CChartHistRequest* const series = m_manager.Series();

@@ -12,6 +12,7 @@ public:
     explicit CManagerDrawing(CHistChartDrawManager& manager) : m_manager(manager) {}
 
     int Count() const override;
+    int ChartNumber() const override { return m_chartNumber; }
     void SetSource(CChartHistRequest* request, int dataType) override;
     void ClearPanes() override;
     void FullRedraw() override { m_manager.FullRedraw(); }
@@ -31,6 +32,7 @@ public:
 
 private:
     CHistChartDrawManager& m_manager;
+    int m_chartNumber = 0;
 };
 
 } // namespace zantroq

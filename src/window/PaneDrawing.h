@@ -16,6 +16,9 @@ class IPaneDrawing
 public:
     virtual ~IPaneDrawing() = default;
     virtual int Count() const = 0; // points in the series
+    // Another number for each chart asked for: whether a point index still means the same point after a
+    // question that others may have used.
+    virtual int ChartNumber() const = 0;
 
     virtual void SetSource(CChartHistRequest* request, int dataType) = 0;
     virtual void ClearPanes() = 0; // panes as at the start of a chart: axes and no data

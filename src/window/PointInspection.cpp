@@ -70,8 +70,18 @@ CPointInspection::CPointInspection(IChartWindow& window, IPaneDrawing& drawing, 
 {
 }
 
+sNearPoint CPointInspection::NearPoint(int x, int y) const
+{
+    const sDisplayRange& range = m_window.Range();
+    const sNearPoint near = FindNearPoint(m_window.Pane(0), IsTickData(), range.shown, x, y);
+    // A chart that was dropped still stands in the panes, but its points are gone.
+    return range.first - 1 + near.Point < m_drawing.Count() ? near : sNearPoint();
+}
+
 int CPointInspection::PointUnder(int pane, int x, int y)
 {
+    if (m_drawing.Count() == 0)
+        return 0;
     const CPaneGroup& group = m_window.Pane(pane).PaneGroups(1);
     int series = 0, point = 0, distance = 0;
     if (pane == 0 && group.PickPoint(x, y, FocusAny, series, point, distance) == GeometryFound &&
@@ -101,7 +111,7 @@ void CPointInspection::ShowReadout(int x, int y)
         return;
     CPaneLabel& label = pane.PaneLabels().Item(ReadoutLabel);
     label.SetShown(false);
-    const sNearPoint near = FindNearPoint(pane, IsTickData(), m_window.Range().shown, x, y);
+    const sNearPoint near = NearPoint(x, y);
     if (near.Distance >= ReadoutDistance)
         return;
     m_status.Message("Making Info Text ...");
@@ -121,12 +131,16 @@ void CPointInspection::ShowReadout(int x, int y)
 
 bool CPointInspection::OfferDeletion(int x, int y)
 {
-    const sNearPoint near = FindNearPoint(m_window.Pane(0), IsTickData(), m_window.Range().shown, x, y);
+    const sNearPoint near = NearPoint(x, y);
     if (near.Distance > DeleteDistance)
         return false;
     const int index = m_window.Range().first - 1 + near.Point;
     const std::string caption = IsTickData() ? "Tick deletion" : "Interval deletion";
-    if (m_box.Ask(DeletionText(index), caption, BoxButtons::YesNo, BoxIcon::Question) == BoxAnswer::Yes) {
+    // The window goes on while the question stands: live points may come, and a host may ask for another
+    // chart, which has no part in the answer.
+    const int chart = m_drawing.ChartNumber();
+    if (m_box.Ask(DeletionText(index), caption, BoxButtons::YesNo, BoxIcon::Question) == BoxAnswer::Yes &&
+        chart == m_drawing.ChartNumber() && index < m_drawing.Count()) {
         m_drawing.DeletePoint(index);
         m_drawing.Draw(m_bar.Position());
     }

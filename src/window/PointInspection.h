@@ -35,7 +35,8 @@ public:
 
 private:
     bool IsTickData() const { return m_window.Settings().Request.DataType == TickData; }
-    int PointUnder(int pane, int x, int y); // 0: none
+    sNearPoint NearPoint(int x, int y) const; // of the price pane and in the series
+    int PointUnder(int pane, int x, int y);   // 0: none
     std::string DeletionText(int index) const;
 
     IChartWindow& m_window;

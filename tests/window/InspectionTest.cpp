@@ -247,5 +247,87 @@ TEST(PointInspection, DeletingTheLastPointLeavesTheMarkerWhereItIs)
     EXPECT_EQ(chart->Window->SelectedPoint(), 20);
 }
 
+// A symbol with a comma drops the chart on show and asks for nothing, so its picture stands over an empty
+// series.
+TEST(PointInspection, ADroppedChartMarksShowsAndDeletesNothing)
+{
+    auto chart = DailyChart();
+    const sPixel pixel = At(*chart, 1, 5);
+    chart->Type("A,B");
+    chart->Window->OnCommand(CommandDrawChart);
+    ASSERT_EQ(chart->Window->Series()->GetCount(FieldTime), 0);
+    chart->Window->OnChartMouseMove(Price, 0, 0, pixel.X, pixel.Y);
+    EXPECT_EQ(chart->Window->SelectedPoint(), NoPoint);
+    chart->Window->OnChartMouseDown(Price, MouseLeft, 0, pixel.X, pixel.Y);
+    EXPECT_FALSE(Readout(*chart).Shown());
+    RightClick(*chart, pixel);
+    EXPECT_TRUE(chart->Desktop.Box.Texts.empty());
+    EXPECT_EQ(chart->Desktop.Menu.Opened, 1);
+    EXPECT_FALSE(chart->Window->DrawManager().seriesEdited);
+}
+
+TEST(PointInspection, AChartThatIsReplacedWhileItsPointIsAskedAboutKeepsAllPoints)
+{
+    auto chart = DailyChart();
+    // The host sets another symbol, whose reply comes, while the question stands.
+    chart->Desktop.Box.WhileOpen = [&] {
+        chart->Window->SetSymbol("Y");
+        for (int k = 0; k < 20; ++k) {
+            sHIST_POINT point;
+            point.Time.Time = 30000.0 + k;
+            point.Open = point.High = point.Low = point.Close = 50;
+            chart->Window->Series()->AppendPoint(point);
+        }
+        chart->Feed.Sent->SetComplete(true);
+        chart->Tick();
+    };
+    chart->Desktop.Box.Answers = {BoxAnswer::Yes};
+    RightClick(*chart, At(*chart, 1, 5));
+    EXPECT_EQ(chart->Window->Series()->GetCount(FieldTime), 20);
+    EXPECT_FALSE(chart->Window->DrawManager().seriesEdited);
+}
+
+TEST(PointInspection, LivePointsThatComeWhileAPointIsAskedAboutDoNotShiftTheDeletion)
+{
+    auto chart = ChartOf(DailyData);
+    chart->Chart("X", 300);
+    const int index = chart->Window->Range().first + 4; // the fifth point on show
+    const double closeBehind = chart->Window->Series()->GetCloseAt(index + 1);
+    chart->Desktop.Box.WhileOpen = [&] {
+        chart->Append(7);
+        chart->Tick(); // the view moves on by seven
+    };
+    chart->Desktop.Box.Answers = {BoxAnswer::Yes};
+    RightClick(*chart, At(*chart, 1, 5));
+    EXPECT_EQ(chart->Window->Series()->GetCount(FieldTime), 306);
+    EXPECT_EQ(chart->Window->Series()->GetCloseAt(index), closeBehind);
+}
+
+TEST(PointInspection, ALiveChangeOfThePointAskedAboutDoesNotSaveIt)
+{
+    auto chart = DailyChart();
+    chart->Desktop.Box.WhileOpen = [&] {
+        sHIST_POINT point;
+        chart->Window->Series()->GetPoint(19, point);
+        point.Close = 109.5;
+        chart->Window->Series()->UpdatePoint(19, point);
+        chart->Tick();
+    };
+    chart->Desktop.Box.Answers = {BoxAnswer::Yes};
+    RightClick(*chart, At(*chart, 1, 20));
+    EXPECT_EQ(chart->Window->Series()->GetCount(FieldTime), 19);
+}
+
+TEST(PointInspection, AChartThatIsReplacedWhileRestoringIsAskedAboutIsNotAskedForTwice)
+{
+    auto chart = DailyChart();
+    chart->Desktop.Box.Answers = {BoxAnswer::Yes, BoxAnswer::Yes};
+    RightClick(*chart, At(*chart, 1, 5));
+    chart->Feed.Calls.clear();
+    chart->Desktop.Box.WhileOpen = [&] { chart->Window->SetSymbol("Y"); };
+    chart->Window->OnCommand(CommandRestoreBars);
+    EXPECT_EQ(chart->Feed.Calls, (Log{"unwatch X", "watch Y", "send Y"}));
+}
+
 } // namespace
 } // namespace zantroq

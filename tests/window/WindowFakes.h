@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <deque>
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -44,12 +45,14 @@ struct sFakeBox : IMessageBox
     std::deque<BoxAnswer> Answers;
     std::vector<std::string> Texts, Captions;
     BoxIcon Icon = BoxIcon::None;
+    std::function<void()> WhileOpen = [] {}; // what goes on behind the box
     BoxAnswer Ask(const std::string& text, const std::string& caption, BoxButtons buttons,
                   BoxIcon icon) override
     {
         Texts.push_back(text);
         Captions.push_back(caption);
         Icon = icon;
+        WhileOpen();
         if (Answers.empty())
             return buttons == BoxButtons::Ok ? BoxAnswer::Ok : BoxAnswer::No;
         const BoxAnswer answer = Answers.front();
@@ -210,6 +213,7 @@ struct sFakeDrawing : IPaneDrawing
     int Points = 0;
     bool Edited = false;
     int Count() const override { return Points; }
+    int ChartNumber() const override { return 0; }
     void SetSource(CChartHistRequest*, int dataType) override
     {
         Calls.push_back("source " + std::to_string(dataType));
