@@ -5,16 +5,14 @@
 #include "qt/ChartPrinter.h"
 #include "qt/ChartView.h"
 #include "qt/MessageBox.h"
-#include "qt/ShownValues.h"
+#include "qt/PictureDialog.h"
 #include "studies/StudyFactory.h"
 #include "window/ChartDlg.h"
 #include "window/ManagerThreadFeed.h"
 #include "window/WindowDialogs.h"
 
 #include <QClipboard>
-#include <QFileDialog>
 #include <QGuiApplication>
-#include <QMessageBox>
 
 #include <functional>
 
@@ -139,8 +137,6 @@ QImage CChartCtrl::Picture() const
 
 QString CChartCtrl::SavePicture(const QString& path) const
 {
-    if (path.endsWith(".csv", Qt::CaseInsensitive))
-        return SaveShownValues(*m_window, path);
     return SaveChartPicture({*m_window, m_view->size(), m_notice}, path, devicePixelRatioF());
 }
 
@@ -151,19 +147,29 @@ QString CChartCtrl::PrintToFile(const QString& path)
 
 void CChartCtrl::CopyPicture()
 {
-    QGuiApplication::clipboard()->setImage(Picture());
+    const QImage picture = Picture();
+    if (picture.isNull()) {
+        Tell("Copy picture", QString("A picture of %1 x %2 pixels cannot be made; make the window smaller")
+                                 .arg(width() * devicePixelRatioF())
+                                 .arg(height() * devicePixelRatioF()));
+        return;
+    }
+    QGuiApplication::clipboard()->setImage(picture);
 }
 
 void CChartCtrl::AskForPicture()
 {
-    const QString path = QFileDialog::getSaveFileName(
-        this, "Save picture", QString::fromStdString(m_window->CurrentSymbol()) + ".png",
-        "Picture (*.png);;Vector picture (*.svg);;PDF (*.pdf);;State of the "
-        "chart (*.json);;Shown values (*.csv)");
+    const QString path =
+        AskPicturePath(this, QString::fromStdString(m_window->CurrentSymbol()), m_pictureFolder);
     if (path.isEmpty())
         return;
     if (const QString wrong = SavePicture(path); !wrong.isEmpty())
-        QMessageBox::warning(this, "Save picture", wrong);
+        Tell("Save picture", wrong);
+}
+
+void CChartCtrl::Tell(const std::string& caption, const QString& sentence)
+{
+    m_window->Services().Box.Ask(sentence.toStdString(), caption, BoxButtons::Ok, BoxIcon::Error);
 }
 
 } // namespace zantroq

@@ -59,8 +59,8 @@ public:
     void SetClientSize(const QSize& size);
     // A text that pictures of the chart carry, such as that the market is simulated.
     void SetNotice(const QString& notice) { m_notice = notice; }
-    // By the ending of the path: .png, .svg, .pdf, or .json for the state of the window. Empty, or one
-    // sentence that says what is wrong.
+    // By the ending of the path: .png, .svg, .pdf, .json for the state of the window, or .csv for the values
+    // on show (window/ShownTable.h). Empty, or one sentence that says what is wrong and what to do.
     QString SavePicture(const QString& path) const;
     QImage Picture() const;
     // The print command onto a PDF file, without a dialog. Empty, or one sentence that says what is wrong.
@@ -75,6 +75,7 @@ protected:
 private:
     void CopyPicture();
     void AskForPicture();
+    void Tell(const std::string& caption, const QString& sentence);
 
     CChartView* m_view;
     std::shared_ptr<ISettingsKey> m_chartKey;
@@ -82,6 +83,7 @@ private:
     std::unique_ptr<sServices> m_services;
     std::unique_ptr<CChartDlg> m_window;
     QString m_symbol, m_notice;
+    QString m_pictureFolder; // of the picture saved last
 };
 
 } // namespace zantroq

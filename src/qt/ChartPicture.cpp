@@ -6,6 +6,7 @@
 #include "window/ChartDlg.h"
 #include "window/ChartSnapshot.h"
 #include "window/ChartsResizer.h"
+#include "window/ShownTable.h"
 
 #include <QBuffer>
 #include <QFileInfo>
@@ -197,13 +198,15 @@ QString SaveChartPicture(const sChartPicture& picture, const QString& path, doub
     const QString ending = QFileInfo(path).suffix().toLower();
     if (ending == "json")
         return WritePictureFile(path, QByteArray::fromStdString(ChartSnapshotText(picture.Window)));
+    if (ending == "csv")
+        return WritePictureFile(path, QByteArray::fromStdString(ShownValuesCsv(picture.Window)));
     if (ending == "svg")
         return WritePictureFile(path, SvgBytes(picture));
     if (ending == "pdf")
         return WritePictureFile(path, PdfBytes(picture));
     if (ending == "png")
         return WritePictureFile(path, PngBytes(picture, devicePixelRatio));
-    return QString("%1: the ending is not known; use .png, .svg, .pdf or .json").arg(path);
+    return QString("%1: the ending is not known; use .png, .svg, .pdf, .json or .csv").arg(path);
 }
 
 } // namespace zantroq

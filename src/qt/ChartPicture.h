@@ -22,11 +22,12 @@ struct sChartPicture
 
 QImage DrawChartPicture(const sChartPicture& picture, double devicePixelRatio);
 
-// The endings that can be written.
+// The endings of a picture or of the window's state.
 bool IsPictureFile(const QString& path);
 
 // Writes the picture by the ending of the path, .png (at the ratio), .svg or .pdf, or for .json the window's
-// state. The same window writes the same bytes. Empty, or one sentence that says what is wrong.
+// state, or for .csv the values on show. The same window writes the same bytes. Empty, or one sentence that
+// says what is wrong.
 QString SaveChartPicture(const sChartPicture& picture, const QString& path, double devicePixelRatio);
 
 } // namespace zantroq

@@ -1,14 +1,18 @@
 #include "qt/ChartPrinter.h"
 
+#include "qt/PictureFile.h"
+#include "window/ChartDlg.h"
 #include "window/PrintedChart.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QDateTime>
+#include <QFile>
 #include <QPdfWriter>
 #include <QPointer>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QSaveFile>
+#include <QTemporaryDir>
 #include <QWidget>
 
 #include <algorithm>
@@ -35,6 +39,23 @@ public:
     {
     }
 
+    // Empty, or one sentence that says what is wrong with what came of `pages` printed pages.
+    QString Outcome(int pages)
+    {
+        if (!m_job)
+            return {}; // cancelled
+        if (m_path.isEmpty())
+            return pages < m_job->Copies() || m_printer.printerState() == QPrinter::Error
+                       ? QString("%1: the page could not be printed; look after the printer and print again")
+                             .arg(m_printer.printerName())
+                       : QString();
+        QFile made(m_printer.outputFileName());
+        if (pages < m_job->Copies() || !made.open(QIODevice::ReadOnly))
+            return QString("%1: the page could not be made in the folder %2 (%3); make room there")
+                .arg(m_path, m_folder->path(), m_folder->errorString().toLower());
+        return WritePictureFile(m_path, made.readAll());
+    }
+
     IPrintJob* Ask(int copies) override
     {
         m_printer.setCopyCount(copies);
@@ -49,9 +70,12 @@ public:
         const int wanted = m_printer.copyCount();
         m_printer.setCopyCount(1); // the copies are documents of their own
         m_printer.setResolution(HeadingResolution(m_printer.pageLayout()));
-        const bool file =
-            m_printer.outputFormat() == QPrinter::PdfFormat || !m_printer.outputFileName().isEmpty();
-        return &m_job.emplace(m_printer, wanted, file ? CopiesTo::OneFile : CopiesTo::OwnDocuments, m_fonts);
+        m_path = m_printer.outputFileName();
+        if (m_path.isEmpty())
+            return &m_job.emplace(m_printer, wanted, CopiesTo::OwnDocuments, m_fonts);
+        // The printer does not tell what became of its file, so it writes one of its own first.
+        m_printer.setOutputFileName(m_folder.emplace().filePath("page.pdf"));
+        return &m_job.emplace(m_printer, wanted, CopiesTo::OneFile, m_fonts);
     }
 
     void ReturnFocus() override
@@ -66,6 +90,8 @@ private:
     QWidget* m_parent;
     sPrintFonts m_fonts;
     QPointer<QWidget> m_focus;
+    std::optional<QTemporaryDir> m_folder; // of the file that the printer writes
+    QString m_path;                        // of the file that the user chose; empty: a printer
     QPrinter m_printer{QPrinter::HighResolution};
     std::optional<CPageJob> m_job; // ends before the printer does
 };
@@ -97,39 +123,34 @@ CChartPrinter::CChartPrinter(IPrintedChart& chart, CChartPrinting::Clock clock, 
 {
 }
 
-void CChartPrinter::PrintWithDialog(QWidget* parent)
+QString CChartPrinter::PrintWithDialog(QWidget* parent)
 {
     CDesktopDialog dialog(parent, m_fonts);
-    CChartPrinting(m_chart, m_clock).Run(dialog);
+    const int pages = CChartPrinting(m_chart, m_clock).Run(dialog);
+    return dialog.Outcome(pages);
 }
 
 QString CChartPrinter::PrintToPdf(const QString& path, const sPdfPaper& paper)
 {
-    QSaveFile file(path);
-    // A pipe or a device cannot be replaced; it is written to as it is.
-    file.setDirectWriteFallback(true);
-    const auto wrong = [&] {
-        return QString("%1: cannot be written (%2); choose another place")
-            .arg(path, file.errorString().toLower());
-    };
-    if (!file.open(QIODevice::WriteOnly))
-        return wrong();
-    QPdfWriter pdf(&file);
+    QBuffer bytes;
+    bytes.open(QIODevice::WriteOnly);
+    QPdfWriter pdf(&bytes);
     pdf.setCreator("Zantroq Chart");
     pdf.setPageLayout(paper.Layout);
     pdf.setResolution(HeadingResolution(pdf.pageLayout()));
     CPageJob job(pdf, paper.Copies, CopiesTo::OneFile, m_fonts);
     CNoDialog dialog(job);
     const int pages = CChartPrinting(m_chart, m_clock).Run(dialog);
-    if (!job.Finish() || pages < paper.Copies || file.error() != QFileDevice::NoError || !file.commit())
-        return wrong();
-    return {};
+    if (!job.Finish() || pages < paper.Copies)
+        return QString("%1: the page could not be made; choose larger paper").arg(path);
+    return WritePictureFile(path, bytes.data());
 }
 
 void PrintWithDialog(CChartDlg& window, QWidget* parent)
 {
     CPrintedChart chart(window);
-    CChartPrinter(chart).PrintWithDialog(parent);
+    if (const QString wrong = CChartPrinter(chart).PrintWithDialog(parent); !wrong.isEmpty())
+        window.Services().Box.Ask(wrong.toStdString(), "Print", BoxButtons::Ok, BoxIcon::Error);
 }
 
 QString PrintToPdf(CChartDlg& window, const QString& path)

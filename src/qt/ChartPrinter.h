@@ -31,8 +31,9 @@ public:
                            const sPrintFonts& fonts = {});
 
     // The desktop's print dialog, then the printer or file chosen there. The dialog stands over the parent,
-    // and the widget that had the keyboard gets it back.
-    void PrintWithDialog(QWidget* parent);
+    // and the widget that had the keyboard gets it back. Empty, also when the dialog is cancelled, or one
+    // sentence that says what is wrong and what to do. Whoever looks sees the old file or the new one.
+    QString PrintWithDialog(QWidget* parent);
 
     // As if the dialog had been closed with OK on this file. Whoever looks sees the old file or the new one.
     // Empty, or one sentence that names the path and says what is wrong.
@@ -44,7 +45,7 @@ private:
     sPrintFonts m_fonts;
 };
 
-// The print command of a chart window.
+// The print command of a chart window; what went wrong is told in a message box.
 void PrintWithDialog(CChartDlg& window, QWidget* parent);
 QString PrintToPdf(CChartDlg& window, const QString& path);
 

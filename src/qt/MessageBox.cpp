@@ -24,7 +24,8 @@ BoxAnswer CMessageBox::Ask(const std::string& text, const std::string& caption, 
 {
     QMessageBox box(m_parent.window());
     box.setIcon(Icon(icon));
-    box.setWindowTitle(QString::fromStdString(caption));
+    // Without a caption the title stays blank; the desktop would put the program's name there.
+    box.setWindowTitle(caption.empty() ? QString(" ") : QString::fromStdString(caption));
     box.setTextFormat(Qt::PlainText);
     box.setText(QString::fromStdString(text));
     if (buttons == BoxButtons::Ok) {

@@ -1,22 +1,35 @@
 #include "qt/PictureFile.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 
 namespace zantroq {
+
 namespace {
+
+bool WriteWhole(QFileDevice& file, const QByteArray& bytes)
+{
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
+}
 
 } // namespace
 
 QString WritePictureFile(const QString& path, const QByteArray& bytes)
 {
+    const auto wrong = [&path](const QFileDevice& file) {
+        return QString("%1: cannot be written (%2); choose another place")
+            .arg(path, file.errorString().toLower());
+    };
+    const QFileInfo there(path);
+    if (there.exists() && !there.isFile() && !there.isDir()) {
+        // A pipe or a device is written to as it is; whoever may replace it must not.
+        QFile device(path);
+        return WriteWhole(device, bytes) ? QString() : wrong(device);
+    }
     QSaveFile file(path);
-    // A pipe or a device cannot be replaced; it is written to as it is.
-    file.setDirectWriteFallback(true);
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
-        return {};
-    return QString("%1: cannot be written (%2); choose another place")
-        .arg(path, file.errorString().toLower());
+    file.setDirectWriteFallback(true); // in a folder that takes no new file
+    return WriteWhole(file, bytes) && file.commit() ? QString() : wrong(file);
 }
 
 QByteArray WithoutMoment(QByteArray pdf)

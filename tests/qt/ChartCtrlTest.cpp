@@ -1,10 +1,16 @@
 // The control with a real chart window and a real feed behind it.
 #include "qt/ChartFixture.h"
+#include "qt/PictureDialog.h"
 
+#include <QAbstractButton>
 #include <QAction>
+#include <QComboBox>
 #include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMessageBox>
 #include <QPrintDialog>
 #include <QTimer>
 #include <QWheelEvent>
@@ -279,6 +285,63 @@ TEST_F(CChartCtrlTest, PrintsOntoAFileAndNamesOneThatCannotBeWritten)
     EXPECT_EQ(View().Status().Part(0), "Ready");
     const QString nowhere = m_folder.filePath("no/such/page.pdf");
     EXPECT_TRUE(m_chart->PrintToFile(nowhere).startsWith(nowhere + ": cannot be written ("));
+}
+
+TEST_F(CChartCtrlTest, SavePictureTakesItsKindFromTheDialogAndSaysWhatCannotBeWritten)
+{
+    Draw();
+    Show();
+    const auto save = [this](const QString& filter, const QString& name) {
+        QString proposed;
+        QTimer answer;
+        answer.setInterval(20);
+        QObject::connect(&answer, &QTimer::timeout, &answer, [&] {
+            QWidget* const modal = QApplication::activeModalWidget();
+            if (auto* const box = qobject_cast<QMessageBox*>(modal)) // a file that exists
+                return box->button(QMessageBox::Yes)->click();
+            auto* const dialog = qobject_cast<QFileDialog*>(modal);
+            if (dialog == nullptr)
+                return;
+            auto* const kinds = dialog->findChild<QComboBox*>("fileTypeCombo");
+            kinds->setCurrentIndex(kinds->findText(filter));
+            emit kinds->activated(kinds->currentIndex());
+            emit kinds->textActivated(filter);
+            proposed = QFileInfo(dialog->selectedFiles().value(0)).fileName();
+            dialog->findChild<QLineEdit*>("fileNameEdit")->setText(name);
+            QMetaObject::invokeMethod(dialog, "accept", Qt::QueuedConnection);
+        });
+        Key(Qt::Key_F10);
+        for (QAction* const action : OpenPopup()->actions())
+            if (action->text() == "Save picture...") {
+                OpenPopup()->setActiveAction(action);
+                break;
+            }
+        answer.start();
+        QTest::keyClick(OpenPopup(), Qt::Key_Return);
+        QTest::qWait(50);
+        return proposed;
+    };
+    EXPECT_EQ(save("PDF (*.pdf)", m_folder.filePath("named")), "TEST.pdf");
+    QFile pdf(m_folder.filePath("named.pdf"));
+    ASSERT_TRUE(pdf.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(pdf.readAll().startsWith("%PDF-"));
+    EXPECT_TRUE(Window().AskedBoxes().empty());
+
+    EXPECT_EQ(save("Shown values (*.csv)", m_folder.filePath("no/such/a.csv")), "TEST.csv");
+    ASSERT_EQ(Window().AskedBoxes().size(), 1u);
+    EXPECT_EQ(Window().AskedBoxes()[0].Caption, "Save picture");
+    EXPECT_EQ(Window().AskedBoxes()[0].Text,
+              m_folder.filePath("no/such/a.csv").toStdString() +
+                  ": cannot be written (no such file or directory); choose another place");
+}
+
+TEST(PictureDialog, ProposesANameThatAFileMayHave)
+{
+    EXPECT_EQ(PictureName("GOOG"), "GOOG.png");
+    EXPECT_EQ(PictureName("BRK/A"), "BRK-A.png");
+    EXPECT_EQ(PictureName("SIM.A"), "SIM.A.png");
+    EXPECT_EQ(PictureName(""), "chart.png");
+    EXPECT_EQ(PictureName(".."), "-..png");
 }
 
 TEST_F(CChartCtrlTest, BarsAndIconsFollowADarkDesktop)

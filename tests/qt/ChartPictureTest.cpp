@@ -1,13 +1,18 @@
 #include "qt/ChartPicture.h"
 #include "qt/ChartFixture.h"
 #include "qt/PictureFile.h"
-#include "qt/ShownValues.h"
+#include "window/ShownTable.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QPainter>
 #include <QSvgRenderer>
 
 #include <nlohmann/json.hpp>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace zantroq::test {
 namespace {
@@ -115,20 +120,40 @@ TEST_F(CChartPictureTest, TheStateIsJson)
 TEST_F(CChartPictureTest, ShownValuesAreThoseOfTheRecording)
 {
     Draw();
-    std::string wanted = "time,open,high,low,close,volume\n";
+    std::string wanted = "date,time,open,high,low,close,volume\n";
     for (int day = 71; day <= Days; ++day) {
         char line[80];
-        std::snprintf(line, sizeof line, "2020-%02d-%02d,%d,%d,%d,%d,%d\n", 1 + (day - 1) / 28,
+        std::snprintf(line, sizeof line, "2020-%02d-%02d,,%d,%d,%d,%d,%d\n", 1 + (day - 1) / 28,
                       1 + (day - 1) % 28, day, day + 2, day - 1, day + 1, 1000 * day);
         wanted += line;
     }
-    EXPECT_EQ(ShownValuesText(Window()), wanted);
     EXPECT_EQ(Saved("a.csv").toStdString(), wanted);
+}
+
+TEST_F(CChartPictureTest, ShownValuesAreThoseOfAllPanes)
+{
+    m_key->Write("MAs SHOW", std::string("1"));
+    m_key->Write("Moving Average 1 Points", std::string("4"));
+    for (const char* const off : {"Moving Average 2 Select", "Moving Average 3 Select"})
+        m_key->Write(off, std::string("0"));
+    m_key->Write("Number of displayed study charts", std::string("1"));
+    m_key->Write("Type of study chart 0", std::to_string(int(StudyMomentum)));
+    m_key->Write("Top of chart 1", std::string("0.5"));
+    m_key->Write("Top of chart 2", std::string("1"));
+    MakeChart();
+    Draw();
+    const QStringList lines = QString(Saved("a.csv")).split('\n');
+    ASSERT_EQ(lines.size(), 1 + 30 + 1);
+    EXPECT_EQ(lines[0].toStdString(), "date,time,open,high,low,close,volume,sma_4,momentum");
+    // Day 100 closes at 101; the four closes end at 98, 99, 100 and 101: 99.5 in the middle.
+    EXPECT_TRUE(lines[30].startsWith("2020-04-16,,100,102,99,101,100000,99.5,")) << lines[30].toStdString();
+    EXPECT_EQ(lines[30].section(',', -1), "20") << "the close of 20 days before is 20 lower";
+    EXPECT_EQ(Saved("b.csv").toStdString(), ShownValuesCsv(Window()));
 }
 
 TEST_F(CChartPictureTest, AWindowWithoutAChartHasNoValues)
 {
-    EXPECT_EQ(ShownValuesText(Window()), "time,open,high,low,close,volume\n");
+    EXPECT_EQ(Saved("a.csv"), "date,time,price,volume\n");
     EXPECT_EQ(DrawChartPicture(Picture(), 1).size(), QSize(700, 500));
 }
 
@@ -138,7 +163,33 @@ TEST_F(CChartPictureTest, WhatCannotBeWrittenIsNamed)
     const QString path = m_folder.filePath("no/such/a.png");
     EXPECT_TRUE(m_chart->SavePicture(path).startsWith(path + ": cannot be written"))
         << m_chart->SavePicture(path).toStdString();
-    EXPECT_TRUE(m_chart->SavePicture("a.bmp").contains("use .png, .svg, .pdf or .json"));
+    EXPECT_TRUE(m_chart->SavePicture("a.bmp").contains("use .png, .svg, .pdf, .json or .csv"));
+}
+
+TEST(PictureFile, APipeTakesTheBytesAndStaysAPipe)
+{
+    const QTemporaryDir folder;
+    const QByteArray path = folder.filePath("pipe.csv").toLocal8Bit();
+    ASSERT_EQ(mkfifo(path.constData(), 0600), 0);
+    const int reader = open(path.constData(), O_RDWR | O_NONBLOCK);
+    ASSERT_GE(reader, 0);
+    EXPECT_EQ(WritePictureFile(path, "date,time\n"), "");
+    char text[32] = {};
+    EXPECT_EQ(read(reader, text, sizeof text), 10);
+    EXPECT_STREQ(text, "date,time\n");
+    close(reader);
+    struct stat state
+    {
+    };
+    ASSERT_EQ(stat(path.constData(), &state), 0);
+    EXPECT_TRUE(S_ISFIFO(state.st_mode));
+}
+
+TEST(PictureFile, AFolderInThePlaceOfTheFileIsNamed)
+{
+    const QTemporaryDir folder;
+    EXPECT_TRUE(WritePictureFile(folder.path(), "x").startsWith(folder.path() + ": cannot be written ("));
+    EXPECT_TRUE(QFileInfo(folder.path()).isDir());
 }
 
 } // namespace zantroq::test

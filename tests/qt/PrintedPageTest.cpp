@@ -6,13 +6,17 @@
 #include "window/ChartWindowFixture.h"
 #include "window/PrintedChart.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPrintDialog>
 #include <QProcess>
+#include <QPushButton>
 #include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -294,6 +298,85 @@ TEST(PrintedPage, TheDialogPrintsAsManyCopiesAsAskedIntoTheFileChosenThere)
     QFile written(path);
     ASSERT_TRUE(written.open(QIODevice::ReadOnly));
     EXPECT_EQ(written.readAll().count("/Type /Page\n"), 3);
+}
+
+// Fills the print dialog in as a person would and answers what it asks itself; the texts of its own boxes.
+QStringList ChooseFile(CChartDlg& chart, const QString& path)
+{
+    QStringList said;
+    QWidget window;
+    QTimer answer;
+    answer.setInterval(20);
+    bool filled = false;
+    QObject::connect(&answer, &QTimer::timeout, &window, [&] {
+        QWidget* const modal = QApplication::activeModalWidget();
+        if (auto* const box = qobject_cast<QMessageBox*>(modal)) {
+            said << box->text();
+            QAbstractButton* const yes = box->button(QMessageBox::Yes);
+            (yes != nullptr ? yes : box->buttons().front())->click();
+        } else if (auto* const dialog = qobject_cast<QPrintDialog*>(modal)) {
+            if (std::exchange(filled, true))
+                return dialog->reject(); // it was not satisfied
+            auto* const printers = dialog->findChild<QComboBox*>("printers");
+            printers->setCurrentIndex(printers->count() - 1); // print to a file
+            dialog->findChild<QLineEdit*>("filename")->setText(path);
+            // The dialog's own boxes are answered by later ticks, for which this one must have ended.
+            QMetaObject::invokeMethod(dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok),
+                                      "click", Qt::QueuedConnection);
+        }
+    });
+    answer.start();
+    PrintWithDialog(chart, &window);
+    return said;
+}
+
+TEST(PrintedPage, AFileThatCannotBeWrittenAfterTheDialogIsTold)
+{
+    sDarkChart chart(620, 460);
+    const QTemporaryDir folder;
+    ASSERT_TRUE(QDir(folder.path()).mkdir("gone"));
+    // The folder goes while the page is printed.
+    chart.Fixture.Desktop.Status.OnSaid = [&](const std::string& text) {
+        if (text == "Print ...")
+            QDir(folder.filePath("gone")).removeRecursively();
+    };
+    const QString path = folder.filePath("gone/page.pdf");
+    EXPECT_EQ(ChooseFile(chart.Window(), path), QStringList());
+    ASSERT_EQ(chart.Window().AskedBoxes().size(), 1u);
+    const sAskedBox& box = chart.Window().AskedBoxes().front();
+    EXPECT_EQ(box.Caption, "Print");
+    EXPECT_EQ(box.Text,
+              path.toStdString() + ": cannot be written (no such file or directory); choose another place");
+    EXPECT_EQ(chart.Fixture.Desktop.Box.Icon, BoxIcon::Error);
+    EXPECT_EQ(chart.Fixture.Status(), "Ready");
+    EXPECT_TRUE(chart.Fixture.DrawEnabled());
+}
+
+TEST(PrintedPage, AFolderThatDoesNotExistIsToldInTheDialog)
+{
+    sDarkChart chart(620, 460);
+    const QStringList said = ChooseFile(chart.Window(), "/no-such-folder/chart.pdf");
+    ASSERT_EQ(said.size(), 1);
+    EXPECT_TRUE(said[0].contains("/no-such-folder/chart.pdf")) << said[0].toStdString();
+    EXPECT_TRUE(chart.Window().AskedBoxes().empty()) << "said once";
+}
+
+TEST(PrintedPage, AFileThatIsAgreedToBeReplacedHoldsTheNewPage)
+{
+    sDarkChart chart(620, 460);
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("page.pdf");
+    {
+        QFile old(path);
+        ASSERT_TRUE(old.open(QIODevice::WriteOnly));
+        old.write("old");
+    }
+    ChooseFile(chart.Window(), path);
+    QFile written(path);
+    ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(written.readAll().startsWith("%PDF-"));
+    EXPECT_TRUE(chart.Window().AskedBoxes().empty());
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList("page.pdf"));
 }
 
 } // namespace

@@ -32,11 +32,14 @@ struct sFakeStatus : IStatusBar
 {
     std::vector<std::string> Said; // of part 0
     std::map<int, std::string> Parts;
+    std::function<void(const std::string&)> OnSaid = [](const std::string&) {};
     void SetPart(int part, const std::string& text) override
     {
         Parts[part] = text;
-        if (part == 0)
-            Said.push_back(text);
+        if (part != 0)
+            return;
+        Said.push_back(text);
+        OnSaid(text);
     }
 };
 
