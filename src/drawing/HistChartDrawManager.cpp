@@ -96,10 +96,20 @@ void CHistChartDrawManager::FullRedraw()
 void CHistChartDrawManager::Draw(int position)
 {
     const CBatch batch(dlg);
+    const int marked = dlg.SelectedPoint();
     priceChart.Draw(position);
     DrawStudies();
     dlg.ClearResetScale();
     PlaceMarkers();
+    RefreshMovedTitles(marked);
+}
+
+// The studies wrote their headers before their markers moved along with the view, and the title knows nothing
+// of it yet.
+void CHistChartDrawManager::RefreshMovedTitles(int marked)
+{
+    if (dlg.SelectedPoint() != marked)
+        RefreshTitles();
 }
 
 void CHistChartDrawManager::DrawStudies()
@@ -124,6 +134,7 @@ void CHistChartDrawManager::PlaceMarkers()
 void CHistChartDrawManager::Update(int newPoints)
 {
     const CBatch batch(dlg);
+    const int marked = dlg.SelectedPoint();
     if (dataType == TickData) {
         if (newPoints <= 0)
             return;
@@ -143,6 +154,7 @@ void CHistChartDrawManager::Update(int newPoints)
         DrawStudies();
         PlaceMarkers();
     }
+    RefreshMovedTitles(marked);
 }
 
 void CHistChartDrawManager::DeletePoint(int index)

@@ -85,6 +85,7 @@ private:
     int DisplayedStudies() const;
     void DrawStudies();
     void PlaceMarkers();
+    void RefreshMovedTitles(int marked); // if the marked point has another number than that
 
     IChartWindow& dlg;
     IStudyFactory* studyFactory;

@@ -329,5 +329,89 @@ TEST(PointInspection, AChartThatIsReplacedWhileRestoringIsAskedAboutIsNotAskedFo
     EXPECT_EQ(chart->Feed.Calls, (Log{"unwatch X", "watch Y", "send Y"}));
 }
 
+std::string PriceTitle(sChartFixture& chart)
+{
+    return chart.Window->Pane(0).PaneLabels().Item(2).Text();
+}
+
+std::string StudyHeader(sChartFixture& chart)
+{
+    return chart.Window->Pane(1).PaneLabels().Item(1).Text();
+}
+
+// Points of 300 days, each with a volume of its own; the window stands at the end of it.
+std::unique_ptr<sChartFixture> ChartOfUnlikeDays(int dataType)
+{
+    auto chart = ChartOf(dataType);
+    chart->Type("X");
+    chart->Window->OnCommand(CommandDrawChart);
+    for (int k = 0; k < 300; ++k) {
+        sHIST_POINT point;
+        point.Time.Time = 41641.0 + k;
+        point.Last = point.Close = point.Open = 100 + k;
+        point.High = point.Close + 1;
+        point.Low = point.Close - 1;
+        point.LastSize = 1000 + k;
+        point.TotalVolume = 1000 + k;
+        chart->Window->Series()->AppendPoint(point);
+    }
+    chart->Feed.Sent->SetComplete(true);
+    chart->Tick();
+    return chart;
+}
+
+TEST(PointInspection, TitlesStayWithTheMarkedPointWhileItIsScrolledAndEmptyWhenItLeaves)
+{
+    for (const int type : {int(TickData), int(DailyData)}) {
+        auto chart = ChartOfUnlikeDays(type);
+        const sPixel pixel = At(*chart, 1, 100); // index 279: close 379, volume 1279
+        chart->Window->OnChartMouseMove(Price, 0, 0, pixel.X, pixel.Y);
+        ASSERT_EQ(chart->Window->SelectedPoint(), 100);
+        const std::string title = PriceTitle(*chart), header = StudyHeader(*chart);
+        EXPECT_NE(title.find("379"), std::string::npos) << title;
+        EXPECT_NE(header.find("1,279"), std::string::npos) << header;
+        // One step from behind the limit to it, and ten more.
+        for (int k = 0; k < 11; ++k)
+            chart->Window->OnHScroll(ScrollCode::LineLeft, 0);
+        EXPECT_EQ(chart->Window->SelectedPoint(), 110);
+        EXPECT_EQ(PriceTitle(*chart), title);
+        EXPECT_EQ(StudyHeader(*chart), header);
+        chart->Window->OnHScroll(ScrollCode::LeftEnd, 0);
+        EXPECT_EQ(PriceTitle(*chart), type == TickData ? "Tick Price: " : "Daily Price: ");
+        EXPECT_EQ(StudyHeader(*chart).find("Vol: "), std::string::npos) << StudyHeader(*chart);
+    }
+}
+
+TEST(PointInspection, TitlesStayWithTheMarkedPointWhileTheViewFollowsNewPoints)
+{
+    for (const int type : {int(TickData), int(DailyData)}) {
+        auto chart = ChartOfUnlikeDays(type);
+        const sPixel pixel = At(*chart, 1, 3); // index 182: close 282, volume 1182
+        chart->Window->OnChartMouseMove(Price, 0, 0, pixel.X, pixel.Y);
+        const std::string title = PriceTitle(*chart);
+        EXPECT_NE(title.find("282"), std::string::npos) << title;
+        chart->Append(2);
+        chart->Tick();
+        EXPECT_EQ(chart->Window->SelectedPoint(), 1);
+        EXPECT_EQ(PriceTitle(*chart), title);
+        EXPECT_NE(StudyHeader(*chart).find("1,182"), std::string::npos) << StudyHeader(*chart);
+        chart->Append(1);
+        chart->Tick(); // the point leaves on the left
+        EXPECT_EQ(PriceTitle(*chart), type == TickData ? "Tick Price: " : "Daily Price: ");
+        EXPECT_EQ(StudyHeader(*chart).find("Vol: "), std::string::npos) << StudyHeader(*chart);
+    }
+}
+
+TEST(PointInspection, TheTitleOfADeletedPointGoesWithIt)
+{
+    auto chart = DailyChart();
+    const sPixel pixel = At(*chart, 1, 5); // close 104
+    chart->Window->OnChartMouseMove(Price, 0, 0, pixel.X, pixel.Y);
+    EXPECT_NE(PriceTitle(*chart).find("Close: 104"), std::string::npos) << PriceTitle(*chart);
+    chart->Desktop.Box.Answers = {BoxAnswer::Yes};
+    RightClick(*chart, pixel);
+    EXPECT_NE(PriceTitle(*chart).find("Close: 105"), std::string::npos) << PriceTitle(*chart);
+}
+
 } // namespace
 } // namespace zantroq
