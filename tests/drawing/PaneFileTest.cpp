@@ -3,12 +3,15 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
+#include <bit>
 #include <cmath>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <functional>
 #include <limits>
+#include <optional>
 #include <unistd.h>
 
 namespace zantroq {
@@ -206,6 +209,167 @@ TEST(PaneFile, EveryDoubleReadsBackExactly)
     }
 }
 
+// Texts of lists and whether they are lists of six values; the plain JSON parser decides what they hold.
+const char* const ListTexts[] = {
+    "[1,2,3,4,5,6]",
+    " [ 1.5 , -2.25e1,\n3E+2,\t4e-3\r, 0.0, -0.0 ] ",
+    "[-0,0,10,-10,123456789012345678901234567890,18446744073709551615]",
+    "[null,\"nan\",\"inf\",\"-inf\",1e-400,4.9e-324]",
+    "[0.1,0.30000000000000004,1.7976931348623157e308,9007199254740993,1e22,1e23]",
+    "[1,2,3,4,5,\"\\u006ean\"]",
+    "[1,2,3,4,5,\"NaN\"]",
+    "[1,2,3,4,5,true]",
+    "[1,2,3,4,5,[6]]",
+    "[1,2,3,4,5]",
+    "[1,2,3,4,5,6,7]",
+    "[1,2,3,4,5,06]",
+    "[1,2,3,4,5,6.]",
+    "[1,2,3,4,5,.6]",
+    "[1,2,3,4,5,+6]",
+    "[1,2,3,4,5,1e999]",
+    "[1,2,3,4,5,0x6]",
+    "[1,2,3,4,5,nan]",
+    "[1,2,3,4,5,]",
+    "[1,2,3,4,,5,6]",
+    "[1,2,3,4,5,6",
+    "[]",
+    "{}",
+    "7",
+    "",
+};
+
+// What a text gives by the road of a JSON tree; nothing where it is refused.
+std::optional<std::string> LoadedAsTree(const std::string& text)
+{
+    CChart2D chart;
+    try {
+        PaneFromJson(json::parse(text), chart);
+    } catch (const std::exception&) {
+        return std::nullopt;
+    }
+    return PaneToText(chart);
+}
+
+std::optional<std::string> LoadedAsText(const std::string& text)
+{
+    CChart2D chart;
+    try {
+        PaneFromText(text, chart);
+    } catch (const std::runtime_error&) {
+        return std::nullopt;
+    }
+    return PaneToText(chart);
+}
+
+TEST(PaneFile, ListsReadAsTheJsonParserReadsThem)
+{
+    CChart2D chart;
+    Fill(chart);
+    const std::string good = PaneToText(chart);
+    const std::string list = "[1.0,null,\"inf\",\"-inf\",0.30000000000000004,\"nan\"]";
+    const std::string x = "[1.0,2.0,3.0,4.0,5.0,6.0]";
+    int loaded = 0;
+    for (const std::string& was : {list, x})
+        for (const std::string given : ListTexts) {
+            std::string one = good, all = good;
+            one.replace(one.find(was), was.size(), given);
+            for (std::size_t at = 0; (at = all.find(was, at)) != std::string::npos; at += given.size())
+                all.replace(at, was.size(), given);
+            for (const std::string& text : {one, all}) {
+                EXPECT_EQ(LoadedAsText(text), LoadedAsTree(text)) << given;
+                loaded += LoadedAsText(text).has_value();
+            }
+        }
+    EXPECT_GE(loaded, 15); // the first five and more: neither road refuses everything
+}
+
+TEST(PaneFile, UnusualTextsReadAsTheJsonParserReadsThem)
+{
+    CChart2D chart;
+    Fill(chart);
+    const std::string good = PaneToText(chart);
+    const auto with = [&](const std::string& was, const std::string& is) {
+        std::string text = good;
+        text.replace(text.find(was), was.size(), is);
+        return text;
+    };
+    const std::string first = "\"x\":[1.0,2.0,3.0,4.0,5.0,6.0]", other = "\"x\":[6.0,5.0,4.0,3.0,2.0,1.0]";
+    const std::string texts[] = {
+        json::parse(good).dump(2),
+        "\xEF\xBB\xBF" + good,
+        good + " ",
+        good + "x",
+        good + good,
+        with(first, other),
+        with(first, other + "," + first), // of two members of one name the last one counts
+        with(first, first + "," + other),
+        with(first, first + ",\"\\u0078\":[1]"),
+        with(first, "\"\\u0078\":[1.0,2.0,3.0,4.0,5.0,6.0]"),
+        with("\"groups\":", "\"groups\":[],\"groups\":"),
+        with("\"marker\":", "\"groups\":[],\"marker\":"),
+        with("\"series\":", "\"series\":[],\"series\":"),
+        with("\"series\":[{", "\"series\":[,{"),
+        with("\"groups\":[", "\"groups\":[{\"series\":[{\"x\":[1.0],\"y\":[2.0]}]},"),
+        with("two", "\\\"x\\\":[],\\\"y\\\":[]"),
+        with("two", "\\\"groups\\\":[{"),
+        good.substr(0, good.size() - 1),
+        "{",
+        "{\"groups\"",
+        "{\"groups\":[{\"series\":[{\"x\":[1",
+    };
+    int loaded = 0;
+    for (const std::string& text : texts) {
+        EXPECT_EQ(LoadedAsText(text), LoadedAsTree(text)) << text.substr(0, 200);
+        loaded += LoadedAsText(text).has_value();
+    }
+    EXPECT_GE(loaded, 6);
+}
+
+TEST(PaneFile, ATextThatLooksLikeAListStaysAText)
+{
+    CChart2D chart, copy;
+    Fill(chart);
+    chart.PaneLabels().Item(1).SetText("\"x\":[],\"y\":[]");
+    EXPECT_EQ(PaneToText(chart), PaneToJson(chart).dump());
+    PaneFromText(PaneToText(chart), copy);
+    EXPECT_EQ(PaneToText(copy), PaneToText(chart));
+}
+
+TEST(PaneFile, ValuesDeepInOneAnotherAreRefused)
+{
+    CChart2D chart;
+    const std::string depth(100000, '[');
+    EXPECT_THROW(PaneFromText("{\"more\":" + depth + std::string(100000, ']') + "}", chart),
+                 std::runtime_error);
+    EXPECT_THROW(PaneFromText(depth, chart), std::runtime_error);
+}
+
+TEST(PaneFile, NumbersOfEveryKindHaveTheDigitsOfTheJsonLibrary)
+{
+    CChart2D chart, copy;
+    CPaneData& data = chart.PaneGroups(2).PaneData();
+    constexpr int count = 20000; // more than one piece of the writer
+    data.SetSeriesCount(2);
+    data.SetPointCount(1, count);
+    std::uint64_t state = 42;
+    std::vector<double> wild, prices;
+    for (int i = 0; i < count; ++i) {
+        state = state * 6364136223846793005u + 1442695040888963407u;
+        const double any = std::bit_cast<double>(state);
+        wild.push_back(any != any ? 1e15 + i : any); // one not-a-number is written like another
+        prices.push_back(static_cast<double>(state >> 48) / 100.0);
+    }
+    data.SetYVector(1, wild);
+    data.SetYVector(2, prices);
+    EXPECT_EQ(PaneToText(chart), PaneToJson(chart).dump());
+    PaneFromText(PaneToText(chart), copy);
+    for (const int series : {1, 2}) {
+        const std::span<const double> y = copy.PaneGroups(2).PaneData().Y(series);
+        EXPECT_TRUE(
+            std::equal(y.begin(), y.end(), data.Y(series).begin(), data.Y(series).end(), IsSame<double>));
+    }
+}
+
 TEST(PaneFile, AFileWithTheSnapshotFieldsAloneLoads)
 {
     CChart2D chart, copy;
@@ -258,6 +422,7 @@ TEST(PaneFile, ABadFileLeavesThePaneAsItWas)
                                        with("/groups", json::array()),
                                        with("/groups/0/series/0/pointCount", 7),
                                        with("/groups/0/series/0/pointCount", -1),
+                                       with("/groups/0/series/0/more/firstPoint", -2147483648LL),
                                        with("/groups/0/series/1/x/3", 99.0),
                                        with("/groups/0/series/1/y/3", "infinity"),
                                        with("/groups/0/series/1/y/3", true),

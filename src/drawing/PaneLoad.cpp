@@ -1,13 +1,14 @@
+// A pane's scene out of JSON, a text or a file. A first reading into a scene of its own is the check.
+#include "drawing/AxisBounds.h"
 #include "drawing/PaneFile.h"
+#include "drawing/PaneVectors.h"
 
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
 #include <cmath>
 #include <fstream>
-#include <iterator>
 #include <limits>
-#include <sstream>
 #include <stdexcept>
 #include <string_view>
 
@@ -16,186 +17,6 @@ namespace zantroq {
 using nlohmann::json;
 
 namespace {
-
-// ----------------------------------------------------------------------------------------------------------------
-// writing
-
-json NumberToJson(double value)
-{
-    if (value == CPaneData::HoleValue())
-        return nullptr;
-    if (std::isnan(value))
-        return "nan";
-    if (std::isinf(value))
-        return value > 0 ? "inf" : "-inf";
-    return value;
-}
-
-json NumbersToJson(std::span<const double> values)
-{
-    json::array_t list;
-    list.reserve(values.size());
-    for (const double value : values)
-        list.push_back(NumberToJson(value));
-    return list;
-}
-
-json ToJson(const CLineLook& line)
-{
-    return {{"pattern", line.Pattern()}, {"color", line.LineColour()}, {"width", line.Width()}};
-}
-
-json ToJson(const CPaneInterior& interior)
-{
-    return {{"background", interior.Background()}, {"foreground", interior.Foreground()}};
-}
-
-json InnerToJson(const CPaneInterior& interior)
-{
-    json object = ToJson(interior);
-    object["opaque"] = interior.HasBackground();
-    return object;
-}
-
-json ToJson(const CSeriesStyle& style)
-{
-    return {{"line", ToJson(style.LineLook())},
-            {"fill", {{"pattern", style.FillLook().Pattern()}, {"color", style.FillLook().FillColour()}}},
-            {"symbol",
-             {{"shape", style.SymbolLook().Shape()},
-              {"color", style.SymbolLook().SymbolColour()},
-              {"size", style.SymbolLook().Size()}}}};
-}
-
-const std::pair<const char*, const CAxisBound& (CPaneAxis::*)() const> Bounds[] = {
-    {"origin", &CPaneAxis::AxisOrigin},
-    {"dataLow", &CPaneAxis::DataLow},
-    {"dataHigh", &CPaneAxis::DataHigh},
-    {"viewLow", &CPaneAxis::ViewLow},
-    {"viewHigh", &CPaneAxis::ViewHigh},
-    {"tickSpacing", &CPaneAxis::TickSpacing},
-    {"tickMarkSpacing", &CPaneAxis::TickMarkSpacing},
-};
-
-json ToJson(const CPaneAxis& axis)
-{
-    json labels = json::array(), automatic = json::array(), kinds = json::object();
-    for (const sTickLabel& label : axis.TickLabels().All())
-        labels.push_back({NumberToJson(label.Value), label.Text});
-    json object = {{"shown", axis.Shown()},
-                   {"labelMethod", axis.LabelMethod()},
-                   {"gridSpacing", NumberToJson(axis.AxisGrid().Spacing())},
-                   {"gridLine", ToJson(axis.AxisGrid().LineLook())},
-                   {"tickLabels", std::move(labels)}};
-    for (const auto& [name, member] : Bounds) {
-        const CAxisBound& bound = (axis.*member)();
-        object[name] = NumberToJson(bound.Value());
-        if (bound.Automatic())
-            automatic.push_back(name);
-        if (bound.Kind() != 0)
-            kinds[name] = bound.Kind();
-    }
-    if (axis.AxisOrigin().Automatic())
-        object["origin"] = nullptr;
-    object["more"] = {{"automatic", std::move(automatic)}, {"kinds", std::move(kinds)},
-                      {"setting19", axis.Setting19()},     {"setting21", axis.Setting21()},
-                      {"setting22", axis.Setting22()},     {"multiplier", NumberToJson(axis.Multiplier())}};
-    return object;
-}
-
-json ToJson(const CPaneGroup& group, bool withVectors)
-{
-    const CPaneData& data = group.PaneData();
-    CChart2D none;
-    const CSeriesStyle unset(&none); // the look of a series whose style nobody asked for
-    json series = json::array(), styles = json::array();
-    const json x = withVectors ? NumbersToJson(data.X()) : json::array();
-    for (int number = 1; number <= data.SeriesCount(); ++number) {
-        const CSeriesStyle* style = group.FindStyle(number);
-        json object = ToJson(style ? *style : unset);
-        object["pointCount"] = data.PointCount(number);
-        object["drawnTo"] = data.DrawnTo(number);
-        object["x"] = x;
-        object["y"] = withVectors ? NumbersToJson(data.Y(number)) : json::array();
-        object["more"] = {{"firstPoint", data.FirstPoint(number)}};
-        series.push_back(std::move(object));
-    }
-    for (int number = data.SeriesCount() + 1; number <= group.StyleCount(); ++number)
-        styles.push_back(ToJson(*group.FindStyle(number)));
-    return {{"type", group.Type()},
-            {"firstShownSeries", data.FirstShownSeries()},
-            {"lastShownSeries", data.LastShownSeries()},
-            {"series", std::move(series)},
-            {"more", {{"layout", data.Layout()}, {"styles", std::move(styles)}}}};
-}
-
-json ToJson(const CPaneLabel& label)
-{
-    return {{"shown", label.Shown()},
-            {"text", label.Text()},
-            {"background", label.Interior().Background()},
-            {"foreground", label.Interior().Foreground()},
-            {"attachment", label.Attachment()},
-            {"pixel", {label.PixelX(), label.PixelY()}},
-            {"data", {NumberToJson(label.DataX()), NumberToJson(label.DataY())}},
-            {"anchorSide", label.Side()},
-            {"more",
-             {{"border", label.Border()},
-              {"boxAttachment", label.BoxAttachment()},
-              {"boxEdge", label.BoxEdge()}}}};
-}
-
-// withVectors false leaves the x and y arrays empty, for a writer that fills them in itself.
-json SceneToJson(const CChart2D& chart, const sPanePlace& place, bool withVectors)
-{
-    const CPaneArea& area = chart.PaneArea();
-    const CAreaBox& box = area.AreaBox();
-    const CPlotFrame& frame = area.PlotFrame();
-    sPixelRect rect = place.Rect;
-    if (rect.Width() == 0 && rect.Height() == 0)
-        rect = {box.Left().Value(), 0, box.Left().Value() + box.Width().Value(), box.Height().Value()};
-    json labels = json::array(), fixed = json::array();
-    for (int number = 1; number <= chart.PaneLabels().Count(); ++number)
-        labels.push_back(ToJson(chart.PaneLabels().Item(number)));
-    const std::pair<const char*, const CPixelValue*> pixels[] = {
-        {"boxLeft", &box.Left()},         {"boxWidth", &box.Width()},      {"boxHeight", &box.Height()},
-        {"left", &frame.LeftMargin()},    {"right", &frame.RightMargin()}, {"top", &frame.TopMargin()},
-        {"bottom", &frame.BottomMargin()}};
-    for (const auto& [name, value] : pixels)
-        if (!value->Automatic())
-            fixed.push_back(name);
-    return {{"control", place.Control},
-            {"study", place.Study ? json(*place.Study) : json(nullptr)},
-            {"visible", place.Visible},
-            {"rect", {rect.Left, rect.Top, rect.Width(), rect.Height()}},
-            {"plot",
-             {{"left", frame.LeftMargin().Value()},
-              {"right", frame.RightMargin().Value()},
-              {"top", frame.TopMargin().Value()},
-              {"bottom", frame.BottomMargin().Value()}}},
-            {"barWidth", area.BarLook().BarWidth()},
-            {"interior", ToJson(chart.PaneInterior())},
-            {"axes",
-             {{"x", ToJson(area.PaneAxes().X())},
-              {"y", ToJson(area.PaneAxes().Y())},
-              {"y2", ToJson(area.PaneAxes().Y2())}}},
-            {"groups", {ToJson(chart.PaneGroups(1), withVectors), ToJson(chart.PaneGroups(2), withVectors)}},
-            {"labels", std::move(labels)},
-            {"marker",
-             {{"shown", area.Marker().Shown()},
-              {"point", area.Marker().Point()},
-              {"line", ToJson(area.Marker().LineLook())}}},
-            {"more",
-             {{"box", {box.Left().Value(), box.Width().Value(), box.Height().Value()}},
-              {"areaInterior", InnerToJson(area.Interior())},
-              {"plotInterior", InnerToJson(frame.Interior())},
-              {"filledCandles", area.CandleLook().Filled()},
-              {"markerLock", area.Marker().Lock()},
-              {"fixed", std::move(fixed)}}}};
-}
-
-// ----------------------------------------------------------------------------------------------------------------
-// reading
 
 [[noreturn]] void Wrong(const std::string& field, const std::string& what)
 {
@@ -226,10 +47,11 @@ public:
             Wrong(m_path, "not a list");
         return m_value.size();
     }
-    void NeedSize(std::size_t size) const
+    void NeedSize(std::size_t size) const { NeedSize(Size(), size); }
+    void NeedSize(std::size_t has, std::size_t size) const
     {
-        if (Size() != size)
-            Wrong(m_path, std::to_string(Size()) + " entries where there are to be " + std::to_string(size));
+        if (has != size)
+            Wrong(m_path, std::to_string(has) + " entries where there are to be " + std::to_string(size));
     }
     bool IsNull() const { return m_value.is_null(); }
     bool Bool() const
@@ -351,7 +173,7 @@ void Read(const CField& field, CPaneAxis& axis)
                               labels.At(i).At(std::size_t{1}).Text());
     }
     const bool more = field.Has("more");
-    for (const auto& [name, member] : Bounds) {
+    for (const auto& [name, member] : AxisBounds) {
         CAxisBound& bound = const_cast<CAxisBound&>((axis.*member)());
         const CField value = field.At(name);
         const bool automatic = more ? Lists(field.At("more").At("automatic"), name)
@@ -366,7 +188,25 @@ void Read(const CField& field, CPaneAxis& axis)
     axis.SetMultiplier(more ? field.At("more").At("multiplier").Number() : 1.0);
 }
 
-void ReadData(const CField& series, CPaneData& data)
+// The numbers of a list: those that were taken out of the text, or else the field's own, for which `own` is
+// the room.
+std::span<const double> NumbersOf(const CField& field, const std::optional<std::vector<double>>* taken,
+                                  std::vector<double>& own)
+{
+    if (taken && *taken)
+        return **taken;
+    own = field.Numbers();
+    return own;
+}
+
+bool SameNumbers(std::span<const double> a, std::span<const double> b)
+{
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](double left, double right) {
+        return left == right || (std::isnan(left) && std::isnan(right));
+    });
+}
+
+void ReadData(const CField& series, CPaneData& data, const CPaneVectors& vectors, std::size_t group)
 {
     const std::size_t count = series.Size();
     if (count > static_cast<std::size_t>(MaxSeries))
@@ -376,23 +216,29 @@ void ReadData(const CField& series, CPaneData& data)
     for (std::size_t i = 0; i < count; ++i) {
         const CField field = series.At(i);
         const int number = static_cast<int>(i) + 1;
-        const int points = field.At("pointCount").Int(0);
-        field.At("x").NeedSize(static_cast<std::size_t>(points));
-        field.At("y").NeedSize(static_cast<std::size_t>(points));
+        const auto points = static_cast<std::size_t>(field.At("pointCount").Int(0));
+        const CPaneVectors::sSeries* taken = vectors.Find(group, i);
+        std::vector<double> ownX, ownY;
+        const bool sameX = i > 0 && taken && taken->XOfFirst;
+        const std::span<const double> x =
+            sameX ? data.X() : NumbersOf(field.At("x"), taken ? &taken->X : nullptr, ownX);
+        const std::span<const double> y = NumbersOf(field.At("y"), taken ? &taken->Y : nullptr, ownY);
+        field.At("x").NeedSize(x.size(), points);
+        field.At("y").NeedSize(y.size(), points);
         if (i == 0) {
-            data.SetPointCount(number, points);
-            data.SetXVector(number, std::span<const double>(field.At("x").Numbers()));
-        } else if (field.At("x").Value() != series.At(std::size_t{0}).At("x").Value()) {
+            data.SetPointCount(number, static_cast<int>(points));
+            data.SetXVector(number, x);
+        } else if (!sameX && !SameNumbers(x, data.X())) {
             Wrong("groups.series",
                   "the x values of series " + std::to_string(number) + " differ from those of series 1");
         }
-        data.SetYVector(number, field.At("y").Numbers());
+        data.SetYVector(number, y);
         data.SetDrawnTo(number, field.At("drawnTo").Int());
-        data.SetFirstPoint(number, field.Has("more") ? field.At("more").At("firstPoint").Int() : 1);
+        data.SetFirstPoint(number, field.Has("more") ? field.At("more").At("firstPoint").Int(0) : 1);
     }
 }
 
-void Read(const CField& field, CPaneGroup& group)
+void Read(const CField& field, CPaneGroup& group, const CPaneVectors& vectors, std::size_t number)
 {
     group.SetChartType(field.At("type").Int());
     CPaneData& data = group.PaneData();
@@ -401,7 +247,7 @@ void Read(const CField& field, CPaneGroup& group)
     const bool more = field.Has("more");
     data.SetLayout(more ? field.At("more").At("layout").Int() : 1);
     const CField series = field.At("series");
-    ReadData(series, data);
+    ReadData(series, data, vectors, number);
     group.RemoveStyles();
     for (std::size_t i = 0; i < series.Size(); ++i)
         Read(series.At(i), group.SeriesStyles(static_cast<int>(i) + 1));
@@ -467,7 +313,7 @@ void ReadSizes(const CField& pane, CPaneArea& area)
     Read(plot.At("bottom"), area.PlotFrame().BottomMargin(), names, "bottom");
 }
 
-void Read(const CField& pane, CChart2D& chart)
+void Read(const CField& pane, CChart2D& chart, const CPaneVectors& vectors)
 {
     pane.At("control").Int();
     if (!pane.At("study").IsNull())
@@ -482,7 +328,7 @@ void Read(const CField& pane, CChart2D& chart)
     Read(pane.At("axes").At("y2"), area.PaneAxes().Y2());
     pane.At("groups").NeedSize(2);
     for (std::size_t i = 0; i < 2; ++i)
-        Read(pane.At("groups").At(i), chart.PaneGroups(static_cast<int>(i) + 1));
+        Read(pane.At("groups").At(i), chart.PaneGroups(static_cast<int>(i) + 1), vectors, i);
     const CField labels = pane.At("labels");
     const std::size_t count = labels.Size();
     chart.PaneLabels().RemoveAll();
@@ -508,47 +354,36 @@ void Read(const CField& pane, CChart2D& chart)
     marker.SetLock(more.At("markerLock").Int());
 }
 
-} // namespace
-
-json PaneToJson(const CChart2D& chart, const sPanePlace& place)
-{
-    return SceneToJson(chart, place, true);
-}
-
-void PaneFromJson(const json& pane, CChart2D& chart)
+void FromJson(const json& pane, CChart2D& chart, const CPaneVectors& vectors)
 {
     CChart2D trial; // the first reading is the check
-    Read(CField(pane, "pane"), trial);
+    Read(CField(pane, "pane"), trial, vectors);
     const bool batched = chart.Batched();
     if (!batched)
         chart.SetBatched(true);
-    Read(CField(pane, "pane"), chart);
+    Read(CField(pane, "pane"), chart, vectors);
     if (!batched)
         chart.SetBatched(false);
 }
 
-std::string PaneToText(const CChart2D& chart)
+} // namespace
+
+void PaneFromJson(const json& pane, CChart2D& chart)
 {
-    return PaneToJson(chart).dump(-1, ' ', false, json::error_handler_t::replace);
+    FromJson(pane, chart, {});
 }
 
 void PaneFromText(const std::string& text, CChart2D& chart)
 {
+    CPaneVectors vectors;
     json pane;
     try {
-        pane = json::parse(text);
+        const std::optional<std::string> rest = vectors.TakeFrom(text);
+        pane = json::parse(rest ? *rest : text);
     } catch (const json::exception& error) {
         throw std::runtime_error(std::string("pane file: not JSON: ") + error.what());
     }
-    PaneFromJson(pane, chart);
-}
-
-bool CChart2D::SaveToFile(const std::string& path) const
-{
-    std::ofstream file(path, std::ios::binary | std::ios::trunc);
-    file << PaneToText(*this) << '\n';
-    file.close();
-    return !file.fail();
+    FromJson(pane, chart, vectors);
 }
 
 bool CChart2D::LoadFromFile(const std::string& path)
@@ -556,7 +391,10 @@ bool CChart2D::LoadFromFile(const std::string& path)
     std::ifstream file(path, std::ios::binary);
     if (!file)
         return false;
-    std::string text(std::istreambuf_iterator<char>(file), {});
+    std::string text;
+    std::vector<char> piece(1 << 20);
+    while (file.read(piece.data(), static_cast<std::streamsize>(piece.size())) || file.gcount() > 0)
+        text.append(piece.data(), static_cast<std::size_t>(file.gcount()));
     if (file.bad())
         return false;
     try {
