@@ -313,6 +313,22 @@ void ReadSizes(const CField& pane, CPaneArea& area)
     Read(plot.At("bottom"), area.PlotFrame().BottomMargin(), names, "bottom");
 }
 
+// What a file without "more" leaves out becomes that of a new pane.
+void ResetUntold(CChart2D& chart)
+{
+    const CChart2D fresh;
+    CPaneArea& area = chart.PaneArea();
+    const auto reset = [](CPaneInterior& interior, const CPaneInterior& unset) {
+        interior.SetBackground(unset.Background());
+        interior.SetForeground(unset.Foreground());
+        interior.ClearBackground();
+    };
+    reset(area.Interior(), fresh.PaneArea().Interior());
+    reset(area.PlotFrame().Interior(), fresh.PaneArea().PlotFrame().Interior());
+    area.CandleLook().SetFilled(fresh.PaneArea().CandleLook().Filled());
+    area.PaneMarkers("x").SetLock(fresh.PaneArea().Marker().Lock());
+}
+
 void Read(const CField& pane, CChart2D& chart, const CPaneVectors& vectors)
 {
     pane.At("control").Int();
@@ -338,11 +354,8 @@ void Read(const CField& pane, CChart2D& chart, const CPaneVectors& vectors)
     marker.SetShown(pane.At("marker").At("shown").Bool());
     marker.SetPoint(pane.At("marker").At("point").Int());
     Read(pane.At("marker").At("line"), marker.LineLook());
-    if (!pane.Has("more")) {
-        area.Interior().ClearBackground();
-        area.PlotFrame().Interior().ClearBackground();
-        return;
-    }
+    if (!pane.Has("more"))
+        return ResetUntold(chart);
     const CField more = pane.At("more");
     Read(more.At("areaInterior"), area.Interior());
     if (!more.At("areaInterior").At("opaque").Bool())

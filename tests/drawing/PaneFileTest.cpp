@@ -370,10 +370,9 @@ TEST(PaneFile, NumbersOfEveryKindHaveTheDigitsOfTheJsonLibrary)
     }
 }
 
-TEST(PaneFile, AFileWithTheSnapshotFieldsAloneLoads)
+// The same pane as the interface of a snapshot knows it.
+json WithoutMore(const CChart2D& chart)
 {
-    CChart2D chart, copy;
-    Fill(chart);
     json pane = PaneToJson(chart);
     const std::function<void(json&)> strip = [&](json& value) {
         if (value.is_object())
@@ -383,7 +382,26 @@ TEST(PaneFile, AFileWithTheSnapshotFieldsAloneLoads)
                 strip(inner);
     };
     strip(pane);
-    PaneFromJson(pane, copy);
+    return pane;
+}
+
+TEST(PaneFile, WhatAFileDoesNotTellIsThatOfANewPane)
+{
+    CChart2D fresh, used;
+    Fill(used);
+    used.PaneArea().PaneMarkers("x").SetLock(0);
+    PaneFromJson(WithoutMore(CChart2D()), fresh);
+    PaneFromJson(WithoutMore(CChart2D()), used);
+    EXPECT_EQ(PaneToJson(used), PaneToJson(fresh));
+    EXPECT_FALSE(used.PaneArea().CandleLook().Filled());
+    EXPECT_EQ(used.PaneArea().Marker().Lock(), 1);
+}
+
+TEST(PaneFile, AFileWithTheSnapshotFieldsAloneLoads)
+{
+    CChart2D chart, copy;
+    Fill(chart);
+    PaneFromJson(WithoutMore(chart), copy);
     EXPECT_EQ(copy.PixelWidth(), 640);
     EXPECT_EQ(copy.PixelHeight(), 480);
     EXPECT_EQ(copy.PaneGroups(1).PaneData().PointY(2, 1), 1.0);
