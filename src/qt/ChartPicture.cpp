@@ -13,7 +13,6 @@
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QRegularExpression>
 #include <QSvgGenerator>
 
 #include <functional>
@@ -135,15 +134,7 @@ QByteArray SvgBytes(const sChartPicture& picture)
     QPainter painter(&svg);
     PaintVectors(painter, picture, 1);
     painter.end();
-    // The toolkit gives the size in millimetres of its own reckoning; the picture's unit is the pixel.
-    QString text = QString::fromUtf8(bytes.data());
-    static const QRegularExpression millimetres("width=\"[0-9.]+mm\" height=\"[0-9.]+mm\"");
-    const auto found = millimetres.match(text);
-    if (found.hasMatch())
-        text.replace(
-            found.capturedStart(), found.capturedLength(),
-            QString("width=\"%1\" height=\"%2\"").arg(picture.Size.width()).arg(picture.Size.height()));
-    return text.toUtf8();
+    return SizedInPixels(bytes.data(), picture.Size);
 }
 
 QByteArray PdfBytes(const sChartPicture& picture)

@@ -1,7 +1,10 @@
 #include "qt/PaneExport.h"
 
+#include "drawing/PaneFile.h"
 #include "qt/PanePainter.h"
+#include "qt/PictureFile.h"
 
+#include <QBuffer>
 #include <QFileInfo>
 #include <QPageSize>
 #include <QPainter>
@@ -20,32 +23,43 @@ bool CPrintPage::PaintPane(const CChart2D& pane, int left, int top, int width, i
 
 namespace {
 
-bool SaveSvg(const CChart2D& pane, const QString& path)
+QByteArray SvgBytes(const CChart2D& pane, const QSize& size)
 {
+    QBuffer bytes;
     QSvgGenerator svg;
-    svg.setFileName(path);
-    svg.setSize({pane.PixelWidth(), pane.PixelHeight()});
-    svg.setViewBox(QRect(0, 0, pane.PixelWidth(), pane.PixelHeight()));
-    QPainter painter;
-    if (!painter.begin(&svg))
-        return false;
-    CPanePainter(pane).PaintInto(painter, QRectF(0, 0, pane.PixelWidth(), pane.PixelHeight()));
-    return painter.end();
+    svg.setOutputDevice(&bytes);
+    svg.setSize(size);
+    svg.setViewBox(QRect(QPoint(0, 0), size));
+    QPainter painter(&svg);
+    CPanePainter(pane).PaintInto(painter, QRectF(QPointF(0, 0), size));
+    painter.end();
+    return SizedInPixels(bytes.data(), size);
 }
 
-bool SavePdf(const CChart2D& pane, const QString& path)
+QByteArray PdfBytes(const CChart2D& pane, const QSize& size)
 {
     constexpr int Fine = 4; // units a pane pixel, for smooth curves
-    QPdfWriter pdf(path);
+    QBuffer bytes;
+    bytes.open(QIODevice::WriteOnly);
+    QPdfWriter pdf(&bytes);
+    pdf.setCreator("Zantroq Chart");
     pdf.setResolution(72 * Fine);
-    pdf.setPageSize(QPageSize(QSizeF(pane.PixelWidth(), pane.PixelHeight()), QPageSize::Point, {},
-                              QPageSize::ExactMatch));
+    pdf.setPageSize(QPageSize(QSizeF(size), QPageSize::Point, {}, QPageSize::ExactMatch));
     pdf.setPageMargins(QMarginsF());
-    QPainter painter;
-    if (!painter.begin(&pdf))
-        return false;
-    CPanePainter(pane).PaintInto(painter, QRectF(0, 0, pane.PixelWidth() * Fine, pane.PixelHeight() * Fine));
-    return painter.end();
+    QPainter painter(&pdf);
+    CPanePainter(pane).PaintInto(painter, QRectF(QPointF(0, 0), size * Fine));
+    painter.end();
+    return WithoutMoment(bytes.data());
+}
+
+QByteArray PngBytes(const CChart2D& pane, double devicePixelRatio)
+{
+    QBuffer bytes;
+    bytes.open(QIODevice::WriteOnly);
+    QImage picture = PanePicture(pane, devicePixelRatio);
+    picture.setDevicePixelRatio(1); // a file holds pixels
+    picture.save(&bytes, "PNG");
+    return bytes.data();
 }
 
 } // namespace
@@ -53,20 +67,28 @@ bool SavePdf(const CChart2D& pane, const QString& path)
 bool SavePanePicture(const CChart2D& pane, const QString& path, double devicePixelRatio, QString& error)
 {
     const QString ending = QFileInfo(path).suffix().toLower();
-    bool written = false;
-    if (ending == "png")
-        written = PanePicture(pane, devicePixelRatio).save(path, "PNG");
-    else if (ending == "svg")
-        written = SaveSvg(pane, path);
-    else if (ending == "pdf")
-        written = SavePdf(pane, path);
-    else if (ending == "json")
-        written = pane.SaveToFile(path.toStdString());
-    else
+    const QSize size(pane.PixelWidth(), pane.PixelHeight());
+    QByteArray bytes;
+    if (ending == "json") {
+        bytes = QByteArray::fromStdString(PaneToText(pane) + "\n");
+    } else if (ending != "png" && ending != "svg" && ending != "pdf") {
         error = QStringLiteral("%1: the ending is none of .png, .svg, .pdf and .json").arg(path);
-    if (!written && error.isEmpty())
-        error = QStringLiteral("%1: cannot be written").arg(path);
-    return written;
+        return false;
+    } else if (size.isEmpty()) {
+        error = QStringLiteral("%1: the pane is %2 by %3 pixels, too small for a picture; give it a size")
+                    .arg(path)
+                    .arg(size.width())
+                    .arg(size.height());
+        return false;
+    } else {
+        bytes = ending == "svg"   ? SvgBytes(pane, size)
+                : ending == "pdf" ? PdfBytes(pane, size)
+                                  : PngBytes(pane, devicePixelRatio);
+    }
+    const QString failure = WritePictureFile(path, bytes);
+    if (!failure.isEmpty())
+        error = failure;
+    return failure.isEmpty();
 }
 
 } // namespace zantroq

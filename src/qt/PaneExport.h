@@ -24,8 +24,9 @@ private:
     QString m_family;
 };
 
-// Writes a picture of the pane by the ending of the path: .png (at the ratio), .svg, .pdf or .json. False,
-// with a sentence in error, when the ending is another one or the file cannot be written.
+// Writes a picture of the pane by the ending of the path: .png (at the ratio), .svg in pixels, .pdf or .json;
+// the same pane gives the same bytes, and a file that is there is replaced whole. False, with a sentence in
+// error, when the ending is another one or the file cannot be written.
 bool SavePanePicture(const CChart2D& pane, const QString& path, double devicePixelRatio, QString& error);
 
 } // namespace zantroq

@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QSaveFile>
 
 namespace zantroq {
@@ -51,6 +52,17 @@ QByteArray WithoutMoment(QByteArray pdf)
         else if (pdf[place] == '-')
             pdf[place] = '+';
     return pdf;
+}
+
+QByteArray SizedInPixels(const QByteArray& svg, const QSize& size)
+{
+    QString text = QString::fromUtf8(svg);
+    static const QRegularExpression millimetres("width=\"[0-9.]+mm\" height=\"[0-9.]+mm\"");
+    const auto found = millimetres.match(text);
+    if (found.hasMatch())
+        text.replace(found.capturedStart(), found.capturedLength(),
+                     QString("width=\"%1\" height=\"%2\"").arg(size.width()).arg(size.height()));
+    return text.toUtf8();
 }
 
 } // namespace zantroq

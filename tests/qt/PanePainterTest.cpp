@@ -349,6 +349,54 @@ TEST(PaneExport, WritesEachKindOfFileByItsEnding)
     EXPECT_TRUE(error.contains("/no/such/folder/pane.png"));
 }
 
+TEST(PaneExport, AnSvgFileIsSizedInPixels)
+{
+    const QTemporaryDir folder;
+    const Pane pane = test::CandlePane(280, 180, 30, 3);
+    QString error;
+    ASSERT_TRUE(SavePanePicture(*pane, folder.filePath("pane.svg"), 1.0, error));
+    QFile file(folder.filePath("pane.svg"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray svg = file.readAll();
+    EXPECT_TRUE(svg.contains("width=\"280\" height=\"180\"")) << svg.left(400).toStdString();
+    EXPECT_FALSE(svg.contains("mm\""));
+}
+
+TEST(PaneExport, TheSamePaneWritesTheSameBytesWheneverItIs)
+{
+    const QTemporaryDir folder;
+    const Pane pane = test::CandlePane(280, 180, 30, 3);
+    QString error;
+    ASSERT_TRUE(SavePanePicture(*pane, folder.filePath("pane.pdf"), 1.0, error));
+    QFile file(folder.filePath("pane.pdf"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(file.readAll().contains("/CreationDate (D:20000101000000"));
+}
+
+TEST(PaneExport, AFileThatCannotBeWrittenIsNamed)
+{
+    const QTemporaryDir folder;
+    const Pane pane = test::CandlePane(280, 180, 30, 3);
+    for (const char* ending : {"svg", "pdf"}) {
+        QString error;
+        EXPECT_FALSE(SavePanePicture(*pane, QStringLiteral("/no/such/folder/pane.") + ending, 1.0, error));
+        EXPECT_TRUE(error.contains("/no/such/folder/pane.")) << ending;
+    }
+}
+
+TEST(PaneExport, APaneWithoutASizeHasNoPicture)
+{
+    const QTemporaryDir folder;
+    const CChart2D pane;
+    for (const char* ending : {"png", "svg", "pdf"}) {
+        QString error;
+        EXPECT_FALSE(SavePanePicture(pane, folder.filePath(QStringLiteral("pane.") + ending), 1.0, error));
+        EXPECT_TRUE(error.contains("0 by 0")) << error.toStdString();
+    }
+    QString error;
+    EXPECT_TRUE(SavePanePicture(pane, folder.filePath("pane.json"), 1.0, error)) << "a state it has";
+}
+
 TEST(PaneExport, APageGetsThePaneInItsBox)
 {
     QImage page(700, 500, QImage::Format_RGB32);
