@@ -10,12 +10,23 @@ namespace {
 
 void SetUpGroup(CPaneGroup& group)
 {
+    group.SetChartType(ChartLines);
+    group.RemoveStyles();
     CPaneData& data = group.PaneData();
     data.SetLayout(1);
     data.SetSeriesCount(1);
     data.SetFirstShownSeries(1);
     data.SetLastShownSeries(1);
     data.SetPointCount(1, 0);
+}
+
+// What single studies set for themselves.
+void ForgetStudy(CPaneArea& area)
+{
+    const CChart2D fresh;
+    area.BarLook().SetBarWidth(fresh.PaneArea().BarLook().BarWidth());
+    area.PaneAxes().Y().AxisOrigin().Restore(fresh.PaneArea().PaneAxes().Y().AxisOrigin().Value(), true);
+    area.PaneAxes().X().DataHigh().SetKind(0);
 }
 
 void SetColours(CPaneInterior& interior, Colour background, Colour foreground)
@@ -55,6 +66,7 @@ void SetUpValueAxis(CPaneAxis& axis)
     axis.TickMarkSpacing().SetValue(15);
     axis.SetLabelMethod(4);
     axis.SetSetting19(2);
+    axis.SetSetting21(2);
     axis.SetSetting22(0);
     axis.TickLabels().RemoveAll();
 }
@@ -95,6 +107,7 @@ void SetUpStudyPane(CChart2D& chart, const sChartSettings& settings, int kind)
     AddTitleLabel(chart);
     SetUpGroup(chart.PaneGroups(1));
     SetUpGroup(chart.PaneGroups(2));
+    ForgetStudy(chart.PaneArea());
     SetUpValueAxes(chart);
     SetUpPaneFrame(chart, settings, PlotBottomPx, StudyLabelColour(settings, kind));
     SetGrid(chart, settings);

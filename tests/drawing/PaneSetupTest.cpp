@@ -1,3 +1,4 @@
+#include "drawing/PaneFile.h"
 #include "drawing/PaneSetup.h"
 #include "drawing/SeriesStyleTable.h"
 
@@ -59,6 +60,26 @@ TEST(PaneSetup, StudyPaneStartsEmptyWithItsTitle)
     EXPECT_EQ(chart.PaneArea().PlotFrame().BottomMargin().Value(), 4);
     EXPECT_EQ(chart.PaneInterior().Background(), 0x654321u);
     EXPECT_EQ(chart.PaneInterior().Foreground(), 0x123456u);
+}
+
+// A pane keeps its place when another study is chosen for it; the one before must leave nothing that a
+// saved pane would still tell.
+TEST(PaneSetup, StudyPaneForgetsTheStudyBefore)
+{
+    CChart2D used, fresh;
+    const sChartSettings settings;
+    used.PaneGroups(1).SetChartType(ChartBars);
+    used.PaneGroups(2).SetChartType(ChartBarsFromOrigin);
+    used.PaneGroups(2).SeriesStyles(1).FillLook().SetColour(0x00ff00);
+    used.PaneArea().BarLook().SetBarWidth(9);
+    CPaneAxes& axes = used.PaneArea().PaneAxes();
+    axes.Y().AxisOrigin().SetValue(5);
+    axes.Y().SetSetting21(0);
+    axes.X().DataHigh().SetKind(1);
+    SetUpStudyPane(used, settings, StudyRSI);
+    SetUpStudyPane(fresh, settings, StudyRSI);
+    EXPECT_EQ(PaneToText(used), PaneToText(fresh));
+    EXPECT_TRUE(axes.Y().AxisOrigin().Automatic()) << "bars start from 0 again";
 }
 
 TEST(PaneSetup, AxisSideDecidesAxisAndMargins)
