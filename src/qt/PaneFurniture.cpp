@@ -192,8 +192,11 @@ private:
                             [&](int other) { return std::abs(other - top) < line - 1; }))
                 continue;
             taken.push_back(top);
-            const int x = left ? m_map.Plot.Left - m_hair - gap - m_text.Advance(label.Text)
-                               : m_map.Plot.Right + m_hair + gap;
+            // A text too long for its margin reaches into the plot: a price that lost a digit would be
+            // another price.
+            const int advance = m_text.Advance(label.Text), edge = Device(1);
+            const int x = left ? std::max(edge, m_map.Plot.Left - m_hair - gap - advance)
+                               : std::min(m_width - edge - advance, m_map.Plot.Right + m_hair + gap);
             Out.AxisTexts.push_back({x, top, label.Text, m_foreground});
         }
     }

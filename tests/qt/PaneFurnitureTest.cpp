@@ -1,0 +1,226 @@
+#include "qt/PaneFurniture.h"
+#include "qt/PaneScenes.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace zantroq {
+namespace {
+
+using test::AddLabel;
+using test::Pane;
+
+const QString Family = "DejaVu Sans";
+
+// The furniture of a pane at a scale, and what it was placed with.
+struct sFurnished
+{
+    explicit sFurnished(const CChart2D& chart, double scale = 1.0)
+        : Scale(scale),
+          Map(chart, scale),
+          Width(static_cast<int>(std::floor(chart.PixelWidth() * scale + 0.5))),
+          Height(static_cast<int>(std::floor(chart.PixelHeight() * scale + 0.5))),
+          Words(Family)
+    {
+        Words.SetScale(scale);
+        Placed = PlaceFurniture(chart, Map, scale, Width, Height, Words);
+    }
+    // Of a label, by its place among those shown.
+    const sPixelRect& Box(std::size_t i) const { return Placed.Labels.at(i).Box; }
+
+    double Scale;
+    sPlotMap Map;
+    int Width, Height;
+    CPaneText Words;
+    sPaneFurniture Placed;
+};
+
+TEST(PaneLabels, StandOnTheSideOfTheirAnchorAtEveryScale)
+{
+    for (const double scale : {1.0, 1.5, 2.0}) {
+        const Pane pane = test::EmptyPane(280, 180);
+        for (const int side : {0x11, 0x12, 0x21, 0x22})
+            AddLabel(*pane, "text", AttachToPixel, side).SetPixelAnchor(140, 90);
+        const sFurnished furnished(*pane, scale);
+        const int x = static_cast<int>(140 * scale), y = static_cast<int>(90 * scale);
+        ASSERT_EQ(furnished.Placed.Labels.size(), 4u);
+        EXPECT_EQ(furnished.Box(0).Left, x) << "0x11: above, to the right";
+        EXPECT_EQ(furnished.Box(0).Bottom, y);
+        EXPECT_EQ(furnished.Box(1).Right, x) << "0x12: above, to the left";
+        EXPECT_EQ(furnished.Box(1).Bottom, y);
+        EXPECT_EQ(furnished.Box(2).Left, x) << "0x21: below, to the right";
+        EXPECT_EQ(furnished.Box(2).Top, y);
+        EXPECT_EQ(furnished.Box(3).Right, x) << "0x22: below, to the left";
+        EXPECT_EQ(furnished.Box(3).Top, y);
+    }
+}
+
+TEST(PaneLabels, TheTitleHangsFromThePanesTopLeftWhateverItsAnchor)
+{
+    const Pane pane = test::EmptyPane(280, 180);
+    CPaneLabel& title = AddLabel(*pane, "Daily Price:", AttachToPaneTopLeft, AnchorBelowRight);
+    title.SetPixelAnchor(200, 100);
+    title.SetDataAnchor(5, 50);
+    const sFurnished furnished(*pane);
+    EXPECT_LT(furnished.Box(0).Left, 10);
+    EXPECT_LT(furnished.Box(0).Top, 5);
+}
+
+TEST(PaneLabels, AttachedToDataFollowThePoint)
+{
+    const Pane pane = test::EmptyPane(280, 180);
+    AddLabel(*pane, "text", AttachToData, AnchorBelowRight).SetDataAnchor(3, 50);
+    const sFurnished furnished(*pane);
+    int x = 0, y = 0;
+    pane->PaneGroups(1).DataToPixel(3, 50, x, y);
+    EXPECT_EQ(furnished.Box(0).Left, x);
+    EXPECT_EQ(furnished.Box(0).Top, y);
+}
+
+TEST(PaneLabels, AReadoutIsMovedInsideThePane)
+{
+    const Pane pane = test::EmptyPane(280, 180);
+    for (const double x : {1.0, 10.0})
+        for (const double y : {0.0, 100.0})
+            for (const int side : {0x11, 0x12, 0x21, 0x22})
+                AddLabel(*pane, "Hi: 1, Low: 1\nVolume: 1", AttachToData, side).SetDataAnchor(x, y);
+    const sFurnished furnished(*pane);
+    ASSERT_EQ(furnished.Placed.Labels.size(), 16u);
+    for (const sPlacedLabel& label : furnished.Placed.Labels) {
+        EXPECT_GE(label.Box.Left, 0);
+        EXPECT_GE(label.Box.Top, 0);
+        EXPECT_LE(label.Box.Right, 280);
+        EXPECT_LE(label.Box.Bottom, 180);
+    }
+}
+
+TEST(PaneLabels, LinesAreSeparatedByNewlines)
+{
+    const Pane pane = test::EmptyPane(280, 180);
+    AddLabel(*pane, "one\n\nthree\n", AttachToPixel, AnchorBelowRight).SetPixelAnchor(60, 60);
+    const sFurnished furnished(*pane);
+    const std::vector<sPlacedText>& lines = furnished.Placed.Labels.at(0).Lines;
+    ASSERT_EQ(lines.size(), 3u);
+    EXPECT_EQ(lines[0].Text, "one");
+    EXPECT_EQ(lines[1].Text, "");
+    EXPECT_EQ(lines[2].Text, "three");
+    EXPECT_EQ(lines[2].Top - lines[0].Top, 2 * CPaneText(Family).LineHeight());
+}
+
+TEST(PaneLabels, HiddenOrWithoutTextOrNowhereAreNotPlaced)
+{
+    const Pane pane = test::EmptyPane(280, 180);
+    AddLabel(*pane, "hidden", AttachToPixel, AnchorBelowRight).SetShown(false);
+    AddLabel(*pane, "", AttachToPixel, AnchorBelowRight);
+    AddLabel(*pane, "at a hole", AttachToData, AnchorBelowRight).SetDataAnchor(3, CPaneData::HoleValue());
+    AddLabel(*pane, "at no number", AttachToData, AnchorBelowRight).SetDataAnchor(std::nan(""), 3);
+    EXPECT_TRUE(sFurnished(*pane).Placed.Labels.empty());
+}
+
+TEST(PaneFurniture, APaneWithoutPointsHasItsAxesAndLabels)
+{
+    const Pane pane = test::EmptyPane(280, 180);
+    AddLabel(*pane, "text", AttachToPixel, AnchorBelowRight);
+    ASSERT_EQ(pane->PaneGroups(1).PaneData().PointCount(1), 0);
+    const sPaneFurniture placed = sFurnished(*pane).Placed;
+    EXPECT_EQ(placed.Labels.size(), 1u);
+    EXPECT_GE(placed.AxisTexts.size(), 5u);
+    EXPECT_GE(placed.Frame.size(), 4u);
+}
+
+TEST(PaneFurniture, ValueTextsTooLongForTheirMarginKeepEveryDigit)
+{
+    for (const bool right : {false, true})
+        for (const double scale : {1.0, 1.5, 2.0}) {
+            const Pane pane = test::EmptyPane(280, 180);
+            CPaneAxes& axes = pane->PaneArea().PaneAxes();
+            axes.Y().SetShown(!right);
+            axes.Y2().SetShown(right);
+            pane->PaneArea().PlotFrame().LeftMargin().SetValue(right ? 23 : 58);
+            pane->PaneArea().PlotFrame().RightMargin().SetValue(right ? 58 : 23);
+            CPaneAxis& labelled = right ? axes.Y2() : axes.Y();
+            labelled.TickLabels().RemoveAll();
+            labelled.TickLabels().Add(50, "-12345 127/128");
+            sFurnished furnished(*pane, scale);
+            bool found = false;
+            for (const sPlacedText& text : furnished.Placed.AxisTexts) {
+                if (text.Text != "-12345 127/128")
+                    continue;
+                found = true;
+                EXPECT_GE(text.Left, 0) << right << " at " << scale;
+                EXPECT_LE(text.Left + furnished.Words.Advance(text.Text), furnished.Width)
+                    << right << " at " << scale;
+            }
+            EXPECT_TRUE(found);
+        }
+}
+
+TEST(PaneFurniture, ValueTextsThatFitStandBesideTheAxis)
+{
+    const Pane pane = test::EmptyPane(280, 180);
+    sFurnished furnished(*pane);
+    for (const sPlacedText& text : furnished.Placed.AxisTexts)
+        if (text.Text == "25") { // six pixels and a line from the plot
+            EXPECT_EQ(text.Left + furnished.Words.Advance(text.Text), 58 - 7);
+        }
+}
+
+TEST(PaneFurniture, GridLinesRunThroughTheLabels)
+{
+    const Pane pane = test::EmptyPane(280, 180); // 0 to 100, labels at 0, 25, 50, 75, 100; points 1 to 10.5
+    CPaneAxes& axes = pane->PaneArea().PaneAxes();
+    axes.X().AxisGrid().SetSpacing(2);
+    axes.Y().AxisGrid().SetSpacing(25);
+    const sPaneFurniture placed = sFurnished(*pane).Placed;
+    std::vector<int> uprights, acrosses;
+    for (const sRuledLine& line : placed.Grid)
+        (line.Upright ? uprights : acrosses).push_back(line.Upright ? line.Rect.Left : line.Rect.Top);
+    std::vector<int> wantedX, wantedY;
+    int x = 0, y = 0;
+    for (const int point : {2, 4, 6, 8, 10}) {
+        pane->PaneGroups(1).DataToPixel(point, 0, x, y);
+        wantedX.push_back(x);
+    }
+    for (const double value : {25.0, 50.0, 75.0}) { // those on the plot's own edge are not drawn again
+        pane->PaneGroups(1).DataToPixel(1, value, x, y);
+        wantedY.push_back(y);
+    }
+    EXPECT_EQ(uprights, wantedX);
+    EXPECT_EQ(acrosses, wantedY);
+    axes.X().AxisGrid().SetSpacing(0);
+    axes.Y().AxisGrid().SetSpacing(0);
+    EXPECT_TRUE(sFurnished(*pane).Placed.Grid.empty()) << "a spacing of 0 hides the grid";
+}
+
+TEST(PaneFurniture, TheMarkerStandsOnItsPoint)
+{
+    const Pane pane = test::LinePane(280, 180, std::vector<double>(10, 33.0));
+    CPaneMarker& marker = pane->PaneArea().PaneMarkers("x");
+    marker.SetShown(true);
+    EXPECT_TRUE(sFurnished(*pane).Placed.Marker.empty()) << "no point";
+    marker.SetPoint(4);
+    const sPaneFurniture placed = sFurnished(*pane).Placed;
+    int x = 0, y = 0;
+    pane->PaneGroups(1).PointToPixel(1, 4, x, y);
+    ASSERT_EQ(placed.Marker.size(), 1u);
+    EXPECT_EQ(placed.Marker[0].Rect.Left, x);
+    EXPECT_EQ(placed.Marker[0].Rect.Right, x + 1);
+    EXPECT_EQ(placed.Marker[0].Rect.Top, pane->PlotRect().Top);
+    EXPECT_EQ(placed.Marker[0].Rect.Bottom, pane->PlotRect().Bottom);
+    marker.SetShown(false);
+    EXPECT_TRUE(sFurnished(*pane).Placed.Marker.empty());
+}
+
+TEST(PaneFurniture, AHiddenAxisHasNeitherTextsNorTickMarks)
+{
+    const Pane pane = test::EmptyPane(280, 180);
+    pane->PaneArea().PaneAxes().Y().SetShown(false);
+    pane->PaneArea().PaneAxes().X().SetShown(false);
+    const sPaneFurniture placed = sFurnished(*pane).Placed;
+    EXPECT_TRUE(placed.AxisTexts.empty());
+    EXPECT_EQ(placed.Frame.size(), 4u) << "the four edges of the plot";
+}
+
+} // namespace
+} // namespace zantroq
