@@ -433,6 +433,62 @@ void FillFallen(CSeriesFixture& chart)
         chart.Add(100, 105, 95, 100);
 }
 
+TEST(PriceDraw, PeriodLongerThanTheSeriesDrawsHolesAlone)
+{
+    CSeriesFixture chart;
+    FillForty(chart);
+    sOverlaySettings& overlays = chart.window.settings.Overlays;
+    overlays.AveragePoints = {41, 41, 41};
+    overlays.BandPeriod = 41;
+    overlays.ShowAverages = 1;
+    for (const int exponential : {0, 1}) {
+        overlays.Exponential = exponential;
+        chart.manager.FullRedraw();
+        for (int series = 1; series <= 3; ++series)
+            EXPECT_TRUE(AllHoles(chart.Overlays().Y(series))) << series;
+    }
+    overlays.ShowBands = 1;
+    chart.manager.FullRedraw();
+    for (int series = 1; series <= 3; ++series) {
+        EXPECT_TRUE(AllHoles(chart.Overlays().Y(series))) << series;
+        EXPECT_EQ(chart.Overlays().DrawnTo(series), 0) << "the whole of the warm-up is skipped";
+    }
+}
+
+// At index 5 the mean of five closes has a value; the exponential average has its first one index later.
+TEST(PriceDraw, ExponentialAverageHasAHoleWhereTheSimpleOneBegins)
+{
+    CSeriesFixture chart;
+    chart.AddCloses({10, 20, 30, 40, 50, 60, 70});
+    sOverlaySettings& overlays = chart.window.settings.Overlays;
+    overlays.ShowAverages = 1;
+    overlays.AverageSelected = {1, 0, 0};
+    overlays.AveragePoints = {5, 0, 0};
+    chart.manager.FullRedraw();
+    EXPECT_EQ(Values(chart.Overlays().Y(1)), (std::vector<double>{Hole, Hole, Hole, Hole, Hole, 40, 50}));
+    overlays.Exponential = 1;
+    chart.manager.FullRedraw();
+    // 2 / 6 of the close of 70 and the rest of the mean of 20 to 60.
+    EXPECT_EQ(Values(chart.Overlays().Y(1)), (std::vector<double>{Hole, Hole, Hole, Hole, Hole, Hole,
+                                                                  2.0 / 6.0 * 70 + (1.0 - 2.0 / 6.0) * 40}));
+}
+
+TEST(PriceDraw, FixedScaleCutsOffTheTopOfANewHigh)
+{
+    CSeriesFixture chart;
+    FillForty(chart);
+    chart.manager.FullRedraw();
+    const double top = chart.Axes().Y().ViewHigh().Value();
+    chart.window.settings.FixedScale = true;
+    chart.Add(140, top + 100, 139, 140);
+    chart.manager.Draw(1000);
+    EXPECT_EQ(chart.Axes().Y().ViewHigh().Value(), top);
+    EXPECT_EQ(chart.Bars().PointY(1, 30), top + 100) << "the point keeps its price";
+    int x = 0, y = 0;
+    chart.window.Pane(0).PaneGroups(1).PointToPixel(1, 30, x, y);
+    EXPECT_EQ(y, -1) << "but lies off the plot";
+}
+
 TEST(PriceDraw, ScaleWidensForAnAverageAboveIt)
 {
     CSeriesFixture chart;

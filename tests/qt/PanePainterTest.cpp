@@ -286,6 +286,49 @@ TEST(PanePainter, HostileNumbersPaint)
     }
 }
 
+TEST(PanePainter, AHoleLeavesAGapThatIsNotInterpolated)
+{
+    for (const double missing : {Hole, std::nan("")}) {
+        std::vector<double> y(10, 50.0);
+        y[4] = missing;
+        const Pane pane = test::LinePane(280, 180, y);
+        const QImage picture = PanePicture(*pane, 1.0, Family);
+        int before = 0, after = 0, row = 0;
+        pane->PaneGroups(1).PointToPixel(1, 4, before, row);
+        pane->PaneGroups(1).PointToPixel(1, 6, after, row);
+        const QRgb line = qRgb(0x14, 0x64, 0xc8);
+        EXPECT_EQ(picture.pixel(before, row), line);
+        EXPECT_EQ(picture.pixel(after, row), line);
+        for (int x = before + 1; x < after; ++x)
+            for (int at = row - 2; at <= row + 2; ++at)
+                ASSERT_EQ(picture.pixel(x, at), qRgb(255, 255, 255)) << x << ", " << at;
+    }
+}
+
+TEST(PanePainter, ANegativeBarHangsFromTheOrigin)
+{
+    const Pane pane = test::HistogramPane(280, 180, {30, -30, 0, Hole}, 8, ChartBars);
+    test::FitAxes(*pane, 4, -50, 50);
+    for (const bool moved : {false, true}) {
+        if (moved)
+            pane->PaneArea().PaneAxes().Y().AxisOrigin().SetValue(-40);
+        const double origin = moved ? -40 : 0;
+        const QImage picture = PanePicture(*pane, 1.0, Family);
+        const auto bar = [&](int point, double value) { // whether the value lies in the point's bar
+            int x = 0, y = 0;
+            pane->PaneGroups(1).DataToPixel(point, value, x, y);
+            return picture.pixel(std::max(x, pane->PlotRect().Left), y) == qRgb(0x14, 0x64, 0xc8);
+        };
+        EXPECT_TRUE(bar(1, 30) && bar(1, origin) && bar(1, 10));
+        EXPECT_FALSE(bar(1, 35) || bar(1, origin - 5));
+        EXPECT_TRUE(bar(2, -30) && bar(2, origin) && bar(2, moved ? -35 : -10));
+        EXPECT_FALSE(bar(2, moved ? -25 : -35) || bar(2, moved ? -45 : 5));
+        EXPECT_TRUE(bar(3, 0)) << "a bar of no height is a line";
+        EXPECT_EQ(bar(3, -20), moved);
+        EXPECT_FALSE(bar(4, origin)) << "a hole has no bar";
+    }
+}
+
 TEST(PanePainter, AnInfinityReachesThePlotsEdge)
 {
     const Pane pane = test::HistogramPane(
