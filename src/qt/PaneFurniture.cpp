@@ -214,11 +214,18 @@ private:
             const int x = m_map.X.Pixel(label.Value), advance = m_text.Advance(label.Text);
             if (x < m_map.Plot.Left || x >= m_map.Plot.Right)
                 continue;
-            const int left = std::clamp(x - advance / 2, std::min(room, m_width - advance),
-                                        std::max(0, m_width - advance - room));
+            const int least = std::min(room, m_width - advance);
+            const int left = std::clamp(x - advance / 2, least, std::max(least, m_width - advance - room));
             const auto meets = [&](const std::pair<int, int>& other) {
                 return left < other.second + room && other.first < left + advance + room;
             };
+            // A date with its time is wide. The first one, which stands by the pane's edge, gives way to the
+            // second rather than drive it out.
+            if (taken.size() == 1)
+                if (const int by = taken[0].second - (left - room); by > 0 && taken[0].first - by >= room) {
+                    taken[0] = {taken[0].first - by, taken[0].second - by};
+                    Out.AxisTexts.back().Left -= by;
+                }
             if (std::any_of(taken.begin(), taken.end(), meets))
                 continue;
             taken.emplace_back(left, left + advance);

@@ -4,6 +4,9 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <optional>
+#include <string>
+#include <string_view>
 
 namespace zantroq {
 namespace {
@@ -210,6 +213,56 @@ TEST(PaneFurniture, TheMarkerStandsOnItsPoint)
     EXPECT_EQ(placed.Marker[0].Rect.Bottom, pane->PlotRect().Bottom);
     marker.SetShown(false);
     EXPECT_TRUE(sFurnished(*pane).Placed.Marker.empty());
+}
+
+// The left end of a text of the x axis, nothing where it was left out.
+std::optional<int> LeftOf(const sPaneFurniture& placed, std::string_view text)
+{
+    for (const sPlacedText& there : placed.AxisTexts)
+        if (there.Text == text)
+            return there.Left;
+    return std::nullopt;
+}
+
+TEST(PaneFurniture, TheFirstTimeTextGivesWayToTheLeft)
+{
+    const std::string first = "2024/06/05 16:00:00", second = "2024/06/06 14:45:00";
+    CPaneText words(Family);
+    const int advance = words.Advance(first), other = words.Advance(second);
+    // The texts' middles stand so that the second would begin right where the first one ends.
+    const Pane pane = test::EmptyPane(58 + 200 + 23, 180);
+    CPaneAxis& x = pane->PaneArea().PaneAxes().X();
+    x.ViewLow().SetValue(0); // a pixel a unit
+    x.ViewHigh().SetValue(199);
+    x.TickLabels().RemoveAll();
+    x.TickLabels().Add(advance / 2 - 58 + 15, first); // from 15 on
+    x.TickLabels().Add(15 + advance + other / 2 - 58, second);
+    const sPaneFurniture placed = sFurnished(*pane).Placed;
+    EXPECT_EQ(LeftOf(placed, second), 15 + advance);
+    EXPECT_EQ(LeftOf(placed, first), 10) << "five pixels stay between them";
+    // With no room left of the first text the second is left out.
+    x.TickLabels().RemoveAll();
+    x.TickLabels().Add(advance / 2 - 58 + 8, first);
+    x.TickLabels().Add(8 + advance + other / 2 - 58, second);
+    EXPECT_EQ(LeftOf(sFurnished(*pane).Placed, first), 8);
+    EXPECT_FALSE(LeftOf(sFurnished(*pane).Placed, second));
+}
+
+TEST(PaneFurniture, ATimeTextThatWouldMeetTheOneBeforeIsLeftOut)
+{
+    const Pane pane = test::EmptyPane(58 + 200 + 23, 180);
+    CPaneAxis& x = pane->PaneArea().PaneAxes().X();
+    x.ViewLow().SetValue(0);
+    x.ViewHigh().SetValue(199);
+    x.TickLabels().RemoveAll();
+    x.TickLabels().Add(20, "09:30");
+    x.TickLabels().Add(100, "10:30");
+    x.TickLabels().Add(110, "10:40");
+    x.TickLabels().Add(160, "11:30");
+    const sPaneFurniture placed = sFurnished(*pane).Placed;
+    EXPECT_TRUE(LeftOf(placed, "10:30"));
+    EXPECT_FALSE(LeftOf(placed, "10:40"));
+    EXPECT_TRUE(LeftOf(placed, "11:30"));
 }
 
 TEST(PaneFurniture, AHiddenAxisHasNeitherTextsNorTickMarks)
