@@ -53,13 +53,9 @@ int FlowPiece(const IPriceSource& prices, std::int64_t index, int count, std::in
         down[i] = static_cast<double>(v[i]);
     SplitFlows(typical.Data(), flows, up.Data(), down.Data());
     double *pos = positive + (from - index), *neg = negative + (from - index);
-    SumWindows(up.Data(), windows, terms, pos);
-    SumWindows(down.Data(), windows, terms, neg);
     const auto divisor = static_cast<double>(p);
-    for (std::int64_t i = 0; i < windows; ++i) {
-        pos[i] /= divisor;
-        neg[i] /= divisor;
-    }
+    MeanWindows(up.Data(), windows, terms, divisor, pos);
+    MeanWindows(down.Data(), windows, terms, divisor, neg);
     return static_cast<int>(from - index);
 }
 

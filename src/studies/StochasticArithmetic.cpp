@@ -50,9 +50,8 @@ sStage AverageBefore(const sStage& values, std::int64_t from, std::int64_t to, s
     sStage average(from, to);
     if (average.Values.Size() == 0)
         return average;
-    SumWindows(values.At(from - period), average.Values.Size(), period, average.Values.Data());
-    for (std::int64_t i = 0; i < average.Values.Size(); ++i)
-        average.Values[i] /= static_cast<double>(period);
+    MeanWindows(values.At(from - period), average.Values.Size(), period, static_cast<double>(period),
+                average.Values.Data());
     return average;
 }
 

@@ -3,6 +3,8 @@
 #include "drawing/Lanes.h"
 #include "studies/StudyArrays.h"
 
+#include <algorithm>
+#include <cstring>
 #include <utility>
 
 namespace zantroq {
@@ -49,26 +51,90 @@ void ExtremesInWindows(const double* __restrict in, std::int64_t count, std::int
     Combine<Rule>(from, count, terms - width, out);
 }
 
-} // namespace
-
-void SumWindows(const double* in, std::int64_t count, std::int64_t terms, double* sums)
+// As many windows side by side as Parts vectors hold; each window's own additions keep their order. With a
+// divisor the divisions hide behind the next windows' additions. Returns how many windows are done, all but a
+// last few.
+template<class Vector, std::int64_t Parts, bool Divide>
+[[gnu::always_inline]] inline std::int64_t SumBlocks(const double* in, std::int64_t count, std::int64_t terms,
+                                                     double divisor, double* out)
 {
-    constexpr auto block = static_cast<std::int64_t>(LaneBlock);
+    constexpr auto width = static_cast<std::int64_t>(sizeof(Vector) / sizeof(double)), block = width * Parts;
+    const Vector divisors = Vector{} + divisor;
     std::int64_t i = 0;
     for (; i + block <= count; i += block) {
-        Lanes sum[LaneParts] = {};
-        for (std::int64_t t = 0; t < terms; ++t)
-            for (std::size_t part = 0; part < LaneParts; ++part)
-                sum[part] += LoadLanes(in + i + t + part * LaneWidth);
-        for (std::size_t part = 0; part < LaneParts; ++part)
-            StoreLanes(sums + i + part * LaneWidth, sum[part]);
+        Vector sum[Parts];
+        for (std::int64_t part = 0; part < Parts; ++part)
+            sum[part] = Vector{};
+        std::int64_t t = 0;
+        do
+            for (std::int64_t part = 0; part < Parts; ++part) {
+                Vector next;
+                std::memcpy(&next, in + i + t + part * width, sizeof next);
+                sum[part] += next;
+            }
+        while (++t < terms);
+        for (std::int64_t part = 0; part < Parts; ++part) {
+            const Vector result = Divide ? sum[part] / divisors : sum[part];
+            std::memcpy(out + i + part * width, &result, sizeof result);
+        }
     }
+    return i;
+}
+
+#if defined(__x86_64__) && defined(__GNUC__)
+using WideLanes = double __attribute__((vector_size(32)));
+
+template<bool Divide>
+[[gnu::target("avx2")]] std::int64_t SumWideBlocks(const double* in, std::int64_t count, std::int64_t terms,
+                                                   double divisor, double* out)
+{
+    return SumBlocks<WideLanes, 8, Divide>(in, count, terms, divisor, out);
+}
+
+bool HasWideLanes()
+{
+    static const bool has = __builtin_cpu_supports("avx2") != 0;
+    return has;
+}
+#else
+template<bool Divide> std::int64_t SumWideBlocks(const double*, std::int64_t, std::int64_t, double, double*)
+{
+    return 0;
+}
+
+bool HasWideLanes()
+{
+    return false;
+}
+#endif
+
+template<bool Divide>
+void SumEachWindow(const double* in, std::int64_t count, std::int64_t terms, double divisor, double* out)
+{
+    if (terms < 1) {
+        std::fill_n(out, std::max<std::int64_t>(count, 0), Divide ? 0 / divisor : 0.0);
+        return;
+    }
+    std::int64_t i = HasWideLanes() ? SumWideBlocks<Divide>(in, count, terms, divisor, out) : 0;
+    i += SumBlocks<Lanes, 4, Divide>(in + i, count - i, terms, divisor, out + i);
     for (; i < count; ++i) {
         double sum = 0;
         for (std::int64_t t = 0; t < terms; ++t)
             sum += in[i + t];
-        sums[i] = sum;
+        out[i] = Divide ? sum / divisor : sum;
     }
+}
+
+} // namespace
+
+void SumWindows(const double* in, std::int64_t count, std::int64_t terms, double* sums)
+{
+    SumEachWindow<false>(in, count, terms, 1, sums);
+}
+
+void MeanWindows(const double* in, std::int64_t count, std::int64_t terms, double divisor, double* means)
+{
+    SumEachWindow<true>(in, count, terms, divisor, means);
 }
 
 void LeastInWindows(const double* in, std::int64_t count, std::int64_t terms, double start, double* least)

@@ -8,9 +8,12 @@ namespace zantroq {
 
 // sums[i] = in[i] + in[i + 1] + ... + in[i + terms - 1], added in that order from 0, for i from 0 to count
 // - 1. `in` holds count + terms - 1 values and does not overlap `sums`. No sum is carried from one window to
-// the next, since a floating-point sum that slides rounds differently; sixteen windows are added side by side
+// the next, since a floating-point sum that slides rounds differently; many windows are added side by side
 // instead. Costs count * terms additions.
 void SumWindows(const double* in, std::int64_t count, std::int64_t terms, double* sums);
+
+// means[i] is that sum divided by `divisor`, which need not be the number of terms.
+void MeanWindows(const double* in, std::int64_t count, std::int64_t terms, double divisor, double* means);
 
 // least[i] is the least of `start` and in[i] to in[i + terms - 1], the earliest among equals; a not-a-number
 // is never the least. `in` holds count + terms - 1 values. About log2(terms) passes.
