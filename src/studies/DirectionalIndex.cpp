@@ -1,5 +1,6 @@
 #include "studies/DirectionalIndex.h"
 
+#include "drawing/Lanes.h"
 #include "studies/StudyArrays.h"
 
 #include <algorithm>
@@ -14,6 +15,19 @@ struct sMoves
     double TrueRange, Plus, Minus;
 };
 
+// Absolute differences: falling highs count as upward movement.
+Lanes Magnitude(const Lanes& change)
+{
+    return Lanes{std::fabs(change[0]), std::fabs(change[1])};
+}
+
+// Of the moves of high and low the smaller counts as 0, and both do when they are equal.
+Lanes LargerMove(const Lanes& moves)
+{
+    const Lanes other{moves[1], moves[0]}, none{};
+    return moves <= other ? none : moves;
+}
+
 class CBars
 {
 public:
@@ -26,15 +40,21 @@ public:
 
     sMoves MovesAt(std::int64_t j) const
     {
+        const Lanes moves = LargerMove(Magnitude(Ends(j) - Ends(j - 1)));
+        return {TrueRange(j), moves[0], moves[1]};
+    }
+
+    double TrueRange(std::int64_t j) const
+    {
         const double high = m_high[j], low = m_low[j], closeBefore = m_close[j - 1];
         double range = std::fabs(high - low);
         const double up = std::fabs(closeBefore - high), down = std::fabs(closeBefore - low);
         range = up > range ? up : range;
-        range = down > range ? down : range;
-        // Absolute differences: falling highs count as upward movement.
-        const double a = std::fabs(high - m_high[j - 1]), b = std::fabs(low - m_low[j - 1]);
-        return {range, a <= b ? 0.0 : a, b <= a ? 0.0 : b};
+        return down > range ? down : range;
     }
+
+    // High and low.
+    Lanes Ends(std::int64_t j) const { return Lanes{m_high[j], m_low[j]}; }
 
 private:
     CPriceBlock m_high, m_low, m_close;
@@ -113,21 +133,29 @@ private:
     double m_sum = 0;
 };
 
-// Every index from `from` to `to` - 1 follows the one before, which the state is that of.
+// Every index from `from` to `to` - 1 follows the one before, which the state is that of. The two directions
+// stand side by side: both steps are the same, and one division serves both.
 void Continue(const CBars& bars, std::int64_t from, std::int64_t to, double k, sADXRunningState& state,
               double* __restrict plusDI, double* __restrict minusDI, double* __restrict adx)
 {
     if (from >= to)
         return;
-    sDirection now{state.AvgTR, state.AvgPlus, state.AvgMinus, state.Adx, 0, 0};
+    Lanes average{state.AvgPlus, state.AvgMinus}, before = bars.Ends(from - 1);
+    sDirection now{state.AvgTR, 0, 0, state.Adx, 0, 0};
     for (std::int64_t i = from; i < to; ++i) {
-        now.Step(bars.MovesAt(i), k);
+        const Lanes ends = bars.Ends(i), change = Magnitude(ends - before);
+        before = ends;
+        average = (LargerMove(change) - average) * k + average;
+        now.AvgTR = (bars.TrueRange(i) - now.AvgTR) * k + now.AvgTR;
+        const Lanes indicators = average * 100 / now.AvgTR;
+        now.PlusDI = indicators[0];
+        now.MinusDI = indicators[1];
         now.SmoothADX(k);
         plusDI[i - from] = now.PlusDI;
         minusDI[i - from] = now.MinusDI;
         adx[i - from] = now.Adx;
     }
-    state = {static_cast<std::int32_t>(to - 1), now.AvgTR, now.AvgPlus, now.AvgMinus, now.Adx};
+    state = {static_cast<std::int32_t>(to - 1), now.AvgTR, average[0], average[1], now.Adx};
 }
 
 void ComputePiece(const IPriceSource& prices, std::int64_t index, int count, std::int32_t period,
