@@ -1,5 +1,6 @@
 #include "studies/AverageConvergence.h"
 
+#include "studies/Hole.h"
 #include "studies/StudyArrays.h"
 
 #include <algorithm>
@@ -116,12 +117,13 @@ void ComputePiece(const IPriceSource& prices, std::int64_t index, int count, con
     CFullMACD full(close, periods);
     std::int64_t i = index;
     for (; i < end && i - 1 != state.Index; ++i) {
-        if (!full.HasMACD(i))
+        if (!full.HasMACD(i)) {
+            macd[i - index] = signal[i - index] = StudyHole;
             continue;
+        }
         full.MoveTo(i);
         macd[i - index] = full.Macd;
-        if (full.HasSignal(i))
-            signal[i - index] = full.Signal;
+        signal[i - index] = full.HasSignal(i) ? full.Signal : StudyHole;
         if (full.IsPastSeed(i))
             state = {static_cast<std::int32_t>(i), full.EmaShort, full.EmaLong, full.Signal};
     }
@@ -133,8 +135,11 @@ void ComputePiece(const IPriceSource& prices, std::int64_t index, int count, con
 void ComputeMACD(const IPriceSource& prices, std::int64_t index, int count, const sMACDPeriods& periods,
                  sMACDRunningState& state, double* macd, double* signal)
 {
-    if (periods.Short < 1 || periods.Long < 1 || periods.Signal < 1)
+    if (periods.Short < 1 || periods.Long < 1 || periods.Signal < 1) {
+        std::fill_n(macd, count, StudyHole);
+        std::fill_n(signal, count, StudyHole);
         return;
+    }
     InPieces(count, 0, [&](int offset, int length) {
         ComputePiece(prices, index + offset, length, periods, state, macd + offset, signal + offset);
     });

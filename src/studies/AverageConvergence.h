@@ -19,10 +19,9 @@ struct sMACDRunningState
     double EmaShort = 0, EmaLong = 0, Signal = 0;
 };
 
-// macd[i] and signal[i] are the values at `index` + i, for i from 0 to count - 1. Elements without a value
-// are left as they are; the caller presets them. With any of the three periods below 1 nothing is written and
-// the state is left alone; where the short period is the longer one, nothing has a value before both averages
-// have.
+// macd[i] and signal[i] are the values at `index` + i, for i from 0 to count - 1, the hole value where
+// there is none. With any of the three periods below 1 there are none and the state is left alone; where the
+// short period is the longer one, nothing has a value before both averages have.
 void ComputeMACD(const IPriceSource& prices, std::int64_t index, int count, const sMACDPeriods& periods,
                  sMACDRunningState& state, double* macd, double* signal);
 

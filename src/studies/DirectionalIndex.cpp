@@ -1,6 +1,7 @@
 #include "studies/DirectionalIndex.h"
 
 #include "drawing/Lanes.h"
+#include "studies/Hole.h"
 #include "studies/StudyArrays.h"
 
 #include <algorithm>
@@ -163,8 +164,16 @@ void ComputePiece(const IPriceSource& prices, std::int64_t index, int count, std
 {
     const std::int64_t end = std::min<std::int64_t>(index + count, std::int64_t{prices.Count()} + 2);
     const std::int64_t from = std::max<std::int64_t>(period, index), seedEnd = 2 * std::int64_t{period};
-    if (from >= end)
+    const auto leave = [&](std::int64_t begin, std::int64_t limit) {
+        for (double* line : {plusDI, minusDI, adx})
+            std::fill(line + (begin - index), line + (limit - index), StudyHole);
+    };
+    if (from >= end) {
+        leave(index, index + count);
         return;
+    }
+    leave(index, from);
+    leave(end, index + count);
     const CBars bars(prices, from - 1 == state.Index ? from - 1 : 0, end);
     CFullADX full(bars, period);
     std::int64_t i = from;
@@ -172,8 +181,7 @@ void ComputePiece(const IPriceSource& prices, std::int64_t index, int count, std
         full.MoveTo(i);
         plusDI[i - index] = full.Now.PlusDI;
         minusDI[i - index] = full.Now.MinusDI;
-        if (i >= seedEnd)
-            adx[i - index] = full.Now.Adx;
+        adx[i - index] = i >= seedEnd ? full.Now.Adx : StudyHole;
         if (i > seedEnd)
             state = {static_cast<std::int32_t>(i), full.Now.AvgTR, full.Now.AvgPlus, full.Now.AvgMinus,
                      full.Now.Adx};
@@ -187,8 +195,11 @@ void ComputePiece(const IPriceSource& prices, std::int64_t index, int count, std
 void ComputeADX(const IPriceSource& prices, std::int64_t index, int count, std::int32_t period,
                 sADXRunningState& state, double* plusDI, double* minusDI, double* adx)
 {
-    if (period < 1)
+    if (period < 1) {
+        for (double* line : {plusDI, minusDI, adx})
+            std::fill_n(line, count, StudyHole);
         return;
+    }
     InPieces(count, 0, [&](int offset, int length) {
         ComputePiece(prices, index + offset, length, period, state, plusDI + offset, minusDI + offset,
                      adx + offset);

@@ -14,9 +14,8 @@ struct sADXRunningState
     double AvgTR = 0, AvgPlus = 0, AvgMinus = 0, Adx = 0;
 };
 
-// plusDI[i], minusDI[i] and adx[i] are the values at `index` + i, for i from 0 to count - 1. Elements without
-// a value are left as they are; the caller presets them. With a period below 1 nothing is written and the
-// state is left alone.
+// plusDI[i], minusDI[i] and adx[i] are the values at `index` + i, for i from 0 to count - 1. The hole value
+// stands where there is none: everywhere with a period below 1, which leaves the state alone.
 void ComputeADX(const IPriceSource& prices, std::int64_t index, int count, std::int32_t period,
                 sADXRunningState& state, double* plusDI, double* minusDI, double* adx);
 

@@ -1,5 +1,7 @@
 #include "studies/HistADXChart.h"
 
+#include "studies/Hole.h"
+
 namespace zantroq {
 
 sADXRunningState& CHistADXChart::StudyRunningState()
@@ -10,7 +12,11 @@ sADXRunningState& CHistADXChart::StudyRunningState()
 
 void CHistADXChart::CalcADX(int index, double& plusDI, double& minusDI, double& adx)
 {
-    ComputeADX(*prices, index, 1, Period(), StudyRunningState(), &plusDI, &minusDI, &adx);
+    double newPlus = StudyHole, newMinus = StudyHole, newAdx = StudyHole;
+    ComputeADX(*prices, index, 1, Period(), StudyRunningState(), &newPlus, &newMinus, &newAdx);
+    AssignValue(plusDI, newPlus);
+    AssignValue(minusDI, newMinus);
+    AssignValue(adx, newAdx);
 }
 
 std::vector<sStudyLine> CHistADXChart::Lines() const

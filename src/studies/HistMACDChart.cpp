@@ -20,7 +20,10 @@ sMACDPeriods CHistMACDChart::Periods() const
 
 void CHistMACDChart::CalcMACD(int index, double& macd, double& signal)
 {
-    ComputeMACD(*prices, index, 1, Periods(), StudyRunningState(), &macd, &signal);
+    double newMacd = StudyHole, newSignal = StudyHole;
+    ComputeMACD(*prices, index, 1, Periods(), StudyRunningState(), &newMacd, &newSignal);
+    AssignValue(macd, newMacd);
+    AssignValue(signal, newSignal);
 }
 
 std::vector<sStudyLine> CHistMACDChart::Lines() const

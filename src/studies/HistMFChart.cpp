@@ -3,11 +3,17 @@
 #include "studies/Hole.h"
 #include "studies/MoneyFlowArithmetic.h"
 
+#include <algorithm>
+
 namespace zantroq {
 
 void CHistMFChart::CalcMoneyFlow(int index, double& positive, double& negative) const
 {
-    ComputeMoneyFlow(*prices, index, 1, Period(), &positive, &negative);
+    double newPositive = StudyHole, newNegative = StudyHole;
+    if (ComputeMoneyFlow(*prices, index, 1, Period(), &newPositive, &newNegative) == 0) {
+        positive = newPositive;
+        negative = newNegative;
+    }
 }
 
 std::vector<sStudyLine> CHistMFChart::Lines() const
@@ -21,6 +27,7 @@ void CHistMFChart::Compute(std::int64_t index, int count, std::span<double* cons
 {
     double *total = out[0], *positive = out[1], *negative = out[2];
     const int left = ComputeMoneyFlow(*prices, index, count, Period(), positive, negative);
+    std::fill_n(total, left, StudyHole);
     for (int i = left; i < count; ++i)
         total[i] = IsHole(positive[i]) || IsHole(negative[i]) ? StudyHole : positive[i] + negative[i];
 }

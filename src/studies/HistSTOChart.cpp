@@ -1,5 +1,6 @@
 #include "studies/HistSTOChart.h"
 
+#include "studies/Hole.h"
 #include "studies/StochasticArithmetic.h"
 
 namespace zantroq {
@@ -15,7 +16,10 @@ StochasticSpeed SpeedOf(const sStudySettings& settings)
 
 void CHistSTOChart::CalcStochastic(int index, double& k, double& d) const
 {
-    ComputeStochastic(*prices, index, 1, Period(), SpeedOf(StudySettings()), &k, &d);
+    double newK = StudyHole, newD = StudyHole;
+    ComputeStochastic(*prices, index, 1, Period(), SpeedOf(StudySettings()), &newK, &newD);
+    AssignValue(k, newK);
+    AssignValue(d, newD);
 }
 
 std::vector<sStudyLine> CHistSTOChart::Lines() const

@@ -101,8 +101,7 @@ void CHistStudyChart::DrawStudy()
     RefreshStudyHeader();
 }
 
-// In stretches that are still in the processor's cache when they are preset to holes, computed, and looked at
-// for the axis.
+// In stretches that are still in the processor's cache when they are looked at for the axis.
 sValueRange CHistStudyChart::ComputeLines(const std::vector<sStudyLine>& lines, int first, int shown)
 {
     std::vector<double*> whole, out;
@@ -118,10 +117,8 @@ sValueRange CHistStudyChart::ComputeLines(const std::vector<sStudyLine>& lines, 
     sValueRange range = start.value_or(sValueRange{0, 0});
     InPieces(shown, LookBack(), [&](int offset, int length) {
         out.clear();
-        for (double* line : whole) {
+        for (double* line : whole)
             out.push_back(line + offset);
-            std::fill_n(line + offset, length, StudyHole);
-        }
         Compute(std::int64_t{first} - DrawLag() + offset, length, out);
         for (const double* line : out)
             if (start)

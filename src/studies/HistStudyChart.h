@@ -74,7 +74,8 @@ protected:
     // How many points a whole draw lags behind the price pane.
     virtual int DrawLag() const { return 0; }
 
-    // Computes `count` points from `index` into one array for each computed line, preset to the hole value.
+    // Computes `count` points from `index` into one array for each computed line: every element, with the
+    // hole value where there is none.
     virtual void Compute(std::int64_t index, int count, std::span<double* const> out) = 0;
 
     // How far before its own points a stretch of the series must be read.

@@ -12,4 +12,11 @@ inline bool IsHole(double value)
     return value == StudyHole;
 }
 
+// What has no value leaves the variable as it is.
+inline void AssignValue(double& variable, double value)
+{
+    if (!IsHole(value))
+        variable = value;
+}
+
 } // namespace zantroq

@@ -39,8 +39,10 @@ int FlowPiece(const IPriceSource& prices, std::int64_t index, int count, std::in
               double* positive, double* negative)
 {
     const std::int64_t end = index + count, p = period;
-    const std::int64_t from = std::clamp(p + 1, index, end);
-    if (p < 1 || from == end)
+    const std::int64_t from = p < 1 ? end : std::clamp(p + 1, index, end);
+    std::fill_n(positive, from - index, StudyHole);
+    std::fill_n(negative, from - index, StudyHole);
+    if (from == end)
         return count;
     const std::int64_t windows = end - from, terms = p + 1, flows = windows + p;
 
@@ -63,7 +65,6 @@ void MFIPiece(const IPriceSource& prices, std::int64_t index, int count, std::in
 {
     CStudyArray<double> negative(count);
     const int left = FlowPiece(prices, index, count, period, out, negative.Data());
-    std::fill_n(out, left, StudyHole);
     for (int i = left; i < count; ++i) {
         const double pos = out[i], neg = negative[i];
         out[i] = ((pos - neg) * 50) / (neg + pos) + 50;

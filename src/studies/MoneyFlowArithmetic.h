@@ -9,8 +9,8 @@
 namespace zantroq {
 
 // positive[i] and negative[i] are the flows at `index` + i, for i from 0 to count - 1, neither with a sign.
-// Elements without a value (indices up to the period) are left as they are; the caller presets them. With a
-// period below 1 nothing is written. Answers the number of elements at the beginning that were left.
+// The first elements (indices up to the period, all with a period below 1) have none and get the hole value.
+// Answers their number.
 int ComputeMoneyFlow(const IPriceSource& prices, std::int64_t index, int count, std::int32_t period,
                      double* positive, double* negative);
 

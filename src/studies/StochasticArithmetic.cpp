@@ -1,5 +1,6 @@
 #include "studies/StochasticArithmetic.h"
 
+#include "studies/Hole.h"
 #include "studies/StudyArrays.h"
 #include "studies/WindowArithmetic.h"
 
@@ -60,15 +61,15 @@ void WriteStage(const sStage& values, const sStage& average, std::int64_t index,
                 double* d)
 {
     const std::int64_t seam = std::clamp(average.From, index, end);
-    for (std::int64_t i = std::max(index, values.From); i < seam; ++i)
-        if (const double value = values[i]; !(value < 0))
-            k[i - index] = value;
+    const std::int64_t begin = std::clamp(values.From, index, seam);
+    std::fill_n(k, begin - index, StudyHole);
+    std::fill_n(d, seam - index, StudyHole);
+    for (std::int64_t i = begin; i < seam; ++i)
+        k[i - index] = values[i] < 0 ? StudyHole : values[i];
     for (std::int64_t i = seam; i < end; ++i) {
         const double value = values[i - 1], smooth = average[i];
-        if (!(smooth < 0))
-            d[i - index] = smooth;
-        if (!(smooth < 0) || !(value < 0))
-            k[i - index] = value;
+        k[i - index] = (smooth < 0) & (value < 0) ? StudyHole : value;
+        d[i - index] = smooth < 0 ? StudyHole : smooth;
     }
 }
 
@@ -76,8 +77,11 @@ void StochasticPiece(const IPriceSource& prices, std::int64_t index, int count, 
                      StochasticSpeed speed, double* k, double* d)
 {
     const std::int64_t end = index + count, p = period;
-    if (p < 1 || end <= p)
+    if (p < 1 || end <= p) {
+        std::fill_n(k, count, StudyHole);
+        std::fill_n(d, count, StudyHole);
         return;
+    }
     // Each stage is needed for one period before the stage above it, and not before it begins.
     const auto begin = [&](std::int64_t stageStart, std::int64_t needed) {
         return std::clamp(needed, stageStart, std::max(stageStart, end));
