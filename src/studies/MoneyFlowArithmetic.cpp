@@ -10,16 +10,14 @@ namespace zantroq {
 
 namespace {
 
-CStudyArray<double> TypicalPrices(const IPriceSource& prices, std::int64_t from, std::int64_t to)
+void TypicalPrices(const IPriceSource& prices, std::int64_t from, std::int64_t to, double* __restrict typical)
 {
-    CStudyArray<double> typical(to - from);
     const CPriceBlock low(prices, &IPriceSource::ReadLow, from, to),
         high(prices, &IPriceSource::ReadHigh, from, to);
     const CPriceBlock close(prices, &IPriceSource::ReadClose, from, to);
     const double *l = low.At(from), *h = high.At(from), *c = close.At(from);
-    for (std::int64_t i = 0; i < typical.Size(); ++i)
+    for (std::int64_t i = 0; i < to - from; ++i)
         typical[i] = (c[i] + (l[i] + h[i])) / 3;
-    return typical;
 }
 
 // down holds the volumes. A loop of its own, which the compiler does without branches: rising and falling
@@ -47,7 +45,8 @@ int FlowPiece(const IPriceSource& prices, std::int64_t index, int count, std::in
     const std::int64_t windows = end - from, terms = p + 1, flows = windows + p;
 
     // Element i of the flows is index from - p + i, of the typical prices one index before.
-    const CStudyArray<double> typical = TypicalPrices(prices, from - p - 1, end);
+    CStudyArray<double> typical(flows + 1);
+    TypicalPrices(prices, from - p - 1, end, typical.Data());
     const CVolumeBlock volume(prices, &IPriceSource::ReadVolume, from - p, end);
     const std::int64_t* v = volume.At(from - p);
     CStudyArray<double> up(flows), down(flows);

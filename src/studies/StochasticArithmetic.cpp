@@ -10,7 +10,7 @@ namespace zantroq {
 
 namespace {
 
-// One stage's values for the indices From up to, not including, To.
+// One stage's values for the indices From up to, not including, an end; none where the end is not above From.
 struct sStage
 {
     sStage(std::int64_t from, std::int64_t to) : From(from), Values(to - from) {}
@@ -20,13 +20,12 @@ struct sStage
     CStudyArray<double> Values;
 };
 
-// The raw values of the indices from `from`, at least `period`, to `to` - 1.
-sStage RawStage(const IPriceSource& prices, std::int64_t from, std::int64_t to, std::int64_t period)
+// The raw values of a stage's indices, which are at least `period`.
+void FillRaw(const IPriceSource& prices, std::int64_t period, sStage& raw)
 {
-    sStage raw(from, to);
-    const std::int64_t count = raw.Values.Size();
+    const std::int64_t count = raw.Values.Size(), from = raw.From, to = from + count;
     if (count == 0)
-        return raw;
+        return;
     CStudyArray<double> lowest(count), highest(count);
     {
         const CPriceBlock low(prices, &IPriceSource::ReadLow, from - period, to);
@@ -42,18 +41,14 @@ sStage RawStage(const IPriceSource& prices, std::int64_t from, std::int64_t to, 
         const double value = (c[i] - lowest[i]) / (highest[i] - lowest[i]) * 100;
         raw.Values[i] = lowest[i] == highest[i] ? 0.5 * 100 : value;
     }
-    return raw;
 }
 
-// The plain average of the `period` values before each index, for the indices from `from` to `to` - 1.
-sStage AverageBefore(const sStage& values, std::int64_t from, std::int64_t to, std::int64_t period)
+// The plain average of the `period` values before each of a stage's indices.
+void FillAverage(const sStage& values, std::int64_t period, sStage& average)
 {
-    sStage average(from, to);
-    if (average.Values.Size() == 0)
-        return average;
-    MeanWindows(values.At(from - period), average.Values.Size(), period, static_cast<double>(period),
-                average.Values.Data());
-    return average;
+    if (average.Values.Size() > 0)
+        MeanWindows(values.At(average.From - period), average.Values.Size(), period,
+                    static_cast<double>(period), average.Values.Data());
 }
 
 // %K of `index` is the value one before it once `average` has begun, else the value of the index itself.
@@ -88,16 +83,18 @@ void StochasticPiece(const IPriceSource& prices, std::int64_t index, int count, 
     };
     if (speed == StochasticSpeed::Fast) {
         const std::int64_t averageFrom = begin(2 * p, index), rawFrom = begin(p, index - p);
-        const sStage raw = RawStage(prices, rawFrom, std::max(end, rawFrom), p);
-        const sStage fast = AverageBefore(raw, averageFrom, std::max(end, averageFrom), p);
+        sStage raw(rawFrom, end), fast(averageFrom, end);
+        FillRaw(prices, p, raw);
+        FillAverage(raw, p, fast);
         WriteStage(raw, fast, index, end, k, d);
         return;
     }
     const std::int64_t slowFrom = begin(4 * p, index), fastFrom = begin(2 * p, index - p),
                        rawFrom = begin(p, fastFrom - p);
-    const sStage raw = RawStage(prices, rawFrom, std::max(end, rawFrom), p);
-    const sStage fast = AverageBefore(raw, fastFrom, std::max(end, fastFrom), p);
-    const sStage slow = AverageBefore(fast, slowFrom, std::max(end, slowFrom), p);
+    sStage raw(rawFrom, end), fast(fastFrom, end), slow(slowFrom, end);
+    FillRaw(prices, p, raw);
+    FillAverage(raw, p, fast);
+    FillAverage(fast, p, slow);
     WriteStage(fast, slow, index, end, k, d);
 }
 

@@ -12,25 +12,34 @@
 
 namespace zantroq {
 
-// An array whose elements are unset until written; sized once.
+inline constexpr std::int64_t ShortestPiece = 1024; // points of a stretch of the series
+
+// An array whose elements are unset until written; sized once. That of a short stretch lies in the object
+// itself, since a whole draw makes some thousand of them.
 template<class T> class CStudyArray
 {
 public:
-    explicit CStudyArray(std::int64_t size)
-        : m_size(std::max<std::int64_t>(size, 0)),
-          m_items(std::make_unique_for_overwrite<T[]>(static_cast<std::size_t>(m_size)))
+    explicit CStudyArray(std::int64_t size) : m_size(std::max<std::int64_t>(size, 0))
     {
+        if (m_size > Near)
+            m_far = std::make_unique_for_overwrite<T[]>(static_cast<std::size_t>(m_size));
+        m_items = m_far ? m_far.get() : m_near;
     }
-    T* Data() { return m_items.get(); }
-    const T* Data() const { return m_items.get(); }
+    CStudyArray(const CStudyArray&) = delete;
+    CStudyArray& operator=(const CStudyArray&) = delete;
+    T* Data() { return m_items; }
+    const T* Data() const { return m_items; }
     std::int64_t Size() const { return m_size; }
     T& operator[](std::int64_t i) { return m_items[static_cast<std::size_t>(i)]; }
     const T& operator[](std::int64_t i) const { return m_items[static_cast<std::size_t>(i)]; }
-    std::span<const T> Span() const { return {m_items.get(), static_cast<std::size_t>(m_size)}; }
+    std::span<const T> Span() const { return {m_items, static_cast<std::size_t>(m_size)}; }
 
 private:
+    static constexpr std::int64_t Near = ShortestPiece + 128; // with the look-back of the usual periods
     std::int64_t m_size;
-    std::unique_ptr<T[]> m_items;
+    T* m_items;
+    std::unique_ptr<T[]> m_far;
+    T m_near[Near];
 };
 
 // The values of the series' indices From() up to, not including, To(), addressed by index. Where the series
@@ -70,9 +79,9 @@ private:
 // more than the arithmetic, and long against the `lookback` points that each must read before its own.
 template<class Work> void InPieces(int count, std::int64_t lookback, const Work& work)
 {
-    constexpr std::int64_t shortest = 1024, longest = std::numeric_limits<int>::max();
+    constexpr std::int64_t longest = std::numeric_limits<int>::max();
     const std::int64_t back = std::clamp<std::int64_t>(lookback, 0, longest / 8);
-    const int piece = static_cast<int>(std::max(shortest, back * 8));
+    const int piece = static_cast<int>(std::max(ShortestPiece, back * 8));
     for (int offset = 0; offset < count;) {
         const int length = std::min(piece, count - offset);
         work(offset, length);

@@ -16,22 +16,26 @@ bool SumsAreExact(const CVolumeBlock& volume, std::int64_t terms)
 {
     constexpr std::int64_t exact = std::int64_t{1} << 53;
     const std::int64_t limit = exact / terms;
+    const std::int64_t* const v = volume.At(volume.From());
+    const std::int64_t count = volume.To() - volume.From();
     bool within = true;
-    for (std::int64_t j = volume.From(); j < volume.To(); ++j)
-        within &= volume[j] <= limit && volume[j] >= -limit;
+    for (std::int64_t i = 0; i < count; ++i)
+        within &= v[i] <= limit && v[i] >= -limit;
     return within;
 }
 
 void SlideExactly(const CPriceBlock& close, const CVolumeBlock& volume, std::int64_t from, std::int64_t count,
                   std::int64_t terms, double* out)
 {
-    CStudyArray<std::int64_t> total(count + terms);
+    CStudyArray<std::int64_t> totals(count + terms);
+    std::int64_t* const total = totals.Data();
+    const double* const c = close.At(from - terms);
+    const std::int64_t* const v = volume.At(from - terms + 1);
     std::int64_t sum = 0;
     total[0] = 0;
     for (std::int64_t t = 1; t < count + terms; ++t) {
-        const std::int64_t j = from - terms + t;
-        const std::int64_t sign = (close[j] > close[j - 1]) - (close[j] < close[j - 1]);
-        sum += sign * volume[j];
+        const std::int64_t sign = (c[t] > c[t - 1]) - (c[t] < c[t - 1]);
+        sum += sign * v[t - 1];
         total[t] = sum;
     }
     for (std::int64_t i = 0; i < count; ++i)
