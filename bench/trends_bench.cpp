@@ -59,8 +59,8 @@ struct sTrendPane
         area.CandleLook().SetFilled(true);
         bars.SeriesStyles(2).FillLook().SetColour(0x3c8c1e);
         bars.SeriesStyles(3).FillLook().SetColour(0x2828d2);
-        const std::span<double> high = bars.PaneData().LoadY(1), low = bars.PaneData().LoadY(2),
-                                open = bars.PaneData().LoadY(3), close = bars.PaneData().LoadY(4);
+        const std::span<double> high = bars.PaneData().WholeY(1), low = bars.PaneData().WholeY(2),
+                                open = bars.PaneData().WholeY(3), close = bars.PaneData().WholeY(4);
         std::uint32_t state = 12345;
         const auto next = [&] {
             state = state * 1664525u + 1013904223u;
@@ -76,7 +76,7 @@ struct sTrendPane
         }
         CPaneGroup& curves = window.pane.PaneGroups(2);
         for (int series = 1; series <= 3; ++series) {
-            const std::span<double> y = curves.PaneData().LoadY(series);
+            const std::span<double> y = curves.PaneData().WholeY(series);
             std::copy(close.begin(), close.end(), y.begin());
         }
         bars.CommitPaneData();

@@ -286,15 +286,6 @@ bool CPaneData::SetYVector(int series, std::span<const double> y)
     return true;
 }
 
-std::span<double> CPaneData::LoadY(int series)
-{
-    if (!Has(series))
-        return {};
-    Constant(series).reset();
-    NoteWhole(series);
-    return m_y[static_cast<std::size_t>(series - 1)];
-}
-
 bool CPaneData::GetXVector(int series, std::vector<double>& x) const
 {
     if (!Has(series))

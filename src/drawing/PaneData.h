@@ -62,11 +62,9 @@ public:
     void SetConstantY(int series, double y);
     bool GetXVector(int series, std::vector<double>& x) const;
     // The y values of a series for who writes all of them in place, which saves a copy of what may be long.
-    // Inside a batch, or with CommitPaneData behind it. Empty for a number out of range.
+    // Inside a batch, or with CommitPaneData behind it. Good until a count changes; empty for a number out of
+    // range.
     std::span<double> WholeY(int series);
-    // A bulk load without a copy: the room of all PointCount values of a series, for the caller to write at
-    // once and then to commit with CommitPaneData. Good until a count changes; empty for an unknown series.
-    std::span<double> LoadY(int series);
 
     // For the painter and for whole-vector readers: no copies.
     std::span<const double> X() const { return m_x; }

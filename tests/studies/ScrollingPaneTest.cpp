@@ -107,7 +107,7 @@ TEST(ScrollingPane, AConstantIsWrittenAgainAfterAnyOtherWrite)
     expectConstant(30);
     data.WholeY(2)[0] = 1;
     expectConstant(30);
-    data.LoadY(2)[1] = 1;
+    data.WholeY(2)[1] = 1;
     expectConstant(30);
     ASSERT_TRUE(data.SetYVector(2, std::vector<double>{1, 2, 3}));
     expectConstant(30);
