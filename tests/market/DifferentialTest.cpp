@@ -148,6 +148,55 @@ RC_GTEST_PROP(HistoryReplyAgainstModel, AnyReplyCutAnywhereGivesTheModelsSeries,
     RC_ASSERT(Ticks(whole.Request()) == PlainTicks(complete, extended));
 }
 
+RC_GTEST_PROP(HistoryReplyAgainstModel, AnyReplyOfBarsCutAnywhereGivesTheModelsSeries, ())
+{
+    const int kind = *rc::gen::inRange(3, 10);
+    const bool days = IsDayKind(kind);
+    CSeriesFixture chart(kind);
+    std::string text;
+    struct sBar
+    {
+        std::string Time;
+        double Open, High, Low, Close;
+        std::int64_t Total;
+        std::uint32_t Last;
+        bool operator==(const sBar&) const = default;
+    };
+    std::vector<sBar> model;
+    const int count = *rc::gen::inRange(0, 40);
+    for (int i = 0; i < count; ++i) {
+        std::string stamp = *Stamp();
+        if (days)
+            stamp.resize(*rc::gen::element<std::size_t>(10, 10, 19, 23));
+        std::string line = stamp;
+        for (int field = 2; field < 8; ++field)
+            line += ',' + NumberOrJunk();
+        if (*rc::gen::inRange(0, 8) == 0)
+            line.resize(*rc::gen::inRange<std::size_t>(stamp.size(), line.size())); // it lost its end
+        text += chart.Identifier(kind) + ',' + line + *rc::gen::element<std::string>("\n", "\r", "\r\n");
+        const auto f = PlainSplit(line); // from field 1 on
+        if (f.size() < 7 || !StampExists(days ? stamp.substr(0, 10) + " 00:00:00" : stamp))
+            continue;
+        const auto price = [&](std::size_t field) { return std::atof(f[field - 1].c_str()); };
+        model.push_back({days ? stamp.substr(0, 10) + " 00:00:00" : stamp.substr(0, 19), price(4), price(2),
+                         price(3), price(5), std::atoll(f[5].c_str()), PlainUnsigned(f[6])});
+    }
+    Deliver(chart, text, [&] { return *rc::gen::inRange<std::size_t>(1, 90); });
+    RC_ASSERT(chart.Count() == static_cast<int>(model.size()));
+    for (int i = 0; i < chart.Count(); ++i) {
+        const sHIST_POINT point = chart.Point(i);
+        const sBar bar{chart.TimeText(i),
+                       point.Open,
+                       point.High,
+                       point.Low,
+                       point.Close,
+                       point.TotalVolume,
+                       days ? point.OpenInterest : point.LastSize};
+        RC_ASSERT(point.Time.Milliseconds == 0);
+        RC_ASSERT(bar == model[static_cast<std::size_t>(i)]);
+    }
+}
+
 RC_GTEST_PROP(Level1AgainstModel, RandomTradesMakeTheModelsBars, ())
 {
     const int seconds = *rc::gen::element(60, 300, 2700, 7200);

@@ -221,6 +221,14 @@ TEST_F(SettingsLoader, ARequestKindThatDoesNotFitItsDataTypeTakesTheDefault)
     EXPECT_EQ(Load().Request.RequestKinds, (Ints5{0, 3, 7, 8, 9}));
 }
 
+TEST_F(SettingsLoader, WeeklyAndMonthlyDataHaveNoKindByDaysOrByRange)
+{
+    for (std::int32_t kind = -1; kind <= 10; ++kind) {
+        EXPECT_EQ(RequestKindFits(3, kind), kind == 8);
+        EXPECT_EQ(RequestKindFits(4, kind), kind == 9);
+    }
+}
+
 TEST_F(SettingsLoader, TextsThatCouldBreakACommandNeverGetIn)
 {
     Put("RequestBeginDate", "2014\n010,20140102x,,2014,20140105");
