@@ -2,7 +2,8 @@
 
 #include "feed/FeedConnections.h"
 
-#include <algorithm>
+#include <chrono>
+#include <functional>
 #include <thread>
 
 namespace zantroq::feed {
@@ -37,19 +38,29 @@ public:
 
     void Run()
     {
-        AcceptLookup();
-        AcceptLevel1();
+        Accept(m_lookup);
+        Accept(m_level1);
         m_thread = std::thread([this] { m_context.run(); });
     }
 
-    std::uint16_t LookupPort() const { return m_lookupPort; }
-    std::uint16_t Level1Port() const { return m_level1Port; }
+    std::uint16_t LookupPort() const { return m_lookup.Port; }
+    std::uint16_t Level1Port() const { return m_level1.Port; }
 
 private:
     using tcp = asio::ip::tcp;
 
-    bool Listen(tcp::acceptor& acceptor, std::uint16_t port, const std::string& name, std::string& error)
+    // A port and what becomes of those who come through it.
+    struct sDoor
     {
+        tcp::acceptor Acceptor;
+        asio::steady_timer Pause;
+        std::function<void(tcp::socket)> Start;
+        std::uint16_t Port = 0;
+    };
+
+    bool Listen(sDoor& door, std::uint16_t port, const std::string& name, std::string& error)
+    {
+        tcp::acceptor& acceptor = door.Acceptor;
         const tcp::endpoint endpoint(asio::ip::address_v4::loopback(), port);
         std::error_code code;
         acceptor.open(endpoint.protocol(), code);
@@ -65,33 +76,32 @@ private:
                     code.message() + "; choose another port, or 0 for a free one";
             return false;
         }
-        (&acceptor == &m_lookup ? m_lookupPort : m_level1Port) = acceptor.local_endpoint().port();
+        door.Port = acceptor.local_endpoint().port();
         return true;
     }
 
-    void AcceptLookup()
+    void Accept(sDoor& door)
     {
-        m_lookup.async_accept([this](std::error_code error, tcp::socket socket) {
+        door.Acceptor.async_accept([this, &door](std::error_code error, tcp::socket socket) {
             if (error == asio::error::operation_aborted)
                 return;
-            if (!error) {
-                SendAtOnce(socket);
-                std::make_shared<CLookupConnection>(std::move(socket), m_catalog)->Start();
+            if (error) {
+                AcceptLater(door);
+                return;
             }
-            AcceptLookup();
+            SendAtOnce(socket);
+            door.Start(std::move(socket));
+            Accept(door);
         });
     }
 
-    void AcceptLevel1()
+    // Most likely no descriptor is left, and asking at once would give the same answer until a client goes.
+    void AcceptLater(sDoor& door)
     {
-        m_level1.async_accept([this](std::error_code error, tcp::socket socket) {
-            if (error == asio::error::operation_aborted)
-                return;
-            if (!error) {
-                SendAtOnce(socket);
-                std::make_shared<CLevel1Connection>(std::move(socket), m_catalog, m_live)->Start();
-            }
-            AcceptLevel1();
+        door.Pause.expires_after(std::chrono::milliseconds(100));
+        door.Pause.async_wait([this, &door](std::error_code error) {
+            if (!error)
+                Accept(door);
         });
     }
 
@@ -106,8 +116,12 @@ private:
     // Behind the catalog, so that connections still held by the context's handlers go before what they refer
     // to.
     asio::io_context m_context{1};
-    tcp::acceptor m_lookup{m_context}, m_level1{m_context};
-    std::uint16_t m_lookupPort = 0, m_level1Port = 0;
+    sDoor m_lookup{tcp::acceptor(m_context), asio::steady_timer(m_context), [this](tcp::socket socket) {
+                       std::make_shared<CLookupConnection>(std::move(socket), m_catalog)->Start();
+                   }};
+    sDoor m_level1{tcp::acceptor(m_context), asio::steady_timer(m_context), [this](tcp::socket socket) {
+                       std::make_shared<CLevel1Connection>(std::move(socket), m_catalog, m_live)->Start();
+                   }};
     std::thread m_thread;
 };
 

@@ -3,13 +3,17 @@
 #include "TemporaryFolder.h"
 
 #include <algorithm>
+#include <chrono>
 #include <csignal>
 #include <cstdio>
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <memory>
 #include <regex>
 #include <sstream>
+#include <sys/resource.h>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 #include <vector>
 
@@ -21,7 +25,8 @@ class CFeedProgram
 {
 public:
     // Where no output file is named, the test reads the output.
-    explicit CFeedProgram(std::vector<std::string> arguments, const char* output = nullptr)
+    explicit CFeedProgram(std::vector<std::string> arguments, const char* output = nullptr,
+                          rlim_t descriptors = 0)
         : m_errors(m_folder.Path() / "errors")
     {
         int pipes[2];
@@ -34,6 +39,8 @@ public:
                 _exit(99);
             close(pipes[0]);
             close(pipes[1]);
+            if (const rlimit limit{descriptors, descriptors}; descriptors > 0)
+                setrlimit(RLIMIT_NOFILE, &limit);
             arguments.insert(arguments.begin(), ZANTROQ_FEED_PROGRAM);
             std::vector<char*> texts;
             for (auto& argument : arguments)
@@ -68,6 +75,17 @@ public:
         int status = 0;
         waitpid(m_process, &status, 0);
         m_process = 0;
+        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    }
+    // The same, with the processor time that it took.
+    int Wait(double& seconds)
+    {
+        int status = 0;
+        rusage used{};
+        wait4(m_process, &status, 0, &used);
+        m_process = 0;
+        const auto inSeconds = [](const timeval& time) { return time.tv_sec + time.tv_usec / 1e6; };
+        seconds = inSeconds(used.ru_utime) + inSeconds(used.ru_stime);
         return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     }
     std::string Errors() const
@@ -199,6 +217,25 @@ TEST(FeedProgram, HelpAndVersionAreResults)
     EXPECT_TRUE(version.Line().starts_with("zantroq-feed "));
     EXPECT_EQ(version.Wait(), 0);
     EXPECT_EQ(version.Errors(), "");
+}
+
+// Asking again at once for the next client kept a core busy for as long as no descriptor was left.
+TEST(FeedProgram, WithoutADescriptorForTheNextClientItWaits)
+{
+    CFeedProgram program({"--lookup-port", "0", "--level1-port", "0"}, nullptr, 20);
+    std::uint16_t lookup = 0, level1 = 0;
+    ASSERT_TRUE(program.Listens(lookup, level1));
+    {
+        std::vector<std::unique_ptr<CFeedClient>> clients;
+        for (int i = 0; i < 40; ++i)
+            clients.push_back(std::make_unique<CFeedClient>(i % 2 == 0 ? lookup : level1));
+        std::this_thread::sleep_for(std::chrono::seconds(2));
+    }
+    EXPECT_TRUE(CFeedClient(lookup).Ask("HDX,GOOG,1,1,6").starts_with("6,2008-10-14,"));
+    program.Signal(SIGTERM);
+    double seconds = 0;
+    EXPECT_EQ(program.Wait(seconds), 0);
+    EXPECT_LT(seconds, 0.6);
 }
 
 TEST(FeedProgram, AnOutputThatCannotBeWrittenIsExitFourAndOneSentence)
