@@ -9,7 +9,7 @@
 namespace zantroq::feed {
 namespace {
 
-// A line of more would not fit its readers' buffers.
+// More than any client has use for; a line of more could outgrow its reader.
 constexpr std::size_t MostFields = 88;
 constexpr std::string_view MarketCenter = "1";
 constexpr std::string_view PlainConditions = "01";

@@ -14,6 +14,8 @@ namespace {
 constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 // More than any market trades in a day, and small enough for the sum of a million rows.
 constexpr std::int64_t LargestCount = 5'000'000'000'000;
+// Level 1 lines carry it, and their readers take no more than some 4,000 bytes a line.
+constexpr std::size_t LongestDescription = 1000;
 constexpr std::size_t NoColumn = static_cast<std::size_t>(-1);
 
 // Walks the rows of a file below its header and keeps the columns by name.
@@ -131,6 +133,16 @@ bool ReadTime(CCsvRows& rows, std::size_t column, std::string_view name, TFeedTi
     return false;
 }
 
+// At most so many bytes of UTF-8 text, and no half character at its end.
+std::string_view CutText(std::string_view text, std::size_t most)
+{
+    if (text.size() <= most)
+        return text;
+    while (most > 0 && (static_cast<unsigned char>(text[most]) & 0xC0) == 0x80)
+        --most;
+    return text.substr(0, most);
+}
+
 bool ReadListId(CCsvRows& rows, std::size_t column, std::string_view name, int& id)
 {
     constexpr int largest = 255;
@@ -236,7 +248,7 @@ std::vector<sLISTED_SYMBOL> ReadSymbols(std::string_view text, const std::string
         if (!ReadListId(rows, market, "market_id", listed.MarketId) ||
             !ReadListId(rows, type, "security_type_id", listed.SecurityTypeId))
             continue;
-        listed.Description = rows.Field(description);
+        listed.Description = CutText(rows.Field(description), LongestDescription);
         if (listed.Description.empty())
             listed.Description = listed.Symbol;
         std::replace(listed.Description.begin(), listed.Description.end(), ',', ' ');

@@ -103,6 +103,19 @@ TEST_F(Level1Session, TheFundamentalLineCarriesCodeAndDecimalsAt39And40)
     EXPECT_EQ(fields[40], "5");
 }
 
+TEST_F(Level1Session, NoDescriptionMakesALineTooLongForItsReaders)
+{
+    CTemporaryFolder second;
+    second.Write("symbols.csv",
+                 "symbol,market_id,security_type_id,description\nDY,2,1," + std::string(50'000, 'x') + "\n");
+    m_catalog.AddFolder(second.Path());
+    CLevel1Session session(m_catalog, {});
+    const auto lines = Lines(Say(session, "wDY"));
+    ASSERT_EQ(lines.size(), 2u);
+    EXPECT_LT(lines[0].size(), 4095u);
+    EXPECT_EQ(Fields(lines[0])[40], "2");
+}
+
 TEST_F(Level1Session, FieldsComeInTheOrderAskedForWithTheSymbolFirst)
 {
     CLevel1Session session(m_catalog, {});

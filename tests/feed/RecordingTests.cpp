@@ -235,6 +235,20 @@ TEST(SymbolList, ABadRowNamesFileAndLineAndCostsThatRowAlone)
                                }));
 }
 
+// A level 1 line that carries it has to fit a reader's 4,096 bytes.
+TEST(SymbolList, ALongDescriptionIsCutBetweenItsCharacters)
+{
+    sRECORDING_REPORT report;
+    const std::string header = "symbol,market_id,security_type_id,description\n";
+    const std::string fits(1000, 'd'), wide = std::string(999, 'd') + "\xC3\xA4 and more";
+    const auto listed =
+        ReadSymbols(header + "A,1,1," + fits + "\nB,1,1," + fits + "d\nC,1,1," + wide + "\n", "x", report);
+    ASSERT_EQ(listed.size(), 3u);
+    EXPECT_EQ(listed[0].Description, fits);
+    EXPECT_EQ(listed[1].Description, fits);
+    EXPECT_EQ(listed[2].Description, std::string(999, 'd'));
+}
+
 TEST(SymbolList, WithoutAHeaderTheFileIsNotUsed)
 {
     sRECORDING_REPORT report;
