@@ -2,6 +2,7 @@
 #include "RunProcess.h"
 #include "TemporaryFolder.h"
 #include "platform/SettingsFile.h"
+#include "settings/SettingsLoader.h"
 
 #include <gtest/gtest.h>
 #include <thread>
@@ -31,6 +32,28 @@ TEST(SettingsProcesses, NoWriteIsLostBetweenProcessesThatCreateTheFileTogether)
     for (const pid_t child : children)
         EXPECT_EQ(test::WaitFor(child), 0);
     EXPECT_EQ(CSettingsFile(path).List("K").size(), std::size_t(Processes * Writes));
+}
+
+// Reads and writes of the same values at the moment in which the file is made: none may fail for the others.
+TEST(SettingsProcesses, WindowsThatStartTogetherOnAFreshFileLeaveAllDefaults)
+{
+    std::size_t expected = 0;
+    {
+        const auto memory = MakeMemorySettingsKey();
+        LoadChartSettings(*memory, "20260102");
+        expected = memory->List().size();
+    }
+    const CTemporaryFolder folder;
+    const std::string path = folder.File("new/settings.db");
+    std::vector<pid_t> children;
+    for (int p = 0; p < 4; ++p)
+        children.push_back(test::StartChild([&] {
+            const auto key = OpenSettingsKey(path, ChartSettingsKey);
+            LoadChartSettings(*key, "20260102");
+            return key->List().size() == expected ? 0 : 1;
+        }));
+    for (const pid_t child : children)
+        EXPECT_EQ(test::WaitFor(child), 0);
 }
 
 TEST(SettingsProcesses, EveryFinishedWriteOfAKilledProcessIsThere)
