@@ -140,6 +140,14 @@ int IntervalEnd(int tradeSeconds, int intervalSeconds)
     return static_cast<int>(end > 2 * SecondsPerDay ? 2 * SecondsPerDay : end);
 }
 
+void Widen(sHIST_POINT& bar, double price)
+{
+    if (price > bar.High)
+        bar.High = price;
+    if (price < bar.Low)
+        bar.Low = price;
+}
+
 void MergeInterval(CChartHistRequest& request, const Level1Fields& fields)
 {
     if (!IsTrade(fields[Level1Contents], request.HasExtendedTrades()))
@@ -162,10 +170,7 @@ void MergeInterval(CChartHistRequest& request, const Level1Fields& fields)
         request.AppendPoint(point);
         return;
     }
-    if (price > point.High)
-        point.High = price;
-    if (price < point.Low)
-        point.Low = price;
+    Widen(point, price);
     point.Close = price;
     point.LastSize += size;
     point.TotalVolume = totalVolume;
@@ -195,14 +200,10 @@ void MergeDay(CChartHistRequest& request, char messageType, const Level1Fields& 
     if (!IsTrade(contents, request.HasExtendedTrades()) || (messageType == 'P' && !newDay))
         return;
     const double price = TextToDouble(fields[Level1Last]);
-    if (HasAny(contents, "C")) {
+    if (HasAny(contents, "C"))
         TakeDayValues(point, fields, price);
-    } else {
-        if (price > point.High)
-            point.High = price;
-        if (price < point.Low)
-            point.Low = price;
-    }
+    else
+        Widen(point, price);
     point.Close = price;
     point.TotalVolume = TextToInt64(fields[Level1TotalVolume]);
     point.OpenInterest = TextToUnsigned(fields[Level1OpenInterest]);
