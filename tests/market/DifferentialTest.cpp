@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <optional>
 #include <rapidcheck/gtest.h>
 
 using namespace zantroq;
@@ -294,6 +295,58 @@ RC_GTEST_PROP(Level1AgainstModel, RandomTradesMakeTheModelsDays, ())
                        point.Close};
         RC_ASSERT(bar == model[static_cast<std::size_t>(i)]);
     }
+}
+
+// Live lines of all types around a reply that ends somewhere among them: until then only the newest counts.
+RC_GTEST_PROP(Level1AgainstModel, RandomTradesAroundALoadMakeTheModelsTicks, ())
+{
+    const bool extended = *rc::gen::arbitrary<bool>();
+    CSeriesFixture chart(0);
+    chart.Request().SetExtendedTrades(extended);
+    const int count = *rc::gen::inRange(0, 40), end = *rc::gen::inRange(0, count + 1);
+    std::vector<sTick> model;
+    struct sLive
+    {
+        sTick Tick;
+        bool Counts;
+    };
+    std::optional<sLive> kept;
+    for (int i = 0; i <= count; ++i) {
+        if (i == end) {
+            chart.Complete();
+            if (kept && kept->Counts)
+                model.push_back(kept->Tick);
+        }
+        if (i == count)
+            break;
+        const std::string contents = *rc::gen::element<std::string>("C", "Cba", "E", "bO", "ba", "", "v");
+        const std::string type = *rc::gen::element<std::string>("Q", "Q", "Q", "P", "T", "F", "X");
+        const std::string clock = CPlainIntervals::Clock(*rc::gen::inRange(0, 86400));
+        const std::string date = *rc::gen::element<std::string>("01/02/2014", "02/28/2014");
+        const int price = *rc::gen::inRange(0, 1000), size = *rc::gen::inRange(0, 1000);
+        auto line = zantroq::test::Trade(date, clock + ".125", std::to_string(price / 8.0),
+                                         std::to_string(size), contents, std::to_string(i));
+        line.Set(0, type)
+            .Set(6, std::to_string(price))
+            .Set(7, std::to_string(size))
+            .Set(17, std::to_string(i));
+        if (type == "F")
+            line.Set(22, std::string(18, ',')); // as long as such a line is
+        chart.Live(line);
+        if (type == "F")
+            continue;
+        const bool closing = contents.find('C') != std::string::npos;
+        const bool other = contents.find_first_of("EO") != std::string::npos;
+        const sLive live{{"2014-" + date.substr(0, 2) + "-" + date.substr(3, 2) + " " + clock + ".125",
+                          price / 8.0, double(price), double(size), static_cast<std::uint32_t>(size),
+                          static_cast<std::uint32_t>(i), i, contents.empty() ? '\0' : contents[0]},
+                         type == "Q" && (closing || (extended && other))};
+        if (i < end)
+            kept = live;
+        else if (live.Counts)
+            model.push_back(live.Tick);
+    }
+    RC_ASSERT(Ticks(chart.Request()) == model);
 }
 
 RC_GTEST_PROP(RangeCheckAgainstModel, NumbersAdmitWhatTheTextsAdmit, ())
