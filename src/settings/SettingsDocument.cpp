@@ -63,7 +63,7 @@ not belong to their data type. Of switches, "1" is on and anything else off.
 ### Period lists
 
 Ten entries in study order: RSI, Momentum, ROC, OBV, MACD, Stochastics, Volume, Money Flow, MFI, ADX. Where the list is missing
-or empty it is put together from the older single values, each of which is then deleted, and stored.
+or empty it is put together from the older single values and stored, and then those are deleted.
 
 ### Stack of panes
 
