@@ -164,7 +164,8 @@ std::optional<sCommandLine> ReadCommandLine(int argc, char** argv, int& exitCode
     app.add_flag("--show", line.Show, "With --replay: in a window");
     app.set_version_flag("--version", "zantroq-chart " ZANTROQ_VERSION);
     app.footer("Exit codes: 0 done, 2 wrong usage, 3 the feed gave no answer in time, 4 an output could not "
-               "be written.\n--snapshot and --replay need no display.");
+               "be written.\n--snapshot and --replay need no display.\n"
+               "ZANTROQ_LOOK=light, dark or system (default) chooses the look of a window.");
     try {
         app.parse(argc, argv);
         if (app.count("--data") > 0)

@@ -21,7 +21,7 @@ CHostWindow::CHostWindow(const sChartCtrlSetup& setup)
     m_strip->setFont(BarFont());
     m_strip->setIndent(8);
     m_strip->setAccessibleName("Notice");
-    m_strip->setStyleSheet("background: #8a4b00; color: #ffffff;");
+    m_strip->setStyleSheet("QLabel { background: #8a4b00; color: #ffffff; }");
     m_strip->hide();
     setFocusProxy(m_chart);
 }

@@ -2,8 +2,11 @@
 #include "CommandLine.h"
 #include "Session.h"
 
+#include "qt/DesktopLook.h"
+
 #include <QApplication>
 #include <QHashFunctions>
+#include <QStyle>
 #include <QStyleFactory>
 
 #include <csignal>
@@ -27,6 +30,21 @@ void OnToolkitMessage(QtMsgType type, const QMessageLogContext& context, const Q
         std::fprintf(stderr, "zantroq-chart: %s\n", qPrintable(message));
 }
 
+constexpr const char* LookVariable = "ZANTROQ_LOOK";
+
+bool IsLook(const QByteArray& look)
+{
+    return look.isEmpty() || look == "system" || look == "light" || look == "dark";
+}
+
+void TakeLook(const QByteArray& look)
+{
+    if (look == "dark")
+        QApplication::setPalette(zantroq::DarkPalette());
+    else if (look == "light")
+        QApplication::setPalette(QApplication::style()->standardPalette());
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -45,6 +63,12 @@ int main(int argc, char** argv)
         // The order in which fonts go into a PDF file follows a hash.
         QHashSeed::setDeterministicGlobalSeed();
     }
+    const QByteArray look = line->NeedsDisplay() ? qgetenv(LookVariable) : QByteArray();
+    if (!IsLook(look)) {
+        Complain(std::string(LookVariable) + "=" + look.toStdString() +
+                 ": not a look; use light, dark or system");
+        return ExitUsage;
+    }
     qInstallMessageHandler(OnToolkitMessage);
     if (qEnvironmentVariableIsEmpty("QT_STYLE_OVERRIDE"))
         QApplication::setStyle("Fusion");
@@ -53,5 +77,6 @@ int main(int argc, char** argv)
     QApplication application(count, argv);
     QApplication::setApplicationName("zantroq-chart");
     QApplication::setApplicationVersion(ZANTROQ_VERSION);
+    TakeLook(look);
     return CSession(*line).Run();
 }

@@ -77,17 +77,20 @@ private:
 
 } // namespace
 
-QIcon CommandIcon(int command, const QPalette& palette)
+QIcon NamedIcon(const QString& name, const QPalette& palette)
 {
     LoadResources();
-    const char* name = IconName(command);
-    if (name == nullptr)
-        return {};
     QFile file(QString(":/zantroq/icons/%1.svg").arg(name));
     if (!file.open(QIODevice::ReadOnly))
         return {};
     return QIcon(new CDrawingEngine(file.readAll(), palette.color(QPalette::Active, QPalette::ButtonText),
                                     palette.color(QPalette::Disabled, QPalette::ButtonText)));
+}
+
+QIcon CommandIcon(int command, const QPalette& palette)
+{
+    const char* name = IconName(command);
+    return name == nullptr ? QIcon() : NamedIcon(name, palette);
 }
 
 } // namespace zantroq

@@ -10,4 +10,7 @@ namespace zantroq {
 // The icon of a command, empty for a command without one. Later changes of the palette need a new icon.
 QIcon CommandIcon(int command, const QPalette& palette);
 
+// One of the drawings of the resources by its name; empty for another name.
+QIcon NamedIcon(const QString& name, const QPalette& palette);
+
 } // namespace zantroq

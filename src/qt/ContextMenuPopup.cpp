@@ -8,6 +8,12 @@ void CContextMenuPopup::Open(const sContextMenu& model, int x, int y)
 {
     auto* menu = new QMenu;
     menu->setAttribute(Qt::WA_DeleteOnClose);
+    // On a dark desktop a menu would hardly stand out from a dark chart under it.
+    QPalette palette = menu->palette();
+    if (palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness()) {
+        palette.setColor(QPalette::Base, palette.color(QPalette::Window).lighter(115));
+        menu->setPalette(palette);
+    }
     m_picked = 0;
     Fill(*menu, model.Items);
     if (Extend)

@@ -1,20 +1,28 @@
 #include "qt/MessageBox.h"
 
+#include "qt/CommandIcons.h"
+
+#include <QAbstractButton>
 #include <QMessageBox>
 
 namespace zantroq {
 namespace {
 
-QMessageBox::Icon Icon(BoxIcon icon)
+constexpr int PictureSize = 32;
+
+void ShowPicture(QMessageBox& box, BoxIcon icon)
 {
-    switch (icon) {
-    case BoxIcon::Error:
-        return QMessageBox::Critical;
-    case BoxIcon::Question:
-        return QMessageBox::Question;
-    default:
-        return QMessageBox::NoIcon;
-    }
+    if (icon == BoxIcon::None)
+        return;
+    const QIcon picture = NamedIcon(icon == BoxIcon::Error ? "error" : "question", box.palette());
+    box.setIconPixmap(picture.pixmap(QSize(PictureSize, PictureSize), box.devicePixelRatioF()));
+}
+
+// Words alone: a desktop without an icon theme would put discs before them.
+void ShowPlainButtons(QMessageBox& box)
+{
+    for (QAbstractButton* button : box.buttons())
+        button->setIcon(QIcon());
 }
 
 } // namespace
@@ -23,18 +31,20 @@ BoxAnswer CMessageBox::Ask(const std::string& text, const std::string& caption, 
                            BoxIcon icon)
 {
     QMessageBox box(m_parent.window());
-    box.setIcon(Icon(icon));
+    ShowPicture(box, icon);
     // Without a caption the title stays blank; the desktop would put the program's name there.
     box.setWindowTitle(caption.empty() ? QString(" ") : QString::fromStdString(caption));
     box.setTextFormat(Qt::PlainText);
     box.setText(QString::fromStdString(text));
     if (buttons == BoxButtons::Ok) {
         box.setStandardButtons(QMessageBox::Ok);
+        ShowPlainButtons(box);
         box.exec();
         return BoxAnswer::Ok;
     }
     box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
     box.setEscapeButton(QMessageBox::No);
+    ShowPlainButtons(box);
     return box.exec() == QMessageBox::Yes ? BoxAnswer::Yes : BoxAnswer::No;
 }
 

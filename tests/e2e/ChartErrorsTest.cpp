@@ -25,7 +25,7 @@ TEST_F(ChartErrors, HelpAndVersionGoToStandardOutput)
     EXPECT_EQ(help.ExitCode, 0);
     EXPECT_EQ(help.Err, "");
     for (const char* option : {"--data", "--interval", "--size", "--feed", "--snapshot", "--settle",
-                               "--timeout", "--replay", "--show", "--version"})
+                               "--timeout", "--replay", "--show", "--version", "ZANTROQ_LOOK"})
         EXPECT_NE(help.Out.find(option), std::string::npos) << option;
     EXPECT_EQ(Chart({"--version"}).Out.rfind("zantroq-chart ", 0), 0u);
 }
@@ -130,6 +130,15 @@ TEST_F(ChartErrors, AWindowWithoutADisplayIsRefused)
     const sRun run = Run(ZANTROQ_CHART, {"GOOG"}, broken);
     EXPECT_EQ(run.ExitCode, 2);
     EXPECT_EQ(run.Err, "zantroq-chart: " + sentence + "\n");
+}
+
+TEST_F(ChartErrors, ALookThatIsNoneIsNamed)
+{
+    QProcessEnvironment pink = Environment();
+    pink.insert("ZANTROQ_LOOK", "pink");
+    const sRun run = Run(ZANTROQ_CHART, {"GOOG"}, pink);
+    EXPECT_EQ(run.ExitCode, 2);
+    EXPECT_EQ(run.Err, "zantroq-chart: ZANTROQ_LOOK=pink: not a look; use light, dark or system\n");
 }
 
 TEST_F(ChartErrors, ASnapshotMindsNoBrokenDisplay)

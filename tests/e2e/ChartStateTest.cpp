@@ -134,4 +134,14 @@ TEST_F(ChartState, SettlingTakesLiveTrades)
     EXPECT_EQ(state.at("status"), "1001 datapoints available.  Displaying 120.");
 }
 
+TEST_F(ChartState, TheDarkColoursOfTheDocumentsAreTaken)
+{
+    const sRun import = Settings({"import", QString(ZANTROQ_DOCS_FOLDER) + "/dark-chart.json"});
+    ASSERT_EQ(import.ExitCode, 0) << import.Err;
+    const json state = State({"GOOG", "--data", "daily", "--feed", "embedded"});
+    constexpr int Back = 0x1F1A16; // #161a1f with red in the low byte
+    for (const json& pane : state.at("panes"))
+        EXPECT_EQ(pane.at("interior").at("background"), Back);
+}
+
 } // namespace zantroq::test

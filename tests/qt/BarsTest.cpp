@@ -2,6 +2,7 @@
 #include "qt/ChartBars.h"
 #include "qt/ChartScrollBar.h"
 #include "qt/CommandIcons.h"
+#include "qt/DesktopLook.h"
 #include "qt/StatusLine.h"
 #include "window/WindowCommands.h"
 
@@ -12,6 +13,8 @@
 #include <QToolButton>
 
 #include <gtest/gtest.h>
+
+#include <cmath>
 
 using namespace zantroq;
 
@@ -198,6 +201,64 @@ TEST(StatusLine, PartsEndAtTheirEdges)
     EXPECT_EQ(CStatusLine::PartRect(0, 620), QRect(0, 0, 462, 20));
     EXPECT_EQ(CStatusLine::PartRect(1, 620), QRect(462, 0, 85, 20));
     EXPECT_EQ(CStatusLine::PartRect(2, 620), QRect(547, 0, 73, 20));
+}
+
+TEST(StatusLine, ALastTradeWithoutRoomLosesItsSizeAndNeverHalfANumber)
+{
+    QFont font;
+    font.setPixelSize(12);
+    // The least room that a text is shown in; letters get a little narrower before anything goes.
+    const auto width = [&font](const QString& text) {
+        return QFontMetrics(font).horizontalAdvance(text) * 78 / 100 + 1;
+    };
+    const auto shown = [&font](const QString& text, int room) {
+        return CStatusLine::ShortTrade(text, font, room).toStdString();
+    };
+    EXPECT_EQ(shown("362.78 x 8164321", width("362.78 x 8164321")), "362.78 x 8164321");
+    EXPECT_EQ(shown("362.78 x 8164321", width("362.78 x 8.2M")), "362.78 x 8.2M");
+    EXPECT_EQ(shown("362.78 x 1290000000", width("362.78 x 1.3B")), "362.78 x 1.3B");
+    EXPECT_EQ(shown("362.78 x 88912", width("362.78 x 89K")), "362.78 x 89K");
+    EXPECT_EQ(shown("362.78 x 8164321", width("362.78")), "362.78");
+    EXPECT_EQ(shown("", 67), "");
+}
+
+TEST(MessageBoxPicture, EachKindHasOne)
+{
+    for (const char* const name : {"question", "error"})
+        EXPECT_FALSE(NamedIcon(name, QApplication::palette()).pixmap(QSize(32, 32), 2).isNull()) << name;
+    EXPECT_TRUE(NamedIcon("no-such", QApplication::palette()).isNull());
+}
+
+// Relative luminance and contrast as the web's accessibility guidelines define them (WCAG 2.1, 2018).
+double Luminance(const QColor& colour)
+{
+    const auto linear = [](double part) {
+        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
+           0.0722 * linear(colour.blueF());
+}
+
+double Contrast(const QColor& one, const QColor& other)
+{
+    const double a = Luminance(one), b = Luminance(other);
+    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+TEST(DesktopLook, DarkTextsCanBeRead)
+{
+    const QPalette dark = DarkPalette();
+    const std::pair<QPalette::ColorRole, QPalette::ColorRole> pairs[]{
+        {QPalette::WindowText, QPalette::Window},        {QPalette::Text, QPalette::Base},
+        {QPalette::ButtonText, QPalette::Button},        {QPalette::ToolTipText, QPalette::ToolTipBase},
+        {QPalette::Text, QPalette::AlternateBase},       {QPalette::Link, QPalette::Base},
+        {QPalette::HighlightedText, QPalette::Highlight}};
+    for (const auto& [text, back] : pairs) {
+        EXPECT_GE(Contrast(dark.color(text), dark.color(back)), back == QPalette::Highlight ? 4.0 : 4.5)
+            << text << " on " << back;
+        EXPECT_GE(Contrast(dark.color(QPalette::Disabled, text), dark.color(QPalette::Disabled, back)), 2.5)
+            << text << " at rest on " << back;
+    }
 }
 
 namespace {

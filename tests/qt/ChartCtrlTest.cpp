@@ -1,5 +1,6 @@
 // The control with a real chart window and a real feed behind it.
 #include "qt/ChartFixture.h"
+#include "qt/MessageBox.h"
 #include "qt/PictureDialog.h"
 
 #include <QAbstractButton>
@@ -333,6 +334,30 @@ TEST_F(CChartCtrlTest, SavePictureTakesItsKindFromTheDialogAndSaysWhatCannotBeWr
     EXPECT_EQ(Window().AskedBoxes()[0].Text,
               m_folder.filePath("no/such/a.csv").toStdString() +
                   ": cannot be written (no such file or directory); choose another place");
+}
+
+TEST(MessageBox, WithoutACaptionItsTitleIsBlankAndEscapeMeansNo)
+{
+    QWidget window;
+    CMessageBox boxes(window);
+    const auto ask = [&boxes](const std::string& caption, QString& title) {
+        QTimer answer;
+        answer.setInterval(20);
+        QObject::connect(&answer, &QTimer::timeout, &answer, [&title] {
+            auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (box == nullptr)
+                return;
+            title = box->windowTitle();
+            QTest::keyClick(box, Qt::Key_Escape);
+        });
+        answer.start();
+        return boxes.Ask("Delete flashing trendline?", caption, BoxButtons::YesNo, BoxIcon::Question);
+    };
+    QString title;
+    EXPECT_EQ(ask("", title), BoxAnswer::No);
+    EXPECT_EQ(title, " ");
+    EXPECT_EQ(ask("Restoring ticks", title), BoxAnswer::No);
+    EXPECT_EQ(title, "Restoring ticks");
 }
 
 TEST(PictureDialog, ProposesANameThatAFileMayHave)
