@@ -1,8 +1,10 @@
 #!/bin/sh
 # Remakes the pictures of the documents: docs/images/studies/<name>.png, one for each study, and all.png with all ten;
-# docs/images/trends/<name>.png, one for each kind of trendline, drawn with the mouse of a replay script.
+# docs/images/trends/<name>.png, one for each kind of trendline, drawn with the mouse of a replay script;
+# docs/images/window.png and window-dark.png, the real window on a display of its own (packages xvfb, xdotool and
+# imagemagick; left as they are where one is missing).
 # Usage: docs/make-pictures.sh [FOLDER OF THE BUILT PROGRAMS]     (default: build/release/bin)
-# Works on a settings file of its own; needs no display and no feed.
+# Works on a settings file of its own; needs no display of yours and no feed.
 set -eu
 
 root=$(cd "$(dirname "$0")/.." && pwd)
@@ -82,3 +84,32 @@ trend pitchfork 32786 330 125 385 185 220 95
 trend fibonacci-fan 32789 88 88 345 125
 trend fibonacci-retracements 32790 260 92 345 158
 trend speed-resistance 32788 88 88 345 150
+
+# window NAME LOOK: the window as a person sees it, with the mouse over a day.
+window() {
+    Xvfb -displayfd 3 -screen 0 1280x800x24 3>"$work/display" 2>/dev/null &
+    server=$!
+    while [ ! -s "$work/display" ]; do sleep 0.1; done
+    DISPLAY=:$(cat "$work/display")
+    export DISPLAY
+    env -u QT_QPA_PLATFORM QT_QPA_PLATFORMTHEME= ZANTROQ_LOOK="$2" "$bin/zantroq-chart" GOOG --data daily \
+        --feed embedded --size 900x560 2>/dev/null &
+    chart=$!
+    id=$(xdotool search --sync --onlyvisible --name "GOOG - Chart" | tail -n 1)
+    sleep 2 # the reply, and a first live trade
+    xdotool mousemove --window "$id" 503 200
+    sleep 1
+    import -window "$id" "$root/docs/images/$1.png"
+    kill "$chart" "$server"
+    wait "$chart" "$server" 2>/dev/null || true
+    rm "$work/display"
+}
+
+for tool in Xvfb xdotool import; do
+    command -v "$tool" >/dev/null || { echo "window.png stays as it is: $tool is missing" >&2; exit 0; }
+done
+"$bin/zantroq-settings" reset --yes
+set_value "MAs SHOW" 1
+window window light
+"$bin/zantroq-settings" import "$root/docs/dark-chart.json"
+window window-dark dark
