@@ -21,7 +21,6 @@ CSymbolBox::CSymbolBox(QWidget* parent) : QComboBox(parent)
     setToolTip("Symbol");
     lineEdit()->setPlaceholderText("Symbol");
     lineEdit()->setAccessibleName("Symbol");
-    lineEdit()->installEventFilter(this);
     connect(lineEdit(), &QLineEdit::textEdited, this, &CSymbolBox::OnEdited);
     connect(this, &QComboBox::activated, this, [this](int item) {
         m_selection = item;
@@ -84,14 +83,14 @@ void CSymbolBox::TypeText(const QString& text)
         const QSignalBlocker quiet(this), quietLine(lineEdit());
         lineEdit()->setText(text);
     }
-    m_textWasSelected = false;
     OnEdited(text);
 }
 
 void CSymbolBox::OnEdited(const QString& typed)
 {
     const int caret = lineEdit()->cursorPosition();
-    const QString kept = QString::fromStdString(SymbolBoxText(typed.toStdString(), m_textWasSelected));
+    const QString kept =
+        QString::fromStdString(SymbolBoxText(typed.toStdString(), lineEdit()->hasSelectedText()));
     {
         const QSignalBlocker quiet(this), quietLine(lineEdit());
         setCurrentIndex(-1);
@@ -108,17 +107,15 @@ void CSymbolBox::wheelEvent(QWheelEvent* event)
     event->ignore();
 }
 
-bool CSymbolBox::eventFilter(QObject* watched, QEvent* event)
+// The keyboard is the box's; its edit line gets from here what it is to have.
+void CSymbolBox::keyPressEvent(QKeyEvent* event)
 {
-    if (watched != lineEdit() || event->type() != QEvent::KeyPress)
-        return QComboBox::eventFilter(watched, event);
-    const auto* key = static_cast<QKeyEvent*>(event);
-    if (key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter) {
-        OnEnter(); // the box itself never sees Enter
-        return true;
-    }
-    m_textWasSelected = lineEdit()->hasSelectedText();
-    return QComboBox::eventFilter(watched, event);
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+        return QComboBox::keyPressEvent(event);
+    event->accept();
+    if (!event->isAutoRepeat()) // one chart for a key held down
+        OnEnter();
+    lineEdit()->selectAll(); // what is typed next is another symbol
 }
 
 } // namespace zantroq

@@ -30,13 +30,12 @@ public:
 
 protected:
     void wheelEvent(QWheelEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void OnEdited(const QString& typed);
 
     int m_selection = -1; // typing ends it, although the list may hold the very text
-    bool m_textWasSelected = false;
 };
 
 } // namespace zantroq

@@ -32,7 +32,7 @@ protected:
         m_bars.resize(700, 40);
         m_bars.LayOut(700);
     }
-    void Type(const QString& text) { QTest::keyClicks(m_bars.Symbol().lineEdit(), text); }
+    void Type(const QString& text) { QTest::keyClicks(&m_bars.Symbol(), text); }
 
     CChartBars m_bars{nullptr};
     int m_changes = 0, m_enters = 0, m_choices = 0;
@@ -110,11 +110,29 @@ TEST_F(CBarsTest, EnterIsReportedAndNeverReachesTheBox)
 {
     m_bars.Symbol().SetItems({"AAA", "BBB"});
     Type("b");
-    QTest::keyClick(m_bars.Symbol().lineEdit(), Qt::Key_Return);
-    QTest::keyClick(m_bars.Symbol().lineEdit(), Qt::Key_Enter, Qt::KeypadModifier);
+    QTest::keyClick(&m_bars.Symbol(), Qt::Key_Return);
+    QTest::keyClick(&m_bars.Symbol(), Qt::Key_Enter, Qt::KeypadModifier);
     EXPECT_EQ(m_enters, 2);
     EXPECT_EQ(m_bars.Symbol().Text(), "B");
     EXPECT_EQ(m_bars.Symbol().Items(), (std::vector<std::string>{"AAA", "BBB"}));
+}
+
+TEST_F(CBarsTest, WhatIsTypedAfterEnterIsAnotherSymbol)
+{
+    Type("goog");
+    QTest::keyClick(&m_bars.Symbol(), Qt::Key_Return);
+    Type("ms");
+    EXPECT_EQ(m_bars.Symbol().Text(), "MS");
+}
+
+TEST_F(CBarsTest, AnEnterKeyHeldDownIsOneEnter)
+{
+    Type("goog");
+    for (const bool again : {false, true, true}) {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", again);
+        QApplication::sendEvent(&m_bars.Symbol(), &press);
+    }
+    EXPECT_EQ(m_enters, 1);
 }
 
 TEST_F(CBarsTest, WhatTheWindowSetsIsNotToldBack)

@@ -133,22 +133,22 @@ TEST_F(CChartCtrlTest, ACharacterTypedOverAPaneStartsASymbol)
     QTest::keyClick(View().Pane(0), 'g');
     EXPECT_EQ(View().Bars().Symbol().Text(), "G");
     EXPECT_TRUE(View().Bars().Symbol().lineEdit()->hasFocus() || View().Bars().Symbol().hasFocus());
-    QTest::keyClicks(View().Bars().Symbol().lineEdit(), "oog");
+    QTest::keyClicks(&View().Bars().Symbol(), "oog");
     EXPECT_EQ(View().Bars().Symbol().Text(), "GOOG");
 }
 
 TEST_F(CChartCtrlTest, EnterInTheSymbolBoxDraws)
 {
     Draw();
-    QTest::keyClicks(View().Bars().Symbol().lineEdit(), "");
-    QTest::keyClick(View().Bars().Symbol().lineEdit(), Qt::Key_Return);
+    QTest::keyClicks(&View().Bars().Symbol(), "");
+    QTest::keyClick(&View().Bars().Symbol(), Qt::Key_Return);
     EXPECT_EQ(Window().Loading(), 1);
     EXPECT_TRUE(PumpUntil([this] { return Window().CompleteAndDrawn(); }));
 }
 
 TEST_F(CChartCtrlTest, EnterOnAnEmptyBoxDoesNothingAndTheCommandSaysWhy)
 {
-    QTest::keyClick(View().Bars().Symbol().lineEdit(), Qt::Key_Return);
+    QTest::keyClick(&View().Bars().Symbol(), Qt::Key_Return);
     EXPECT_TRUE(Window().AskedBoxes().empty());
     EXPECT_EQ(Window().Loading(), 0);
     Window().OnCommand(CommandDrawChart);
