@@ -96,19 +96,18 @@ void CHistChartDrawManager::FullRedraw()
 void CHistChartDrawManager::Draw(int position)
 {
     const CBatch batch(dlg);
-    const int marked = dlg.SelectedPoint();
     priceChart.Draw(position);
     DrawStudies();
     dlg.ClearResetScale();
     PlaceMarkers();
-    RefreshMovedTitles(marked);
+    RefreshMarkedTitles();
 }
 
-// The studies wrote their headers before their markers moved along with the view, and the title knows nothing
-// of it yet.
-void CHistChartDrawManager::RefreshMovedTitles(int marked)
+// The studies wrote their headers before their markers moved along with the view, and the title does not know
+// yet whether its point is still on show.
+void CHistChartDrawManager::RefreshMarkedTitles()
 {
-    if (dlg.SelectedPoint() != marked)
+    if (dlg.SelectedPoint() != NoPoint)
         RefreshTitles();
 }
 
@@ -134,7 +133,6 @@ void CHistChartDrawManager::PlaceMarkers()
 void CHistChartDrawManager::Update(int newPoints)
 {
     const CBatch batch(dlg);
-    const int marked = dlg.SelectedPoint();
     if (dataType == TickData) {
         if (newPoints <= 0)
             return;
@@ -147,14 +145,15 @@ void CHistChartDrawManager::Update(int newPoints)
         }
         // The studies move their own markers along with their points.
         priceChart.chart->PaneArea().PaneMarkers("x").SetPoint(dlg.SelectedPoint());
+        RefreshMarkedTitles();
     } else if (newPoints == 0) {
         priceChart.UpdateLastPoint();
     } else {
         priceChart.Draw(dlg.ScrollLimit());
         DrawStudies();
         PlaceMarkers();
+        RefreshMarkedTitles();
     }
-    RefreshMovedTitles(marked);
 }
 
 void CHistChartDrawManager::DeletePoint(int index)

@@ -85,7 +85,7 @@ private:
     int DisplayedStudies() const;
     void DrawStudies();
     void PlaceMarkers();
-    void RefreshMovedTitles(int marked); // if the marked point has another number than that
+    void RefreshMarkedTitles(); // if a point is marked
 
     IChartWindow& dlg;
     IStudyFactory* studyFactory;

@@ -143,7 +143,6 @@ bool CPointInspection::OfferDeletion(int x, int y)
         chart == m_drawing.ChartNumber() && index < m_drawing.Count()) {
         m_drawing.DeletePoint(index);
         m_drawing.Draw(m_bar.Position());
-        m_drawing.RefreshTitles(); // the marker may stand over another point now
     }
     return true;
 }

@@ -402,6 +402,18 @@ TEST(PointInspection, TitlesStayWithTheMarkedPointWhileTheViewFollowsNewPoints)
     }
 }
 
+TEST(PointInspection, TitlesEmptyWhenAZoomLeavesTheMarkedPointOutside)
+{
+    auto chart = ChartOfUnlikeDays(DailyData);
+    const sPixel pixel = At(*chart, 1, 100);
+    chart->Window->OnChartMouseMove(Price, 0, 0, pixel.X, pixel.Y);
+    EXPECT_NE(PriceTitle(*chart).find("379"), std::string::npos) << PriceTitle(*chart);
+    chart->Window->OnCommand(CommandZoomIn); // 90 points from the same first one
+    ASSERT_EQ(chart->Window->Range().shown, 90);
+    EXPECT_EQ(PriceTitle(*chart), "Daily Price: ");
+    EXPECT_EQ(StudyHeader(*chart).find("Vol: "), std::string::npos) << StudyHeader(*chart);
+}
+
 TEST(PointInspection, TheTitleOfADeletedPointGoesWithIt)
 {
     auto chart = DailyChart();
