@@ -153,7 +153,10 @@ bool CPaneInk::DrawBars(const CPaneGroup& group, std::size_t firstPoint)
     source.Hollow = m_hollow;
     m_widest = source.Width + 2 * source.Tick;
     std::size_t i = static_cast<std::size_t>(std::max(0, data.FirstPoint(data.FirstVisible()) - 1));
-    if (firstPoint > 0) {
+    if (firstPoint == 0) {
+        m_rects.clear();
+        m_columns.clear();
+    } else {
         // Back to the column of the first changed point.
         const int column = m_points.IsPlaced(firstPoint) ? m_points.ColumnOf(firstPoint) : 0;
         while (!m_columns.empty() && m_columns.back().Column >= column) {

@@ -233,6 +233,21 @@ TEST(KeptPicture, AfterEachChangeIsThatPaintedFromNothing)
     }
 }
 
+// The first bar is the last one too while a chart has no other: its old ink stayed below the new.
+TEST(KeptPicture, AChangedFirstBarLeavesNothingOfTheOldOne)
+{
+    for (const int count : {1, 5}) {
+        const Pane pane = test::CandlePane(280, 180, count, 9);
+        CPanePainter kept(*pane, Family);
+        kept.Picture(1.0);
+        const CPaneData& data = pane->PaneGroups(1).PaneData();
+        const double middle = (data.PointY(1, 1) + data.PointY(2, 1)) / 2;
+        for (int series = 1; series <= 4; ++series)
+            pane->PaneGroups(1).PaneData().SetPointY(series, 1, middle);
+        EXPECT_TRUE(SamePicture(kept.Picture(1.0), PanePicture(*pane, 1.0, Family))) << count;
+    }
+}
+
 TEST(KeptPicture, AChangedLastPointDamagesItsColumnsOnly)
 {
     const Pane pane = test::CandlePane(800, 300, 200, 3);
