@@ -131,8 +131,9 @@ bool CPaneInk::DrawTail(const CPaneGroup& group, std::size_t firstPoint)
         return true;
     if (HasBars(group))
         return DrawBars(group, firstPoint);
-    for (std::size_t i = 0; i < m_lines.size(); ++i)
-        if (StyleOf(group, m_lineSeries[i]).SymbolLook().Shape() == SymbolMark)
+    // Marks are not kept point by point; a series can have them without a line.
+    for (int series = group.PaneData().FirstVisible(); series <= group.PaneData().LastVisible(); ++series)
+        if (StyleOf(group, series).SymbolLook().Shape() != SymbolNone)
             return false;
     for (const int series : m_lineSeries)
         if (series == 0)
@@ -351,7 +352,7 @@ void CPaneInk::DrawSymbols(const CPaneGroup& group, int series)
     };
     m_widest = std::max(m_widest, size);
     if (!IsCrowded()) {
-        for (std::size_t i = 0; i < x.size(); ++i)
+        for (auto i = static_cast<std::size_t>(std::max(0, data.FirstPoint(series) - 1)); i < x.size(); ++i)
             single(i);
         return;
     }

@@ -248,6 +248,23 @@ TEST(KeptPicture, AChangedFirstBarLeavesNothingOfTheOldOne)
     }
 }
 
+// A series of marks without a line had no mark at a point that came to life alone.
+TEST(KeptPicture, AMarkWithoutALineAppears)
+{
+    const Pane pane = test::LinePane(280, 180, std::vector<double>(20, Hole));
+    CSeriesStyle& style = pane->PaneGroups(1).SeriesStyles(1);
+    style.LineLook().SetPattern(LineNone);
+    style.SymbolLook().SetShape(SymbolMark);
+    style.SymbolLook().SetSize(5);
+    style.SymbolLook().SetColour(0x0000FF);
+    CPanePainter kept(*pane, Family);
+    kept.Picture(1.0);
+    pane->PaneGroups(1).PaneData().SetPointY(1, 10, 50);
+    int x = 0, y = 0;
+    pane->PaneGroups(1).PointToPixel(1, 10, x, y);
+    EXPECT_EQ(kept.Picture(1.0).pixel(x, y), qRgb(255, 0, 0));
+}
+
 TEST(KeptPicture, AChangedLastPointDamagesItsColumnsOnly)
 {
     const Pane pane = test::CandlePane(800, 300, 200, 3);
