@@ -1,0 +1,198 @@
+// A pane through long rows of changes of every kind, as studies, trendlines, scrolling, zooming and pane
+// files make them: the picture that is kept and patched is the one painted from nothing, point by point.
+#include "qt/PanePainter.h"
+#include "qt/PaneScenes.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <random>
+
+namespace zantroq {
+namespace {
+
+class CAnyChange
+{
+public:
+    explicit CAnyChange(unsigned seed) : m_random(seed), m_pane(test::EmptyPane(200, 120))
+    {
+        for (int group : {1, 2}) {
+            Data(group).SetSeriesCount(group == 1 ? 4 : 2);
+            Data(group).SetPointCount(1, Below(2) ? 30 : 400);
+        }
+        test::FitAxes(*m_pane, Data(1).PointCount(1), 0, 100);
+        for (int i = 0; i < 12; ++i)
+            WriteVector(1 + Below(2));
+    }
+
+    const CChart2D& Pane() const { return *m_pane; }
+
+    // Makes one change and tells its number.
+    int Change()
+    {
+        const int kind = Below(30), group = 1 + Below(2);
+        CPaneData& data = Data(group);
+        const int series = 1 + Below(std::max(1, data.SeriesCount()));
+        const int point = Below(2) ? data.PointCount(1) : 1 + Below(std::max(1, data.PointCount(1)));
+        CPaneArea& area = m_pane->PaneArea();
+        CSeriesStyle& style = m_pane->PaneGroups(group).SeriesStyles(series);
+        switch (kind) {
+        case 0:
+        case 1:
+        case 2:
+        case 3:
+        case 4:
+        case 5:
+            data.SetPointY(series, point, Value());
+            break;
+        case 6:
+            data.SetPointX(series, point, Below(4) ? point + Below(3) - 1 : Value());
+            break;
+        case 7:
+        case 8:
+            WriteVector(group);
+            break;
+        case 9: // a new point in a full window, as a study takes it in
+            for (int one = 1; one <= data.SeriesCount(); ++one)
+                data.ShiftPoints(one, std::max(0, data.PointCount(1) - 1), 2);
+            data.NumberPoints();
+            data.SetPointY(series, data.PointCount(1), Value());
+            break;
+        case 10:
+            data.SetPointCount(1, std::max(0, data.PointCount(1) + Below(5) - 2));
+            break;
+        case 11:
+            data.SetSeriesCount(1 + Below(5));
+            break;
+        case 12:
+            data.SetFirstShownSeries(1 + Below(2));
+            data.SetLastShownSeries(Below(5));
+            break;
+        case 13:
+            data.SetFirstPoint(series, Below(4) ? 1 : Below(20));
+            break;
+        case 14:
+            data.NumberPoints();
+            break;
+        case 15:
+            data.SetConstantY(series, Value());
+            break;
+        case 16: {
+            static constexpr int types[] = {1, 1, 2, 5, 7, 8, 3};
+            m_pane->PaneGroups(group).SetChartType(types[Below(7)]);
+            break;
+        }
+        case 17: {
+            static constexpr int patterns[] = {1, 2, 2, 3, 5, 4};
+            style.LineLook().SetPattern(patterns[Below(6)]);
+            break;
+        }
+        case 18:
+            style.LineLook().SetWidth(Below(6) - 1);
+            break;
+        case 19:
+            style.LineLook().SetColour(m_random() & 0xFFFFFF);
+            style.FillLook().SetColour(m_random() & 0xFFFFFF);
+            break;
+        case 20:
+            style.SymbolLook().SetShape(Below(3) ? SymbolNone : SymbolMark);
+            style.SymbolLook().SetSize(Below(7));
+            break;
+        case 21: {
+            const double low = Below(60), high = Below(8) ? low + 1 + Below(100) : low - Below(50);
+            area.PaneAxes().Y().ViewLow().SetValue(low);
+            area.PaneAxes().Y().ViewHigh().SetValue(high);
+            break;
+        }
+        case 22:
+            area.PaneAxes().X().ViewLow().SetValue(Below(4) ? 1 : Below(20));
+            area.PaneAxes().X().ViewHigh().SetValue(Below(4) ? data.PointCount(1) + 0.5 : 20 + Below(400));
+            break;
+        case 23:
+            area.PlotFrame().RightMargin().SetValue(Below(2) ? 23 : 58);
+            area.PlotFrame().BottomMargin().SetValue(Below(4) ? 31 : 4);
+            break;
+        case 24:
+            area.AreaBox().Width().SetValue(Below(6) ? 200 : 60 + Below(200));
+            area.AreaBox().Height().SetValue(Below(6) ? 120 : 20 + Below(200));
+            break;
+        case 25:
+            area.BarLook().SetBarWidth(Below(12) - 1);
+            area.CandleLook().SetFilled(Below(2));
+            break;
+        case 26:
+            area.PaneAxes().Y().AxisOrigin().SetValue(Value());
+            break;
+        case 27:
+            area.PaneMarkers("x").SetShown(Below(4) != 0);
+            area.PaneMarkers("x").SetPoint(Below(2) ? point : NoPoint);
+            break;
+        case 28:
+            if (m_pane->PaneLabels().Count() < 3 || Below(2))
+                test::AddLabel(*m_pane, "text", Below(3), 0x11 + Below(2) * 0x10 + Below(2))
+                    .SetDataAnchor(point, 50);
+            else
+                m_pane->PaneLabels().Remove(1 + Below(m_pane->PaneLabels().Count()));
+            break;
+        default:
+            area.PaneAxes().X().AxisGrid().SetSpacing(Below(3) * 10);
+            area.PaneAxes().Y().AxisGrid().SetSpacing(Below(3) * 10);
+            m_pane->PaneInterior().SetBackground(Below(2) ? 0xFFFFFF : 0x302010);
+        }
+        return kind;
+    }
+
+    int Below(int count) { return static_cast<int>(m_random() % static_cast<unsigned>(count)); }
+
+private:
+    CPaneData& Data(int group) { return m_pane->PaneGroups(group).PaneData(); }
+
+    double Value()
+    {
+        static const double strange[] = {CPaneData::HoleValue(),
+                                         std::nan(""),
+                                         std::numeric_limits<double>::infinity(),
+                                         -std::numeric_limits<double>::infinity(),
+                                         1e300,
+                                         -1e300};
+        return Below(6) ? Below(1000) / 10.0 : strange[Below(6)];
+    }
+
+    void WriteVector(int group)
+    {
+        CPaneData& data = Data(group);
+        std::vector<double> y;
+        double value = Below(100);
+        for (int i = 0; i < data.PointCount(1); ++i) {
+            value += (Below(201) - 100) / 25.0 + (50 - value) * 0.01;
+            y.push_back(Below(40) ? value : Value());
+        }
+        data.SetYVector(1 + Below(std::max(1, data.SeriesCount())), y);
+    }
+
+    std::mt19937 m_random;
+    test::Pane m_pane;
+};
+
+TEST(AnyChange, LeavesThePictureThatIsPaintedFromNothing)
+{
+    for (unsigned seed = 1; seed <= 40; ++seed) {
+        CAnyChange pane(seed);
+        const double scale = 1 + 0.5 * (seed % 3);
+        CPanePainter kept(pane.Pane(), "DejaVu Sans");
+        std::string row;
+        for (int round = 0; round < 250; ++round) {
+            for (int i = pane.Below(3); i >= 0; --i)
+                row += " " + std::to_string(pane.Change());
+            row = row.substr(row.size() < 60 ? 0 : row.size() - 60);
+            CPanePainter plain(pane.Pane(), "DejaVu Sans", InkDetail::EveryPoint);
+            const QImage& picture = kept.Picture(scale);
+            ASSERT_TRUE(picture == plain.Picture(scale))
+                << "seed " << seed << ", round " << round << ", changes" << row;
+        }
+    }
+}
+
+} // namespace
+} // namespace zantroq
