@@ -246,6 +246,27 @@ private:
         return lines;
     }
 
+    // Lines wider than the room go on in the next one where two blanks stand, as they do between the parts of
+    // a title.
+    std::vector<std::string_view> Folded(const std::vector<std::string_view>& lines, int room)
+    {
+        constexpr std::string_view blanks = "  ";
+        std::vector<std::string_view> folded;
+        for (std::string_view line : lines) {
+            while (m_text.Advance(line) > room) {
+                std::size_t cut = line.rfind(blanks);
+                while (cut != line.npos && cut > 0 && m_text.Advance(line.substr(0, cut)) > room)
+                    cut = line.rfind(blanks, cut - 1);
+                if (cut == line.npos || cut == 0)
+                    break;
+                folded.push_back(line.substr(0, cut));
+                line.remove_prefix(cut + blanks.size());
+            }
+            folded.push_back(line);
+        }
+        return folded;
+    }
+
     // Where the label hangs, in device pixels; false when that is nowhere.
     bool Anchor(const CPaneLabel& label, int& x, int& y) const
     {
@@ -273,8 +294,10 @@ private:
         int x = 0, y = 0;
         if (!label.Shown() || label.Text().empty() || !Anchor(label, x, y))
             return;
-        const std::vector<std::string_view> lines = LinesOf(label.Text());
+        std::vector<std::string_view> lines = LinesOf(label.Text());
         const bool title = label.Attachment() == AttachToPaneTopLeft;
+        if (title && !m_map.Empty())
+            lines = Folded(lines, m_width - 2 * x - 2 * (Device(4) + m_hair));
         const bool border = label.Border() == 1;
         const int edge = border ? m_hair : 0;
         const int padX = Device(4) + edge, padY = (title ? 0 : Device(lines.size() > 1 ? 3 : 1)) + edge;

@@ -111,6 +111,37 @@ TEST(PaneLabels, LinesAreSeparatedByNewlines)
     EXPECT_EQ(lines[2].Top - lines[0].Top, 2 * CPaneText(Family).LineHeight());
 }
 
+TEST(PaneLabels, ATitleWiderThanItsPaneGoesOnInTheNextLine)
+{
+    for (const double scale : {1.0, 1.5, 2.0}) {
+        const Pane pane = test::EmptyPane(280, 180);
+        AddLabel(*pane, "Daily Price: Hi: 101.25  Low: 99.50  Open: 100.00  Close: 101.00  2014/01/02",
+                 AttachToPaneTopLeft, AnchorBelowRight);
+        const sFurnished furnished(*pane, scale);
+        EXPECT_LE(furnished.Box(0).Right, furnished.Width);
+        std::string joined;
+        for (const sPlacedText& line : furnished.Placed.Labels[0].Lines)
+            joined += (joined.empty() ? "" : "  ") + std::string(line.Text);
+        EXPECT_EQ(joined, pane->PaneLabels().Item(1).Text());
+        EXPECT_GE(furnished.Placed.Labels[0].Lines.size(), 2u);
+    }
+}
+
+TEST(PaneLabels, ATitleThatFitsOrCannotBeFoldedHasOneLine)
+{
+    const Pane pane = test::EmptyPane(280, 180);
+    CPaneLabel& title =
+        AddLabel(*pane, "Daily Price: Hi: 101.25  Low: 99.50", AttachToPaneTopLeft, AnchorBelowRight);
+    EXPECT_EQ(sFurnished(*pane).Placed.Labels.at(0).Lines.size(), 1u);
+    title.SetText(std::string(100, 'x'));
+    EXPECT_EQ(sFurnished(*pane).Placed.Labels.at(0).Lines.size(), 1u);
+    title.SetText("  " + std::string(100, 'x'));
+    EXPECT_EQ(sFurnished(*pane).Placed.Labels.at(0).Lines.size(), 1u);
+    title.SetText("Daily Price: Hi: 101.25  Low: 99.50  Open: 100.00  Close: 101.00 (Minimized)");
+    pane->PaneArea().AreaBox().Height().SetValue(16); // a minimised pane has no room for a second line
+    EXPECT_EQ(sFurnished(*pane).Placed.Labels.at(0).Lines.size(), 1u);
+}
+
 TEST(PaneLabels, HiddenOrWithoutTextOrNowhereAreNotPlaced)
 {
     const Pane pane = test::EmptyPane(280, 180);
