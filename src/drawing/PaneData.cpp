@@ -107,7 +107,7 @@ void CPaneData::SetSeriesCount(int count)
     }
     m_y.resize(n, CSlidingArray(m_x.size(), HoleValue()));
     m_yRevision.resize(n, 0);
-    m_constant.resize(n);
+    m_steps.resize(n);
     m_firstPoint.resize(n, 1);
     m_drawnTo.resize(n, 0);
     NoteWhole();
@@ -134,7 +134,7 @@ void CPaneData::SetPointCount(int series, int count)
     for (auto& y : m_y)
         y.resize(n, HoleValue());
     if (n > had)
-        std::fill(m_constant.begin(), m_constant.end(), std::nullopt);
+        std::fill(m_steps.begin(), m_steps.end(), std::nullopt);
     NoteWhole();
 }
 
@@ -207,7 +207,7 @@ void CPaneData::SetPointY(int series, int point, double y)
     if (IsSame(held, y))
         return;
     held = y;
-    Constant(series).reset();
+    Step(series).reset();
     NotePoints(series, point, point);
 }
 
@@ -217,6 +217,8 @@ bool CPaneData::ShiftPoints(int series, int count, int firstSource)
         static_cast<std::int64_t>(firstSource) - 1 + count > PointCount(series))
         return false;
     auto& y = m_y[static_cast<std::size_t>(series - 1)];
+    if (Step(series) && Step(series)->Holes > 0) // else all values are the same ones
+        Step(series).reset();
     y.MoveToFront(static_cast<std::size_t>(count), static_cast<std::size_t>(firstSource - 1));
     if (series == 1) {
         m_x.MoveToFront(static_cast<std::size_t>(count), static_cast<std::size_t>(firstSource - 1));
@@ -256,11 +258,27 @@ void CPaneData::NumberPoints()
 
 void CPaneData::SetConstantY(int series, double y)
 {
-    if (!Has(series) || (Constant(series) && IsSame(*Constant(series), y)))
+    SetStepY(series, 1, y);
+}
+
+void CPaneData::SetStepY(int series, int firstPoint, double y)
+{
+    if (!Has(series))
         return;
     auto& values = m_y[static_cast<std::size_t>(series - 1)];
-    std::fill(values.begin(), values.end(), y);
-    Constant(series) = y;
+    const std::size_t points = values.size();
+    const auto holes =
+        static_cast<std::size_t>(std::clamp(firstPoint - 1LL, 0LL, static_cast<long long>(points)));
+    const std::optional<sStep> held = Step(series);
+    const bool sameValue = held && IsSame(held->Value, y);
+    const std::size_t heldHoles = held ? std::min(held->Holes, points) : 0;
+    if (sameValue && heldHoles == holes)
+        return;
+    if (heldHoles < holes)
+        std::fill(values.begin() + heldHoles, values.begin() + holes, HoleValue());
+    std::fill(values.begin() + holes, sameValue ? values.begin() + std::max(holes, heldHoles) : values.end(),
+              y);
+    Step(series) = sStep{holes, y};
     NoteWhole(series);
 }
 
@@ -281,7 +299,7 @@ bool CPaneData::SetYVector(int series, std::span<const double> y)
     if (!Has(series) || y.size() < m_x.size())
         return false;
     std::copy_n(y.begin(), m_x.size(), m_y[static_cast<std::size_t>(series - 1)].begin());
-    Constant(series).reset();
+    Step(series).reset();
     NoteWhole(series);
     return true;
 }
@@ -298,7 +316,7 @@ std::span<double> CPaneData::WholeY(int series)
 {
     if (!Has(series))
         return {};
-    Constant(series).reset();
+    Step(series).reset();
     NoteWhole(series);
     auto& y = m_y[static_cast<std::size_t>(series - 1)];
     return {y.data(), y.size()};

@@ -60,6 +60,8 @@ public:
     // since a pane remembers it: a whole draw of many points sets them again each time.
     void NumberPoints();
     void SetConstantY(int series, double y);
+    // One value from a point on and the hole value before it. Writes only what is not so already.
+    void SetStepY(int series, int firstPoint, double y);
     bool GetXVector(int series, std::vector<double>& x) const;
     // The y values of a series for who writes all of them in place, which saves a copy of what may be long.
     // Inside a batch, or with CommitPaneData behind it. Good until a count changes; empty for a number out of
@@ -97,7 +99,12 @@ private:
     void NoteWhole(int series = 0); // 0: of all series
     void NotePoints(int series, int first, int last);
     void ForgetX();
-    std::optional<double>& Constant(int series) { return m_constant[static_cast<std::size_t>(series - 1)]; }
+    struct sStep
+    {
+        std::size_t Holes; // points without a value at the beginning
+        double Value;      // that of all points behind them
+    };
+    std::optional<sStep>& Step(int series) { return m_steps[static_cast<std::size_t>(series - 1)]; }
     bool Has(int series) const { return series >= 1 && series <= SeriesCount(); }
     bool Has(int series, int point) const
     {
@@ -108,9 +115,9 @@ private:
     CSlidingArray m_x;
     std::vector<CSlidingArray> m_y;
     std::vector<int> m_firstPoint, m_drawnTo;
-    std::vector<std::optional<double>> m_constant; // by series: the one value known to stand at every point
-    bool m_numbered = true;                        // x is known to be 1, 2, 3, ...
-    mutable signed char m_ascending = 1;           // -1: to be found out
+    std::vector<std::optional<sStep>> m_steps; // by series: what is known to stand at every point
+    bool m_numbered = true;                    // x is known to be 1, 2, 3, ...
+    mutable signed char m_ascending = 1;       // -1: to be found out
     std::uint64_t m_revision = 0;
     std::uint64_t m_frameRevision = 0;         // the last change of what all series share
     std::vector<std::uint64_t> m_yRevision;    // the last change of each series' y values

@@ -85,9 +85,8 @@ void CFibonacciRetracementsTrend::Draw()
 void CFibonacciRetracementsTrend::DrawLevel(int level, const sSpan& span)
 {
     const auto i = static_cast<std::size_t>(level);
-    const double price = LevelPrice(level);
-    WriteTrendSeries(*m_owner, m_levelSeries[i], Look(LevelTable[i].Pattern), XVector::Keep, span.Left,
-                     Shown(), [price](int) { return price; });
+    WriteTrendLevel(*m_owner, m_levelSeries[i], Look(LevelTable[i].Pattern), XVector::Keep, span.Left,
+                    LevelPrice(level));
 }
 
 void CFibonacciRetracementsTrend::PlaceLabel(int level, const sSpan& span, int& shownPixelY)

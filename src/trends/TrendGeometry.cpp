@@ -28,10 +28,14 @@ int PointDistance(int dx, int dy)
     return RoundedPixels(std::sqrt(x * x + y * y));
 }
 
-// x is the axis base, the one behind it, and so on. It nearly always is already, so that all points are
-// looked at without a branch first.
+// x is the axis base, the one behind it, and so on. It nearly always is already, which a pane knows that was
+// numbered from 1; else all points are looked at without a branch first.
 void NumberPoints(CPaneData& data, int base, int shown)
 {
+    if (base == 1 && shown >= static_cast<int>(data.X().size())) {
+        data.NumberPoints();
+        return;
+    }
     const std::span<const double> x = data.X();
     const int points = std::min(shown, static_cast<int>(x.size()));
     bool differs = false;
@@ -48,7 +52,9 @@ int AxisBase(IChartWindow& window)
     return static_cast<int>(window.Pane(0).PaneArea().PaneAxes().X().ViewLow().Value());
 }
 
-std::span<double> BeginTrendSeries(IChartWindow& window, int series, const sTrendLook& look, XVector x)
+namespace {
+
+CPaneData& PrepareTrendSeries(IChartWindow& window, int series, const sTrendLook& look, XVector x)
 {
     CPaneGroup& group = Overlay(window);
     CLineLook& line = group.SeriesStyles(series).LineLook();
@@ -62,7 +68,22 @@ std::span<double> BeginTrendSeries(IChartWindow& window, int series, const sTren
     if (x == XVector::Write)
         NumberPoints(data, AxisBase(window), shown);
     data.AdvanceDrawn(series, shown);
-    return data.WholeY(series);
+    return data;
+}
+
+} // namespace
+
+std::span<double> BeginTrendSeries(IChartWindow& window, int series, const sTrendLook& look, XVector x)
+{
+    return PrepareTrendSeries(window, series, look, x).WholeY(series);
+}
+
+void WriteTrendLevel(IChartWindow& window, int series, const sTrendLook& look, XVector x, int from,
+                     double price)
+{
+    CPaneData& data = PrepareTrendSeries(window, series, look, x);
+    data.SetStepY(series, from, price);
+    EndTrendSeries(window);
 }
 
 void EndTrendSeries(IChartWindow& window)

@@ -60,6 +60,10 @@ void WriteTrendSeries(IChartWindow& window, int series, const sTrendLook& look, 
     EndTrendSeries(window);
 }
 
+// Writes one price from a position to the last point, and holes before it. Costs what changes.
+void WriteTrendLevel(IChartWindow& window, int series, const sTrendLook& look, XVector x, int from,
+                     double price);
+
 // The hole value at every displayed point of a series.
 void EraseTrendSeries(IChartWindow& window, int series);
 

@@ -6,6 +6,7 @@
 #include <rapidcheck/gtest.h>
 
 #include <algorithm>
+#include <random>
 #include <vector>
 
 namespace zantroq {
@@ -120,6 +121,48 @@ TEST(ScrollingPane, AConstantIsWrittenAgainAfterAnyOtherWrite)
     data.SetConstantY(3, 30);
     EXPECT_EQ(data.Revision(), revision) << "nothing changed";
     EXPECT_DOUBLE_EQ(data.PointY(1, 1), CPaneData::HoleValue());
+}
+
+TEST(ScrollingPane, AStepHoldsHolesBeforeItsPointWhateverStoodThere)
+{
+    CChart2D pane;
+    CPaneData& data = pane.PaneGroups(1).PaneData();
+    data.SetSeriesCount(2);
+    data.SetPointCount(1, 6);
+    std::mt19937 random(7);
+    const auto below = [&](int limit) { return static_cast<int>(random() % static_cast<unsigned>(limit)); };
+    for (int round = 0; round < 3000; ++round) {
+        const int points = data.PointCount(2);
+        switch (below(8)) {
+        case 0:
+            data.SetPointY(2, 1 + below(points), 5);
+            break;
+        case 1:
+            data.WholeY(2)[static_cast<std::size_t>(below(points))] = 1;
+            break;
+        case 2:
+            data.SetPointCount(1, 1 + below(9));
+            break;
+        case 3:
+            ASSERT_TRUE(data.ShiftPoints(2, points - 1, 2));
+            break;
+        case 4:
+            data.SetConstantY(2, 3);
+            break;
+        default:
+            break; // a step over the last one
+        }
+        const int from = below(12) - 1, now = data.PointCount(2);
+        const double value = below(2);
+        data.SetStepY(2, from, value);
+        for (int point = 1; point <= now; ++point)
+            ASSERT_EQ(data.PointY(2, point), point < from ? CPaneData::HoleValue() : value)
+                << "round " << round << ", point " << point << " of " << now << ", step at " << from;
+        const std::uint64_t revision = data.Revision();
+        data.SetStepY(2, from, value);
+        data.SetStepY(3, from, value);
+        ASSERT_EQ(data.Revision(), revision) << "nothing changed";
+    }
 }
 
 } // namespace
