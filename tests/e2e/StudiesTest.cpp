@@ -2,22 +2,16 @@
 // definition of each study over the rows of the recording: bit for bit, since the state's numbers read back
 // exactly.
 #include "Programs.h"
+#include "StudyStates.h"
 
 #include "qt/GoldenPicture.h"
 
-#include "studies/PlainStudy.h"
-
-#include <nlohmann/json.hpp>
-
-#include <bit>
 #include <chrono>
 #include <cmath>
 #include <sstream>
 
 namespace zantroq::test {
 namespace {
-
-using nlohmann::json;
 
 // The newest `count` rows of the shipped recording: date,open,high,low,close,volume,open_interest.
 CBarSeries NewestDays(std::size_t count)
@@ -40,52 +34,6 @@ CBarSeries NewestDays(std::size_t count)
     return series;
 }
 
-double NumberOf(const json& value)
-{
-    if (value.is_null())
-        return plain::Hole;
-    if (value.is_number())
-        return value.get<double>();
-    const std::string text = value;
-    return text == "nan" ? std::nan("") : text == "inf" ? INFINITY : -INFINITY;
-}
-
-bool SameBits(double a, double b)
-{
-    return (std::isnan(a) && std::isnan(b)) ||
-           std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b);
-}
-
-void ExpectLine(const json& shown, const std::vector<double>& expected)
-{
-    ASSERT_EQ(shown.size(), expected.size());
-    for (std::size_t i = 0; i < expected.size(); ++i)
-        EXPECT_TRUE(SameBits(NumberOf(shown.at(i)), expected[i]))
-            << "point " << i + 1 << ": " << shown.at(i) << ", expected " << expected[i];
-}
-
-void ExpectPane(const json& pane, const plain::sPane& twin)
-{
-    const json& main = pane.at("groups").at(0).at("series");
-    ASSERT_EQ(main.size(), twin.lines.size());
-    ExpectLine(main.at(0).at("x"), twin.x);
-    for (std::size_t i = 0; i < twin.lines.size(); ++i) {
-        SCOPED_TRACE("series " + std::to_string(i + 1));
-        ExpectLine(main.at(i).at("y"), twin.lines[i]);
-    }
-    if (!twin.second.empty()) {
-        SCOPED_TRACE("second group");
-        ExpectLine(pane.at("groups").at(1).at("series").at(0).at("y"), twin.second);
-    }
-    const json& axis = pane.at("axes").at("y");
-    EXPECT_TRUE(SameBits(axis.at("viewLow"), twin.yViewLow)) << axis.at("viewLow");
-    EXPECT_TRUE(SameBits(axis.at("viewHigh"), twin.yViewHigh)) << axis.at("viewHigh");
-    const json& labels = axis.at("tickLabels");
-    ASSERT_EQ(labels.size(), twin.labels.size());
-    for (std::size_t i = 0; i < twin.labels.size(); ++i)
-        EXPECT_EQ(labels.at(i).at(1), twin.labels[i].second);
-}
-
 class Studies : public CPrograms
 {
 protected:
@@ -97,19 +45,10 @@ protected:
         return run.ExitCode == 0 ? json::parse(Bytes("state.json").toStdString()) : json();
     }
     QImage Picture() const { return QImage(Path("state.png")).convertToFormat(QImage::Format_RGB32); }
-    static std::string Stack(const std::vector<int>& kinds)
-    {
-        std::string steps = "set \"Number of displayed study charts\" " + std::to_string(kinds.size()) + "\n";
-        for (std::size_t i = 0; i < kinds.size(); ++i)
-            steps +=
-                "set \"Type of study chart " + std::to_string(i) + "\" " + std::to_string(kinds[i]) + "\n";
-        return steps;
-    }
     void ExpectPlain(const json& state, const CBarSeries& series, const sChartSettings& settings)
     {
         const json& panes = state.at("panes");
-        const plain::sView view{state.at("range").at("first"), state.at("range").at("shown"),
-                                state.at("range").at("ptsIndex"), false};
+        const plain::sView view = ViewOf(state);
         ASSERT_EQ(series.Count(), state.at("range").at("count").get<int>());
         plain::sStates states;
         for (std::size_t pane = 1; pane < panes.size(); ++pane) {
@@ -138,7 +77,7 @@ TEST_F(Studies, EachShownAloneIsThePlainDefinitionOverTheRecording)
 {
     const CBarSeries days = NewestDays(1000);
     for (int kind = 0; kind < 10; ++kind) {
-        const json state = Play("resize 500 340\n" + Stack({kind}) + DrawGoog + "snapshot state.png\n");
+        const json state = Play("resize 500 340\n" + StackSteps({kind}) + DrawGoog + "snapshot state.png\n");
         ASSERT_EQ(state.at("panes").size(), 2u);
         ASSERT_EQ(state.at("panes").at(1).at("study"), kind);
         ExpectPlain(state, days, Daily());
@@ -148,8 +87,8 @@ TEST_F(Studies, EachShownAloneIsThePlainDefinitionOverTheRecording)
 
 TEST_F(Studies, AllTenInOneWindowAreThePlainDefinition)
 {
-    const json state =
-        Play("resize 900 1200\n" + Stack({9, 8, 7, 6, 5, 4, 3, 2, 1, 0}) + DrawGoog + "snapshot state.png\n");
+    const json state = Play("resize 900 1200\n" + StackSteps({9, 8, 7, 6, 5, 4, 3, 2, 1, 0}) + DrawGoog +
+                            "snapshot state.png\n");
     ASSERT_EQ(state.at("panes").size(), 11u);
     ExpectPlain(state, NewestDays(1000), Daily());
     CompareWithGolden(Picture(), "studies-all.png", FontsMayDiffer);
@@ -159,7 +98,7 @@ TEST_F(Studies, AChangeOfTheStackRedrawsTheNewStudies)
 {
     const std::string wait = "wait complete\n"; // each change asks for the series anew
     const json state =
-        Play(Stack({0}) + DrawGoog + "set \"Number of displayed study charts\" 2\n" + wait +
+        Play(StackSteps({0}) + DrawGoog + "set \"Number of displayed study charts\" 2\n" + wait +
              "set \"Type of study chart 0\" 2\n" + wait + "set \"Type of study chart 1\" 4\n" + wait);
     ASSERT_EQ(state.at("panes").size(), 3u);
     EXPECT_EQ(state.at("panes").at(1).at("study"), 2);
@@ -169,7 +108,7 @@ TEST_F(Studies, AChangeOfTheStackRedrawsTheNewStudies)
 
 TEST_F(Studies, ShownFromTheStartOfTheSeriesTheyLeaveTheirWarmUpEmpty)
 {
-    const json state = Play(Stack({1, 2, 3, 5, 7, 8}) + DrawGoog + "scroll left-end\n");
+    const json state = Play(StackSteps({1, 2, 3, 5, 7, 8}) + DrawGoog + "scroll left-end\n");
     ASSERT_EQ(state.at("range").at("first"), 0);
     ExpectPlain(state, NewestDays(1000), Daily());
 }
@@ -177,7 +116,7 @@ TEST_F(Studies, ShownFromTheStartOfTheSeriesTheyLeaveTheirWarmUpEmpty)
 // The trade prices and sizes are those that the price pane and the volume pane show.
 TEST_F(Studies, LiveTicksContinueThePlainDefinition)
 {
-    Play(Stack({6, 1, 2, 3, 4, 7, 9}) +
+    Play(StackSteps({6, 1, 2, 3, 4, 7, 9}) +
          "type tick\nsymbol SIM.A\ndraw\nwait complete\nsnapshot before.json\nwait 4000\n");
     const json before = json::parse(Bytes("before.json").toStdString());
     const json after = json::parse(Bytes("state.json").toStdString());
@@ -225,7 +164,7 @@ TEST_F(Studies, OddPeriodsOfTheSettingsFileDoNoHarm)
             ASSERT_EQ(Settings({"set", "--", name, period}).ExitCode, 0);
         ASSERT_EQ(Settings({"set", "--", "STUDY AVG PERIOD", periods.join(QLatin1Char(','))}).ExitCode, 0);
         const auto begin = std::chrono::steady_clock::now();
-        const json state = Play(Stack({0, 1, 2, 3, 4, 5, 6, 7, 8, 9}) + DrawGoog);
+        const json state = Play(StackSteps({0, 1, 2, 3, 4, 5, 6, 7, 8, 9}) + DrawGoog);
         EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(60));
         EXPECT_EQ(state.at("panes").size(), 11u);
         EXPECT_EQ(state.at("range").at("shown"), 120);

@@ -39,6 +39,30 @@ TEST(MoneyFlow, SumsOneBarMoreThanThePeriodOverThePeriod)
     EXPECT_EQ(pane.Y(3, 5), 110 / 2.0);
 }
 
+TEST(MoneyFlow, FirstValueIsOnePastThePeriod)
+{
+    for (const int period : {1, 2, 5, 14}) {
+        CFlowPane flow(StudyMoneyFlow, period), index(StudyMFI, period);
+        for (CFlowPane* pane : {&flow, &index}) {
+            for (int i = 0; i < 20; ++i)
+                pane->Add({10.0 + i % 3});
+            pane->Draw(0, 20);
+            for (int i = 0; i < 20; ++i)
+                EXPECT_EQ(pane->Y(1, i + 1) == Hole, i <= period) << "period " << period << ", index " << i;
+        }
+    }
+}
+
+TEST(MoneyFlow, TypicalPriceOfATickIsItsPrice)
+{
+    CFlowPane pane(StudyMoneyFlow, 1);
+    for (const double price : {12.0, 15.0, 9.0})
+        pane.Series.AddTick(price, 100);
+    pane.Draw(0, 3);
+    EXPECT_EQ(pane.Y(2, 3), 100 * 15);
+    EXPECT_EQ(pane.Y(3, 3), 100 * 9);
+}
+
 TEST(MoneyFlow, UsesTheTypicalPriceOfBars)
 {
     CFlowPane pane(StudyMoneyFlow, 1);
