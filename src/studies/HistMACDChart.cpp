@@ -35,10 +35,12 @@ std::vector<sStudyLine> CHistMACDChart::Lines() const
 
 void CHistMACDChart::Compute(std::int64_t index, int count, std::span<double* const> out)
 {
-    double *macd = out[0], *signal = out[1], *histogram = out[2];
+    double* __restrict macd = out[0], * __restrict signal = out[1], * __restrict histogram = out[2];
     ComputeMACD(*prices, index, count, Periods(), StudyRunningState(), macd, signal);
-    for (int i = 0; i < count; ++i)
-        histogram[i] = IsHole(signal[i]) ? StudyHole : macd[i] - signal[i];
+    for (int i = 0; i < count; ++i) {
+        const double difference = macd[i] - signal[i];
+        histogram[i] = IsHole(signal[i]) ? StudyHole : difference;
+    }
 }
 
 void CHistMACDChart::FitDrawnAxis(const sValueRange& range)

@@ -25,11 +25,13 @@ std::vector<sStudyLine> CHistMFChart::Lines() const
 
 void CHistMFChart::Compute(std::int64_t index, int count, std::span<double* const> out)
 {
-    double *total = out[0], *positive = out[1], *negative = out[2];
+    double* __restrict total = out[0], * __restrict positive = out[1], * __restrict negative = out[2];
     const int left = ComputeMoneyFlow(*prices, index, count, Period(), positive, negative);
     std::fill_n(total, left, StudyHole);
-    for (int i = left; i < count; ++i)
-        total[i] = IsHole(positive[i]) || IsHole(negative[i]) ? StudyHole : positive[i] + negative[i];
+    for (int i = left; i < count; ++i) {
+        const double sum = positive[i] + negative[i];
+        total[i] = (positive[i] == StudyHole) | (negative[i] == StudyHole) ? StudyHole : sum;
+    }
 }
 
 void CHistMFChart::FitDrawnAxis(const sValueRange& range)

@@ -31,8 +31,10 @@ void ROCPiece(const IPriceSource& prices, std::int64_t index, int count, std::in
     const CPriceBlock before(prices, &IPriceSource::ReadClose, from - period, end - period);
     const double *a = now.At(from), *b = before.At(from - period);
     double* value = out + (from - index);
-    for (std::int64_t i = 0; i < end - from; ++i)
-        value[i] = b[i] != 0 ? (a[i] - b[i]) / b[i] * 100 : StudyHole;
+    for (std::int64_t i = 0; i < end - from; ++i) {
+        const double change = (a[i] - b[i]) / b[i] * 100;
+        value[i] = b[i] != 0 ? change : StudyHole;
+    }
 }
 
 } // namespace
