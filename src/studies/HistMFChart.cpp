@@ -30,7 +30,7 @@ void CHistMFChart::Compute(std::int64_t index, int count, std::span<double* cons
     std::fill_n(total, left, StudyHole);
     for (int i = left; i < count; ++i) {
         const double sum = positive[i] + negative[i];
-        total[i] = (positive[i] == StudyHole) | (negative[i] == StudyHole) ? StudyHole : sum;
+        total[i] = ((positive[i] == StudyHole) | (negative[i] == StudyHole)) ? StudyHole : sum;
     }
 }
 

@@ -30,7 +30,7 @@ void CHistRSIChart::Compute(std::int64_t index, int count, std::span<double* con
     double* rsi = out[0];
     ComputeRSI(*prices, index, count, Period(), StudyRunningState(), rsi);
     for (int i = 0; i < count; ++i)
-        rsi[i] = (rsi[i] < 0) | (rsi[i] > 100) ? StudyHole : rsi[i]; // without a branch
+        rsi[i] = ((rsi[i] < 0) | (rsi[i] > 100)) ? StudyHole : rsi[i]; // without a branch
 }
 
 void CHistRSIChart::FitDrawnAxis(const sValueRange& /*range*/)

@@ -63,7 +63,7 @@ void WriteStage(const sStage& values, const sStage& average, std::int64_t index,
         k[i - index] = values[i] < 0 ? StudyHole : values[i];
     for (std::int64_t i = seam; i < end; ++i) {
         const double value = values[i - 1], smooth = average[i];
-        k[i - index] = (smooth < 0) & (value < 0) ? StudyHole : value;
+        k[i - index] = ((smooth < 0) & (value < 0)) ? StudyHole : value;
         d[i - index] = smooth < 0 ? StudyHole : smooth;
     }
 }
