@@ -180,9 +180,9 @@ TEST_F(HalfDrawnTrend, FinishedLinesStandWhileTheChartIsScrolledZoomedAndExtende
         trades("edge.json", 8);
     });
     After(steps +
-          "snapshot drawn.json\nscroll thumb 150\nsnapshot scrolled.json\nwait 1500\n"
+          "snapshot drawn.json\nscroll thumb 150\nsnapshot scrolled.json\nwait 2200\n"
           "snapshot scrolled-live.json\ncommand 778\ncommand 778\nsnapshot far.json\nscroll right-end\n"
-          "snapshot edge.json\nwait 1500\nsnapshot edge-live.json\n"
+          "snapshot edge.json\nwait 2200\nsnapshot edge-live.json\n"
           "command 777\ncommand 777\ncommand 777\nscroll right-end\nsnapshot near.json\n");
     market.join();
     const auto range = [this](const char* name) { return State(QString(name) + ".json").at("range"); };

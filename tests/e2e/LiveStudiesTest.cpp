@@ -112,7 +112,7 @@ protected:
     {
         std::string script = steps + "snapshot 0.json\n";
         for (std::size_t n = 1; n <= texts.size(); ++n)
-            script += "wait 1500\nsnapshot " + std::to_string(n) + ".json\n";
+            script += "wait 2200\nsnapshot " + std::to_string(n) + ".json\n";
         std::thread market([&] {
             for (std::size_t n = 0; n < texts.size(); ++n) {
                 if (!AwaitTrue([&] { return QFile::exists(Path(QString::number(n) + ".json")); }))
