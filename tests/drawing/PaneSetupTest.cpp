@@ -1,5 +1,5 @@
-#include "drawing/PaneFile.h"
 #include "drawing/PaneSetup.h"
+#include "drawing/PaneFile.h"
 #include "drawing/SeriesStyleTable.h"
 
 #include <gtest/gtest.h>
