@@ -9,7 +9,7 @@
 namespace zantroq {
 namespace {
 
-constexpr int NoticeHeight = 22;
+constexpr int NoticeHeight = 22, Indent = 8;
 
 } // namespace
 
@@ -19,7 +19,7 @@ CHostWindow::CHostWindow(const sChartCtrlSetup& setup)
     setWindowTitle("Zantroq Chart");
     setWindowIcon(QIcon(":/zantroq/icons/zantroq-chart.svg"));
     m_strip->setFont(BarFont());
-    m_strip->setIndent(8);
+    m_strip->setIndent(Indent);
     m_strip->setAccessibleName("Notice");
     m_strip->setStyleSheet("QLabel { background: #8a4b00; color: #ffffff; }");
     m_strip->hide();
@@ -40,11 +40,11 @@ void CHostWindow::SetClientSize(const QSize& size)
 void CHostWindow::ShowNotice(const QString& text)
 {
     m_chart->SetNotice(text);
-    m_strip->setText(text);
+    m_notice = text;
     m_strip->setToolTip(text);
     const bool show = !text.isEmpty();
     if (show == !m_strip->isHidden())
-        return;
+        return LayOut();
     const QSize chart = m_chart->size();
     m_strip->setVisible(show);
     if (!isMaximized() && !isFullScreen())
@@ -61,6 +61,7 @@ void CHostWindow::LayOut()
 {
     const int strip = StripHeight();
     m_strip->setGeometry(0, 0, width(), strip);
+    m_strip->setText(m_strip->fontMetrics().elidedText(m_notice, Qt::ElideRight, width() - 2 * Indent));
     m_chart->move(0, strip);
     m_chart->SetClientSize(QSize(width(), height() - strip));
 }

@@ -29,6 +29,7 @@ private:
     void LayOut();
 
     QLabel* m_strip;
+    QString m_notice;
     CChartCtrl* m_chart;
 };
 
