@@ -86,6 +86,7 @@ bool CChartLifecycle::DrawChart()
         DropChart();
     if (symbol.find(',') != std::string::npos) {
         m_status.Message("Symbols cannot contain any commas.");
+        m_services.Host.SetControlsEnabled(true); // a load that was dropped would never give them back
         return false;
     }
     m_services.Top.SetTitle(WindowTitle(symbol));

@@ -363,5 +363,96 @@ TEST(Lifecycle, TheLastTradeStandsInTheThirdPartWhileLevelOneIsShown)
     EXPECT_EQ(chart.Window->StatusPart(2), "");
 }
 
+TEST(Lifecycle, ACommaDuringALoadGivesTheToolsBack)
+{
+    sChartFixture chart;
+    chart.Type("X");
+    chart.Window->OnCommand(CommandDrawChart);
+    ASSERT_FALSE(chart.Desktop.Host.ControlsOn);
+    chart.Type("A,B");
+    chart.Window->OnSymbolEnter();
+    EXPECT_TRUE(chart.Desktop.Timer.Running.empty()) << "nothing would ever end the load";
+    EXPECT_TRUE(chart.Desktop.Host.ControlsOn);
+    EXPECT_TRUE(chart.DrawEnabled());
+    // What was typed wrong is typed again.
+    chart.Chart("AB", 5);
+    EXPECT_EQ(chart.Window->Loading(), 0);
+    EXPECT_EQ(chart.Desktop.Top.TitleText, "AB - Chart");
+}
+
+TEST(Lifecycle, AChangeOfIntervalWithAnEmptySymbolIsStoredAndSendsNothing)
+{
+    const auto chart = ChartOf(MinuteData);
+    chart->Desktop.Interval.Selected = 3;
+    chart->Window->OnIntervalChanged();
+    EXPECT_EQ(Text(*chart->Key, "RequestIntervalIndex"), "3");
+    EXPECT_EQ(Text(*chart->Key, "RequestDataType"), "1");
+    EXPECT_TRUE(chart->Feed.Calls.empty());
+    EXPECT_FALSE(chart->DrawEnabled());
+}
+
+TEST(Lifecycle, TheTimerRunsUntilTheNextChartOrTheEnd)
+{
+    sChartFixture chart;
+    chart.Chart("X", 5);
+    EXPECT_EQ(chart.Desktop.Timer.Running[ProgressTimer], 250);
+    chart.Window->OnCommand(CommandDrawChart);
+    EXPECT_EQ(chart.Desktop.Timer.Running[ProgressTimer], 250);
+    chart.Window->Destroy();
+    EXPECT_FALSE(chart.Desktop.Timer.Running.contains(ProgressTimer));
+}
+
+TEST(Lifecycle, AnEmptySymbolDuringALoadLetsItGoOn)
+{
+    sChartFixture chart;
+    chart.Type("X");
+    chart.Window->OnCommand(CommandDrawChart);
+    chart.Type("");
+    chart.Window->OnSymbolEnter();
+    chart.Reply(7);
+    chart.Tick();
+    EXPECT_EQ(chart.Status(), "7 datapoints available.  Displaying 7.");
+    EXPECT_EQ(chart.Window->CurrentSymbol(), "X");
+}
+
+TEST(Lifecycle, ARequestMadeDuringALoadDrawsWhatBothRepliesBrought)
+{
+    const auto chart = ChartOf(DailyData);
+    chart->Type("X");
+    chart->Window->OnCommand(CommandDrawChart);
+    chart->Append(10);
+    chart->Type("Y");
+    chart->Window->OnSymbolEnter();
+    EXPECT_EQ(chart->Window->Series()->GetCount(FieldTime), 0);
+    chart->Append(4); // the rest of the first reply
+    chart->Tick();
+    EXPECT_EQ(chart->Status(), "Retrieving Day Data (4 Days Received)");
+    chart->Reply(6);
+    chart->Tick();
+    EXPECT_EQ(chart->Status(), "10 datapoints available.  Displaying 10.");
+    EXPECT_EQ(chart->Desktop.Top.TitleText, "Y - Chart");
+}
+
+// A chart is on show in ticks, the box is empty, and the type chosen for the next chart is another.
+TEST(Lifecycle, ATypeChosenWithAnEmptySymbolLeavesTheChartOnShowUsable)
+{
+    sChartFixture chart;
+    chart.Chart("X", 200);
+    chart.Type("");
+    chart.Desktop.Type.Selected = DailyData;
+    chart.Window->OnDataTypeChanged(0);
+    chart.Append(1);
+    chart.Tick();
+    EXPECT_EQ(chart.Status(), "201 datapoints available.  Displaying 120.");
+    EXPECT_EQ(chart.Window->StatusPart(2), "100.0000 x 10") << "by what the series holds";
+    for (int x = 60; x < 600; x += 20) {
+        chart.Window->OnChartMouseMove(FirstPaneControl, 0, 0, x, 100);
+        chart.Window->OnChartMouseDown(FirstPaneControl, MouseLeft, 0, x, 100);
+    }
+    chart.Window->OnHScroll(ScrollCode::PageLeft, 0);
+    EXPECT_EQ(chart.Window->Range().first, 0);
+    EXPECT_TRUE(chart.Window->Pane(0).PaneGroups(1).PaneData().SeriesCount() == 1) << "still ticks";
+}
+
 } // namespace
 } // namespace zantroq
