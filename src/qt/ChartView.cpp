@@ -79,6 +79,7 @@ void CChartView::Attach(CChartDlg& window)
     for (int number = 0; number < PaneControls; ++number)
         m_panes[static_cast<std::size_t>(number)] =
             new CPaneWidget(this, FirstPaneControl + number, window.Pane(number), *this);
+    setFocusProxy(m_panes.front()); // so that a symbol can be typed from the start
     m_dragLine->raise();
     m_timer.OnTick = [this](int id) { m_window->OnTimer(id); };
     m_scroll->OnScroll = [this](ScrollCode code, int position) {

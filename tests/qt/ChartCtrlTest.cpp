@@ -137,6 +137,20 @@ TEST_F(CChartCtrlTest, ACharacterTypedOverAPaneStartsASymbol)
     EXPECT_EQ(View().Bars().Symbol().Text(), "GOOG");
 }
 
+TEST_F(CChartCtrlTest, TheKeyboardIsThePricePanesFromTheStart)
+{
+    Draw();
+    Show();
+    QApplication::setActiveWindow(m_chart.get());
+    m_chart->setFocus();
+    ASSERT_EQ(QApplication::focusWidget(), View().Pane(0));
+    QTest::keyClick(QApplication::focusWidget(), 'm');
+    EXPECT_EQ(View().Bars().Symbol().Text(), "M");
+    ASSERT_EQ(QApplication::focusWidget(), &View().Bars().Symbol());
+    QTest::keyClicks(QApplication::focusWidget(), "sft");
+    EXPECT_EQ(View().Bars().Symbol().Text(), "MSFT");
+}
+
 TEST_F(CChartCtrlTest, EnterInTheSymbolBoxDraws)
 {
     Draw();
