@@ -276,6 +276,12 @@ sContextMenu sChartParts::MenuOf(int pane) const
     return pane == 0 ? BuildPriceMenu(Settings.Panes, state) : BuildStudyMenu(Settings.Panes, pane);
 }
 
+void sChartParts::ChartRequested()
+{
+    Bars.ShowTitleLine(Lifecycle.CurrentSymbol());
+    Bars.ShowLastTrade(""); // that of the chart before stands for nothing any more
+}
+
 void sChartParts::SeriesPolled()
 {
     const CChartHistRequest& series = *Lifecycle.Series();

@@ -38,7 +38,7 @@ struct sChartParts : ILifecycleEvents, ISettingsTarget
     void SavePosition() override { Placement.SaveIfAsked(); }
     void RememberSymbol(const std::string& symbol) override { Bars.RememberSymbol(symbol); }
     void RequestScaleReset() override { ScaleReset = true; }
-    void ChartRequested() override { Bars.ShowTitleLine(Lifecycle.CurrentSymbol()); }
+    void ChartRequested() override;
     void SeriesPolled() override;
 
     // ISettingsTarget

@@ -454,5 +454,17 @@ TEST(Lifecycle, ATypeChosenWithAnEmptySymbolLeavesTheChartOnShowUsable)
     EXPECT_TRUE(chart.Window->Pane(0).PaneGroups(1).PaneData().SeriesCount() == 1) << "still ticks";
 }
 
+TEST(Lifecycle, TheLastTradeOfTheChartBeforeGoesWithIt)
+{
+    sChartFixture chart;
+    chart.Chart("X", 3);
+    ASSERT_NE(chart.Window->StatusPart(2), "");
+    chart.Type("Y");
+    chart.Window->OnCommand(CommandDrawChart);
+    chart.Tick();
+    EXPECT_EQ(chart.Window->StatusPart(1), "Y");
+    EXPECT_EQ(chart.Window->StatusPart(2), "");
+}
+
 } // namespace
 } // namespace zantroq
