@@ -237,7 +237,7 @@ void sChartParts::OnMouseDown(int control, int button, int x, int y)
         Resizer.OnButtonDown(pane, y);
         if (pane == 0 && !Resizer.IsCollapsed(0))
             Inspection.ShowReadout(x, y);
-    } else if (button == MouseRight) {
+    } else if (button == MouseRight && !Resizer.Dragging()) { // a menu would keep the drag's end from coming
         ClickedPane = Resizer.PaneAt(pane, y);
         // A collapsed price pane shows no point to delete.
         if (pane == 0 && !Resizer.IsCollapsed(0) && Inspection.OfferDeletion(x, y))

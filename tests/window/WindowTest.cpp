@@ -115,6 +115,20 @@ TEST(ChartsResizer, PanesAreNotRedrawnDuringADrag)
     window.Pane(0).SetView(nullptr);
 }
 
+TEST(ChartsResizer, ARightPressDuringADragOpensNoMenu)
+{
+    sChartFixture chart;
+    CChartDlg& window = *chart.Window;
+    window.OnChartMouseMove(341, 0, 0, 100, 271);
+    window.OnChartMouseDown(341, MouseLeft, 0, 100, 271);
+    window.OnChartMouseDown(341, MouseRight, 0, 100, 240);
+    EXPECT_EQ(chart.Desktop.Menu.Opened, 0);
+    window.OnChartMouseUp(341, MouseLeft, 0, 100, 205);
+    EXPECT_EQ(Bottoms(window), (Ints{0, 205, 410}));
+    window.OnChartMouseDown(341, MouseRight, 0, 100, 100);
+    EXPECT_EQ(chart.Desktop.Menu.Opened, 1);
+}
+
 TEST(ChartsResizer, StoredStatesLoadBackTheSame)
 {
     sChartFixture chart;
