@@ -148,7 +148,7 @@ void OneOperation(CPaneData& data, sPlainData& plain, std::mt19937& random)
             std::fill(plain.Series(series).begin(), plain.Series(series).end(), value);
         break;
     case 11: {
-        const std::span<double> room = below(2) ? data.WholeY(series) : data.LoadY(series);
+        const std::span<double> room = data.WholeY(series);
         ASSERT_EQ(room.size(), plain.Has(series) ? plain.X.size() : 0);
         for (std::size_t i = 0; i < room.size(); ++i)
             room[i] = plain.Series(series)[i] = below(3) ? 1.5 : value;
