@@ -320,7 +320,7 @@ private:
         placed.Background = ScreenColour(label.Interior().Background());
         const QRgb foreground = ScreenColour(label.Interior().Foreground());
         placed.Border = Mixed(placed.Background, foreground, 128);
-        placed.HasBorder = border;
+        placed.Edge = edge;
         for (int i = 0; i < count; ++i)
             placed.Lines.push_back({left + padX, top + padY + i * m_text.LineHeight(),
                                     lines[static_cast<std::size_t>(i)], foreground});

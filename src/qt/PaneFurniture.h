@@ -31,7 +31,7 @@ struct sPlacedLabel
 {
     sPixelRect Box;
     QRgb Background = 0, Border = 0;
-    bool HasBorder = false;
+    int Edge = 0; // width of the border, 0 for none
     std::vector<sPlacedText> Lines;
 };
 

@@ -178,14 +178,11 @@ void CPanePainter::PaintAbove(IPaneCanvas& canvas)
         canvas.Text(text.Left, text.Top, text.Text, text.Color);
     for (const sPlacedLabel& label : m_furniture.Labels) {
         const sPixelRect& box = label.Box;
-        if (label.HasBorder) {
+        if (label.Edge > 0)
             canvas.Fill(box, label.Border);
-            const int edge = std::max(1, static_cast<int>(m_text.LineHeight() / 13));
-            canvas.Fill({box.Left + edge, box.Top + edge, box.Right - edge, box.Bottom - edge},
-                        label.Background);
-        } else {
-            canvas.Fill(box, label.Background);
-        }
+        canvas.Fill(
+            {box.Left + label.Edge, box.Top + label.Edge, box.Right - label.Edge, box.Bottom - label.Edge},
+            label.Background);
         for (const sPlacedText& line : label.Lines)
             canvas.Text(line.Left, line.Top, line.Text, line.Color);
     }

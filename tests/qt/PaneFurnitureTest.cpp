@@ -1,4 +1,5 @@
 #include "qt/PaneFurniture.h"
+#include "qt/PanePainter.h"
 #include "qt/PaneScenes.h"
 
 #include <gtest/gtest.h>
@@ -56,6 +57,26 @@ TEST(PaneLabels, StandOnTheSideOfTheirAnchorAtEveryScale)
         EXPECT_EQ(furnished.Box(2).Top, y);
         EXPECT_EQ(furnished.Box(3).Right, x) << "0x22: below, to the left";
         EXPECT_EQ(furnished.Box(3).Top, y);
+    }
+}
+
+// Whatever the face's line height: that of Liberation Sans at scale 2 gave a border of half the pane pixel.
+TEST(PaneLabels, ABorderIsAPanePixelWideAtEveryScale)
+{
+    const Pane pane = test::EmptyPane(280, 180);
+    AddLabel(*pane, "text", AttachToPixel, AnchorBelowRight).SetPixelAnchor(100, 50);
+    AddLabel(*pane, "text", AttachToPixel, AnchorBelowRight).SetBorder(0);
+    EXPECT_EQ(sFurnished(*pane, 1.0).Placed.Labels.at(0).Edge, 1);
+    EXPECT_EQ(sFurnished(*pane, 1.5).Placed.Labels.at(0).Edge, 2);
+    EXPECT_EQ(sFurnished(*pane, 2.0).Placed.Labels.at(0).Edge, 2);
+    EXPECT_EQ(sFurnished(*pane, 2.0).Placed.Labels.at(1).Edge, 0);
+    for (const double scale : {1.0, 1.5, 2.0}) {
+        const QImage picture = PanePicture(*pane, scale, "Liberation Sans");
+        const sFurnished furnished(*pane, scale);
+        const int x = furnished.Box(0).Left, y = furnished.Box(0).Top + 6, edge = scale > 1 ? 2 : 1;
+        const QRgb border = picture.pixel(x, y);
+        EXPECT_EQ(picture.pixel(x + edge - 1, y), border) << scale;
+        EXPECT_NE(picture.pixel(x + edge, y), border) << scale;
     }
 }
 
