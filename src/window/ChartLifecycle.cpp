@@ -81,8 +81,8 @@ bool CChartLifecycle::DrawChart()
         return false;
     const std::string title = m_services.Top.Title();
     m_events.SavePosition();
-    // A window whose title names a chart shows one.
-    if (title.find(" - ") != std::string::npos)
+    // A window whose title names a chart shows one; a host may have given it a title of its own since.
+    if (title.find(" - ") != std::string::npos || m_requested)
         DropChart();
     if (symbol.find(',') != std::string::npos) {
         m_status.Message("Symbols cannot contain any commas.");
@@ -131,6 +131,7 @@ void CChartLifecycle::RequestChart()
     m_services.Top.SetCaption(ChartCaption(m_settings.Request));
     m_events.ChartRequested();
     FillRequest(*m_series, m_settings.Request, m_currentSymbol);
+    m_requested = true;
     m_feed.WatchSymbol(*m_series);
     m_services.Timer.Start(ProgressTimer, ProgressPeriod);
     m_feed.SendHistoryRequest(*m_series);

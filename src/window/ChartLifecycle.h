@@ -74,6 +74,7 @@ private:
     std::unique_ptr<CChartHistRequest> m_series;
     std::string m_currentSymbol;
     bool m_loading = false;
+    bool m_requested = false; // some chart was asked for
 };
 
 } // namespace zantroq

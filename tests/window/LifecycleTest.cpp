@@ -466,5 +466,17 @@ TEST(Lifecycle, TheLastTradeOfTheChartBeforeGoesWithIt)
     EXPECT_EQ(chart.Window->StatusPart(2), "");
 }
 
+TEST(Lifecycle, AHostsOwnTitleKeepsNoPointsOfTheChartBefore)
+{
+    sChartFixture chart;
+    chart.Chart("X", 5);
+    chart.Desktop.Top.TitleText = "Trading desk";
+    chart.Feed.Calls.clear();
+    chart.Type("Y");
+    chart.Window->OnCommand(CommandDrawChart);
+    EXPECT_EQ(chart.Feed.Calls, (Log{"unwatch X", "watch Y", "send Y"}));
+    EXPECT_EQ(chart.Window->Series()->GetCount(FieldTime), 0);
+}
+
 } // namespace
 } // namespace zantroq
