@@ -20,6 +20,13 @@ struct sPointChanges
     int First = 1, Last = 0; // else the points, from 1
 };
 
+// A series of one value from some point on, with the hole value at the points before it.
+struct sStep
+{
+    std::size_t Holes; // points without a value at the beginning
+    double Value;      // that of all points behind them
+};
+
 // The vectors of a group. The layout is always 1: one x vector, and with it one point count, shared by all
 // series of the group. Setting the point count of any series sizes all of them; points that come into being
 // so hold the hole value. Numbers out of range are not examined by callers: a getter then gives 0 (PointY the
@@ -71,6 +78,11 @@ public:
     // For the painter and for whole-vector readers: no copies.
     std::span<const double> X() const { return m_x; }
     std::span<const double> Y(int series) const;
+    // What is known of a series without looking at its values; nothing where they may be anything.
+    std::optional<sStep> KnownStep(int series) const
+    {
+        return Has(series) ? m_steps[static_cast<std::size_t>(series - 1)] : std::nullopt;
+    }
     // The series that a painter shows: FirstShownSeries to LastShownSeries as far as they exist; the last is
     // below the first when there are none.
     int FirstVisible() const;
@@ -99,11 +111,6 @@ private:
     void NoteWhole(int series = 0); // 0: of all series
     void NotePoints(int series, int first, int last);
     void ForgetX();
-    struct sStep
-    {
-        std::size_t Holes; // points without a value at the beginning
-        double Value;      // that of all points behind them
-    };
     std::optional<sStep>& Step(int series) { return m_steps[static_cast<std::size_t>(series - 1)]; }
     bool Has(int series) const { return series >= 1 && series <= SeriesCount(); }
     bool Has(int series, int point) const

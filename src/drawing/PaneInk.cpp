@@ -257,8 +257,45 @@ bool CPaneInk::DrawChangedLines(const CPaneGroup& group, std::uint64_t since)
     return true;
 }
 
+// Infinities stand at the plot's edges.
+int CPaneInk::HeightOf(double value) const
+{
+    const double place = !std::isinf(value) ? m_map.Y.Position(value)
+                         : value > 0        ? m_map.Plot.Top
+                                            : m_map.Plot.Bottom - 1;
+    return NearestPixel(place * sInkVertex::One);
+}
+
+// A level line of many points is known by its ends. False when it has to be drawn point by point: dashes of a
+// wide line begin anew at every column.
+bool CPaneInk::DrawLevel(const CPaneGroup& group, int series, sInkLine& line) const
+{
+    const CPaneData& data = group.PaneData();
+    const std::optional<sStep> step = data.KnownStep(series);
+    const bool marked = StyleOf(group, series).SymbolLook().Shape() != SymbolNone;
+    if (!step || marked || !IsCrowded() || !data.XNumbered() || (line.Pattern != LineSolid && line.Width > 1))
+        return false;
+    line.Vertices.clear();
+    const std::size_t first =
+        std::max(step->Holes, static_cast<std::size_t>(std::max(0, data.FirstPoint(series) - 1)));
+    if (!IsDrawn(step->Value) || first >= m_points.Count())
+        return true;
+    const std::size_t last = m_points.Count() - 1;
+    const int height = HeightOf(step->Value);
+    const int from = m_points.ColumnOf(first), to = m_points.ColumnOf(last);
+    const bool severalFirst = first < last && m_points.ColumnOf(first + 1) == from;
+    line.Vertices.push_back({from, height, height, height, height, false, severalFirst});
+    if (to != from)
+        line.Vertices.push_back(
+            {to, height, height, height, height, true, m_points.ColumnOf(last - 1) == to});
+    return true;
+}
+
 void CPaneInk::DrawLine(const CPaneGroup& group, int series, std::size_t firstPoint, sInkLine& line)
 {
+    m_runs.clear();
+    if (firstPoint == 0 && DrawLevel(group, series, line))
+        return;
     const CPaneData& data = group.PaneData();
     const double* y = data.Y(series).data();
     const std::size_t points = data.X().size();
@@ -271,13 +308,7 @@ void CPaneInk::DrawLine(const CPaneGroup& group, int series, std::size_t firstPo
             line.Vertices.pop_back();
         i = m_points.First(i, column);
     }
-    const double top = m_map.Plot.Top, bottom = m_map.Plot.Bottom - 1;
-    const auto height = [&](double value) {
-        const double place = std::isinf(value) ? (value > 0 ? top : bottom) : m_map.Y.Position(value);
-        return NearestPixel(place * sInkVertex::One);
-    };
     const bool reduced = m_detail == InkDetail::Reduced, crowded = IsCrowded();
-    m_runs.clear();
     bool joined = i > 0 && i <= points && !line.Vertices.empty() && IsDrawn(y[i - 1]);
     for (; i < points; ++i) {
         if (!IsDrawn(y[i]) || !m_points.IsPlaced(i)) {
@@ -285,7 +316,7 @@ void CPaneInk::DrawLine(const CPaneGroup& group, int series, std::size_t firstPo
             i = SkipUndrawn(data.Y(series), i + 1) - 1;
             continue;
         }
-        const int column = m_points.ColumnOf(i), h = height(y[i]);
+        const int column = m_points.ColumnOf(i), h = HeightOf(y[i]);
         if (crowded) {
             // A column of plain numbers at once: the least and greatest decide, the order of the points
             // between does not.
@@ -295,19 +326,19 @@ void CPaneInk::DrawLine(const CPaneGroup& group, int series, std::size_t firstPo
             if (m_runs.empty() || m_runs.back().End <= i) // else a column with gaps, begun already
                 m_runs.push_back({i, end, found.Least, found.Greatest, plain});
             if (plain) {
-                const int a = height(found.Least), b = height(found.Greatest);
+                const int a = HeightOf(found.Least), b = HeightOf(found.Greatest);
                 if (joined && line.Vertices.back().Column == column) {
                     sInkVertex& vertex = line.Vertices.back();
                     vertex = {column,
                               vertex.First,
-                              height(y[end - 1]),
+                              HeightOf(y[end - 1]),
                               std::min({vertex.Top, a, b}),
                               std::max({vertex.Bottom, a, b}),
                               vertex.Joined,
                               true};
                 } else {
                     line.Vertices.push_back(
-                        {column, h, height(y[end - 1]), std::min(a, b), std::max(a, b), joined, true});
+                        {column, h, HeightOf(y[end - 1]), std::min(a, b), std::max(a, b), joined, true});
                 }
                 joined = true;
                 i = end - 1;

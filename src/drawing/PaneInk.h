@@ -100,7 +100,9 @@ private:
     void DrawSymbols(const CPaneGroup& group, int series);
     void DrawLine(const CPaneGroup& group, int series, std::size_t firstPoint, sInkLine& line);
     bool HasBars(const CPaneGroup& group) const;
-    bool IsCrowded() const; // many points a column, in order: they may be looked at together
+    bool DrawLevel(const CPaneGroup& group, int series, sInkLine& line) const;
+    int HeightOf(double value) const; // in 1/256 device pixels
+    bool IsCrowded() const;           // many points a column, in order: they may be looked at together
 
     int m_group;
     InkDetail m_detail;

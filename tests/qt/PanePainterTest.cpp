@@ -125,6 +125,51 @@ TEST(PaneReduction, LinesOfEveryPatternAndWidthLookAsEveryPointPainted)
     }
 }
 
+TEST(PaneReduction, LevelsLookAsEveryPointPainted)
+{
+    for (const int count : {100, 700, 7000})
+        for (const int pattern : {LineSolid, LineLongDashes, LineShortDashes})
+            for (const int width : {1, 2, 3})
+                for (const int first : {1, count / 3, count - 1, count, count + 1}) {
+                    const Pane pane = test::LinePane(280, 180, std::vector<double>(count, 40.0));
+                    CPaneGroup& group = pane->PaneGroups(1);
+                    group.SeriesStyles(1).LineLook().SetWidth(width);
+                    group.SeriesStyles(1).LineLook().SetPattern(pattern);
+                    group.PaneData().SetStepY(1, first, 60);
+                    for (const double scale : {1.0, 2.0})
+                        ASSERT_TRUE(LooksAsEveryPointPainted(*pane, scale))
+                            << count << ' ' << pattern << ' ' << width << ' ' << first << " at " << scale;
+                }
+}
+
+TEST(PaneReduction, ALevelThatIsNoneAnyMoreLooksAsEveryPointPainted)
+{
+    const int count = 7000;
+    const Pane pane = test::LinePane(280, 180, std::vector<double>(count, 40.0));
+    CPaneData& data = pane->PaneGroups(1).PaneData();
+    data.SetStepY(1, 2000, 60);
+    CPanePainter kept(*pane, Family);
+    const auto check = [&] {
+        CPanePainter plain(*pane, Family, InkDetail::EveryPoint);
+        return SamePicture(kept.Picture(1), plain.Picture(1));
+    };
+    ASSERT_TRUE(check());
+    data.SetPointY(1, count, 20); // the last point alone
+    ASSERT_TRUE(check());
+    data.SetPointY(1, 5000, 80);
+    ASSERT_TRUE(check());
+    data.SetPointY(1, 100, 30); // in the holes before it
+    ASSERT_TRUE(check());
+    data.SetStepY(1, 1, 50);
+    ASSERT_TRUE(check());
+    ASSERT_TRUE(data.ShiftPoints(1, count - 500, 501));
+    ASSERT_TRUE(check());
+    data.SetPointCount(1, 300);
+    ASSERT_TRUE(check());
+    data.SetStepY(1, 200, -std::numeric_limits<double>::infinity());
+    ASSERT_TRUE(check());
+}
+
 TEST(PaneReduction, MarksOnLinesLookAsEveryPointPainted)
 {
     std::mt19937 random(17);
