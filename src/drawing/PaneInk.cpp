@@ -268,12 +268,12 @@ int CPaneInk::HeightOf(double value) const
 
 // A level line of many points is known by its ends. False when it has to be drawn point by point: dashes of a
 // wide line begin anew at every column.
-bool CPaneInk::DrawLevel(const CPaneGroup& group, int series, sInkLine& line) const
+bool CPaneInk::DrawLevel(const CPaneGroup& group, int series, sInkLine& line)
 {
     const CPaneData& data = group.PaneData();
     const std::optional<sStep> step = data.KnownStep(series);
-    const bool marked = StyleOf(group, series).SymbolLook().Shape() != SymbolNone;
-    if (!step || marked || !IsCrowded() || !data.XNumbered() || (line.Pattern != LineSolid && line.Width > 1))
+    if (!step || std::isinf(step->Value) || !IsCrowded() || !data.XNumbered() ||
+        (line.Pattern != LineSolid && line.Width > 1))
         return false;
     line.Vertices.clear();
     const std::size_t first =
@@ -281,6 +281,7 @@ bool CPaneInk::DrawLevel(const CPaneGroup& group, int series, sInkLine& line) co
     if (!IsDrawn(step->Value) || first >= m_points.Count())
         return true;
     const std::size_t last = m_points.Count() - 1;
+    m_runs.push_back({first, last + 1, step->Value, step->Value, true}); // every column has a point
     const int height = HeightOf(step->Value);
     const int from = m_points.ColumnOf(first), to = m_points.ColumnOf(last);
     const bool severalFirst = first < last && m_points.ColumnOf(first + 1) == from;
@@ -366,9 +367,9 @@ void CPaneInk::DrawSymbols(const CPaneGroup& group, int series)
     const int size = DevicePixels(look.Size(), m_scale), half = size / 2;
     const std::span<const double> x = data.X(), y = data.Y(series);
     sInkRect before{};
-    const auto emit = [&](int column, int top, int bottom) {
-        const sInkRect box{std::max(column - half, m_map.Plot.Left), std::max(top - half, m_map.Plot.Top),
-                           std::min(column - half + size, m_map.Plot.Right),
+    const auto emit = [&](int from, int to, int top, int bottom) { // the first and last column
+        const sInkRect box{std::max(from - half, m_map.Plot.Left), std::max(top - half, m_map.Plot.Top),
+                           std::min(to - half + size, m_map.Plot.Right),
                            std::min(bottom - half + size, m_map.Plot.Bottom), look.SymbolColour()};
         // One colour: the same box again shows nothing new.
         if (box.Left < box.Right && box.Top < box.Bottom && !(box == before))
@@ -378,8 +379,8 @@ void CPaneInk::DrawSymbols(const CPaneGroup& group, int series)
     const auto single = [&](std::size_t i) {
         if (!IsDrawn(y[i]) || !IsDrawn(x[i]) || std::isinf(x[i]) || std::isinf(y[i]))
             return;
-        const int row = m_map.Y.Pixel(y[i]);
-        emit(m_map.X.Pixel(x[i]), row, row);
+        const int row = m_map.Y.Pixel(y[i]), column = m_map.X.Pixel(x[i]);
+        emit(column, column, row, row);
     };
     m_widest = std::max(m_widest, size);
     if (!IsCrowded()) {
@@ -393,7 +394,8 @@ void CPaneInk::DrawSymbols(const CPaneGroup& group, int series)
             const int a = m_map.Y.Pixel(run.Least), b = m_map.Y.Pixel(run.Greatest);
             if (std::abs(a - b) <= size || std::min(a, b) - half >= m_map.Plot.Bottom ||
                 std::max(a, b) - half + size <= m_map.Plot.Top) {
-                emit(m_map.X.Pixel(x[run.First]), std::min(a, b), std::max(a, b));
+                emit(m_map.X.Pixel(x[run.First]), m_map.X.Pixel(x[run.End - 1]), std::min(a, b),
+                     std::max(a, b));
                 continue;
             }
         }

@@ -83,7 +83,7 @@ private:
         std::size_t FirstPoint, FirstRect;
     };
 
-    struct sRun // points of a line in one column, looked at together
+    struct sRun // points of a line in one column, or of a level in many, looked at together
     {
         std::size_t First, End;
         double Least, Greatest; // when Plain
@@ -100,7 +100,7 @@ private:
     void DrawSymbols(const CPaneGroup& group, int series);
     void DrawLine(const CPaneGroup& group, int series, std::size_t firstPoint, sInkLine& line);
     bool HasBars(const CPaneGroup& group) const;
-    bool DrawLevel(const CPaneGroup& group, int series, sInkLine& line) const;
+    bool DrawLevel(const CPaneGroup& group, int series, sInkLine& line);
     int HeightOf(double value) const; // in 1/256 device pixels
     bool IsCrowded() const;           // many points a column, in order: they may be looked at together
 

@@ -128,18 +128,24 @@ TEST(PaneReduction, LinesOfEveryPatternAndWidthLookAsEveryPointPainted)
 TEST(PaneReduction, LevelsLookAsEveryPointPainted)
 {
     for (const int count : {100, 700, 7000})
-        for (const int pattern : {LineSolid, LineLongDashes, LineShortDashes})
+        for (const int pattern : {LineNone, LineSolid, LineLongDashes, LineShortDashes})
             for (const int width : {1, 2, 3})
-                for (const int first : {1, count / 3, count - 1, count, count + 1}) {
-                    const Pane pane = test::LinePane(280, 180, std::vector<double>(count, 40.0));
-                    CPaneGroup& group = pane->PaneGroups(1);
-                    group.SeriesStyles(1).LineLook().SetWidth(width);
-                    group.SeriesStyles(1).LineLook().SetPattern(pattern);
-                    group.PaneData().SetStepY(1, first, 60);
-                    for (const double scale : {1.0, 2.0})
-                        ASSERT_TRUE(LooksAsEveryPointPainted(*pane, scale))
-                            << count << ' ' << pattern << ' ' << width << ' ' << first << " at " << scale;
-                }
+                for (const int mark : {0, 1, 4})
+                    for (const int first : {1, count / 3, count - 1, count, count + 1}) {
+                        const Pane pane = test::LinePane(280, 180, std::vector<double>(count, 40.0));
+                        CPaneGroup& group = pane->PaneGroups(1);
+                        group.SeriesStyles(1).LineLook().SetWidth(width);
+                        group.SeriesStyles(1).LineLook().SetPattern(pattern);
+                        CSymbolLook& look = group.SeriesStyles(1).SymbolLook();
+                        look.SetShape(mark > 0 ? SymbolMark : SymbolNone);
+                        look.SetSize(mark);
+                        look.SetColour(0xC0C0C0);
+                        group.PaneData().SetStepY(1, first, 60);
+                        for (const double scale : {1.0, 2.0})
+                            ASSERT_TRUE(LooksAsEveryPointPainted(*pane, scale))
+                                << count << ' ' << pattern << ' ' << width << ' ' << mark << ' ' << first
+                                << " at " << scale;
+                    }
 }
 
 TEST(PaneReduction, ALevelThatIsNoneAnyMoreLooksAsEveryPointPainted)
