@@ -263,8 +263,8 @@ double Seconds(Clock::time_point from)
 // Receives the text and finds line ends; onLine(number of the line) for each.
 template<class F> void ReceiveLines(benchmark::State& state, F makeOnLine)
 {
-    const std::string text = TickText("0123456");
     for (auto _ : state) {
+        const std::string text = TickText("0123456"); // anew, as below: it decides what memory is fresh
         sListener listener;
         std::thread feed([&] {
             const int connection = ::accept(listener.Handle, nullptr, nullptr);
