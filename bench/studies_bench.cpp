@@ -8,7 +8,9 @@
 //   ComputeSlow25Short, PlainSlow25Short   slow stochastics of period 25 over 3,840 bars, the plain one being
 //                         too slow for more; Compute/Slow25 is that of the whole series
 //   DrawAll               whole draw of the price pane and all ten studies, series to scene
+//   PaintAll              painting the eleven panes of DrawAll, 1500x1400 together, after a whole draw
 //   Tick                  one new tick with ten study panes, all points shown: series to scene
+//   TickPainted           the same, series to pixels
 #include "studies/AverageConvergence.h"
 #include "studies/DirectionalIndex.h"
 #include "studies/MomentumArithmetic.h"
@@ -19,14 +21,20 @@
 #include "studies/VolumeBalance.h"
 #include "studies/VolumeScale.h"
 
+#include "qt/PanePainter.h"
+
 #include "studies/PlainStudy.h"
 #include "support/SeriesFixture.h"
+
+#include <QGuiApplication>
 
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
 #include <cmath>
 #include <functional>
+#include <memory>
+#include <vector>
 
 namespace zantroq {
 namespace {
@@ -202,16 +210,56 @@ void DrawAll(benchmark::State& state)
         panes.manager.Draw(0);
 }
 
-void Tick(benchmark::State& state)
+// The eleven panes of a window on pictures of their own.
+class CPaintedPanes
+{
+public:
+    explicit CPaintedPanes(CAllPanes& panes)
+    {
+        for (int pane = 0; pane <= StudyKinds; ++pane) {
+            CAreaBox& box = panes.window.Pane(pane).PaneArea().AreaBox();
+            box.Width().SetValue(1500);
+            box.Height().SetValue(pane == 0 ? 400 : 100);
+            m_painters.push_back(std::make_unique<CPanePainter>(panes.window.Pane(pane)));
+        }
+    }
+    void Paint()
+    {
+        for (const auto& painter : m_painters)
+            benchmark::DoNotOptimize(painter->Picture(1).constBits());
+    }
+
+private:
+    std::vector<std::unique_ptr<CPanePainter>> m_painters;
+};
+
+void PaintAll(benchmark::State& state)
+{
+    CAllPanes panes(DailyData);
+    panes.manager.FullRedraw();
+    CPaintedPanes painted(panes);
+    for (auto _ : state) {
+        state.PauseTiming();
+        panes.manager.Draw(0);
+        state.ResumeTiming();
+        painted.Paint();
+    }
+}
+
+void Ticks(benchmark::State& state, bool painting)
 {
     CAllPanes panes(TickData);
     panes.manager.FullRedraw();
+    CPaintedPanes painted(panes);
+    painted.Paint();
     int i = Points;
     for (auto _ : state) {
         const sBar bar = BarAt(i++);
         panes.Add(bar.Open, bar.High, bar.Low, bar.Close, 100);
         panes.window.scrollLimit = i - Points;
         panes.manager.Update(1);
+        if (painting)
+            painted.Paint();
     }
 }
 
@@ -241,7 +289,13 @@ void Register()
         Plain(s, StudyStochastics, few);
     })->Unit(benchmark::kMillisecond);
     benchmark::RegisterBenchmark("DrawAll", DrawAll)->Unit(benchmark::kMillisecond);
-    benchmark::RegisterBenchmark("Tick", Tick)->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("PaintAll", PaintAll)->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("Tick", [](benchmark::State& s) {
+        Ticks(s, false);
+    })->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("TickPainted", [](benchmark::State& s) {
+        Ticks(s, true);
+    })->Unit(benchmark::kMillisecond);
 }
 
 } // namespace
@@ -249,6 +303,8 @@ void Register()
 
 int main(int argc, char** argv)
 {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv); // for the fonts of the painted panes
     zantroq::Register();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
