@@ -93,7 +93,7 @@ CPaneInk::sDamage CPaneInk::Update(const CChart2D& chart, const sPlotMap& map, d
         const double* x = data.X().data();
         const std::size_t last = std::min(static_cast<std::size_t>(changes.Last), data.X().size() - 1);
         const int reach = m_widest + 1;
-        if (data.XAscending() && DrawTail(group, first))
+        if (m_points.InOrder() && DrawTail(group, first))
             return {false, std::max(m_map.Plot.Left, m_map.X.Pixel(x[first > 0 ? first - 1 : 0]) - reach),
                     std::min(m_map.Plot.Right, m_map.X.Pixel(x[last]) + reach + 1)};
     }
@@ -115,7 +115,7 @@ void CPaneInk::DrawAll(const CPaneGroup& group)
     m_lines.clear();
     m_lineSeries.clear();
     m_widest = 1;
-    m_ascending = group.PaneData().XAscending();
+    m_ascending = m_points.InOrder();
     if (m_map.Empty())
         return;
     if (HasBars(group))
@@ -141,7 +141,7 @@ bool CPaneInk::DrawTail(const CPaneGroup& group, std::size_t firstPoint)
     if (!m_rects.empty())
         return false;
     for (std::size_t i = 0; i < m_lines.size(); ++i)
-        DrawLine(group, m_lineSeries[i], firstPoint, m_lines[i]);
+        DrawLine(group, m_lineSeries[i], m_lines[i].Level ? 0 : firstPoint, m_lines[i]);
     return true;
 }
 
@@ -241,7 +241,7 @@ bool CPaneInk::DrawChangedLines(const CPaneGroup& group, std::uint64_t since)
     if (m_map.Empty() || HasBars(group) || data.FrameChangedSince(since))
         return false;
     m_rects.clear();
-    m_ascending = data.XAscending();
+    m_ascending = m_points.InOrder();
     sInkLine bare;
     std::size_t next = 0;
     for (int series = data.FirstVisible(); series <= data.LastVisible(); ++series) {
@@ -284,18 +284,25 @@ bool CPaneInk::DrawLevel(const CPaneGroup& group, int series, sInkLine& line)
     m_runs.push_back({first, last + 1, step->Value, step->Value, true}); // every column has a point
     const int height = HeightOf(step->Value);
     const int from = m_points.ColumnOf(first), to = m_points.ColumnOf(last);
-    const bool severalFirst = first < last && m_points.ColumnOf(first + 1) == from;
-    line.Vertices.push_back({from, height, height, height, height, false, severalFirst});
-    if (to != from)
-        line.Vertices.push_back(
-            {to, height, height, height, height, true, m_points.ColumnOf(last - 1) == to});
+    // A column of several points is wider inked than one that a line only passes; between the ones beside the
+    // ends all are of one kind.
+    int before = from - 1;
+    for (const int column : {from, from + 1, to - 1, to}) {
+        if (column <= before || column > to)
+            continue;
+        const std::size_t begin = m_points.First(first, column);
+        const bool several = begin < last && m_points.ColumnOf(begin + 1) == column;
+        line.Vertices.push_back({column, height, height, height, height, column > from, several});
+        before = column;
+    }
     return true;
 }
 
 void CPaneInk::DrawLine(const CPaneGroup& group, int series, std::size_t firstPoint, sInkLine& line)
 {
     m_runs.clear();
-    if (firstPoint == 0 && DrawLevel(group, series, line))
+    line.Level = firstPoint == 0 && DrawLevel(group, series, line);
+    if (line.Level)
         return;
     const CPaneData& data = group.PaneData();
     const double* y = data.Y(series).data();

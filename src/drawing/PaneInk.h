@@ -38,6 +38,7 @@ struct sInkLine
     int Width = 1;   // device pixels
     int Pattern = 0; // a LinePattern other than LineNone
     std::vector<sInkVertex> Vertices;
+    bool Level = false; // known by its ends: columns between them have no vertices
 };
 
 enum class InkDetail

@@ -13,13 +13,19 @@ class CPointColumns
 public:
     CPointColumns() = default;
     CPointColumns(const CPaneData& data, const CAxisMap& map)
-        : m_x(data.X().data()), m_count(data.X().size()), m_numbered(data.XNumbered()), m_map(map)
+        : m_x(data.X().data()),
+          m_count(data.X().size()),
+          m_ascending(data.XAscending()),
+          m_numbered(data.XNumbered()),
+          m_map(map)
     {
     }
 
     std::size_t Count() const { return m_count; }
     // Whether the point has a place at all.
     bool IsPlaced(std::size_t i) const { return m_numbered || (IsDrawn(m_x[i]) && !std::isinf(m_x[i])); }
+    // Whether the columns of the points ascend, each point having one.
+    bool InOrder() const { return m_ascending && (m_count == 0 || (IsPlaced(0) && IsPlaced(m_count - 1))); }
     // REQUIRES: IsPlaced(i).
     int ColumnOf(std::size_t i) const
     {
@@ -34,7 +40,7 @@ public:
 private:
     const double* m_x = nullptr;
     std::size_t m_count = 0;
-    bool m_numbered = false;
+    bool m_ascending = true, m_numbered = false;
     CAxisMap m_map;
     std::size_t m_stride = 1; // points in the column looked at last
 };

@@ -148,6 +148,25 @@ TEST(PaneReduction, LevelsLookAsEveryPointPainted)
                     }
 }
 
+TEST(PaneReduction, AWideLevelLooksAsEveryPointPaintedWhereItsEndColumnsHoldOnePoint)
+{
+    const int count = 700;
+    const Pane pane = test::LinePane(280, 180, std::vector<double>(count, 40.0));
+    CPaneGroup& group = pane->PaneGroups(1);
+    CPaneAxis& x = pane->PaneArea().PaneAxes().X();
+    for (const int width : {1, 2, 3, 4})
+        for (const int first : {1, count / 3, count / 3 + 1, count - 3})
+            for (int shift = 0; shift < 12; ++shift) {
+                group.SeriesStyles(1).LineLook().SetWidth(width);
+                group.PaneData().SetStepY(1, first, 60);
+                x.ViewLow().SetValue(1 - shift);
+                x.ViewHigh().SetValue(count + shift * 0.7);
+                for (const double scale : {1.0, 1.5})
+                    ASSERT_TRUE(LooksAsEveryPointPainted(*pane, scale))
+                        << width << ' ' << first << ' ' << shift << " at " << scale;
+            }
+}
+
 TEST(PaneReduction, ALevelThatIsNoneAnyMoreLooksAsEveryPointPainted)
 {
     const int count = 7000;
@@ -174,6 +193,21 @@ TEST(PaneReduction, ALevelThatIsNoneAnyMoreLooksAsEveryPointPainted)
     ASSERT_TRUE(check());
     data.SetStepY(1, 200, -std::numeric_limits<double>::infinity());
     ASSERT_TRUE(check());
+}
+
+TEST(KeptPicture, APointOfALevelChangesWhereverItStandsInItsColumn)
+{
+    const int count = 700;
+    const Pane pane = test::LinePane(280, 180, std::vector<double>(count, 40.0));
+    CPaneData& data = pane->PaneGroups(1).PaneData();
+    CPanePainter kept(*pane, Family);
+    for (int point = count; point > count - 40; --point) {
+        data.SetStepY(1, 1, 60);
+        kept.Picture(1);
+        data.SetPointY(1, point, 20);
+        CPanePainter plain(*pane, Family, InkDetail::EveryPoint);
+        ASSERT_TRUE(SamePicture(kept.Picture(1), plain.Picture(1))) << point;
+    }
 }
 
 TEST(PaneReduction, MarksOnLinesLookAsEveryPointPainted)
@@ -241,6 +275,24 @@ TEST(PaneReduction, XInAnyOrderLooksAsEveryPointPainted)
 }
 
 // A kept picture after any change is the one painted from nothing.
+TEST(PaneReduction, PointsAtAnInfiniteXAreNotThereWhateverTheView)
+{
+    const double infinity = std::numeric_limits<double>::infinity();
+    for (const int type : {ChartLines, ChartBars})
+        for (const double low : {1.0, infinity}) {
+            std::vector<double> y(300, 40.0);
+            y.front() = 10;
+            y.back() = 90;
+            const Pane pane = test::LinePane(280, 180, y);
+            CPaneGroup& group = pane->PaneGroups(1);
+            group.SetChartType(type);
+            group.PaneData().SetPointX(1, 1, -infinity);
+            group.PaneData().SetPointX(1, 300, infinity);
+            pane->PaneArea().PaneAxes().X().ViewLow().SetValue(low);
+            EXPECT_TRUE(LooksAsEveryPointPainted(*pane, 1)) << "type " << type << ", view from " << low;
+        }
+}
+
 TEST(KeptPicture, AfterEachChangeIsThatPaintedFromNothing)
 {
     std::mt19937 random(17);
