@@ -1,7 +1,7 @@
 #include "market/FeedTimestamp.h"
 
 #include "platform/DigitBlock.h"
-#include "platform/NumberText.h"
+#include "platform/LeadingNumber.h"
 
 #include <cstring>
 

@@ -1,6 +1,6 @@
 #include "market/HistoryLine.h"
 
-#include "platform/NumberText.h"
+#include "platform/LeadingNumber.h"
 
 #include <algorithm>
 #include <stdexcept>

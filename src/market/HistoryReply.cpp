@@ -1,6 +1,6 @@
 #include "market/HistoryReply.h"
 
-#include "platform/NumberText.h"
+#include "platform/LeadingNumber.h"
 
 #include <cstring>
 #include <utility>

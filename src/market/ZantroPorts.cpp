@@ -1,6 +1,6 @@
 #include "market/ZantroPorts.h"
 
-#include "platform/NumberText.h"
+#include "platform/LeadingNumber.h"
 
 #include <map>
 #include <string>

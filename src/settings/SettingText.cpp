@@ -1,6 +1,6 @@
 #include "settings/SettingText.h"
 
-#include "settings/NumberText.h"
+#include "settings/StoredNumber.h"
 
 #include <algorithm>
 #include <charconv>
@@ -283,7 +283,7 @@ void TakeStoredList(sChartSettings& settings, const sSettingPlace& place, std::s
                     if (AllDigits(entries[i], row.Type == SettingType::Date ? 8 : 6))
                         member[i] = entries[i];
                 } else if constexpr (std::is_same_v<Entry, std::int32_t>) {
-                    const std::int32_t value = IntFromText(entries[i]);
+                    const std::int32_t value = ParseStoredInt(entries[i]);
                     const bool isKind = row.Form == SettingForm::DataTypeList && row.High == 9;
                     if (!isKind || RequestKindFits(static_cast<int>(i), value))
                         member[i] = value;

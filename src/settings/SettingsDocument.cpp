@@ -1,10 +1,10 @@
 #include "settings/SettingsDocument.h"
 
 #include "platform/SettingsKey.h"
-#include "settings/NumberText.h"
 #include "settings/SettingText.h"
 #include "settings/SettingsLoader.h"
 #include "settings/SettingsTable.h"
+#include "settings/StoredNumber.h"
 
 #include <algorithm>
 
@@ -147,7 +147,7 @@ std::string_view TypeOf(const sSettingRow& row)
 std::string Hex(const std::string& decimal)
 {
     static constexpr char Digits[] = "0123456789ABCDEF";
-    const auto value = static_cast<std::uint32_t>(IntFromText(decimal));
+    const auto value = static_cast<std::uint32_t>(ParseStoredInt(decimal));
     std::string text = "0x";
     for (int shift = 20; shift >= 0; shift -= 4)
         text += Digits[(value >> shift) & 15];
@@ -165,7 +165,7 @@ std::string DefaultOf(const sSettingRow& row)
     return row.Type == SettingType::Color ? Hex(text) : text;
 }
 
-std::string NumberText(double value)
+std::string PlainNumber(double value)
 {
     const auto whole = static_cast<std::int32_t>(value);
     if (whole == value)
@@ -183,7 +183,7 @@ std::string RangeOf(const sSettingRow& row)
         return "0x000000 to 0xFFFFFF";
     if (row.Type == SettingType::Bool)
         return "0, 1";
-    return NumberText(row.Low) + " to " + NumberText(row.High);
+    return PlainNumber(row.Low) + " to " + PlainNumber(row.High);
 }
 
 std::string_view OutsideOf(const sSettingRow& row)

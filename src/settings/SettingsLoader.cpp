@@ -1,10 +1,10 @@
 #include "settings/SettingsLoader.h"
 
-#include "settings/NumberText.h"
 #include "settings/SettingText.h"
 #include "settings/SettingsStore.h"
 #include "settings/SettingsTable.h"
 #include "settings/SettingsWriter.h"
+#include "settings/StoredNumber.h"
 
 namespace zantroq {
 namespace {
@@ -27,9 +27,9 @@ void LoadSingle(CSettingsStore& store, sChartSettings& settings, const sSettingR
     if (row.Type == SettingType::Bool)
         TakeStoredInt(settings, place, store.LoadBool(row.Id, current == "1") ? 1 : 0);
     else if (row.Type == SettingType::Double)
-        TakeStoredDouble(settings, place, store.LoadDouble(row.Id, DoubleFromText(current)));
+        TakeStoredDouble(settings, place, store.LoadDouble(row.Id, ParseStoredDouble(current)));
     else
-        TakeStoredInt(settings, place, store.LoadInt(row.Id, IntFromText(current)));
+        TakeStoredInt(settings, place, store.LoadInt(row.Id, ParseStoredInt(current)));
 }
 
 void LoadDataTypeList(CSettingsStore& store, sChartSettings& settings, const sSettingRow& row)

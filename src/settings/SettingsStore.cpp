@@ -1,7 +1,7 @@
 #include "settings/SettingsStore.h"
 
-#include "settings/NumberText.h"
 #include "settings/SettingsTable.h"
+#include "settings/StoredNumber.h"
 
 namespace zantroq {
 
@@ -13,13 +13,13 @@ std::string GetSettingsKeyPath()
 std::int32_t CSettingsStore::ReadInt(std::string_view name)
 {
     std::string text;
-    return ReadString(name, text) ? IntFromText(text) : MissingInt;
+    return ReadString(name, text) ? ParseStoredInt(text) : MissingInt;
 }
 
 double CSettingsStore::ReadDouble(std::string_view name)
 {
     std::string text;
-    return ReadString(name, text) ? DoubleFromText(text) : MissingDouble;
+    return ReadString(name, text) ? ParseStoredDouble(text) : MissingDouble;
 }
 
 bool CSettingsStore::ReadString(std::string_view name, std::string& out)

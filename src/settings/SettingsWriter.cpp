@@ -1,8 +1,8 @@
 #include "settings/SettingsWriter.h"
 
-#include "settings/NumberText.h"
 #include "settings/SettingText.h"
 #include "settings/SettingsStore.h"
+#include "settings/StoredNumber.h"
 
 #include <algorithm>
 

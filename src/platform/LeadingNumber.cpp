@@ -1,4 +1,4 @@
-#include "platform/NumberText.h"
+#include "platform/LeadingNumber.h"
 
 #include <cstdlib>
 #include <fast_float/fast_float.h>

@@ -1,4 +1,6 @@
-#include "settings/NumberText.h"
+#include "settings/StoredNumber.h"
+
+#include "platform/LeadingNumber.h"
 
 #include <array>
 #include <charconv>
@@ -6,12 +8,6 @@
 
 namespace zantroq {
 namespace {
-
-std::string_view WithoutBlanks(std::string_view text)
-{
-    const auto first = text.find_first_not_of(" \t\n\v\f\r");
-    return first == std::string_view::npos ? std::string_view() : text.substr(first);
-}
 
 // from_chars takes no plus sign. A sign behind it would be a second one, which ends the number.
 bool SkipPlus(std::string_view& text)
@@ -24,22 +20,14 @@ bool SkipPlus(std::string_view& text)
 
 } // namespace
 
-std::int32_t IntFromText(std::string_view text)
+std::int32_t ParseStoredInt(std::string_view text)
 {
-    text = WithoutBlanks(text.substr(0, StoredNumberLength));
-    std::int32_t value = 0;
-    if (SkipPlus(text))
-        std::from_chars(text.data(), text.data() + text.size(), value);
-    return value;
+    return TextToInt(text.substr(0, StoredNumberLength));
 }
 
-double DoubleFromText(std::string_view text)
+double ParseStoredDouble(std::string_view text)
 {
-    text = WithoutBlanks(text.substr(0, StoredNumberLength));
-    double value = 0;
-    if (SkipPlus(text))
-        fast_float::from_chars(text.data(), text.data() + text.size(), value);
-    return value;
+    return TextToDouble(text.substr(0, StoredNumberLength));
 }
 
 std::string TextFromInt(std::int32_t value)

@@ -14,10 +14,9 @@ inline constexpr std::size_t StoredNumberLength = 9;
 inline constexpr std::int32_t LeastStoredInt = -99999999;
 inline constexpr std::int32_t GreatestStoredInt = 999999999;
 
-// The number that the text begins with, after blanks; 0 if it begins with none. Reads the first nine
-// characters.
-std::int32_t IntFromText(std::string_view text);
-double DoubleFromText(std::string_view text);
+// The number at the front of the first nine characters, read as atoi and atof read it.
+std::int32_t ParseStoredInt(std::string_view text);
+double ParseStoredDouble(std::string_view text);
 
 std::string TextFromInt(std::int32_t value);
 // The form "%f": six decimals.

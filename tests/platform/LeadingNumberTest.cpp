@@ -1,4 +1,4 @@
-#include "platform/NumberText.h"
+#include "platform/LeadingNumber.h"
 
 #include <cmath>
 #include <cstdint>
@@ -77,7 +77,7 @@ rc::Gen<std::string> Digits(int most)
 
 } // namespace
 
-TEST(NumberText, DoublesReadLikeTheCLibrary)
+TEST(LeadingNumber, DoublesReadLikeTheCLibrary)
 {
     for (const char* text : {"",
                              " ",
@@ -137,7 +137,7 @@ TEST(NumberText, DoublesReadLikeTheCLibrary)
         ExpectLikeC(text);
 }
 
-TEST(NumberText, PricesAreCorrectlyRounded)
+TEST(LeadingNumber, PricesAreCorrectlyRounded)
 {
     for (int whole = 0; whole < 200; ++whole)
         for (int part = 0; part < 10000; part += 7) {
@@ -147,7 +147,7 @@ TEST(NumberText, PricesAreCorrectlyRounded)
         }
 }
 
-RC_GTEST_PROP(NumberText, AnyTextReadsLikeTheCLibrary, ())
+RC_GTEST_PROP(LeadingNumber, AnyTextReadsLikeTheCLibrary, ())
 {
     const std::string text = *NumberLike();
     RC_ASSERT(SameDouble(TextToDouble(text), Reference(text)));
@@ -155,14 +155,14 @@ RC_GTEST_PROP(NumberText, AnyTextReadsLikeTheCLibrary, ())
     RC_ASSERT(TextToInt(text) == ReferenceInt(text));
 }
 
-RC_GTEST_PROP(NumberText, AnyDecimalReadsLikeTheCLibrary, ())
+RC_GTEST_PROP(LeadingNumber, AnyDecimalReadsLikeTheCLibrary, ())
 {
     const std::string text =
         *Digits(20) + "." + *Digits(20) + *rc::gen::element<std::string>("", "e5", "e-9", "x", " ");
     RC_ASSERT(SameDouble(TextToDouble(text), Reference(text)));
 }
 
-RC_GTEST_PROP(NumberText, AnyIntegerReadsLikeTheCLibrary, ())
+RC_GTEST_PROP(LeadingNumber, AnyIntegerReadsLikeTheCLibrary, ())
 {
     const std::string text = *rc::gen::element<std::string>("", " ", "-", "+", " -", "+-") + *Digits(24) +
                              *rc::gen::element<std::string>("", ".5", "x", " 1");
@@ -174,7 +174,7 @@ RC_GTEST_PROP(NumberText, AnyIntegerReadsLikeTheCLibrary, ())
         RC_ASSERT(TextToUnsigned(text) == 0u);
 }
 
-TEST(NumberText, UnsignedNumbersSaturateAndNegativeOnesWrap)
+TEST(LeadingNumber, UnsignedNumbersSaturateAndNegativeOnesWrap)
 {
     EXPECT_EQ(TextToUnsigned("4294967295"), 4294967295u);
     EXPECT_EQ(TextToUnsigned("4294967296"), 4294967295u);
@@ -186,7 +186,7 @@ TEST(NumberText, UnsignedNumbersSaturateAndNegativeOnesWrap)
     EXPECT_EQ(TextToUnsigned("x"), 0u);
 }
 
-TEST(NumberText, IntegersStopAtTheirLimits)
+TEST(LeadingNumber, IntegersStopAtTheirLimits)
 {
     EXPECT_EQ(TextToInt("2147483648"), 2147483647);
     EXPECT_EQ(TextToInt("-2147483648"), -2147483647 - 1);
@@ -196,13 +196,13 @@ TEST(NumberText, IntegersStopAtTheirLimits)
     EXPECT_EQ(TextToInt64("-9223372036854775809"), std::numeric_limits<std::int64_t>::min());
 }
 
-TEST(NumberText, AZeroByteEndsANumber)
+TEST(LeadingNumber, AZeroByteEndsANumber)
 {
     EXPECT_EQ(TextToDouble(std::string_view("1\0005", 3)), 1);
     EXPECT_EQ(TextToInt(std::string_view("1\0005", 3)), 1);
 }
 
-TEST(NumberText, PlainIntegersAreDigitsAlone)
+TEST(LeadingNumber, PlainIntegersAreDigitsAlone)
 {
     std::uint64_t value = 0;
     EXPECT_TRUE(PlainInteger("9999999999999999999", value));
@@ -211,7 +211,7 @@ TEST(NumberText, PlainIntegersAreDigitsAlone)
         EXPECT_FALSE(PlainInteger(text, value)) << text;
 }
 
-RC_GTEST_PROP(NumberText, ANumberInsideALineReadsLikeTheNumberAlone, ())
+RC_GTEST_PROP(LeadingNumber, ANumberInsideALineReadsLikeTheNumberAlone, ())
 {
     const std::string number =
         *rc::gen::oneOf(NumberLike(), Digits(9), rc::gen::map(Digits(4), [](std::string text) {
@@ -228,7 +228,7 @@ RC_GTEST_PROP(NumberText, ANumberInsideALineReadsLikeTheNumberAlone, ())
     RC_ASSERT(!isPlain || inLine == plain);
 }
 
-TEST(NumberText, EightCharactersInsideALineMayHoldAnyByte)
+TEST(LeadingNumber, EightCharactersInsideALineMayHoldAnyByte)
 {
     const std::string front = "12345678";
     for (int at = 0; at < 5; ++at)
