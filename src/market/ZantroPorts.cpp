@@ -28,12 +28,10 @@ public:
     {
     }
 
-    std::optional<SettingValue> Read(std::string_view name) override
+    CSettingRead Read(std::string_view name) override
     {
         const auto found = m_values.find(name);
-        if (found == m_values.end())
-            return std::nullopt;
-        return found->second;
+        return found == m_values.end() ? CSettingRead::Missing() : CSettingRead(found->second);
     }
     bool Write(std::string_view, const SettingValue&) override { return false; }
     bool Delete(std::string_view) override { return false; }
@@ -54,10 +52,11 @@ std::uint16_t CZantroPorts::GetPort(const char* valueName, const char* defaultTe
 {
     if (!m_key)
         return defaultPort;
-    const std::optional<SettingValue> value = m_key->Read(valueName);
+    const CSettingRead value = m_key->Read(valueName);
     if (value)
         return static_cast<std::uint16_t>(Number(*value));
-    m_key->Write(valueName, SettingValue{std::string(defaultText)});
+    if (value.Result() == ReadResult::Missing)
+        m_key->Write(valueName, SettingValue{std::string(defaultText)});
     return defaultPort;
 }
 

@@ -18,7 +18,8 @@ public:
     explicit CZantroPorts(std::shared_ptr<ISettingsKey> key);
 
     // The stored value as a number, by its leading digits. A value that is not there is written with its
-    // default text, so that the feed's settings afterwards hold it.
+    // default text, so that the feed's settings afterwards hold it; one that could not be read takes its
+    // default unwritten.
     std::uint16_t GetPort(const char* valueName, const char* defaultText, std::uint16_t defaultPort);
 
     std::uint16_t LookupPort() { return GetPort("LookupPort", "9100", DefaultLookupPort); }

@@ -14,6 +14,7 @@
 #include <chrono>
 #include <cstddef>
 #include <map>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>

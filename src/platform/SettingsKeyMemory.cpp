@@ -9,11 +9,11 @@ namespace {
 class CSettingsKeyMemory final : public ISettingsKey
 {
 public:
-    std::optional<SettingValue> Read(std::string_view name) override
+    CSettingRead Read(std::string_view name) override
     {
         const std::lock_guard lock(m_mutex);
         const auto found = m_values.find(name);
-        return found == m_values.end() ? std::nullopt : std::optional(found->second);
+        return found == m_values.end() ? CSettingRead::Missing() : found->second;
     }
     bool Write(std::string_view name, const SettingValue& value) override
     {

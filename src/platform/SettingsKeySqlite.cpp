@@ -18,28 +18,25 @@ public:
     {
     }
 
-    std::optional<SettingValue> Read(std::string_view name) override
+    CSettingRead Read(std::string_view name) override
     {
-        return Reading<std::optional<SettingValue>>([&] { return m_file.Read(m_key, name); });
+        const auto value = Try([&] { return m_file.Read(m_key, name); });
+        if (!value)
+            return CSettingRead::Unreadable();
+        return *value ? CSettingRead(**value) : CSettingRead::Missing();
     }
     bool Write(std::string_view name, const SettingValue& value) override
     {
-        return Writing([&] {
-            m_file.Write(m_key, name, value);
-            return true;
-        });
+        return Try([&] { return m_file.Write(m_key, name, value), true; }).has_value();
     }
     bool Delete(std::string_view name) override
     {
-        return Writing([&] { return m_file.Delete(m_key, name); });
+        return Try([&] { return m_file.Delete(m_key, name); }).value_or(false);
     }
     std::vector<std::pair<std::string, SettingValue>> List() override
     {
-        using Values = std::vector<std::pair<std::string, SettingValue>>;
-        return Reading<Values>([&] {
-            const SettingValues values = m_file.List(m_key);
-            return Values(values.begin(), values.end());
-        });
+        const SettingValues values = Try([&] { return m_file.List(m_key); }).value_or(SettingValues());
+        return {values.begin(), values.end()};
     }
 
 private:
@@ -48,28 +45,13 @@ private:
     static constexpr std::chrono::milliseconds Patience{3000};
     static constexpr std::chrono::seconds Sulk{10};
 
-    template<class Result, class Call> Result Reading(Call call)
-    {
-        const std::lock_guard lock(m_mutex);
-        if (std::optional<Result> result = Try<Result>(call))
-            return std::move(*result);
-        // Whoever found a value missing writes its default next, and the value may be there all the same.
-        m_noWriteUntil = Clock::now() + Sulk;
-        return {};
-    }
-
-    template<class Call> bool Writing(Call call)
-    {
-        const std::lock_guard lock(m_mutex);
-        return Clock::now() >= m_noWriteUntil && Try<bool>(call).value_or(false);
-    }
-
     // Nothing when the file would not have it.
-    template<class Result, class Call> std::optional<Result> Try(Call call)
+    template<class Call> auto Try(Call call) -> std::optional<decltype(call())>
     {
+        const std::lock_guard lock(m_mutex);
         try {
             m_file.SetPatience(Clock::now() < m_noWaitUntil ? std::chrono::milliseconds{0} : Patience);
-            std::optional<Result> result(std::in_place, call());
+            std::optional<decltype(call())> result(std::in_place, call());
             m_noWaitUntil = {};
             return result;
         } catch (const CSettingsFileError& error) {
@@ -82,7 +64,7 @@ private:
     const std::string m_key;
     std::mutex m_mutex;
     CSettingsFile m_file;
-    Clock::time_point m_noWaitUntil{}, m_noWriteUntil{};
+    Clock::time_point m_noWaitUntil{};
 };
 
 } // namespace

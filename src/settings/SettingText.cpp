@@ -60,11 +60,6 @@ sChartSettings& Readable(const sChartSettings& settings)
     return const_cast<sChartSettings&>(settings);
 }
 
-bool IsList(const sSettingRow& row)
-{
-    return row.Form == SettingForm::DataTypeList || row.Form == SettingForm::PeriodList;
-}
-
 bool AllDigits(std::string_view text, std::size_t length)
 {
     return text.size() == length && std::ranges::all_of(text, [](char c) { return c >= '0' && c <= '9'; });
@@ -221,7 +216,7 @@ std::vector<std::string_view> SplitList(std::string_view text)
 std::string SettingText(const sChartSettings& settings, const sSettingPlace& place)
 {
     std::string text;
-    if (!IsList(*place.Row)) {
+    if (!place.Row->IsList()) {
         VisitValue(Readable(settings), place, [&](const auto& value) {
             if constexpr (requires { TextOf(value); })
                 text = TextOf(value);
@@ -300,7 +295,7 @@ std::string TakeTypedText(sChartSettings& settings, const sSettingPlace& place, 
     std::string wrong;
     if (std::holds_alternative<std::monostate>(row.Member)) {
         wrong = "nothing uses this setting";
-    } else if (IsList(row)) {
+    } else if (row.IsList()) {
         Visit(changed, row.Member, [&](auto& member) {
             using Member = std::decay_t<decltype(member)>;
             if constexpr (requires(Member m) { TakeTypedEntry(row, 0, text, m[0]); })

@@ -29,9 +29,11 @@ the first write. Inside is one table, `setting(key, name, type, value)`, with ty
 carries application number 0x5A545251 and user version 1.
 
 A missing, unreadable, locked or damaged file reads as all values missing, and the chart runs on its defaults without a word. A
-read-only file is read, and what would be written is skipped; so is what the chart would write in the ten seconds after a read that
-failed, lest a default take the place of a value that was only locked away. A damaged file, another program's data base, or a file
-of a later format is never written to. `zantroq-settings` says what is wrong with it.
+default is written only for a value that is surely missing, never for one that could not be read. What the user changes is written
+all the same; where the file does not take it, the chart tries again while it runs, and once more when its window closes. Of a list
+that could not be read only the entries that the user changed are written, and symbols stand in front of those that could not be
+read. A read-only file is read, and what would be written is skipped. A damaged file, another program's data base, or a file of a
+later format is never written to. `zantroq-settings` says what is wrong with it.
 
 )";
 

@@ -1,9 +1,6 @@
 #include "settings/SettingsLoader.h"
 
 #include "settings/SettingText.h"
-#include "settings/SettingsStore.h"
-#include "settings/SettingsTable.h"
-#include "settings/SettingsWriter.h"
 #include "settings/StoredNumber.h"
 
 namespace zantroq {
@@ -32,29 +29,38 @@ void LoadSingle(CSettingsStore& store, sChartSettings& settings, const sSettingR
         TakeStoredInt(settings, place, store.LoadInt(row.Id, ParseStoredInt(current)));
 }
 
-void LoadDataTypeList(CSettingsStore& store, sChartSettings& settings, const sSettingRow& row)
+bool LoadDataTypeList(CSettingsStore& store, sChartSettings& settings, const sSettingRow& row)
 {
-    if (std::string text; store.ReadString(row.Name, text))
+    std::string text;
+    const ReadResult result = store.ReadString(row.Name, text);
+    if (result == ReadResult::Found)
         TakeStoredList(settings, {&row}, text);
+    return result != ReadResult::Unreadable;
 }
 
 // The list that came to stand for ten single values takes them over the first time it is missed.
-void LoadPeriodList(CSettingsStore& store, sChartSettings& settings, const sSettingRow& row)
+bool LoadPeriodList(CSettingsStore& store, sChartSettings& settings, const sSettingRow& row)
 {
-    if (std::string text; store.ReadString(row.Name, text) && !text.empty()) {
+    std::string text;
+    const ReadResult result = store.ReadString(row.Name, text);
+    if (result == ReadResult::Unreadable)
+        return false;
+    if (!text.empty()) {
         TakeStoredList(settings, {&row}, text);
-        return;
+        return true;
     }
     const sSettingRow& old = RowOf(row.Id == PeriodId ? OldPeriodId : OldCustomPeriodId);
     auto& periods = row.Id == PeriodId ? settings.Studies.Periods : settings.Studies.CustomPeriods;
     for (int study = old.FirstNumber; study <= old.LastNumber; ++study)
-        if (const std::int32_t value = store.ReadInt(SettingName(old, study)); value != MissingInt)
-            periods[static_cast<std::size_t>(study)] = value;
+        if (store.ReadInt(SettingName(old, study), periods[static_cast<std::size_t>(study)]) ==
+            ReadResult::Unreadable)
+            return false;
     // Whatever happens in between, the periods stand in one form or the other.
     if (!store.WriteString(row.Name, SettingText(settings, {&row})))
-        return;
+        return true;
     for (int study = old.FirstNumber; study <= old.LastNumber; ++study)
         store.DeleteValue(SettingName(old, study));
+    return true;
 }
 
 bool AscendsToOne(const sPaneStack& panes)
@@ -75,8 +81,11 @@ void SpreadEvenly(sPaneStack& panes)
 
 void LoadPaneStack(CSettingsStore& store, sPaneStack& panes, const sSettingRow& row)
 {
-    const std::int32_t stored = store.ReadInt(row.Name);
-    if (stored == MissingInt) {
+    std::int32_t stored = MissingInt;
+    const ReadResult result = store.ReadInt(row.Name, stored);
+    if (result == ReadResult::Unreadable)
+        return;
+    if (result == ReadResult::Missing) {
         store.WriteInt(row.Name, panes.StudyCount);
         store.WriteInt(SettingName(RowOf(TypeOfPaneId), 0), panes.StudyTypes[0]);
         for (const int number : {1, 2})
@@ -119,10 +128,8 @@ void LoadRow(CSettingsStore& store, sChartSettings& settings, const sSettingRow&
         LoadSingle(store, settings, row);
         break;
     case SettingForm::DataTypeList:
-        LoadDataTypeList(store, settings, row);
-        break;
     case SettingForm::PeriodList:
-        LoadPeriodList(store, settings, row);
+        LoadList(store, settings, row);
         break;
     case SettingForm::PaneCount:
         LoadPaneStack(store, settings.Panes, row);
@@ -148,6 +155,12 @@ sChartSettings DefaultChartSettings(const std::string& today)
     settings.Request.BeginDates.fill(today);
     settings.Request.EndDates.fill(today);
     return settings;
+}
+
+bool LoadList(CSettingsStore& store, sChartSettings& settings, const sSettingRow& row)
+{
+    return row.Form == SettingForm::PeriodList ? LoadPeriodList(store, settings, row)
+                                               : LoadDataTypeList(store, settings, row);
 }
 
 sChartSettings LoadChartSettings(ISettingsKey& key, const std::string& today)

@@ -4,14 +4,15 @@
 
 #include "platform/CalendarTime.h"
 #include "platform/SettingsKey.h"
-#include "settings/ChartSettings.h"
+#include "settings/SettingsStore.h"
+#include "settings/SettingsTable.h"
 
 #include <string>
 
 namespace zantroq {
 
-// Never fails: on a key that cannot be read it gives the defaults. What may be relied on whatever the store
-// held:
+// Never fails: what cannot be read takes its default, and of that nothing is written. What may be relied on
+// whatever the store held:
 // - PtsIndex 0 to 14, GridStyle and CandleStyle 0 or 1, ScrollItems and ScrollPercent 1 to 999
 // - DataType 0 to 4, IntervalIndex 0 to 10, each entry of RequestKinds one that belongs to its data type
 // - dates are 8 digits, times 6; no claim that they exist in the calendar
@@ -29,5 +30,9 @@ sChartSettings LoadChartSettings(ISettingsKey& key, const std::string& today = T
 
 // A record with the same defaults that reads and writes nothing.
 sChartSettings DefaultChartSettings(const std::string& today = TodayText());
+
+// Reads the list of one row (DataTypeList or PeriodList) into a record that holds what missing entries are to
+// be. False when it could not be read; then nothing was written.
+bool LoadList(CSettingsStore& store, sChartSettings& settings, const sSettingRow& row);
 
 } // namespace zantroq

@@ -88,6 +88,7 @@ struct sSettingRow
     int FirstNumber = 0, LastNumber = 0; // numbers of an indexed row
 
     bool HasRange() const { return Low != 0 || High != 0; }
+    bool IsList() const { return Form == SettingForm::DataTypeList || Form == SettingForm::PeriodList; }
 };
 
 // All rows in the order in which they are loaded; those that are not loaded stand at the end.

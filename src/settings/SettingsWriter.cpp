@@ -1,6 +1,7 @@
 #include "settings/SettingsWriter.h"
 
 #include "settings/SettingText.h"
+#include "settings/SettingsLoader.h"
 #include "settings/SettingsStore.h"
 #include "settings/StoredNumber.h"
 
@@ -21,6 +22,43 @@ bool HasMember(const sSettingRow& row)
 void StorePlace(ISettingsKey& key, const sChartSettings& settings, const sSettingPlace& place)
 {
     CSettingsStore(key).WriteString(SettingName(*place.Row, place.Number), SettingText(settings, place));
+}
+
+// Of a list only the entries that were changed are known to be the user's. The others are those of the store,
+// which may never have been read.
+void StoreChangedEntries(CRetryingKey& key, const sSettingRow& row, const sChartSettings& before,
+                         const sChartSettings& after)
+{
+    const std::string text = SettingText(after, {&row}), old = SettingText(before, {&row});
+    const auto entries = SplitList(text), oldEntries = SplitList(old);
+    std::vector<bool> isChanged;
+    std::string subject(row.Name);
+    for (std::size_t i = 0; i < entries.size(); ++i) {
+        isChanged.push_back(entries[i] != oldEntries[i]);
+        if (isChanged.back())
+            subject += "," + std::to_string(i);
+    }
+    key.Make(subject, [&row, after, isChanged](ISettingsKey& below) {
+        CSettingsStore store(below);
+        sChartSettings stored = after;
+        if (!LoadList(store, stored, row))
+            return false;
+        const std::string wantedText = SettingText(after, {&row}), storedText = SettingText(stored, {&row});
+        const auto wantedEntries = SplitList(wantedText), storedEntries = SplitList(storedText);
+        std::string list;
+        for (std::size_t i = 0; i < wantedEntries.size(); ++i)
+            list.append(i ? "," : "").append(isChanged[i] ? wantedEntries[i] : storedEntries[i]);
+        return store.WriteString(row.Name, list);
+    });
+}
+
+void StoreChange(CRetryingKey& key, const sSettingPlace& place, const sChartSettings& before,
+                 const sChartSettings& after)
+{
+    if (place.Row->IsList())
+        StoreChangedEntries(key, *place.Row, before, after);
+    else
+        StorePlace(key, after, place);
 }
 
 // The numbers of an indexed row that are in use with so many studies.
@@ -79,8 +117,10 @@ void StoreInt(ISettingsKey& key, int id, std::int32_t value)
         CSettingsStore(key).WriteInt(row->Name, value);
 }
 
-void StorePaneStack(ISettingsKey& key, const sChartSettings& settings)
+void StorePaneStack(ISettingsKey& key, const sPaneStack& panes)
 {
+    sChartSettings settings;
+    settings.Panes = panes;
     StoreStudyList(key, settings);
     StoreIndexed(key, settings, TopOfPaneId);
     StoreSetting(key, settings, MaximizedId);
@@ -118,31 +158,31 @@ std::vector<sSettingPlace> ChangedSettings(const sChartSettings& before, const s
     return changed;
 }
 
-unsigned StoreChanges(ISettingsKey& key, const sChartSettings& before, const sChartSettings& after)
+unsigned StoreChanges(CRetryingKey& key, const sChartSettings& before, const sChartSettings& after)
 {
     unsigned effects = EffectNone;
     for (const sSettingPlace& place : ChangedSettings(before, after)) {
-        StorePlace(key, after, place);
+        StoreChange(key, place, before, after);
         effects |= place.Row->Effects;
     }
     return effects;
 }
 
-sSettingChange SetByName(sChartSettings& settings, ISettingsKey& key, std::string_view name,
+sSettingChange SetByName(sChartSettings& settings, CRetryingKey& key, std::string_view name,
                          std::string_view text)
 {
     const auto place = PlaceOf(settings, name);
     if (!place)
         return {Unknown(name)};
-    const std::string before = SettingText(settings, *place);
+    const sChartSettings before = settings;
     if (auto wrong = TakeTypedText(settings, *place, text); !wrong.empty())
         return {std::move(wrong)};
-    if (SettingText(settings, *place) == before)
+    if (SettingText(settings, *place) == SettingText(before, *place))
         return {};
     if (place->Row->Effects & EffectStudyList)
         StoreStudyList(key, settings);
     // Of a pane that is not in use yet the list above did not write it.
-    StorePlace(key, settings, *place);
+    StoreChange(key, *place, before, settings);
     return {"", true, place->Row->Effects};
 }
 

@@ -1,8 +1,8 @@
 // Storing changed settings: one value at a time, whatever differs between two records, or one value as a
-// person types it. A write that fails is skipped in silence. Lives on the chart window's thread.
+// person types it. A write that fails is up to the key. Lives on the chart window's thread.
 #pragma once
 
-#include "platform/SettingsKey.h"
+#include "settings/RetryingKey.h"
 #include "settings/SettingsTable.h"
 
 #include <string>
@@ -19,7 +19,7 @@ void StoreSetting(ISettingsKey& key, const sChartSettings& settings, int id, int
 void StoreInt(ISettingsKey& key, int id, std::int32_t value);
 
 // Writes the whole stack: count, types, borders, maximised index and minimised flags of the panes in use.
-void StorePaneStack(ISettingsKey& key, const sChartSettings& settings);
+void StorePaneStack(ISettingsKey& key, const sPaneStack& panes);
 
 // Writes all request settings, and removes them all from the key.
 void StoreRequestSettings(ISettingsKey& key, const sChartSettings& settings);
@@ -29,8 +29,9 @@ void ClearRequestSettings(ISettingsKey& key);
 // panes only those in use in either record are compared.
 std::vector<sSettingPlace> ChangedSettings(const sChartSettings& before, const sChartSettings& after);
 
-// Writes what differs and nothing else. The answer is the effects of all changes together.
-unsigned StoreChanges(ISettingsKey& key, const sChartSettings& before, const sChartSettings& after);
+// Writes what differs and nothing else; the entries of a list that do not differ stay as they are stored. The
+// answer is the effects of all changes together.
+unsigned StoreChanges(CRetryingKey& key, const sChartSettings& before, const sChartSettings& after);
 
 struct sSettingChange
 {
@@ -45,7 +46,7 @@ struct sSettingChange
 // of the scrolling mode that is on. A list may have fewer entries than the value: the others stay. A change
 // of "Number of displayed study charts" or of a type writes the count and the types of all panes in use; the
 // borders are the layout's.
-sSettingChange SetByName(sChartSettings& settings, ISettingsKey& key, std::string_view name,
+sSettingChange SetByName(sChartSettings& settings, CRetryingKey& key, std::string_view name,
                          std::string_view text);
 
 // Whether SetByName could take this at all, looked at without a chart: an unknown name, or a text that no

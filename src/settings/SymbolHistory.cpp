@@ -3,6 +3,8 @@
 #include "settings/SettingsStore.h"
 #include "settings/WindowPosition.h"
 
+#include <algorithm>
+
 namespace zantroq {
 namespace {
 
@@ -11,15 +13,52 @@ std::string NameOf(std::size_t place)
     return "SQ" + std::to_string(place);
 }
 
+using Symbols = std::vector<std::string>;
+
+// Nothing when they cannot be read.
+std::optional<Symbols> StoredSymbols(ISettingsKey& key)
+{
+    Symbols symbols;
+    CSettingsStore store(key);
+    for (std::size_t place = 0; place < CSymbolHistory::MostSymbols; ++place) {
+        std::string symbol;
+        if (store.ReadString(NameOf(place), symbol) == ReadResult::Unreadable)
+            return std::nullopt;
+        if (!symbol.empty())
+            symbols.push_back(std::move(symbol));
+    }
+    return symbols;
+}
+
+void Append(Symbols& symbols, Symbols older)
+{
+    for (std::string& symbol : older)
+        if (std::ranges::find(symbols, symbol) == symbols.end())
+            symbols.push_back(std::move(symbol));
+}
+
+void DropLast(ISettingsKey& key, Symbols& symbols)
+{
+    key.Delete(WindowRectName(symbols.back()));
+    key.Delete(WindowMaximizedName(symbols.back()));
+    symbols.pop_back();
+}
+
+bool StoreAll(ISettingsKey& key, const Symbols& symbols)
+{
+    bool isStored = true;
+    for (std::size_t place = 0; place < symbols.size(); ++place)
+        isStored = key.Write(NameOf(place), symbols[place]) && isStored;
+    return isStored;
+}
+
 } // namespace
 
 void CSymbolHistory::LoadSymbolHistory()
 {
-    m_items.clear();
-    CSettingsStore store(m_key);
-    for (std::size_t place = 0; place < MostSymbols; ++place)
-        if (std::string symbol; store.ReadString(NameOf(place), symbol) && !symbol.empty())
-            m_items.push_back(std::move(symbol));
+    auto stored = StoredSymbols(m_key);
+    m_isUnread = !stored;
+    m_items = stored ? std::move(*stored) : Symbols();
 }
 
 void CSymbolHistory::AddSymbol(const std::string& symbol)
@@ -27,15 +66,29 @@ void CSymbolHistory::AddSymbol(const std::string& symbol)
     if (symbol.empty())
         return;
     std::erase(m_items, symbol);
-    CSettingsStore store(m_key);
-    if (m_items.size() >= MostSymbols) {
-        store.DeleteValue(WindowRectName(m_items.back()));
-        store.DeleteValue(WindowMaximizedName(m_items.back()));
-        m_items.pop_back();
-    }
     m_items.insert(m_items.begin(), symbol);
-    for (std::size_t place = 0; place < m_items.size(); ++place)
-        store.WriteString(NameOf(place), m_items[place]);
+    if (m_isUnread) {
+        if (auto stored = StoredSymbols(m_key)) {
+            Append(m_items, std::move(*stored));
+            m_isUnread = false;
+        }
+    }
+    while (m_items.size() > MostSymbols)
+        DropLast(m_key, m_items);
+    if (!m_isUnread) {
+        StoreAll(m_key, m_items);
+        return;
+    }
+    m_key.Make(NameOf(0), [items = m_items](ISettingsKey& key) {
+        auto stored = StoredSymbols(key);
+        if (!stored)
+            return false;
+        Symbols all = items;
+        Append(all, std::move(*stored));
+        while (all.size() > MostSymbols)
+            DropLast(key, all);
+        return StoreAll(key, all);
+    });
 }
 
 } // namespace zantroq

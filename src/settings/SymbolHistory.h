@@ -1,7 +1,7 @@
 // The recently used symbols, newest first, kept as "SQ0" to "SQ19". Lives on the chart window's thread.
 #pragma once
 
-#include "platform/SettingsKey.h"
+#include "settings/RetryingKey.h"
 
 #include <string>
 #include <vector>
@@ -13,9 +13,10 @@ class CSymbolHistory
 public:
     static constexpr int MostSymbols = 20;
 
-    explicit CSymbolHistory(ISettingsKey& key) : m_key(key) {} // the key must outlive the history
+    explicit CSymbolHistory(CRetryingKey& key) : m_key(key) {} // the key must outlive the history
 
-    // Takes the stored symbols in order; empty and missing ones are left out.
+    // Takes the stored symbols in order; empty and missing ones are left out. What cannot be read stands
+    // behind the symbols added since, as soon as it can be read.
     void LoadSymbolHistory();
 
     // Puts the symbol at the top, takes it away from where it stood, and writes the whole list. An empty
@@ -28,8 +29,9 @@ public:
     const std::vector<std::string>& Items() const { return m_items; }
 
 private:
-    ISettingsKey& m_key;
+    CRetryingKey& m_key;
     std::vector<std::string> m_items;
+    bool m_isUnread = false; // the stored symbols could not be read yet
 };
 
 } // namespace zantroq

@@ -32,16 +32,16 @@ std::string WindowMaximizedName(const std::string& title)
     return WindowRectName(title) + ".Maximized";
 }
 
-sWindowPosition LoadWindowPosition(ISettingsKey& key, const std::string& title)
+bool LoadWindowPosition(ISettingsKey& key, const std::string& title, sWindowPosition& position)
 {
-    sWindowPosition position;
-    const auto rect = key.Read(WindowRectName(title));
-    if (const auto* bytes = rect ? std::get_if<Bytes>(&*rect) : nullptr; bytes && bytes->size() == 16)
+    position = {};
+    const CSettingRead rect = key.Read(WindowRectName(title));
+    if (const auto* bytes = rect.As<Bytes>(); bytes && bytes->size() == 16)
         position.Rect = {NumberAt(*bytes, 0), NumberAt(*bytes, 1), NumberAt(*bytes, 2), NumberAt(*bytes, 3)};
-    const auto flag = key.Read(WindowMaximizedName(title));
-    if (const auto* number = flag ? std::get_if<std::uint32_t>(&*flag) : nullptr)
+    const CSettingRead flag = key.Read(WindowMaximizedName(title));
+    if (const auto* number = flag.As<std::uint32_t>())
         position.Maximized = *number != 0;
-    return position;
+    return rect.Result() != ReadResult::Unreadable && flag.Result() != ReadResult::Unreadable;
 }
 
 void SaveWindowPosition(ISettingsKey& key, const std::string& title, const sWindowPosition& position)
@@ -54,9 +54,9 @@ void SaveWindowPosition(ISettingsKey& key, const std::string& title, const sWind
     key.Write(WindowMaximizedName(title), position.Maximized ? 1u : 0u);
 }
 
-void SaveWindowPosition(ISettingsKey& key, const ITopLevelWindow& window)
+sWindowPosition PositionOf(const ITopLevelWindow& window)
 {
-    SaveWindowPosition(key, window.Title(), {window.NormalRect(), window.Maximized()});
+    return {window.NormalRect(), window.Maximized()};
 }
 
 } // namespace zantroq

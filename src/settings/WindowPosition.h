@@ -22,10 +22,12 @@ std::string WindowRectName(const std::string& title);
 std::string WindowMaximizedName(const std::string& title);
 
 // A missing rectangle, or one that is not 16 bytes, is 0, 0, 620, 460; a missing flag means not maximized.
-sWindowPosition LoadWindowPosition(ISettingsKey& key, const std::string& title);
+// What could not be read takes the same defaults. Answers whether everything could be read.
+bool LoadWindowPosition(ISettingsKey& key, const std::string& title, sWindowPosition& position);
 
 void SaveWindowPosition(ISettingsKey& key, const std::string& title, const sWindowPosition& position);
-// The window's restored rectangle and state under its current title.
-void SaveWindowPosition(ISettingsKey& key, const ITopLevelWindow& window);
+
+// The window's restored rectangle and state.
+sWindowPosition PositionOf(const ITopLevelWindow& window);
 
 } // namespace zantroq

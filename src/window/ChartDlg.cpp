@@ -46,9 +46,10 @@ void CChartDlg::OnTimer(int id)
 {
     if (!m_parts->Ready)
         return;
-    if (id == ProgressTimer)
+    if (id == ProgressTimer) {
         m_parts->Lifecycle.OnTimer();
-    else if (id == FlashTimer)
+        m_parts->RetryChanges();
+    } else if (id == FlashTimer)
         m_parts->Trends.OnTimer();
 }
 

@@ -26,7 +26,7 @@ sChartParts::sChartParts(CChartDlg& window, std::span<CChart2D> panes, const sCh
       Dialogs(setup.Dialogs),
       Login(setup.Login),
       Settings(LoadChartSettings(setup.Key)),
-      Store(setup.Key),
+      Store(Key),
       Panes(panes),
       Batch(Panes),
       Status(Services.Status),
@@ -38,8 +38,8 @@ sChartParts::sChartParts(CChartDlg& window, std::span<CChart2D> panes, const sCh
       Display(Settings, Services.Scroll, Services.Commands, Status, Drawing),
       Resizer(Settings.Panes, Store, Panes, Services.Host, Services.Scroll, Services.Pointer, Drawing, Batch),
       Inspection(window, Drawing, Status, Services.Box, Services.Scroll),
-      Placement(setup.Key, Services.Top),
-      Bars(Settings, Store, Services, Status),
+      Placement(Key, Services.Top),
+      Bars(Settings, Key, Services, Status),
       Lifecycle(Settings, Store, Services, setup.Feed, Status, Display, Drawing, *this)
 {
     Manager.SetTrends(Trends.Layer());
@@ -75,6 +75,17 @@ void sChartParts::Destroy()
     Ready = false;
     Placement.SaveIfAsked();
     Lifecycle.End();
+}
+
+void sChartParts::RetryChanges()
+{
+    // Two seconds: less than the time for which a settings file that was found locked is not waited for, so
+    // that the window never stands still over a change that nobody is looking at.
+    constexpr int TicksBetweenTries = 8;
+    if (!Key.IsWaiting() || --m_ticksToRetry > 0)
+        return;
+    m_ticksToRetry = TicksBetweenTries;
+    Key.Retry();
 }
 
 void sChartParts::SetSymbol(const std::string& text)

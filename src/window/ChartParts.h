@@ -57,8 +57,8 @@ struct sChartParts : ILifecycleEvents, ISettingsTarget
 
     CChartDlg& Window;
     CMessageRecorder Recorder;
-    sWindowServices Services; // with the recorder as its message box
-    ISettingsKey& Key;
+    sWindowServices Services;  // with the recorder as its message box
+    CRetryingKey Key;          // takes the user's changes; what is loaded goes past it
     IWindowDialogs* Dialogs;   // may be null
     ILoginVerification* Login; // may be null
     sChartSettings Settings;
@@ -82,6 +82,9 @@ struct sChartParts : ILifecycleEvents, ISettingsTarget
     bool Initialising = true; // a symbol set meanwhile is kept and starts no chart
     bool Ready = false;       // events are taken
 
+    // Every tick of the progress timer; tries again what could not be stored.
+    void RetryChanges();
+
 private:
     void Unavailable(const char* feature);
     void RunSearch();
@@ -91,6 +94,8 @@ private:
     void FlipPriceBar();
     void ShowMarkers();
     void RestorePoints(int command);
+
+    int m_ticksToRetry = 0;
 };
 
 } // namespace zantroq

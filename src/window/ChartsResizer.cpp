@@ -1,5 +1,6 @@
 #include "window/ChartsResizer.h"
 
+#include "settings/SettingsWriter.h"
 #include "window/BatchCounters.h"
 
 #include <algorithm>
@@ -137,60 +138,66 @@ void CChartsResizer::OnButtonUp(int pane, int y)
     const int highest = m_bottoms[At(m_dragBorder + 1)] - MinPaneHeight;
     if (lowest > highest) // no room for two panes: the border stays
         return;
-    const double before = m_stack.Bounds[At(m_dragBorder)];
+    const sPaneStack before = m_stack;
     MovePaneBorder(m_stack, m_bottoms, m_dragBorder, std::clamp(FromTop(pane, y), lowest, highest));
-    if (m_stack.Bounds[At(m_dragBorder)] != before)
+    if (m_stack.Bounds[At(m_dragBorder)] != before.Bounds[At(m_dragBorder)])
         m_store.WriteDouble("Top of chart " + std::to_string(m_dragBorder), m_stack.Bounds[At(m_dragBorder)]);
-    Changed();
+    Changed(before);
 }
 
 void CChartsResizer::Maximize(int pane)
 {
     if (pane < 0 || pane >= PaneCount(m_stack))
         return;
+    const sPaneStack before = m_stack;
     MaximizePane(m_stack, pane);
-    Changed();
+    Changed(before);
 }
 
 void CChartsResizer::Minimize(int pane)
 {
     if (pane < 0 || pane >= PaneCount(m_stack))
         return;
+    const sPaneStack before = m_stack;
     MinimizePane(m_stack, pane);
-    Changed();
+    Changed(before);
 }
 
 void CChartsResizer::Restore(int pane)
 {
     if (pane < 0 || pane >= PaneCount(m_stack))
         return;
+    const sPaneStack before = m_stack;
     RestorePane(m_stack, pane);
-    Changed();
+    Changed(before);
 }
 
 void CChartsResizer::SetStudies(std::span<const int> studies)
 {
     ReplaceStudies(m_stack, studies);
-    m_store.WriteInt("Number of displayed study charts", m_stack.StudyCount);
-    for (int k = 0; k < m_stack.StudyCount; ++k)
-        m_store.WriteInt("Type of study chart " + std::to_string(k), m_stack.StudyTypes[At(k)]);
-    for (int k = 1; k <= PaneCount(m_stack); ++k)
-        m_store.WriteDouble("Top of chart " + std::to_string(k), m_stack.Bounds[At(k)]);
-    Store();
+    StorePaneStack(m_store.Key(), m_stack);
     m_drawing.RebuildStudies();
     Layout();
 }
 
-void CChartsResizer::Store()
+void CChartsResizer::StoreStates(const sPaneStack& before)
 {
-    m_store.WriteInt("Maximized Chart Index", m_stack.MaximizedIndex);
+    // What did not change may never have been read, so what is stored of it stays.
+    const auto store = [&](const std::string& name, int value, int old) {
+        if (value != old)
+            m_store.WriteInt(name, value);
+        else
+            m_store.FillIn(name, value);
+    };
+    store("Maximized Chart Index", m_stack.MaximizedIndex, before.MaximizedIndex);
     for (int pane = 0; pane < PaneCount(m_stack); ++pane)
-        m_store.WriteInt("Chart " + std::to_string(pane) + " Minimized", m_stack.Minimized[At(pane)]);
+        store("Chart " + std::to_string(pane) + " Minimized", m_stack.Minimized[At(pane)],
+              before.Minimized[At(pane)]);
 }
 
-void CChartsResizer::Changed()
+void CChartsResizer::Changed(const sPaneStack& before)
 {
-    Store();
+    StoreStates(before);
     Layout();
 }
 

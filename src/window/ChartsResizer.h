@@ -55,9 +55,9 @@ public:
 
 private:
     int FromTop(int pane, int y) const { return m_bottoms.at(static_cast<std::size_t>(pane)) + y; }
-    int BorderAt(int y) const; // 0: none
-    void Store();              // states and the maximised pane
-    void Changed();            // after a command or a drag
+    int BorderAt(int y) const;                  // 0: none
+    void StoreStates(const sPaneStack& before); // flags and the maximised pane
+    void Changed(const sPaneStack& before);     // after a command or a drag
 
     sPaneStack& m_stack;
     CSettingsStore& m_store;

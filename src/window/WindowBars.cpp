@@ -6,9 +6,9 @@
 
 namespace zantroq {
 
-CWindowBars::CWindowBars(sChartSettings& settings, CSettingsStore& store, const sWindowServices& services,
+CWindowBars::CWindowBars(sChartSettings& settings, CRetryingKey& key, const sWindowServices& services,
                          CStatusText& status)
-    : m_settings(settings), m_store(store), m_services(services), m_status(status), m_history(store.Key())
+    : m_settings(settings), m_store(key), m_services(services), m_status(status), m_history(key)
 {
 }
 

@@ -17,7 +17,7 @@ class IWindowDialogs;
 class CWindowBars
 {
 public:
-    CWindowBars(sChartSettings& settings, CSettingsStore& store, const sWindowServices& services,
+    CWindowBars(sChartSettings& settings, CRetryingKey& key, const sWindowServices& services,
                 CStatusText& status);
 
     void SetUp(const IWindowDialogs* dialogs); // boxes, checks, enabling, symbol history
@@ -34,7 +34,7 @@ public:
 
 private:
     sChartSettings& m_settings;
-    CSettingsStore& m_store;
+    CSettingsStore m_store;
     sWindowServices m_services;
     CStatusText& m_status;
     CSymbolHistory m_history;

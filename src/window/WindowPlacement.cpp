@@ -51,17 +51,19 @@ void CWindowPlacement::Apply()
     m_top.MoveTo(FitToScreen(m_position.Rect, m_top.VirtualScreen()));
     if (m_position.Maximized)
         m_top.Maximize();
+    m_default = m_isUnread ? std::optional(PositionOf(m_top)) : std::nullopt;
 }
 
 void CWindowPlacement::LoadWindowPosition()
 {
-    m_position = zantroq::LoadWindowPosition(m_key, m_top.Title());
+    m_isUnread = !zantroq::LoadWindowPosition(m_key, m_top.Title(), m_position);
 }
 
 void CWindowPlacement::SaveIfAsked()
 {
-    if (m_resizeParent)
-        SaveWindowPosition(m_key, m_top);
+    const sWindowPosition position = PositionOf(m_top);
+    if (m_resizeParent && position != m_default)
+        SaveWindowPosition(m_key, m_top.Title(), position);
 }
 
 } // namespace zantroq

@@ -6,6 +6,8 @@
 #include "platform/WindowServices.h"
 #include "settings/WindowPosition.h"
 
+#include <optional>
+
 namespace zantroq {
 
 // Moves a rectangle onto the screen and widens one of 200 pixels or less to 200 about its centre.
@@ -20,7 +22,9 @@ public:
     bool ResizeParentWindow() const { return m_resizeParent; }
 
     void LoadWindowPosition(); // for the current title; what is missing takes its default
-    void SaveIfAsked();        // under the current title, and only where the host asked for it
+    // Under the current title, and only where the host asked for it. A window that stands where a default put
+    // it, because its place could not be read, was not placed by the user: nothing is saved then.
+    void SaveIfAsked();
     const sWindowPosition& Position() const { return m_position; }
 
 private:
@@ -30,6 +34,8 @@ private:
     ITopLevelWindow& m_top;
     sWindowPosition m_position;
     bool m_resizeParent = false;
+    bool m_isUnread = false;                  // the position could not be read
+    std::optional<sWindowPosition> m_default; // where a default put the window in place of an unread position
 };
 
 } // namespace zantroq

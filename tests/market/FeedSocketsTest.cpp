@@ -5,6 +5,7 @@
 #include "market/Level1Command.h"
 #include "market/SeriesFixture.h"
 #include "support/ScriptedFeed.h"
+#include "support/UnreliableKey.h"
 
 #include <gtest/gtest.h>
 #include <map>
@@ -22,10 +23,12 @@ public:
     std::map<std::string, SettingValue, std::less<>> Values;
     bool Opens = true;
 
-    std::optional<SettingValue> Read(std::string_view name) override
+    CSettingRead Read(std::string_view name) override
     {
+        if (!Opens)
+            return CSettingRead::Unreadable();
         const auto found = Values.find(name);
-        return Opens && found != Values.end() ? std::optional(found->second) : std::nullopt;
+        return found != Values.end() ? CSettingRead(found->second) : CSettingRead::Missing();
     }
     bool Write(std::string_view name, const SettingValue& value) override
     {
@@ -339,6 +342,15 @@ TEST(ZantroPorts, MissingValuesAreWrittenBackWithTheirDefaults)
     EXPECT_EQ(ports.Level1Port(), 5009);
     EXPECT_EQ(key->Values.at("LookupPort"), SettingValue{std::string("9100")});
     EXPECT_EQ(key->Values.at("Level1Port"), SettingValue{std::string("5009")});
+}
+
+TEST(ZantroPorts, PortsThatCouldNotBeReadStayAsTheyAreStored)
+{
+    auto key = std::make_shared<sUnreliableKey>();
+    key->Put("LookupPort", "9300");
+    key->Reads = false;
+    EXPECT_EQ(CZantroPorts(key).LookupPort(), 9100);
+    EXPECT_EQ(key->Stored("LookupPort"), "9300");
 }
 
 TEST(ZantroPorts, AKeyThatDoesNotOpenGivesTheDefaults)

@@ -18,7 +18,7 @@ struct PaneStack : testing::Test
             Put("Top of chart " + std::to_string(i + 1), std::to_string(borders[i]));
     }
     sPaneStack Load() { return LoadChartSettings(*Key, "20260102").Panes; }
-    bool Has(const std::string& name) { return Key->Read(name).has_value(); }
+    bool Has(const std::string& name) { return static_cast<bool>(Key->Read(name)); }
 };
 
 } // namespace

@@ -2,6 +2,8 @@
 
 #include "settings/SettingText.h"
 #include "settings/SettingsTable.h"
+#include "settings/SettingsWriter.h"
+#include "support/UnreliableKey.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -136,7 +138,7 @@ TEST_F(SettingsLoader, OlderPeriodsGoOnlyWhenTheListStands)
         std::unique_ptr<ISettingsKey> Memory = MakeMemorySettingsKey();
         bool Writes = true;
         int DeletedBefore = 0;
-        std::optional<SettingValue> Read(std::string_view name) override { return Memory->Read(name); }
+        CSettingRead Read(std::string_view name) override { return Memory->Read(name); }
         bool Write(std::string_view name, const SettingValue& value) override
         {
             return Writes && Memory->Write(name, value);
@@ -159,6 +161,37 @@ TEST_F(SettingsLoader, OlderPeriodsGoOnlyWhenTheListStands)
     EXPECT_EQ(LoadChartSettings(key, "20260102").Studies.Periods[3], 44);
     EXPECT_FALSE(key.Read("STUDY AVG PERIOD 3"));
     EXPECT_EQ(key.DeletedBefore, 0);
+}
+
+// A window that starts while another process holds the file reads nothing, and the lock may go at any moment.
+TEST_F(SettingsLoader, NothingIsWrittenInPlaceOfWhatCouldNotBeRead)
+{
+    test::sUnreliableKey key;
+    key.Reads = false;
+    const sChartSettings fresh = LoadChartSettings(key, "20260102");
+    EXPECT_TRUE(ChangedSettings(fresh, DefaultChartSettings("20260102")).empty());
+    EXPECT_TRUE(key.List().empty());
+
+    for (const auto& row : SettingsTable())
+        for (int number = row.FirstNumber; number <= row.LastNumber; ++number)
+            key.Put(SettingName(row, number), row.IsList() ? "2,2,2,2,2" : "2");
+    const auto stored = key.List();
+    EXPECT_TRUE(ChangedSettings(LoadChartSettings(key, "20260102"), fresh).empty());
+    EXPECT_EQ(key.List(), stored);
+}
+
+TEST_F(SettingsLoader, OlderPeriodsStayWhereOneOfThemCouldNotBeRead)
+{
+    test::sUnreliableKey key;
+    key.Put("STUDY AVG PERIOD 3", "44");
+    key.Put("STUDY AVG PERIOD 7", "55");
+    key.Unreadable = {"STUDY AVG PERIOD 7"};
+    LoadChartSettings(key, "20260102");
+    EXPECT_EQ(key.Stored("STUDY AVG PERIOD"), "(missing)");
+    EXPECT_EQ(key.Stored("STUDY AVG PERIOD 3"), "44");
+    key.Unreadable = {};
+    LoadChartSettings(key, "20260102");
+    EXPECT_EQ(key.Stored("STUDY AVG PERIOD"), "21,20,20,44,18,5,10,55,14,14");
 }
 
 TEST_F(SettingsLoader, AMissingOlderPeriodTakesItsDefault)

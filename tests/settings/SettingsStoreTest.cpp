@@ -1,6 +1,7 @@
 #include "settings/SettingsStore.h"
 
 #include "settings/SettingsTable.h"
+#include "support/UnreliableKey.h"
 
 #include <gtest/gtest.h>
 
@@ -33,7 +34,7 @@ TEST_F(SettingsStore, MissingNumbersReadAsMinusOneAndTextsStayAsTheyWere)
     std::string text = "before";
     EXPECT_EQ(Store.ReadInt("nothing"), -1);
     EXPECT_EQ(Store.ReadDouble("nothing"), -1.0);
-    EXPECT_FALSE(Store.ReadString("nothing", text));
+    EXPECT_EQ(Store.ReadString("nothing", text), ReadResult::Missing);
     EXPECT_EQ(text, "before");
 }
 
@@ -51,7 +52,7 @@ TEST_F(SettingsStore, ATextIsReadUpTo256Bytes)
 {
     Store.WriteString("s", std::string(300, 'x'));
     std::string text;
-    ASSERT_TRUE(Store.ReadString("s", text));
+    ASSERT_EQ(Store.ReadString("s", text), ReadResult::Found);
     EXPECT_EQ(text, std::string(256, 'x'));
     EXPECT_EQ(Stored("s").size(), 300u);
 }
@@ -86,6 +87,34 @@ TEST_F(SettingsStore, AStoredMinusOneIsMissing)
     Store.WriteInt("PTS INDEX", -1);
     EXPECT_EQ(Store.LoadInt(PtsIndexId, 3), 3);
     EXPECT_EQ(Stored("PTS INDEX"), "3");
+}
+
+TEST_F(SettingsStore, WhatCannotBeReadTakesItsDefaultWhichIsNotWritten)
+{
+    test::sUnreliableKey key;
+    CSettingsStore store(key);
+    key.Put("PTS INDEX", "7");
+    key.Put("BB DIVIATIONS NUMBER", "2.5");
+    key.Put("SCROLLING BY ITEMS", "0");
+    key.Reads = false;
+    EXPECT_EQ(store.LoadInt(PtsIndexId, 3), 3);
+    EXPECT_EQ(store.LoadDouble(DeviationsId, 2.0), 2.0);
+    EXPECT_TRUE(store.LoadBool(ScrollByItemsId, true));
+    store.FillIn("PTS INDEX", 3);
+    std::string text = "before";
+    EXPECT_EQ(store.ReadString("PTS INDEX", text), ReadResult::Unreadable);
+    EXPECT_EQ(text, "before");
+    EXPECT_EQ(store.ReadInt("PTS INDEX"), -1);
+    EXPECT_EQ(key.Stored("PTS INDEX"), "7");
+    EXPECT_EQ(key.Stored("BB DIVIATIONS NUMBER"), "2.5");
+    EXPECT_EQ(key.Stored("SCROLLING BY ITEMS"), "0");
+}
+
+TEST_F(SettingsStore, FillingInWritesOnlyWhereNothingStands)
+{
+    Store.FillIn("a", 1);
+    Store.FillIn("a", 2);
+    EXPECT_EQ(Stored("a"), "1");
 }
 
 TEST_F(SettingsStore, ABooleanOf2IsReplacedByTheDefault)

@@ -160,7 +160,7 @@ constexpr int CountId = 32882;
 class CNotingKey final : public ISettingsKey
 {
 public:
-    std::optional<SettingValue> Read(std::string_view name) override
+    CSettingRead Read(std::string_view name) override
     {
         if (m_seen.insert(std::string(name)).second)
             Asked.emplace_back(name);

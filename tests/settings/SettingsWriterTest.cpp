@@ -2,6 +2,7 @@
 
 #include "settings/SettingText.h"
 #include "settings/SettingsLoader.h"
+#include "support/UnreliableKey.h"
 
 #include <gtest/gtest.h>
 
@@ -19,7 +20,8 @@ struct SettingsWriter : testing::Test
     }
     sSettingChange Set(const std::string& name, const std::string& text)
     {
-        return SetByName(Settings, *Key, name, text);
+        CRetryingKey key(*Key);
+        return SetByName(Settings, key, name, text);
     }
     void ExpectRefused(const std::string& name, const std::string& text)
     {
@@ -61,12 +63,13 @@ TEST_F(SettingsWriter, OnlyWhatDiffersIsWritten)
 {
     const sChartSettings before = Settings;
     Key = MakeMemorySettingsKey();
-    EXPECT_EQ(StoreChanges(*Key, before, Settings), unsigned(EffectNone));
+    CRetryingKey key(*Key);
+    EXPECT_EQ(StoreChanges(key, before, Settings), unsigned(EffectNone));
     EXPECT_TRUE(Key->List().empty());
     Settings.Grid = 0;
     Settings.Request.DatapointCounts[1] = 50;
     Settings.Trends[3].Width = 4;
-    EXPECT_EQ(StoreChanges(*Key, before, Settings), unsigned(EffectGrid | EffectRequest | EffectTrends));
+    EXPECT_EQ(StoreChanges(key, before, Settings), unsigned(EffectGrid | EffectRequest | EffectTrends));
     EXPECT_EQ(Key->List().size(), 3u);
     EXPECT_EQ(Stored("GRID"), "0");
     EXPECT_EQ(Stored("RequestDatapoints"), "1000,50,1000,1000,1000");
@@ -79,13 +82,14 @@ TEST_F(SettingsWriter, EverySingleChangeIsFoundAndReadsBack)
         if (row.Form != SettingForm::Single || row.Id == 32895 || row.Id == 32816)
             continue;
         const auto key = MakeMemorySettingsKey();
+        CRetryingKey userKey(*key);
         sChartSettings changed = LoadChartSettings(*key, "20260102");
         const sSettingPlace place{&row};
         const std::string text = SettingText(changed, place) == "1" ? (row.Low == 1 ? "2" : "0") : "1";
         const sChartSettings before = changed;
         const bool isDouble = row.Type == SettingType::Double;
         const std::string other = isDouble ? "1.5" : row.Low == 2 ? "3" : row.Id == 32817 ? "18" : text;
-        const auto change = SetByName(changed, *key, row.Name, other);
+        const auto change = SetByName(changed, userKey, row.Name, other);
         EXPECT_TRUE(change.Changed) << row.Name << ": " << change.Error;
         EXPECT_EQ(change.Effects, row.Effects);
         EXPECT_EQ(ChangedSettings(before, changed), std::vector{place}) << row.Name;
@@ -142,6 +146,47 @@ TEST_F(SettingsWriter, AShortListLeavesTheOtherEntries)
     EXPECT_EQ(Stored("STUDY AVG PERIOD"), "14,20,20,9,18,5,10,14,14,14");
 }
 
+TEST_F(SettingsWriter, EntriesOfAnUnreadListThatWereNotChangedStay)
+{
+    test::sUnreliableKey key;
+    key.Put("RequestDatapoints", "1,2,3,4,5");
+    key.Put("STUDY AVG PERIOD", "9,8,7,6,5,4,3,2,1,0");
+    key.Put("STUDY CUSTOM AVG PERIOD 2", "33");
+    key.Reads = false;
+    Settings = LoadChartSettings(key, "20260102");
+    key.Reads = true;
+    CRetryingKey userKey(key);
+    EXPECT_TRUE(SetByName(Settings, userKey, "RequestDatapoints", "1000,50").Changed);
+    sChartSettings wanted = Settings;
+    wanted.Studies.Periods[9] = 77;
+    wanted.Studies.CustomPeriods[0] = 88;
+    StoreChanges(userKey, Settings, wanted);
+    EXPECT_EQ(key.Stored("RequestDatapoints"), "1,50,3,4,5");
+    EXPECT_EQ(key.Stored("STUDY AVG PERIOD"), "9,8,7,6,5,4,3,2,1,77");
+    EXPECT_EQ(key.Stored("STUDY CUSTOM AVG PERIOD"), "88,20,33,9,18,5,500,9,9,10");
+    EXPECT_EQ(key.Stored("STUDY CUSTOM AVG PERIOD 2"), "(missing)");
+}
+
+TEST_F(SettingsWriter, ChangesMadeWhileTheFileIsLockedAreWrittenWhenItIsNot)
+{
+    test::sUnreliableKey key;
+    key.Put("PTS INDEX", "7");
+    key.Put("GRID", "0");
+    key.Put("RequestDatapoints", "1,2,3,4,5");
+    key.SetLocked(true);
+    Settings = LoadChartSettings(key, "20260102");
+    CRetryingKey userKey(key);
+    EXPECT_TRUE(SetByName(Settings, userKey, "PTS INDEX", "5").Changed);
+    EXPECT_TRUE(SetByName(Settings, userKey, "RequestDatapoints", "1000,50").Changed);
+    EXPECT_TRUE(SetByName(Settings, userKey, "RequestDatapoints", "1000,50,60").Changed);
+    key.SetLocked(false);
+    userKey.Retry();
+    EXPECT_FALSE(userKey.IsWaiting());
+    EXPECT_EQ(key.Stored("PTS INDEX"), "5");
+    EXPECT_EQ(key.Stored("RequestDatapoints"), "1,50,60,4,5");
+    EXPECT_EQ(key.Stored("GRID"), "0");
+}
+
 TEST_F(SettingsWriter, AColourMayBeHexadecimal)
 {
     EXPECT_TRUE(Set("Background Color", "0x00FF10").Changed);
@@ -182,7 +227,7 @@ TEST_F(SettingsWriter, TheWholeStackReadsBack)
     Settings.Panes.Bounds = {0, 0.5, 0.75, 1};
     Settings.Panes.MaximizedIndex = 1;
     Settings.Panes.Minimized = {1, 0, 1};
-    StorePaneStack(*Key, Settings);
+    StorePaneStack(*Key, Settings.Panes);
     EXPECT_TRUE(ChangedSettings(Settings, LoadChartSettings(*Key, "20260102")).empty());
 }
 

@@ -1,6 +1,7 @@
 #include "settings/SymbolHistory.h"
 
 #include "settings/WindowPosition.h"
+#include "support/UnreliableKey.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +11,8 @@ namespace {
 struct SymbolHistory : testing::Test
 {
     std::unique_ptr<ISettingsKey> Key = MakeMemorySettingsKey();
-    CSymbolHistory History{*Key};
+    CRetryingKey UserKey{*Key};
+    CSymbolHistory History{UserKey};
     std::string Stored(const std::string& name)
     {
         const auto value = Key->Read(name);
@@ -69,7 +71,9 @@ TEST_F(SymbolHistory, The21stSymbolPushesOutTheOldestAndItsWindowPositionStays)
     EXPECT_EQ(Stored("SQ19"), "S2");
     EXPECT_FALSE(Key->Read("RectPosition.S1"));
     EXPECT_FALSE(Key->Read("RectPosition.S1.Maximized"));
-    EXPECT_EQ(LoadWindowPosition(*Key, "S1 - Chart"), (sWindowPosition{{1, 2, 3, 4}, true}));
+    sWindowPosition position;
+    EXPECT_TRUE(LoadWindowPosition(*Key, "S1 - Chart", position));
+    EXPECT_EQ(position, (sWindowPosition{{1, 2, 3, 4}, true}));
 }
 
 TEST_F(SymbolHistory, ASymbolOfAFullListPushesNothingOut)
@@ -81,11 +85,54 @@ TEST_F(SymbolHistory, ASymbolOfAFullListPushesNothingOut)
     EXPECT_EQ(History.Items().back(), "S2");
 }
 
+TEST_F(SymbolHistory, SymbolsThatCouldNotBeReadStandBehindTheNewOnes)
+{
+    test::sUnreliableKey below;
+    below.Put("SQ0", "A");
+    below.Put("SQ1", "B");
+    below.Put("SQ2", "C");
+    CRetryingKey key(below);
+    CSymbolHistory history(key);
+    below.SetLocked(true);
+    history.LoadSymbolHistory();
+    EXPECT_TRUE(history.Items().empty());
+    history.AddSymbol("X");
+    history.AddSymbol("B");
+    EXPECT_EQ(history.Items(), (std::vector<std::string>{"B", "X"}));
+    below.SetLocked(false);
+    EXPECT_EQ(below.Stored("SQ0"), "A");
+    key.Retry();
+    const auto stored = [&] { return below.Stored("SQ0") + below.Stored("SQ1") + below.Stored("SQ2"); };
+    EXPECT_EQ(stored() + below.Stored("SQ3"), "BXAC");
+    EXPECT_EQ(below.Stored("SQ4"), "(missing)");
+    history.AddSymbol("C");
+    EXPECT_EQ(history.Items(), (std::vector<std::string>{"C", "B", "X", "A"}));
+    EXPECT_EQ(stored() + below.Stored("SQ3"), "CBXA");
+}
+
+TEST_F(SymbolHistory, OneUnreadSymbolIsEnoughToKeepTheOthersFromBeingMoved)
+{
+    test::sUnreliableKey below;
+    for (int i = 0; i < 20; ++i)
+        below.Put("SQ" + std::to_string(i), "S" + std::to_string(i));
+    below.Unreadable = {"SQ7"};
+    CRetryingKey key(below);
+    CSymbolHistory history(key);
+    history.LoadSymbolHistory();
+    history.AddSymbol("X");
+    EXPECT_EQ(below.Stored("SQ0"), "S0");
+    below.Unreadable = {};
+    history.AddSymbol("Y");
+    EXPECT_EQ(history.Items().size(), 20u);
+    EXPECT_EQ(below.Stored("SQ0") + below.Stored("SQ1") + below.Stored("SQ2"), "YXS0");
+    EXPECT_EQ(below.Stored("SQ19"), "S17");
+}
+
 TEST_F(SymbolHistory, AnotherWindowReadsTheSameList)
 {
     for (int i = 1; i <= 25; ++i)
         History.AddSymbol("S" + std::to_string(i));
-    CSymbolHistory other(*Key);
+    CSymbolHistory other(UserKey);
     other.LoadSymbolHistory();
     EXPECT_EQ(other.Items(), History.Items());
 }

@@ -4,6 +4,7 @@
 #include "WindowFakes.h"
 
 #include "studies/StudyFactory.h"
+#include "support/UnreliableKey.h"
 #include "window/ChartDlg.h"
 #include "window/ContextMenus.h"
 
@@ -73,7 +74,7 @@ struct sChartFixture
     sFakeTrends Trends;
     sDialogs Dialogs;
     CStudyFactory Studies;
-    std::unique_ptr<ISettingsKey> Key = MakeMemorySettingsKey();
+    std::unique_ptr<sUnreliableKey> Key = std::make_unique<sUnreliableKey>();
     sChartDlgSetup Setup{Desktop.Services(), *Key, Feed, &Studies};
     std::unique_ptr<CChartDlg> Window;
 };

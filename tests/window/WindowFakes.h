@@ -260,8 +260,8 @@ struct sFakeTrends : IWindowTrends
 
 inline std::string Text(ISettingsKey& key, const std::string& name)
 {
-    const auto value = key.Read(name);
-    const auto* text = value ? std::get_if<std::string>(&*value) : nullptr;
+    const CSettingRead value = key.Read(name);
+    const auto* text = value.As<std::string>();
     return text != nullptr ? *text : "(missing)";
 }
 

@@ -1,6 +1,8 @@
 // Layout, bars, placement, settings and scripts over a whole window.
 #include "ChartWindowFixture.h"
 
+#include "settings/SettingsLoader.h"
+#include "window/BatchCounters.h"
 #include "window/ChartSnapshot.h"
 #include "window/ChartsResizer.h"
 #include "window/ReplayRunner.h"
@@ -298,6 +300,71 @@ TEST(Placement, TheOldTitlesPositionIsSavedAtANewChartAndAtTheEnd)
     const std::vector<std::uint8_t> wanted{10, 0, 0, 0, 20, 0, 0, 0, 0x62, 2, 0, 0, 0xA4, 1, 0, 0};
     EXPECT_EQ(std::get<std::vector<std::uint8_t>>(*rect), wanted);
     EXPECT_EQ(std::get<std::uint32_t>(*chart.Key->Read("RectPosition.X - Chart.Maximized")), 1u);
+}
+
+TEST(Placement, AWindowThatADefaultPlacedIsNotSavedOverAPlaceThatCouldNotBeRead)
+{
+    sUnreliableKey key;
+    SaveWindowPosition(key, "Host", {{1, 2, 603, 404}, true});
+    const auto stored = key.List();
+    sFakeTop top;
+    CWindowPlacement placement(key, top);
+    key.Reads = false;
+    placement.SetResizeParentWindow(true);
+    placement.SaveIfAsked();
+    EXPECT_EQ(key.List(), stored);
+    top.Rect.Left = 300; // the user moved it
+    placement.SaveIfAsked();
+    EXPECT_NE(key.List(), stored);
+}
+
+TEST(ChartsResizer, StatesThatWereNotChangedStayAsTheyAreStored)
+{
+    sUnreliableKey key;
+    key.Put("Chart 0 Minimized", "1");
+    key.Put("Maximized Chart Index", "2");
+    key.Reads = false;
+    sPaneStack stack = LoadChartSettings(key).Panes;
+    key.Reads = true;
+    CSettingsStore store(key);
+    std::array<CChart2D, 11> panes;
+    CBatchCounters batch(panes);
+    sFakeDesktop desktop;
+    sFakeDrawing drawing;
+    CChartsResizer resizer(stack, store, panes, desktop.Host, desktop.Scroll, desktop.Pointer, drawing,
+                           batch);
+    resizer.Restore(1);
+    EXPECT_EQ(key.Stored("Chart 0 Minimized"), "1");
+    EXPECT_EQ(key.Stored("Maximized Chart Index"), "2");
+    resizer.Maximize(1);
+    EXPECT_EQ(key.Stored("Chart 0 Minimized"), "1");
+    EXPECT_EQ(key.Stored("Maximized Chart Index"), "1");
+}
+
+TEST(StoredChanges, AChangeThatTheFileWouldNotHaveIsTriedAgainWhileTheChartRuns)
+{
+    sChartFixture chart(false);
+    chart.Key->SetLocked(true);
+    chart.Start();
+    chart.Chart("X", 5);
+    chart.Window->OnCommand(CommandGrid);
+    chart.Key->SetLocked(false);
+    EXPECT_EQ(chart.Key->Stored("GRID"), "(missing)");
+    for (int tick = 0; tick < 8; ++tick)
+        chart.Tick();
+    EXPECT_EQ(chart.Key->Stored("GRID"), "0");
+    EXPECT_EQ(chart.Key->Stored("PTS INDEX"), "(missing)"); // a default
+}
+
+TEST(StoredChanges, AChangeThatTheFileWouldNotHaveIsTriedOnceMoreWhenTheWindowGoes)
+{
+    sChartFixture chart(false);
+    chart.Key->SetLocked(true);
+    chart.Start();
+    chart.Window->OnCommand(CommandGrid);
+    chart.Key->SetLocked(false);
+    chart.Window.reset();
+    EXPECT_EQ(chart.Key->Stored("GRID"), "0");
 }
 
 TEST(SettingsOk, AlwaysDropsTheChartAndAsksAgain)
