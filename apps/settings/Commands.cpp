@@ -3,7 +3,9 @@
 #include "WholeFile.h"
 #include "settings/SettingsExchange.h"
 
+#include <algorithm>
 #include <iostream>
+#include <string_view>
 
 namespace zantroq {
 namespace {
@@ -29,6 +31,20 @@ void SayIfMissing(const CSettingsFile& file)
         Complain(file.Path() +
                  ": no settings file yet, so nothing is stored and the chart runs on its defaults; the first "
                  "write makes it");
+}
+
+// The word alone, in small or capital letters.
+bool IsYes(std::string_view answer)
+{
+    constexpr std::string_view Blanks = " \t\r", Small = "yes", Capital = "YES";
+    answer.remove_prefix(std::min(answer.find_first_not_of(Blanks), answer.size()));
+    answer = answer.substr(0, answer.find_last_not_of(Blanks) + 1);
+    if (answer.size() != Small.size())
+        return false;
+    for (std::size_t i = 0; i < Small.size(); ++i)
+        if (answer[i] != Small[i] && answer[i] != Capital[i])
+            return false;
+    return true;
 }
 
 int NotThere(const CSettingsFile& file, const std::string& key, const std::string& name)
@@ -158,9 +174,11 @@ int ResetKey(CSettingsFile& file, const std::string& key, bool confirmed)
         std::cerr << "Remove all " << count << " values of " << key << " from " << file.Path()
                   << "? Type yes to go on: " << std::flush;
         std::string answer;
-        std::cin >> answer;
-        if (answer != "yes") {
-            Complain("reset was not confirmed with the word yes, so nothing was removed");
+        std::getline(std::cin, answer);
+        if (!IsYes(answer)) {
+            Complain(
+                "reset was not confirmed with the word yes alone, so nothing was removed; run it again, or "
+                "with --yes");
             return ExitNotThere;
         }
     }

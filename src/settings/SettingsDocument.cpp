@@ -110,7 +110,8 @@ The default key is the chart's. A NAME or VALUE that begins with a hyphen goes b
 - `export` writes all keys, or the one of `--key`; the file appears whole or not at all. `-` is the standard output.
 - `import` merges into what is there, in one transaction: a file with an error anywhere changes nothing. With `--key` only that
   key of the file is taken. `-` is the standard input.
-- `reset` removes every value of the key after reading the word yes, or with `--yes` without asking.
+- `reset` removes every value of the key after reading the word yes, alone on its line and in small or capital letters, or with
+  `--yes` without asking.
 
 Exit codes: 0 done; 1 the value is not there (`get`, `delete`), the settings file cannot be read, or `reset` was not confirmed; 2
 wrong usage, or a file for `import` that cannot be read or is not of the format; 4 the settings file, the export or the standard

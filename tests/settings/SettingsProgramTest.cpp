@@ -177,12 +177,16 @@ TEST_F(SettingsProgram, AnImportMergesAndABadOneChangesNothing)
 TEST_F(SettingsProgram, ResetAsksForTheWordYes)
 {
     Run({"set", "a", "1"});
-    for (const char* answer : {"no\n", "", "y\n", "YES\n"}) {
+    for (const char* answer :
+         {"no\n", "", "\n", "y\n", "yes please\n", "yes no\n", "yesterday\n", "no yes\n", "no\nyes\n"}) {
         EXPECT_EQ(Run({"reset"}, answer).Code, 1) << answer;
         EXPECT_EQ(Run({"get", "a"}).Out, "1\n");
     }
-    EXPECT_EQ(Run({"reset"}, "yes\n").Code, 0);
-    EXPECT_EQ(Run({"list"}).Out, "");
+    for (const char* answer : {"yes\n", "yes", "Yes\n", "YES\r\n", " \tyes \n"}) {
+        Run({"set", "a", "1"});
+        EXPECT_EQ(Run({"reset"}, answer).Code, 0) << answer;
+        EXPECT_EQ(Run({"list"}).Out, "") << answer;
+    }
 }
 
 TEST_F(SettingsProgram, AnOutputThatCannotBeWrittenIsSaid)
