@@ -144,7 +144,8 @@ int ImportValues(CSettingsFile& file, const std::optional<std::string>& key, con
     std::string text;
     const std::string origin = source == "-" ? "standard input" : source;
     if (const std::string wrong = ReadWholeFile(source, text); !wrong.empty()) {
-        Complain(origin + ": the file to import cannot be read (" + wrong + "); nothing was changed");
+        Complain(origin + ": the file to import cannot be read (" + wrong +
+                 "); nothing was changed; name a file that can be read");
         return ExitUsage;
     }
     try {
@@ -152,13 +153,15 @@ int ImportValues(CSettingsFile& file, const std::optional<std::string>& key, con
         if (key)
             std::erase_if(tree, [&](const auto& entry) { return entry.first != *key; });
         if (key && tree.empty()) {
-            Complain(origin + ": the file holds no key " + *key + "; nothing was changed");
+            Complain(origin + ": the file holds no key " + *key +
+                     "; nothing was changed; leave out --key to import every key of the file");
             return ExitUsage;
         }
         file.WriteAll(tree);
         return ExitDone;
     } catch (const CSettingsFormatError& error) {
-        Complain(origin + ": not a settings export: " + error.what() + "; nothing was changed");
+        Complain(origin + ": not a settings export: " + error.what() +
+                 "; nothing was changed; mend the file, or write a new one with zantroq-settings export");
         return ExitUsage;
     }
 }

@@ -123,7 +123,8 @@ The exchange format is JSON, UTF-8:
 {"Software\\Zantro\\Zantroq\\Applications\\Chart": {"PTS INDEX": {"type": "sz", "value": "3"}}}
 ```
 
-A dword is a number, a binary value a text of hexadecimal digits. Anything else is an error that names the value.
+A dword is a number, a binary value a text of hexadecimal digits. Anything else is an error that names the value, or the
+line where the file is no JSON.
 )";
 
 std::string_view TypeOf(const sSettingRow& row)

@@ -1,5 +1,6 @@
 #include "settings/SettingsExchange.h"
 
+#include <algorithm>
 #include <charconv>
 #include <nlohmann/json.hpp>
 #include <set>
@@ -92,7 +93,9 @@ Json ParseShallow(std::string_view text)
     try {
         return Json::parse(text.begin(), text.end(), refuse);
     } catch (const Json::parse_error& error) {
-        throw CSettingsFormatError("not JSON at byte " + std::to_string(error.byte));
+        const auto before = text.substr(0, error.byte == 0 ? 0 : error.byte - 1);
+        throw CSettingsFormatError("not JSON at line " +
+                                   std::to_string(1 + std::ranges::count(before, '\n')));
     } catch (const Json::out_of_range&) {
         throw CSettingsFormatError("it holds a number that is too large for any value");
     }

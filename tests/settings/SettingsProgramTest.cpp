@@ -174,6 +174,24 @@ TEST_F(SettingsProgram, AnImportMergesAndABadOneChangesNothing)
     EXPECT_EQ(CSettingsFile(Store).ReadAll(), merged);
 }
 
+TEST_F(SettingsProgram, AnImportErrorNamesThePlaceAndSaysWhatToDo)
+{
+    const std::string file = Folder.File("bad.json");
+    test::PutFile(file, "{\"K\":\n {\"a\": {\"type\": \"sz\",\n  \"value\": x}}}");
+    const std::string begin = "zantroq-settings: " + file + ": not a settings export: ";
+    const std::string end = "; nothing was changed; mend the file, or write a new one with zantroq-settings "
+                            "export\n";
+    EXPECT_EQ(Run({"import", file}).Err, begin + "not JSON at line 3" + end);
+    test::PutFile(file, R"({"K": {"a": {"type": "sz", "value": 1}}})");
+    EXPECT_EQ(Run({"import", file}).Err, begin + "value \"a\" of key \"K\": its value must be a text" + end);
+    ExpectError(Run({"import", Folder.File("none.json")}), 2,
+                "; nothing was changed; name a file that can be read");
+    test::PutFile(file, R"({"K": {}})");
+    ExpectError(
+        Run({"import", file, "--key", "L"}), 2,
+        "the file holds no key L; nothing was changed; leave out --key to import every key of the file");
+}
+
 TEST_F(SettingsProgram, ResetAsksForTheWordYes)
 {
     Run({"set", "a", "1"});
