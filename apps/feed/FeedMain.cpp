@@ -1,6 +1,6 @@
 // zantroq-feed: the local feed as a program. Results on standard output, messages on standard error. Exit 0
-// after an interrupt or a termination signal, 1 when a port cannot be had, 2 for wrong usage, 4 when standard
-// output cannot be written.
+// after an interrupt or a termination signal, 2 for wrong usage, a port that cannot be had included, 4 when
+// standard output cannot be written.
 #include "feed/FeedServer.h"
 
 #include <CLI/CLI.hpp>
@@ -16,7 +16,6 @@ namespace {
 enum ExitCode
 {
     Success = 0,
-    NoPort = 1,
     WrongUsage = 2,
     NoOutput = 4
 };
@@ -61,7 +60,7 @@ int main(int argc, char** argv)
                    "their newest day played again at that speed");
     app.add_option("--seed", seed, "Whole number that the simulations grow from (default 1)");
     app.set_version_flag("--version", "zantroq-feed " ZANTROQ_VERSION);
-    app.footer("Exits 0 when interrupted, 1 when a port cannot be had, 2 for wrong usage, 4 when the output "
+    app.footer("Exits 0 when interrupted, 2 for wrong usage or a port that cannot be had, 4 when the output "
                "cannot be written.");
     try {
         app.parse(argc, argv);
@@ -106,7 +105,7 @@ int main(int argc, char** argv)
     CFeedServer server(options);
     std::string error;
     if (!server.Start(error))
-        return Fail(NoPort, error);
+        return Fail(WrongUsage, error);
     if (simulate)
         options.OnNotice("live trades are simulated for every symbol (seed " + seed + ")");
     std::cout << "listening on 127.0.0.1:" << server.LookupPort() << " and 127.0.0.1:" << server.Level1Port()

@@ -196,16 +196,23 @@ TEST(FeedProgram, WrongUsageIsExitTwoAndOneSentence)
     }
 }
 
-TEST(FeedProgram, ATakenPortIsExitOneAndOneSentence)
+TEST(FeedProgram, ATakenPortIsWrongUsageAndOneSentenceThatSaysWhatToDo)
 {
     CFeedProgram first({"--lookup-port", "0", "--level1-port", "0"});
     std::uint16_t lookup = 0, level1 = 0;
     ASSERT_TRUE(first.Listens(lookup, level1));
-    CFeedProgram second({"--lookup-port", std::to_string(lookup), "--level1-port", "0"});
-    EXPECT_EQ(second.Line(), "");
-    EXPECT_EQ(second.Wait(), 1);
-    EXPECT_EQ(LinesOf(second.Errors()), 1);
-    EXPECT_NE(second.Errors().find(std::to_string(lookup)), std::string::npos);
+    for (const auto& [ports, taken] :
+         {std::pair(std::vector<std::string>{"--lookup-port", std::to_string(lookup), "--level1-port", "0"},
+                    "lookup port 127.0.0.1:" + std::to_string(lookup)),
+          std::pair(std::vector<std::string>{"--lookup-port", "0", "--level1-port", std::to_string(level1)},
+                    "level 1 port 127.0.0.1:" + std::to_string(level1))}) {
+        CFeedProgram second(ports);
+        EXPECT_EQ(second.Line(), "");
+        EXPECT_EQ(second.Wait(), 2);
+        EXPECT_EQ(second.Errors(),
+                  "zantroq-feed: cannot listen on " + taken +
+                      ": Address already in use; choose another port, or 0 for a free one\n");
+    }
 }
 
 TEST(FeedProgram, HelpAndVersionAreResults)
