@@ -26,9 +26,8 @@ void TakeStoredDouble(sChartSettings& settings, const sSettingPlace& place, doub
 // data type.
 void TakeStoredList(sChartSettings& settings, const sSettingPlace& place, std::string_view text);
 
-// Takes over what a person typed, by the rules of the settings sheet. The answer is empty, or says what is
-// wrong with the text; then nothing was changed.
-std::string TakeTypedText(sChartSettings& settings, const sSettingPlace& place, std::string_view text);
+// Whether the text is that many decimal digits and nothing else.
+bool AllDigits(std::string_view text, std::size_t length);
 
 // Whether a request kind can be asked for with a data type (0 to 4).
 bool RequestKindFits(int dataType, std::int32_t kind);

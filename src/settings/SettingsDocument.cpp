@@ -1,6 +1,7 @@
 #include "settings/SettingsDocument.h"
 
 #include "platform/SettingsKey.h"
+#include "settings/SettingIds.h"
 #include "settings/SettingText.h"
 #include "settings/SettingsLoader.h"
 #include "settings/SettingsTable.h"
@@ -161,10 +162,10 @@ std::string Hex(const std::string& decimal)
 std::string DefaultOf(const sSettingRow& row)
 {
     static const sChartSettings Fresh = DefaultChartSettings("today");
-    if (std::holds_alternative<std::monostate>(row.Member))
+    if (!row.HasMember())
         return "";
     if (row.Form == SettingForm::Indexed && row.Type != SettingType::Color)
-        return row.LastNumber == 10 ? "0" : "see below";
+        return row.Id == MinimizedId ? "0" : "see below";
     const std::string text = SettingText(Fresh, {&row, row.FirstNumber});
     return row.Type == SettingType::Color ? Hex(text) : text;
 }
@@ -202,7 +203,7 @@ std::string_view OutsideOf(const sSettingRow& row)
         return "";
     switch (row.Outside) {
     case OutOfRange::Keep:
-        return row.Form == SettingForm::Indexed && row.LastNumber != 10 ? "see below" : "kept";
+        return row.Form == SettingForm::Indexed && row.Id != MinimizedId ? "see below" : "kept";
     case OutOfRange::Nearest:
         return "nearest";
     case OutOfRange::Default:

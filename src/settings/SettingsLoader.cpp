@@ -1,13 +1,14 @@
 #include "settings/SettingsLoader.h"
 
+#include "settings/SettingIds.h"
 #include "settings/SettingText.h"
 #include "settings/StoredNumber.h"
+
+#include <algorithm>
 
 namespace zantroq {
 namespace {
 
-constexpr int TypeOfPaneId = 32883, TopOfPaneId = 32884, MaximizedId = 32895, MinimizedId = 32896;
-constexpr int OldPeriodId = 32802, OldCustomPeriodId = 32803, PeriodId = 32905;
 constexpr int MostStudies = 10;
 
 const sSettingRow& RowOf(int id)

@@ -87,6 +87,7 @@ struct sSettingRow
     OutOfRange Outside = OutOfRange::Keep;
     int FirstNumber = 0, LastNumber = 0; // numbers of an indexed row
 
+    bool HasMember() const { return !std::holds_alternative<std::monostate>(Member); }
     bool HasRange() const { return Low != 0 || High != 0; }
     bool IsList() const { return Form == SettingForm::DataTypeList || Form == SettingForm::PeriodList; }
 };

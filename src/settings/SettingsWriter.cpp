@@ -1,23 +1,16 @@
 #include "settings/SettingsWriter.h"
 
+#include "settings/SettingIds.h"
 #include "settings/SettingText.h"
 #include "settings/SettingsLoader.h"
 #include "settings/SettingsStore.h"
 #include "settings/StoredNumber.h"
+#include "settings/TypedSetting.h"
 
 #include <algorithm>
 
 namespace zantroq {
 namespace {
-
-constexpr int CountId = 32882, TypeOfPaneId = 32883, TopOfPaneId = 32884, MaximizedId = 32895,
-              MinimizedId = 32896;
-constexpr int ScrollItemsId = 32791, ScrollPercentId = 32792;
-
-bool HasMember(const sSettingRow& row)
-{
-    return !std::holds_alternative<std::monostate>(row.Member);
-}
 
 void StorePlace(ISettingsKey& key, const sChartSettings& settings, const sSettingPlace& place)
 {
@@ -85,7 +78,7 @@ void StoreIndexed(ISettingsKey& key, const sChartSettings& settings, int id)
 
 void StoreStudyList(ISettingsKey& key, const sChartSettings& settings)
 {
-    StoreSetting(key, settings, CountId);
+    StoreSetting(key, settings, PaneCountId);
     StoreIndexed(key, settings, TypeOfPaneId);
 }
 
@@ -107,14 +100,8 @@ std::string Unknown(std::string_view name)
 void StoreSetting(ISettingsKey& key, const sChartSettings& settings, int id, int number)
 {
     const sSettingRow* row = FindSetting(id);
-    if (row && HasMember(*row) && number >= row->FirstNumber && number <= row->LastNumber)
+    if (row && row->HasMember() && number >= row->FirstNumber && number <= row->LastNumber)
         StorePlace(key, settings, {row, number});
-}
-
-void StoreInt(ISettingsKey& key, int id, std::int32_t value)
-{
-    if (const sSettingRow* row = FindSetting(id))
-        CSettingsStore(key).WriteInt(row->Name, value);
 }
 
 void StorePaneStack(ISettingsKey& key, const sPaneStack& panes)
@@ -146,7 +133,7 @@ std::vector<sSettingPlace> ChangedSettings(const sChartSettings& before, const s
     std::vector<sSettingPlace> changed;
     const int studyCount = std::max(before.Panes.StudyCount, after.Panes.StudyCount);
     for (const sSettingRow& row : SettingsTable()) {
-        if (!HasMember(row))
+        if (!row.HasMember())
             continue;
         const int last = row.Form == SettingForm::Indexed ? LastInUse(row, studyCount) : row.FirstNumber;
         for (int number = row.FirstNumber; number <= last; ++number) {

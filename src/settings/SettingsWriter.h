@@ -15,9 +15,6 @@ namespace zantroq {
 // indexed row, such as 2 for "Top of chart 2". An unknown id, or a row without a member, writes nothing.
 void StoreSetting(ISettingsKey& key, const sChartSettings& settings, int id, int number = 0);
 
-// Writes a number under the name of a string number; for values that stand in no record.
-void StoreInt(ISettingsKey& key, int id, std::int32_t value);
-
 // Writes the whole stack: count, types, borders, maximised index and minimised flags of the panes in use.
 void StorePaneStack(ISettingsKey& key, const sPaneStack& panes);
 

@@ -4,6 +4,7 @@
 #include "settings/WindowPosition.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace zantroq {
 namespace {

@@ -46,8 +46,6 @@ TEST_F(SettingsWriter, OneMemberIsStoredUnderItsName)
     EXPECT_EQ(Stored("PTS INDEX"), "7");
     EXPECT_EQ(Stored("Study Data Color 4"), "1122867");
     EXPECT_EQ(Stored("Top of chart 1"), "0.250000");
-    StoreInt(*Key, 32904, 3);
-    EXPECT_EQ(Stored("RequestDataType"), "3");
 }
 
 TEST_F(SettingsWriter, NumbersWithoutAMemberWriteNothing)

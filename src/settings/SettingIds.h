@@ -1,0 +1,13 @@
+// Numbers of settings that the rules name one by one; all others are only ever met while walking the table.
+#pragma once
+
+namespace zantroq {
+
+inline constexpr int ScrollItemsId = 32791, ScrollPercentId = 32792;
+inline constexpr int MacdShortId = 32816, MacdLongId = 32817;
+inline constexpr int PaneCountId = 32882, TypeOfPaneId = 32883, TopOfPaneId = 32884, MaximizedId = 32895,
+                     MinimizedId = 32896;
+inline constexpr int OldPeriodId = 32802, OldCustomPeriodId = 32803, PeriodId = 32905;
+inline constexpr int RequestKindsId = 32912;
+
+} // namespace zantroq
