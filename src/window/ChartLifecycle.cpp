@@ -168,12 +168,17 @@ void CChartLifecycle::OnDataTypeChanged(int forced)
         selected = request.DataType;
     }
     if (selected != request.DataType || forced == 1) {
+        const bool isChosen = selected != request.DataType;
         request.DataType = selected;
         if (selected >= 0 && selected < static_cast<int>(request.RequestKinds.size()))
             request.RequestType = request.RequestKinds[static_cast<std::size_t>(selected)];
         if (HasSymbolText())
             UnwatchAndClear();
-        m_store.WriteInt("RequestDataType", request.DataType);
+        // A type that nobody chose may be the default of one that could not be read.
+        if (isChosen)
+            m_store.WriteInt("RequestDataType", request.DataType);
+        else
+            m_store.FillIn("RequestDataType", request.DataType);
         if (HasSymbolText())
             DrawChart();
     }
@@ -195,7 +200,7 @@ void CChartLifecycle::OnIntervalChanged()
     m_services.Commands.Enable(CommandDrawChart, false);
     if (HasSymbolText())
         UnwatchAndClear();
-    m_store.WriteInt("RequestDataType", request.DataType);
+    m_store.FillIn("RequestDataType", request.DataType);
     if (HasSymbolText())
         DrawChart();
 }

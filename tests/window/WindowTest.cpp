@@ -356,6 +356,22 @@ TEST(StoredChanges, AChangeThatTheFileWouldNotHaveIsTriedAgainWhileTheChartRuns)
     EXPECT_EQ(chart.Key->Stored("PTS INDEX"), "(missing)"); // a default
 }
 
+TEST(StoredChanges, ADataTypeThatCouldNotBeReadIsReplacedByOneThatTheUserChoosesAlone)
+{
+    sChartFixture chart(false);
+    chart.Key->Put("RequestDataType", "2");
+    chart.Key->Reads = false;
+    chart.Start();
+    chart.Key->Reads = true;
+    chart.Chart("X", 5);
+    chart.Desktop.Interval.Selected = 3;
+    chart.Window->OnIntervalChanged();
+    EXPECT_EQ(chart.Key->Stored("RequestDataType"), "2");
+    chart.Desktop.Type.Selected = MinuteData;
+    chart.Window->OnDataTypeChanged(0);
+    EXPECT_EQ(chart.Key->Stored("RequestDataType"), "1");
+}
+
 TEST(StoredChanges, AChangeThatTheFileWouldNotHaveIsTriedOnceMoreWhenTheWindowGoes)
 {
     sChartFixture chart(false);
