@@ -152,7 +152,7 @@ void Cut(const std::string& text, CHistoryReply& reply)
         const std::size_t size = std::min(room.size(), text.size() - at);
         std::memcpy(room.data(), text.data() + at, size);
         at += size;
-        cutter.Received(static_cast<int>(size), [&](std::string_view line) { reply.OnLine(line); });
+        cutter.Received(static_cast<int>(size), [&](std::string_view line) { reply.OnLineOfMany(line); });
     }
     reply.EndOfLines();
 }

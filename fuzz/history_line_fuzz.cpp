@@ -49,12 +49,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         cutter.Received(static_cast<int>(part), [&](std::string_view line) {
             try {
                 if (!line.empty() && line.front() == '@')
-                    reply.OnLine(identifier + std::string(line.substr(1)));
+                    reply.OnLineOfMany(identifier + std::string(line.substr(1)));
                 else
-                    reply.OnLine(line);
+                    reply.OnLineOfMany(line);
             } catch (const std::invalid_argument&) {
             }
         });
+        reply.EndOfLines();
     }
     CheckAligned(request);
     return 0;

@@ -7,6 +7,7 @@
 #include "market/GrowableArray.h"
 #include "market/HistoryRecords.h"
 #include "market/SeriesBounds.h"
+#include "market/TickBatch.h"
 #include "platform/Lock.h"
 
 #include <atomic>
@@ -93,6 +94,8 @@ public:
 
     // The series. Every operation takes the lock for itself unless it says otherwise.
     void AppendPoint(const sHIST_POINT& point); // dropped when outside the request's date and time bounds
+    // The same for several ticks, in their order, under one lock. std::bad_alloc: those that fit are stored.
+    void AppendTicks(const sTickBatch& ticks);
     void UpdatePoint(int index,
                      const sHIST_POINT& point); // std::invalid_argument outside the series; no range check
     void GetPoint(int index,
@@ -126,7 +129,9 @@ public:
 
 private:
     // Sets of arrays that grow together: room for one more point, and the stores that then cannot fail.
+    void Append(const sHIST_POINT& point) REQUIRES(DataLock);
     void AppendTick(const sHIST_POINT& point) REQUIRES(DataLock);
+    void AppendTickRun(const sTickBatch& ticks, int first, int count) REQUIRES(DataLock);
     void AppendInterval(const sHIST_POINT& point) REQUIRES(DataLock);
     void AppendDay(const sHIST_POINT& point) REQUIRES(DataLock);
     void AppendPrices(const sHIST_POINT& point) REQUIRES(DataLock);

@@ -1,5 +1,6 @@
 // The series of a request: appending, amending and reading its parallel arrays.
 #include "market/ChartHistRequest.h"
+#include "market/StoredFields.h"
 
 #include <algorithm>
 #include <cstring>
@@ -13,16 +14,6 @@ namespace {
 constexpr int SeriesGrowStep = 10000;
 constexpr double OutsideTime = 29221.5; // 1 January 1980 12:00:00
 
-char FirstCharacter(const std::string& text)
-{
-    return text.empty() ? '\0' : text.front();
-}
-
-std::int32_t Stored(std::uint32_t value)
-{
-    return static_cast<std::int32_t>(value);
-}
-
 template<class Element, class Array>
 constexpr bool IsArrayOf = std::is_same_v<Array, CGrowableArray<Element>>;
 
@@ -33,9 +24,9 @@ constexpr bool HoldsIntegers = IsArrayOf<std::int32_t, Array> || IsArrayOf<std::
 template<class Array, class Value> decltype(auto) ForArray(const Array&, const Value& value)
 {
     if constexpr (IsArrayOf<char, Array>)
-        return FirstCharacter(value);
+        return StoredBasis(value);
     else if constexpr (std::is_same_v<Value, std::uint32_t>)
-        return Stored(value);
+        return StoredInteger(value);
     else
         return (value);
 }
@@ -59,17 +50,6 @@ template<class Array> auto ValueOrZero(const Array& array, int index)
 template<class... Arrays> void EmptyArrays(Arrays&... arrays)
 {
     ((arrays.SetCount(0), arrays.SetGrowStep(SeriesGrowStep)), ...);
-}
-
-template<class... Arrays> void PrepareArrays(Arrays&... arrays)
-{
-    (arrays.PrepareAdd(), ...);
-}
-
-// How many elements each of the arrays can take before the first of them must grow.
-template<class... Arrays> int RoomIn(const Arrays&... arrays)
-{
-    return std::min({(arrays.Capacity() - arrays.Count())...});
 }
 
 template<class... Arrays> void RemoveFrom(int index, Arrays&... arrays)
@@ -109,9 +89,15 @@ template<class T> int CopyPlain(const CGrowableArray<T>& array, int first, int c
 void CChartHistRequest::AppendPoint(const sHIST_POINT& point)
 {
     CLockGuard guard(DataLock);
-    if (!Bounds.Admits(point.Time))
-        return;
-    const int kind = Kind.load(std::memory_order_relaxed);
+    if (Bounds.Admits(point.Time))
+        Append(point);
+}
+
+// The appending of each shape makes room in all its arrays first, so that running out of memory leaves them
+// equally long.
+void CChartHistRequest::Append(const sHIST_POINT& point)
+{
+    const int kind = Kind;
     if (IsTickKind(kind))
         AppendTick(point);
     else if (IsIntervalKind(kind))
@@ -120,40 +106,12 @@ void CChartHistRequest::AppendPoint(const sHIST_POINT& point)
         AppendDay(point);
 }
 
-// Each of the three makes room in all its arrays first, so that running out of memory leaves them equally
-// long.
-void CChartHistRequest::AppendTick(const sHIST_POINT& point)
-{
-    if (m_tickRoom == 0)
-        PrepareTicks();
-    m_conditions.Add(point.Conditions);
-    m_time.AddPrepared(point.Time);
-    m_last.AddPrepared(point.Last);
-    m_size.AddPrepared(Stored(point.LastSize));
-    m_bid.AddPrepared(point.Bid);
-    m_bidSize.AddPrepared(Stored(point.BidSize));
-    m_ask.AddPrepared(point.Ask);
-    m_askSize.AddPrepared(Stored(point.AskSize));
-    m_totalVolume.AddPrepared(point.TotalVolume);
-    m_tickId.AddPrepared(Stored(point.TickId));
-    m_basis.AddPrepared(FirstCharacter(point.Basis));
-    --m_tickRoom;
-}
-
-void CChartHistRequest::PrepareTicks()
-{
-    PrepareArrays(m_time, m_last, m_size, m_bid, m_bidSize, m_ask, m_askSize, m_totalVolume, m_tickId,
-                  m_basis);
-    m_tickRoom =
-        RoomIn(m_time, m_last, m_size, m_bid, m_bidSize, m_ask, m_askSize, m_totalVolume, m_tickId, m_basis);
-}
-
 void CChartHistRequest::AppendInterval(const sHIST_POINT& point)
 {
     PreparePrices();
     m_size.PrepareAdd();
     AppendPrices(point);
-    m_size.AddPrepared(Stored(point.LastSize));
+    m_size.AddPrepared(StoredInteger(point.LastSize));
 }
 
 void CChartHistRequest::AppendDay(const sHIST_POINT& point)
@@ -161,13 +119,13 @@ void CChartHistRequest::AppendDay(const sHIST_POINT& point)
     PreparePrices();
     m_openInterest.PrepareAdd();
     AppendPrices(point);
-    m_openInterest.AddPrepared(Stored(point.OpenInterest));
+    m_openInterest.AddPrepared(StoredInteger(point.OpenInterest));
 }
 
 void CChartHistRequest::PreparePrices()
 {
     m_tickRoom = 0;
-    PrepareArrays(m_time, m_open, m_high, m_low, m_close, m_totalVolume);
+    PrepareAll(m_time, m_open, m_high, m_low, m_close, m_totalVolume);
 }
 
 void CChartHistRequest::AppendPrices(const sHIST_POINT& point)

@@ -35,7 +35,7 @@ public:
 
     // From the sockets, on this thread.
     void OnHistoryConnected();
-    void OnHistoryLine(std::string_view line) { m_history.OnLine(line); }
+    void OnHistoryLine(std::string_view line) { m_history.OnLineOfMany(line); }
     void OnHistoryLinesDone() { m_history.EndOfLines(); }
     void OnLevel1Line(std::string_view line) { m_level1.OnLine(line); }
 

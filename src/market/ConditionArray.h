@@ -27,6 +27,9 @@ public:
         ++m_count;
     }
 
+    // Texts that are all empty.
+    void AddEmpty(int count) { m_count += count; }
+
     std::string Get(int index) const
     {
         Check(index);

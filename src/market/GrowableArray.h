@@ -74,6 +74,20 @@ public:
     // Add without a look at the capacity. REQUIRES: PrepareAdd since the last element was added.
     void AddPrepared(const T& value) { new (Elements() + m_count++) T(value); }
 
+    // Several at once. REQUIRES: so many fit before the next growth.
+    void AddPrepared(const T* values, int count)
+    {
+        std::memcpy(static_cast<void*>(Elements() + m_count), values,
+                    static_cast<std::size_t>(count) * sizeof(T));
+        m_count += count;
+    }
+
+    void AddZeros(int count)
+    {
+        std::memset(static_cast<void*>(Elements() + m_count), 0, static_cast<std::size_t>(count) * sizeof(T));
+        m_count += count;
+    }
+
     const T& operator[](int index) const
     {
         Check(index);
@@ -123,5 +137,11 @@ private:
     sMemoryBlock m_block;
     int m_count = 0, m_capacity = 0, m_step = 0;
 };
+
+// Room for one more in each of the arrays, so that running out of memory leaves them equally long.
+template<class... Arrays> void PrepareAll(Arrays&... arrays)
+{
+    (arrays.PrepareAdd(), ...);
+}
 
 } // namespace zantroq

@@ -1,5 +1,6 @@
 #include "market/HistoryLine.h"
 
+#include "market/StoredFields.h"
 #include "platform/LeadingNumber.h"
 
 #include <algorithm>
@@ -46,11 +47,6 @@ const sHIST_POINT* IfValid(const sHIST_POINT& point)
 
 } // namespace
 
-CHistoryLineParser::CHistoryLineParser()
-{
-    m_tick.Basis.assign(1, '\0');
-}
-
 bool ShowsBasis(char basis, bool extendedTrades)
 {
     return basis == 'C' || (extendedTrades && (basis == 'E' || basis == 'O'));
@@ -63,32 +59,33 @@ int PriceFormatOf(std::string_view price)
     return std::max(static_cast<int>(price.size()) + 9 - point, 11);
 }
 
-const sHIST_POINT* CHistoryLineParser::Parse(int kind, const HistoryFields& fields, bool extendedTrades)
+void CHistoryLineParser::ParseTick(const HistoryFields& fields, bool extendedTrades, sTickBatch& ticks)
 {
-    if (IsTickKind(kind))
-        return ParseTick(fields, extendedTrades);
+    RequireFields(fields, 9);
+    const std::string_view basis = fields.At(8);
+    if (basis.empty() || !ShowsBasis(basis.front(), extendedTrades))
+        return;
+    const auto at = static_cast<std::size_t>(ticks.Count);
+    m_timestamp.ReadTick(fields.At(1), ticks.Time[at]);
+    if (ticks.Time[at].Status != TimeValid)
+        return;
+    ticks.Last[at] = Price(fields, 2);
+    ticks.Size[at] = StoredInteger(Unsigned(fields, 3));
+    ticks.TotalVolume[at] = Integer(fields, 4);
+    ticks.Bid[at] = Price(fields, 5);
+    ticks.Ask[at] = Price(fields, 6);
+    ticks.TickId[at] = StoredInteger(Unsigned(fields, 7));
+    ticks.Basis[at] = basis.front();
+    ++ticks.Count;
+}
+
+const sHIST_POINT* CHistoryLineParser::ParseBar(int kind, const HistoryFields& fields)
+{
     if (IsIntervalKind(kind))
         return ParseInterval(fields);
     if (IsDayKind(kind))
         return ParseDay(fields);
     return nullptr;
-}
-
-const sHIST_POINT* CHistoryLineParser::ParseTick(const HistoryFields& fields, bool extendedTrades)
-{
-    RequireFields(fields, 9);
-    const std::string_view basis = fields.At(8);
-    if (basis.empty() || !ShowsBasis(basis.front(), extendedTrades))
-        return nullptr;
-    m_timestamp.ReadTick(fields.At(1), m_tick.Time);
-    m_tick.Last = Price(fields, 2);
-    m_tick.LastSize = Unsigned(fields, 3);
-    m_tick.TotalVolume = Integer(fields, 4);
-    m_tick.Bid = Price(fields, 5);
-    m_tick.Ask = Price(fields, 6);
-    m_tick.TickId = Unsigned(fields, 7);
-    m_tick.Basis.front() = basis.front();
-    return IfValid(m_tick);
 }
 
 const sHIST_POINT* CHistoryLineParser::ParseInterval(const HistoryFields& fields)

@@ -4,6 +4,7 @@
 #include "market/FeedTimestamp.h"
 #include "market/HistoryRecords.h"
 #include "market/LineFields.h"
+#include "market/TickBatch.h"
 
 namespace zantroq {
 
@@ -21,21 +22,23 @@ int PriceFormatOf(std::string_view price);
 class CHistoryLineParser
 {
 public:
-    CHistoryLineParser();
+    // Both fail with std::invalid_argument on too few fields.
 
-    // The point of a line whose first character is `kind` as a digit; null when the line's trade is not
-    // wanted, its kind is not 0 to 9, or its date does not exist. The record holds until the next call. Fails
-    // with std::invalid_argument on too few fields.
-    const sHIST_POINT* Parse(int kind, const HistoryFields& fields, bool extendedTrades);
+    // Adds the tick of a line to the batch, unless its trade is not wanted or its date does not exist.
+    // REQUIRES: the batch is not full.
+    void ParseTick(const HistoryFields& fields, bool extendedTrades, sTickBatch& ticks);
+
+    // The bar of a line whose first character is `kind` as a digit; null when its kind is not 3 to 9 or its
+    // date does not exist. The record holds until the next call.
+    const sHIST_POINT* ParseBar(int kind, const HistoryFields& fields);
 
 private:
-    const sHIST_POINT* ParseTick(const HistoryFields& fields, bool extendedTrades);
     const sHIST_POINT* ParseInterval(const HistoryFields& fields);
     const sHIST_POINT* ParseDay(const HistoryFields& fields);
 
     CFeedTimestamp m_timestamp;
     // One record for each shape: what a shape does not fill stays as it was made.
-    sHIST_POINT m_tick, m_interval, m_day;
+    sHIST_POINT m_interval, m_day;
 };
 
 } // namespace zantroq

@@ -3,6 +3,7 @@
 #include "platform/LeadingNumber.h"
 
 #include <cstring>
+#include <new>
 #include <utility>
 
 namespace zantroq {
@@ -22,6 +23,12 @@ CHistoryReply::CHistoryReply(std::function<void()> onComplete) : m_onComplete(st
 
 void CHistoryReply::OnLine(std::string_view line)
 {
+    OnLineOfMany(line);
+    StoreTicks();
+}
+
+void CHistoryReply::OnLineOfMany(std::string_view line)
+{
     if (line.empty() || line.front() == 'E' || line.front() == 'S')
         return;
     CChartHistRequest* const request = FindRequestOf(line);
@@ -39,14 +46,22 @@ void CHistoryReply::OnLine(std::string_view line)
     }
     if (request->GetPriceFormat() == 0)
         request->SetPriceFormat(PriceFormatOf(fields[2]));
-    if (const sHIST_POINT* point = m_parser.Parse(line.front() - '0', fields, request->HasExtendedTrades()))
-        request->AppendPoint(*point);
+    const int kind = line.front() - '0';
+    if (IsTickKind(kind)) {
+        m_parser.ParseTick(fields, request->HasExtendedTrades(), m_ticks);
+        if (m_ticks.Full())
+            StoreTicks();
+    } else if (const sHIST_POINT* bar = m_parser.ParseBar(kind, fields)) {
+        StoreTicks();
+        request->AppendPoint(*bar);
+    }
 }
 
 void CHistoryReply::OnDeadLine(std::string_view line)
 {
     if (!Contains(line, EndMarker))
         return;
+    StoreTicks();
     EndReply(*m_request);
     EndOfLines();
 }
@@ -56,6 +71,7 @@ void CHistoryReply::OnEndLine(std::string_view marker)
 {
     if (!Contains(marker, EndMarker))
         return;
+    StoreTicks();
     const bool complete = EndReply(*m_request);
     EndOfLines();
     if (complete && m_onComplete)
@@ -70,13 +86,27 @@ CChartHistRequest* CHistoryReply::FindRequestOf(std::string_view line)
     const std::size_t comma = line.find(',');
     if (comma == std::string_view::npos || comma == 0)
         return nullptr;
+    StoreTicks();
     m_identifier.assign(line.substr(0, comma + 1));
     m_request = FindRequest(TextToInt(line.substr(1, comma - 1)));
     return m_request.get();
 }
 
+void CHistoryReply::StoreTicks()
+{
+    if (m_ticks.Count == 0)
+        return;
+    try {
+        m_request->AppendTicks(m_ticks);
+    } catch (const std::bad_alloc&) {
+        // The ticks that did not fit are lost; the series is as it was with those that did.
+    }
+    m_ticks.Count = 0;
+}
+
 void CHistoryReply::EndOfLines()
 {
+    StoreTicks();
     m_request.reset();
 }
 

@@ -32,6 +32,8 @@ struct sSeriesBounds
     CSeriesBound BeginDate{8}, EndDate{8};                                       // %Y%m%d
     CSeriesBound BeginTime{6}, BeginFilterTime{6}, EndTime{6}, EndFilterTime{6}; // %H%M%S
 
+    // Some bound is set.
+    bool Any() const { return m_any; }
     // Both ends are inside. The times of day hold on every date of the range.
     bool Admits(const sTIME_W_MILLISECONDS& time) const;
     // Recomputes what Admits asks first; to be called after a bound was set.

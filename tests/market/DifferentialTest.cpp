@@ -107,10 +107,11 @@ void Deliver(CSeriesFixture& chart, const std::string& text, const std::function
         at += size;
         cutter.Received(static_cast<int>(size), [&](std::string_view line) {
             try {
-                chart.RawLine(std::string(line));
+                chart.LineOfMany(std::string(line));
             } catch (const std::invalid_argument&) {
             }
         });
+        chart.EndOfLines();
     }
 }
 

@@ -76,6 +76,8 @@ public:
     void Feed(const std::string& rest) { FeedAs(m_request->GetRequestKind(), rest); }
     void FeedAs(int kind, const std::string& rest) { RawLine(Identifier(kind) + ',' + rest); }
     void RawLine(const std::string& line) { m_reply.OnLine(line); }
+    // As the socket hands out the lines of one receive, at whose end EndOfLines comes.
+    void LineOfMany(const std::string& line) { m_reply.OnLineOfMany(line); }
     void Complete() { Feed("!ENDMSG!,"); }
     void EndOfLines() { m_reply.EndOfLines(); }
     void Live(const CLevel1Line& line) { m_level1.OnLine(line.Text()); }
