@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
+#include <limits>
 #include <new>
 
 // The sanitizers follow memory through realloc; pages moved behind their back would keep stale shadow state.
@@ -27,12 +28,15 @@ namespace {
 
 // From here on a block is mapped on its own, with address space to grow in; only what is written to takes
 // memory.
-constexpr std::size_t LargeBlock = 1024 * 1024;
-constexpr std::size_t Reservation = 32 * LargeBlock;
+constexpr std::size_t LargeBlock = 2 * 1024 * 1024;
+constexpr std::size_t Reservation = 16 * LargeBlock;
 
+// By powers of two, since the C library copies a block wherever it cannot extend it. 0: too large for one.
 std::size_t RoundedSize(std::size_t bytes)
 {
-    return bytes < LargeBlock ? bytes : std::max(std::bit_ceil(bytes), Reservation);
+    constexpr std::size_t Greatest = std::numeric_limits<std::size_t>::max() / 2 + 1;
+    const std::size_t size = bytes > Greatest ? 0 : std::bit_ceil(bytes);
+    return size < LargeBlock ? size : std::max(size, Reservation);
 }
 
 #ifdef ZANTROQ_PLAIN_BLOCKS
@@ -49,10 +53,10 @@ void Release(void* data, std::size_t)
 // Filling a series is faster by a fifth when the system may back it with pages of this size.
 constexpr std::size_t HugePage = 2 * 1024 * 1024;
 
-// The first of them stays in small pages, so that a series of ordinary length takes no more than it fills.
+// From the first of them on: it is at least half full when a block comes here.
 void AdviseHugePages(void* data, std::size_t bytes)
 {
-    ::madvise(static_cast<char*>(data) + HugePage, bytes - HugePage, MADV_HUGEPAGE);
+    ::madvise(data, bytes, MADV_HUGEPAGE);
 }
 
 // `bytes` of fresh address space on a huge page's border, `bytes` being a multiple of one. Null: none is

@@ -1,6 +1,6 @@
-// Raw memory for arrays that grow in small steps to hundreds of megabytes. A large block takes address space
-// by powers of two while only touched pages take memory, and grows by moving pages, not bytes. A block
-// belongs to one owner; no lock.
+// Raw memory for arrays that grow in small steps to hundreds of megabytes. A block takes address space by
+// powers of two, of which only touched pages take memory, and a large one grows by moving pages, not bytes. A
+// block belongs to one owner; no lock.
 #pragma once
 
 #include <cstddef>

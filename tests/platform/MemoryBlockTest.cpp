@@ -13,8 +13,8 @@ TEST(MemoryBlock, ContentsSurviveEveryGrowth)
     sMemoryBlock block;
     std::size_t filled = 0;
     for (const std::size_t bytes :
-         {std::size_t(80000), std::size_t(900000), std::size_t(1) << 20, std::size_t(5) << 20,
-          (std::size_t(32) << 20) + 1, std::size_t(70) << 20}) {
+         {std::size_t(80000), std::size_t(900000), std::size_t(1) << 20, (std::size_t(1) << 20) + 1,
+          std::size_t(5) << 20, (std::size_t(32) << 20) + 1, std::size_t(70) << 20}) {
         GrowBlock(block, bytes);
         ASSERT_GE(block.Bytes, bytes);
         auto* const data = static_cast<std::uint8_t*>(block.Data);
@@ -36,7 +36,9 @@ TEST(MemoryBlock, WhatCannotBeHadLeavesTheBlockAsItWas)
     sMemoryBlock block;
     GrowBlock(block, 100);
     static_cast<char*>(block.Data)[99] = 'x';
-    EXPECT_THROW(GrowBlock(block, std::numeric_limits<std::size_t>::max() / 4), std::bad_alloc);
+    constexpr std::size_t greatest = std::numeric_limits<std::size_t>::max();
+    for (const std::size_t bytes : {greatest / 4, greatest / 2 + 1, greatest / 2 + 2, greatest})
+        EXPECT_THROW(GrowBlock(block, bytes), std::bad_alloc) << bytes;
     EXPECT_EQ(static_cast<char*>(block.Data)[99], 'x');
     FreeBlock(block);
 #endif
