@@ -2,14 +2,11 @@
 #pragma once
 
 #include "market/FeedTimestamp.h"
+#include "market/HistoryFields.h"
 #include "market/HistoryRecords.h"
-#include "market/LineFields.h"
 #include "market/TickBatch.h"
 
 namespace zantroq {
-
-// No kind reads a field past the ninth.
-using HistoryFields = CLineFields<9>;
 
 // Whether a trade with this basis letter belongs in a series: "C" always, "E" and "O" when extended trades
 // are wanted.

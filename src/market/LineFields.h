@@ -47,6 +47,12 @@ public:
     // Bytes of the line in front of the field. REQUIRES: field < Count().
     std::size_t Before(int field) const { return static_cast<std::size_t>(m_starts[field]); }
 
+    // Behind the field's last character. REQUIRES: field < Count().
+    const char* End(int field) const { return m_line + m_starts[field + 1] - 1; }
+
+    // Where each field starts in the line, Count() of them, and behind them where one more would.
+    const int* Starts() const { return m_starts.data(); }
+
 private:
     static constexpr int BlockSize = 64;
 
