@@ -7,6 +7,7 @@
 #include "market/GrowableArray.h"
 #include "market/HistoryRecords.h"
 #include "market/SeriesBounds.h"
+#include "market/SizeArray.h"
 #include "market/TickBatch.h"
 #include "platform/Lock.h"
 
@@ -167,7 +168,8 @@ private:
     CGrowableArray<double> m_open GUARDED_BY(DataLock), m_high GUARDED_BY(DataLock),
         m_low GUARDED_BY(DataLock), m_close GUARDED_BY(DataLock), m_last GUARDED_BY(DataLock),
         m_bid GUARDED_BY(DataLock), m_ask GUARDED_BY(DataLock);
-    CGrowableArray<std::int32_t> m_bidSize GUARDED_BY(DataLock), m_askSize GUARDED_BY(DataLock),
+    CSizeArray m_bidSize GUARDED_BY(DataLock), m_askSize GUARDED_BY(DataLock);
+    CGrowableArray<std::int32_t>
         m_openInterest GUARDED_BY(DataLock), m_size GUARDED_BY(DataLock), m_tickId GUARDED_BY(DataLock);
     CGrowableArray<std::int64_t> m_totalVolume GUARDED_BY(DataLock);
     CGrowableArray<char> m_basis GUARDED_BY(DataLock);

@@ -18,7 +18,8 @@ template<class Element, class Array>
 constexpr bool IsArrayOf = std::is_same_v<Array, CGrowableArray<Element>>;
 
 template<class Array>
-constexpr bool HoldsIntegers = IsArrayOf<std::int32_t, Array> || IsArrayOf<std::int64_t, Array>;
+constexpr bool HoldsIntegers =
+    IsArrayOf<std::int32_t, Array> || IsArrayOf<std::int64_t, Array> || std::is_same_v<Array, CSizeArray>;
 
 // A field of a point as its array keeps it.
 template<class Array, class Value> decltype(auto) ForArray(const Array&, const Value& value)
@@ -47,9 +48,21 @@ template<class Array> auto ValueOrZero(const Array& array, int index)
     return index < 0 || index >= array.Count() ? decltype(array[0] + 0)(0) : array[index];
 }
 
+template<class T> void EmptyArray(CGrowableArray<T>& array)
+{
+    array.SetCount(0);
+    array.SetGrowStep(SeriesGrowStep);
+}
+
+void EmptyArray(CSizeArray& array)
+{
+    array.Clear();
+    array.SetGrowStep(SeriesGrowStep);
+}
+
 template<class... Arrays> void EmptyArrays(Arrays&... arrays)
 {
-    ((arrays.SetCount(0), arrays.SetGrowStep(SeriesGrowStep)), ...);
+    (EmptyArray(arrays), ...);
 }
 
 template<class... Arrays> void RemoveFrom(int index, Arrays&... arrays)
@@ -68,6 +81,14 @@ template<class T> int CopyWidened(const CGrowableArray<T>& array, int first, int
     const int copied = Overlap(first, count, array.Count());
     if (copied > 0)
         std::copy_n(array.Data() + first, copied, out);
+    return copied;
+}
+
+int CopyWidened(const CSizeArray& array, int first, int count, std::int64_t* out)
+{
+    const int copied = Overlap(first, count, array.Count());
+    for (int i = 0; i < copied; ++i)
+        out[i] = array[first + i];
     return copied;
 }
 
