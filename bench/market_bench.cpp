@@ -5,11 +5,10 @@
 //   TicksFromMemory        the same text through line cutter, parser, range check and append into a series
 //   TicksFromMemoryBounded the same with date and time bounds set, all points inside
 //   YardstickSocket        the text over a loopback socket, receiving and finding line ends only
-//   YardstickSocketKept    the same, and 68 bytes a line, as many as a tick takes, written to fresh memory:
-//   what the machine itself takes TicksOverSocket        the text from a loopback feed to Complete, first
-//   byte to flag, while another thread polls every 1 ms;
-//                          counters give the bytes a tick that the series added and the process's resident
-//                          memory in MB
+//   YardstickSocketKept    the same, and 60 bytes a line, as many as a tick takes, written to fresh memory
+//   TicksOverSocket        the text from a loopback feed to Complete, first byte to flag, another thread
+//                          polling every 1 ms; counters give the bytes a tick that the series added and the
+//                          process's resident memory in MB
 //   LiveTick               one level 1 trade merged into a tick series
 #include "market/HistoryReply.h"
 #include "market/Level1Stream.h"
@@ -315,7 +314,7 @@ struct sFreshMemory
     ~sFreshMemory() { FreeBlock(Block); }
     void operator()(std::size_t line)
     {
-        constexpr std::size_t bytesALine = 68, step = 10000;
+        constexpr std::size_t bytesALine = 60, step = 10000;
         if (line % step == 0)
             GrowBlock(Block, (line + step) * bytesALine);
         std::memset(static_cast<char*>(Block.Data) + line * bytesALine, static_cast<int>(line), bytesALine);

@@ -41,11 +41,11 @@ template<class Call> void ForEachRunInside(const sSeriesBounds& bounds, const sT
 
 } // namespace
 
-void CChartHistRequest::AppendTicks(const sTickBatch& ticks) NO_THREAD_SAFETY_ANALYSIS
+void CChartHistRequest::AppendTicks(const sTickBatch& ticks)
 {
     CLockGuard guard(DataLock);
     const bool hasTicks = IsTickKind(Kind);
-    ForEachRunInside(Bounds, ticks, [&](int first, int count) {
+    ForEachRunInside(Bounds, ticks, [&](int first, int count) NO_THREAD_SAFETY_ANALYSIS {
         if (hasTicks)
             AppendTickRun(ticks, first, count);
         else // the object was given another kind while the reply was under way
