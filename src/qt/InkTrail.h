@@ -15,20 +15,20 @@ class CInkTrail
 public:
     void Add(const sPixelRect& rect)
     {
-        const std::int64_t area = Area(rect);
+        const std::int64_t cost = Cost(rect);
         if (!m_rects.empty()) {
             const sPixelRect& last = m_rects.back();
             const sPixelRect both{std::min(last.Left, rect.Left), std::min(last.Top, rect.Top),
                                   std::max(last.Right, rect.Right), std::max(last.Bottom, rect.Bottom)};
-            const std::int64_t bothArea = Area(both);
-            if (bothArea <= 2 * (m_inked + area) + Slack) {
+            const std::int64_t bothCost = Cost(both);
+            if (bothCost <= m_lastCost + cost) {
                 m_rects.back() = both;
-                m_inked = std::min(m_inked + area, bothArea);
+                m_lastCost = bothCost;
                 return;
             }
         }
         m_rects.push_back(rect);
-        m_inked = area;
+        m_lastCost = cost;
     }
 
     void Clear() { m_rects.clear(); }
@@ -40,18 +40,21 @@ public:
                m_rects.back().Right <= inside.Right && m_rects.back().Top >= inside.Top &&
                m_rects.back().Bottom <= inside.Bottom)
             m_rects.pop_back();
-        m_inked = m_rects.empty() ? 0 : Area(m_rects.back());
+        m_lastCost = m_rects.empty() ? 0 : Cost(m_rects.back());
     }
 
     const std::vector<sPixelRect>& Rects() const { return m_rects; }
 
 private:
-    static constexpr std::int64_t Slack = 64; // pixels that are cheaper to wipe than a rectangle is to keep
-
-    static std::int64_t Area(const sPixelRect& rect) { return std::int64_t{rect.Width()} * rect.Height(); }
+    // What wiping a rectangle costs, in pixels: a row of a few pixels takes as long as one of a cache line.
+    static std::int64_t Cost(const sPixelRect& rect)
+    {
+        constexpr int cacheLine = 16, perRect = 64;
+        return perRect + std::int64_t{std::max(rect.Width(), cacheLine)} * rect.Height();
+    }
 
     std::vector<sPixelRect> m_rects;
-    std::int64_t m_inked = 0; // pixels of ink in the last rectangle, at most
+    std::int64_t m_lastCost = 0; // of the last rectangle
 };
 
 } // namespace zantroq

@@ -59,6 +59,7 @@ void CRasterCanvas::SetPicture(QImage& picture)
     m_trail.Clear();
     m_mask.assign(static_cast<std::size_t>(m_width) * static_cast<std::size_t>(m_height), 0);
     m_extents.assign(static_cast<std::size_t>(m_width), {m_height, 0});
+    m_solid.assign(static_cast<std::size_t>(m_width), {0, 0});
     m_clip = {0, 0, m_width, m_height};
 }
 
@@ -155,12 +156,13 @@ void CRasterCanvas::Text(int left, int top, std::string_view text, QRgb colour)
     Mark(cut);
 }
 
+// x and y are in the plot.
 inline void CRasterCanvas::Cover(int x, int y, int coverage)
 {
-    if (x < m_plot.Left || x >= m_plot.Right || y < m_plot.Top || y >= m_plot.Bottom || coverage <= 0)
+    const sExtent& solid = m_solid[static_cast<std::size_t>(x)];
+    if (coverage <= 0 || (y >= solid.Top && y < solid.Bottom))
         return;
-    std::uint8_t& pixel =
-        m_mask[static_cast<std::size_t>(y) * static_cast<std::size_t>(m_width) + static_cast<std::size_t>(x)];
+    std::uint8_t& pixel = *MaskAt(x, y);
     pixel = static_cast<std::uint8_t>(std::max<int>(pixel, std::min(coverage, 255)));
     sExtent& extent = m_extents[static_cast<std::size_t>(x)];
     extent.Top = std::min(extent.Top, y);
@@ -172,6 +174,9 @@ void CRasterCanvas::CoverRows(int x, int top256, int bottom256)
 {
     top256 = std::max(top256, m_plot.Top * One);
     bottom256 = std::min(bottom256, m_plot.Bottom * One);
+    const sExtent& solid = m_solid[static_cast<std::size_t>(x)];
+    if (top256 >= solid.Top * One && bottom256 <= solid.Bottom * One)
+        return;
     for (int y = top256 >> 8; y * One < bottom256; ++y)
         Cover(x, y, std::min(bottom256, (y + 1) * One) - std::max(top256, y * One));
 }
@@ -182,6 +187,30 @@ void CRasterCanvas::Vertical(int column, int top, int bottom, int width)
     const int first = std::max(Row(top) - above, m_plot.Top),
               last = std::min(Row(bottom) + below, m_plot.Bottom - 1);
     Solid({std::max(left, m_plot.Left), first, std::min(left + width, m_plot.Right), last + 1});
+    NoteSolid(std::max(left, m_plot.Left), std::min(left + width, m_plot.Right), {first, last + 1});
+}
+
+// Rows that are solid in all of the columns, first to last, as far as they are in the plot.
+CRasterCanvas::sExtent CRasterCanvas::SolidRows(int first, int last) const
+{
+    sExtent rows{m_plot.Top, m_plot.Bottom};
+    for (int x = std::max(first, m_plot.Left); x <= std::min(last, m_plot.Right - 1); ++x) {
+        const sExtent& solid = m_solid[static_cast<std::size_t>(x)];
+        rows = {std::max(rows.Top, solid.Top), std::min(rows.Bottom, solid.Bottom)};
+        if (rows.Top >= rows.Bottom)
+            return {0, 0};
+    }
+    return rows;
+}
+
+// The longest stretch of a column is enough to know.
+inline void CRasterCanvas::NoteSolid(int left, int right, const sExtent& rows)
+{
+    for (int x = left; x < right; ++x) {
+        sExtent& solid = m_solid[static_cast<std::size_t>(x)];
+        if (rows.Bottom - rows.Top > solid.Bottom - solid.Top)
+            solid = rows;
+    }
 }
 
 // Full coverage needs no mask: nothing of the line's own colour changes it, before or after.
@@ -190,9 +219,12 @@ void CRasterCanvas::Solid(const sPixelRect& rect)
     if (rect.Left >= rect.Right || rect.Top >= rect.Bottom)
         return;
     QRgb* line = m_pixels + static_cast<std::ptrdiff_t>(rect.Top) * m_stride + rect.Left;
-    for (int y = rect.Top; y < rect.Bottom; ++y, line += m_stride)
-        for (int x = 0; x < rect.Width(); ++x)
-            line[x] = m_colour;
+    if (rect.Width() == 1)
+        for (int y = rect.Top; y < rect.Bottom; ++y, line += m_stride)
+            *line = m_colour;
+    else
+        for (int y = rect.Top; y < rect.Bottom; ++y, line += m_stride)
+            std::fill_n(line, rect.Width(), m_colour);
     Mark(rect);
 }
 
@@ -211,9 +243,15 @@ void CRasterCanvas::Segment(int column0, int y0, int column1, int y1, const sInk
     }
     if (rise == 0) {
         const int row = Row(y0) - (line.Width - 1) / 2;
-        for (int x = first; x <= last; ++x)
-            if (InDash(line, x))
-                Solid({x, std::max(row, m_plot.Top), x + 1, std::min(row + line.Width, m_plot.Bottom)});
+        const int top = std::max(row, m_plot.Top), bottom = std::min(row + line.Width, m_plot.Bottom);
+        for (int from = first, to; from <= last; from = to) {
+            const bool inked = InDash(line, from);
+            for (to = line.Pattern == LineSolid ? last + 1 : from + 1;
+                 to <= last && InDash(line, to) == inked;)
+                ++to;
+            if (inked)
+                Solid({from, top, to, bottom});
+        }
         return;
     }
     if (std::abs(rise) > run * One)
@@ -234,14 +272,22 @@ void CRasterCanvas::Steep(int column0, int y0, int column1, int y1, const sInkLi
     const int half = static_cast<int>(line.Width * One * std::sqrt(1 + slope * slope) / 2);
     const int first = std::max(Row(std::min(y0, y1)), m_plot.Top),
               last = std::min(Row(std::max(y0, y1)), m_plot.Bottom - 1);
+    const sExtent solid =
+        SolidRows((column0 * One + One / 2 - half) >> 8, (column1 * One + One / 2 + half - 1) >> 8);
+    const std::int64_t begin = std::int64_t{column0} * One, end = std::int64_t{column1} * One;
+    const std::int64_t plotLeft = std::int64_t{m_plot.Left} * One,
+                       plotRight = std::int64_t{m_plot.Right} * One;
     for (int y = first; y <= last; ++y) {
+        if (y >= solid.Top && y < solid.Bottom) {
+            y = solid.Bottom - 1;
+            continue;
+        }
         if (!InDash(line, y))
             continue;
-        std::int64_t middle = column0 * std::int64_t{One} + (std::int64_t{y} * One - y0) * run * One / rise;
-        middle = std::clamp<std::int64_t>(middle, std::int64_t{column0} * One, std::int64_t{column1} * One) +
-                 One / 2;
-        const std::int64_t left = std::max<std::int64_t>(middle - half, std::int64_t{m_plot.Left} * One);
-        const std::int64_t right = std::min<std::int64_t>(middle + half, std::int64_t{m_plot.Right} * One);
+        const std::int64_t middle =
+            std::clamp(begin + (std::int64_t{y} * One - y0) * run * One / rise, begin, end) + One / 2;
+        const std::int64_t left = std::max(middle - half, plotLeft);
+        const std::int64_t right = std::min(middle + half, plotRight);
         for (int x = static_cast<int>(left >> 8); x * std::int64_t{One} < right; ++x)
             Cover(x, y,
                   static_cast<int>(std::min(right, (x + 1) * std::int64_t{One}) -
@@ -255,17 +301,21 @@ void CRasterCanvas::Line(const sInkLine& line, const sPixelRect& plot)
     if (m_plot.Left >= m_plot.Right || m_plot.Top >= m_plot.Bottom)
         return;
     m_colour = ScreenColour(line.Color);
+    std::fill(m_solid.begin() + m_plot.Left, m_solid.begin() + m_plot.Right, sExtent{0, 0});
     const std::vector<sInkVertex>& vertices = line.Vertices;
     const int reach = line.Width + 1;
+    const auto goesOn = [&](std::size_t i) { return i + 1 < vertices.size() && vertices[i + 1].Joined; };
+    // First what is solid: the slanting parts between need not be worked out where it covers them.
     for (std::size_t i = 0; i < vertices.size(); ++i) {
         const sInkVertex& vertex = vertices[i];
-        const bool goesOn = i + 1 < vertices.size() && vertices[i + 1].Joined;
         const bool inSight = vertex.Column >= m_plot.Left - reach && vertex.Column < m_plot.Right + reach;
-        if (inSight && (vertex.Several || (!vertex.Joined && !goesOn)) && InDash(line, vertex.Column))
+        if (inSight && (vertex.Several || (!vertex.Joined && !goesOn(i))) && InDash(line, vertex.Column))
             Vertical(vertex.Column, vertex.Top, vertex.Bottom, line.Width);
-        if (!goesOn)
+    }
+    for (std::size_t i = 0; i < vertices.size(); ++i) {
+        if (!goesOn(i))
             continue;
-        const sInkVertex& next = vertices[i + 1];
+        const sInkVertex &vertex = vertices[i], &next = vertices[i + 1];
         if (std::max(vertex.Column, next.Column) >= m_plot.Left - reach &&
             std::min(vertex.Column, next.Column) < m_plot.Right + reach)
             Segment(vertex.Column, vertex.Last, next.Column, next.First, line);
@@ -279,9 +329,9 @@ void CRasterCanvas::Blend(QRgb colour)
         sExtent& extent = m_extents[static_cast<std::size_t>(x)];
         if (extent.Top >= extent.Bottom)
             continue;
-        std::uint8_t* mask = m_mask.data() + static_cast<std::ptrdiff_t>(extent.Top) * m_width + x;
+        std::uint8_t* mask = MaskAt(x, extent.Top);
         QRgb* pixel = m_pixels + static_cast<std::ptrdiff_t>(extent.Top) * m_stride + x;
-        for (int y = extent.Top; y < extent.Bottom; ++y, mask += m_width, pixel += m_stride) {
+        for (int y = extent.Top; y < extent.Bottom; ++y, ++mask, pixel += m_stride) {
             if (*mask == 0)
                 continue;
             *pixel = *mask == 255 ? colour : BlendPixel(*pixel, colour, *mask);

@@ -54,8 +54,14 @@ private:
         if (m_marking)
             m_trail.Add(rect);
     }
+    std::uint8_t* MaskAt(int x, int y)
+    {
+        return m_mask.data() + static_cast<std::ptrdiff_t>(x) * m_height + y;
+    }
     void Framed(const sInkRect& frame, const sInkRect& inside);
     std::size_t ThinRects(std::span<const sInkRect> rects, std::size_t i);
+    sExtent SolidRows(int first, int last) const;
+    void NoteSolid(int left, int right, const sExtent& rows);
     void Cover(int x, int y, int coverage);
     void CoverRows(int x, int top256, int bottom256);
     void Solid(const sPixelRect& rect);
@@ -72,10 +78,10 @@ private:
     bool m_marking = false;
     CInkTrail m_trail;
     CInkTrail m_wiped; // kept for its memory
-    // One line at a time: the coverage of its pixels, the greatest where its parts meet, and the rows touched
-    // in each column.
+    // One line at a time: the coverage of its pixels, column by column, the greatest where its parts meet;
+    // the rows touched in each column; and rows of it that are the line's colour already.
     std::vector<std::uint8_t> m_mask;
-    std::vector<sExtent> m_extents;
+    std::vector<sExtent> m_extents, m_solid;
 };
 
 } // namespace zantroq

@@ -15,11 +15,13 @@ namespace {
 class CAnyChange
 {
 public:
-    explicit CAnyChange(unsigned seed) : m_random(seed), m_pane(test::EmptyPane(200, 120))
+    // One value of a vector in so many is none, an infinity or the like.
+    CAnyChange(unsigned seed, int points, int rareness)
+        : m_random(seed), m_rareness(rareness), m_pane(test::EmptyPane(200, 120))
     {
         for (int group : {1, 2}) {
             Data(group).SetSeriesCount(group == 1 ? 4 : 2);
-            Data(group).SetPointCount(1, Below(2) ? 30 : 400);
+            Data(group).SetPointCount(1, points);
         }
         test::FitAxes(*m_pane, Data(1).PointCount(1), 0, 100);
         for (int i = 0; i < 12; ++i)
@@ -31,7 +33,7 @@ public:
     // Makes one change and tells its number.
     int Change()
     {
-        const int kind = Below(30), group = 1 + Below(2);
+        const int kind = Below(34), group = 1 + Below(2);
         CPaneData& data = Data(group);
         const int series = 1 + Below(std::max(1, data.SeriesCount()));
         const int point = Below(2) ? data.PointCount(1) : 1 + Below(std::max(1, data.PointCount(1)));
@@ -128,13 +130,22 @@ public:
             area.PaneMarkers("x").SetShown(Below(4) != 0);
             area.PaneMarkers("x").SetPoint(Below(2) ? point : NoPoint);
             break;
-        case 28:
+        case 31:
             if (m_pane->PaneLabels().Count() < 3 || Below(2))
                 test::AddLabel(*m_pane, "text", Below(3), 0x11 + Below(2) * 0x10 + Below(2))
                     .SetDataAnchor(point, 50);
             else
                 m_pane->PaneLabels().Remove(1 + Below(m_pane->PaneLabels().Count()));
             break;
+        case 28:
+        case 29: // the same with x counting on
+            Slide(data);
+            break;
+        case 30: {
+            const std::span<double> y = data.WholeY(series);
+            std::fill_n(y.begin() + point / 2, y.size() / 3, Value());
+            break;
+        }
         default:
             area.PaneAxes().X().AxisGrid().SetSpacing(Below(3) * 10);
             area.PaneAxes().Y().AxisGrid().SetSpacing(Below(3) * 10);
@@ -147,6 +158,22 @@ public:
 
 private:
     CPaneData& Data(int group) { return m_pane->PaneGroups(group).PaneData(); }
+
+    void Slide(CPaneData& data)
+    {
+        const int points = data.PointCount(1);
+        if (points < 2)
+            return;
+        const double next = data.PointX(1, points) + 1;
+        for (int one = 1; one <= data.SeriesCount(); ++one) {
+            data.ShiftPoints(one, points - 1, 2);
+            data.SetPointY(one, points, Value());
+        }
+        data.SetPointX(1, points, next);
+        CPaneAxis& x = m_pane->PaneArea().PaneAxes().X();
+        x.ViewLow().SetValue(next - points + 1);
+        x.ViewHigh().SetValue(next + 0.5);
+    }
 
     double Value()
     {
@@ -166,31 +193,50 @@ private:
         double value = Below(100);
         for (int i = 0; i < data.PointCount(1); ++i) {
             value += (Below(201) - 100) / 25.0 + (50 - value) * 0.01;
-            y.push_back(Below(40) ? value : Value());
+            y.push_back(Below(m_rareness) ? value : Value());
         }
         data.SetYVector(1 + Below(std::max(1, data.SeriesCount())), y);
     }
 
     std::mt19937 m_random;
+    int m_rareness;
     test::Pane m_pane;
 };
+
+void ExpectThePictureThatIsPaintedFromNothing(CAnyChange& pane, double scale, int rounds)
+{
+    CPanePainter kept(pane.Pane(), "DejaVu Sans");
+    std::string row;
+    for (int round = 0; round < rounds; ++round) {
+        for (int i = pane.Below(3); i >= 0; --i)
+            row += " " + std::to_string(pane.Change());
+        row = row.substr(row.size() < 60 ? 0 : row.size() - 60);
+        CPanePainter plain(pane.Pane(), "DejaVu Sans", InkDetail::EveryPoint);
+        const QImage& picture = kept.Picture(scale);
+        ASSERT_TRUE(picture == plain.Picture(scale)) << "round " << round << ", changes" << row;
+    }
+}
 
 TEST(AnyChange, LeavesThePictureThatIsPaintedFromNothing)
 {
     for (unsigned seed = 1; seed <= 40; ++seed) {
-        CAnyChange pane(seed);
-        const double scale = 1 + 0.5 * (seed % 3);
-        CPanePainter kept(pane.Pane(), "DejaVu Sans");
-        std::string row;
-        for (int round = 0; round < 250; ++round) {
-            for (int i = pane.Below(3); i >= 0; --i)
-                row += " " + std::to_string(pane.Change());
-            row = row.substr(row.size() < 60 ? 0 : row.size() - 60);
-            CPanePainter plain(pane.Pane(), "DejaVu Sans", InkDetail::EveryPoint);
-            const QImage& picture = kept.Picture(scale);
-            ASSERT_TRUE(picture == plain.Picture(scale))
-                << "seed " << seed << ", round " << round << ", changes" << row;
-        }
+        SCOPED_TRACE(seed);
+        CAnyChange pane(seed, seed % 2 ? 30 : 400, 40);
+        ExpectThePictureThatIsPaintedFromNothing(pane, 1 + 0.5 * (seed % 3), 250);
+        if (testing::Test::HasFatalFailure())
+            return;
+    }
+}
+
+// So many points a column that blocks of them are looked at.
+TEST(AnyChange, OfACrowdedPaneLeavesThePictureThatIsPaintedFromNothing)
+{
+    for (unsigned seed = 1; seed <= 24; ++seed) {
+        SCOPED_TRACE(seed);
+        CAnyChange pane(seed, 9000, seed % 3 ? 3000 : 200);
+        ExpectThePictureThatIsPaintedFromNothing(pane, 1 + 0.5 * (seed % 2), 60);
+        if (testing::Test::HasFatalFailure())
+            return;
     }
 }
 
