@@ -2,6 +2,7 @@
 
 #include "drawing/InkStyle.h"
 #include "drawing/LeastGreatest.h"
+#include "drawing/Prefetch.h"
 
 #include <algorithm>
 #include <cmath>
@@ -21,15 +22,6 @@ int BodyWidth(int room)
         return std::max(1, room);
     const int body = room - std::max(1, room / 5);
     return body % 2 == 0 ? body - 1 : body; // odd, so that the wick stands in the middle
-}
-
-inline void Prefetch(const double* at)
-{
-#ifdef __GNUC__
-    __builtin_prefetch(at);
-#else
-    static_cast<void>(at);
-#endif
 }
 
 // The values that lie for sure within the pixel rows of one piece: the rows' edges taken a little inside.
@@ -76,6 +68,7 @@ sBarSource sBarSource::Of(const CPaneGroup& group, const sPlotMap& map, double s
     const int room =
         static_cast<int>(std::clamp(std::abs(map.X.PixelsPerUnit()), 1.0, WidestBody * std::max(1.0, scale)));
     if (IsBarType(source.Type)) {
+        source.Bars = data.BlockedY(first);
         source.Width = BodyWidth(std::min(room, DevicePixels(barWidth, scale)));
         return source;
     }
@@ -195,13 +188,12 @@ void CBarInk::DrawCandle(std::size_t i, int column)
 // Columns are walked backwards, which the processor does not foresee.
 void CBarInk::Foresee(std::size_t first, std::size_t count) const
 {
-    constexpr std::size_t line = 8; // numbers of a cache line
     const std::size_t end = std::min(first + count, m_source.High.size());
-    for (std::size_t i = first; i < end; i += line) {
-        Prefetch(m_source.High.data() + i);
-        if (i < m_source.Low.size())
-            Prefetch(m_source.Low.data() + i);
-    }
+    if (first >= end || m_source.Bars.Blocks() > 0)
+        return;
+    Prefetch(m_source.High.data() + first, end - first);
+    if (!m_bars)
+        Prefetch(m_source.Low.data() + first, end - first);
 }
 
 void CBarInk::DrawThin(std::size_t first, std::size_t last, int column)
@@ -225,12 +217,30 @@ bool CBarInk::FinishThin()
 void CBarInk::Scan(std::size_t first, std::size_t last)
 {
     m_pieces.clear();
+    if (m_bars && ScanBars(first, last))
+        return;
     std::size_t i = last;
     while (i > first)
         if (m_pieces.size() == 1)
             i = ScanOnePiece(first, i);
         else
             TakeAny(--i);
+}
+
+// Bars have one colour, and all of them touch the origin: their ends tell what is seen. False, with nothing
+// taken, when some are not there.
+bool CBarInk::ScanBars(std::size_t first, std::size_t last)
+{
+    sLeastGreatest ends;
+    if (!IsDrawn(m_source.Origin) || !FindLeastGreatest(m_source.Bars, first, last, ends))
+        return false;
+    int top = 0, bottom = 0;
+    Span(std::max(ends.Greatest, m_source.Origin), std::min(ends.Least, m_source.Origin), top, bottom);
+    top = std::max(top, m_map.Plot.Top);
+    bottom = std::min(bottom, m_map.Plot.Bottom);
+    if (top < bottom)
+        Cover(top, bottom, last - 1);
+    return true;
 }
 
 // While what is covered has no gap, only points that reach beyond it matter. Returns where a point was met
@@ -298,8 +308,8 @@ inline void CBarInk::Found(int top, int bottom, std::size_t i)
 {
     m_found.push_back({top, bottom, i});
     if (!m_bars) {
-        Prefetch(m_source.Open.data() + i);
-        Prefetch(m_source.Close.data() + i);
+        Prefetch(m_source.Open.data() + i, 1);
+        Prefetch(m_source.Close.data() + i, 1);
     }
 }
 

@@ -5,6 +5,7 @@
 
 #include "drawing/InkRect.h"
 #include "drawing/PaneGeometry.h"
+#include "drawing/ValueBlocks.h"
 
 #include <cstddef>
 #include <span>
@@ -17,6 +18,7 @@ struct sBarSource
 {
     int Type = 0;
     std::span<const double> High, Low, Open, Close; // bars: High alone
+    sBlockedValues Bars;                            // bars: the same as High
     Colour Up = 0, Down = 0, Outline = 0, Hollow = 0;
     bool Outlined = false, Filled = true;
     int Width = 1, Wick = 1, Tick = 0; // device pixels
@@ -70,6 +72,7 @@ private:
     void DrawPriceBar(std::size_t i, int column);
     void DrawCandle(std::size_t i, int column);
     void Scan(std::size_t first, std::size_t last);
+    bool ScanBars(std::size_t first, std::size_t last);
     std::size_t ScanOnePiece(std::size_t first, std::size_t i);
     void TakeAny(std::size_t i);
     void Found(int top, int bottom, std::size_t i);

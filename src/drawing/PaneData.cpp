@@ -86,6 +86,8 @@ int CPaneData::LastVisible() const
 
 bool CPaneData::XAscending() const
 {
+    if (m_counted.Covers(m_x.size()))
+        return true;
     if (m_ascending < 0) {
         m_ascending = 1;
         for (std::size_t i = 0; i < m_x.size() && m_ascending == 1;
@@ -102,10 +104,11 @@ void CPaneData::SetSeriesCount(int count)
         return;
     if (n == 0) {
         m_x.clear();
-        m_numbered = true;
+        m_counted.Forget();
         m_ascending = 1;
     }
     m_y.resize(n, CSlidingArray(m_x.size(), HoleValue()));
+    m_blocks.resize(n);
     m_yRevision.resize(n, 0);
     m_steps.resize(n);
     m_firstPoint.resize(n, 1);
@@ -126,13 +129,19 @@ void CPaneData::SetPointCount(int series, int count)
     const std::size_t had = m_x.size();
     if (n == had)
         return;
-    if (!m_numbered)
+    const bool numbered = had == 0 || XCountsFrom() == 1;
+    if (!numbered)
         m_ascending = -1;
     m_x.resize(n);
+    m_counted.Cut(n);
+    if (numbered)
+        m_counted.Set(1, n);
     if (n > had)
         std::iota(m_x.begin() + static_cast<std::ptrdiff_t>(had), m_x.end(), static_cast<double>(had + 1));
-    for (auto& y : m_y)
-        y.resize(n, HoleValue());
+    for (int i = 1; i <= SeriesCount(); ++i) {
+        ForgetBlocks(i, std::min(n, had));
+        m_y[static_cast<std::size_t>(i - 1)].resize(n, HoleValue());
+    }
     if (n > had)
         std::fill(m_steps.begin(), m_steps.end(), std::nullopt);
     NoteWhole();
@@ -180,6 +189,7 @@ void CPaneData::SetPointX(int series, int point, double x)
     if (!Has(series, point))
         return;
     const auto i = static_cast<std::size_t>(point - 1);
+    m_counted.Wrote(i, x);
     if (IsSame(m_x[i], x))
         return;
     // A change that fits between its neighbours leaves the order as it was.
@@ -189,7 +199,6 @@ void CPaneData::SetPointX(int series, int point, double x)
     else if (m_ascending == 0)
         m_ascending = -1;
     m_x[i] = x;
-    m_numbered = false;
     NoteWhole();
 }
 
@@ -208,6 +217,7 @@ void CPaneData::SetPointY(int series, int point, double y)
         return;
     held = y;
     Step(series).reset();
+    ForgetBlocks(series, static_cast<std::size_t>(point - 1));
     NotePoints(series, point, point);
 }
 
@@ -219,10 +229,12 @@ bool CPaneData::ShiftPoints(int series, int count, int firstSource)
     auto& y = m_y[static_cast<std::size_t>(series - 1)];
     if (Step(series) && Step(series)->Holes > 0) // else all values are the same ones
         Step(series).reset();
-    y.MoveToFront(static_cast<std::size_t>(count), static_cast<std::size_t>(firstSource - 1));
+    const auto moved = static_cast<std::size_t>(count), from = static_cast<std::size_t>(firstSource - 1);
+    m_blocks[static_cast<std::size_t>(series - 1)].ForgetFrom(y.MoveToFront(moved, from));
     if (series == 1) {
-        m_x.MoveToFront(static_cast<std::size_t>(count), static_cast<std::size_t>(firstSource - 1));
-        ForgetX();
+        m_x.MoveToFront(moved, from);
+        m_counted.Moved(moved, from);
+        m_ascending = -1;
     }
     NoteWhole();
     return true;
@@ -243,17 +255,30 @@ bool CPaneData::SetXVector(int series, std::span<const double> x)
 void CPaneData::ForgetX()
 {
     m_ascending = -1;
-    m_numbered = false;
+    m_counted.Forget();
 }
 
-void CPaneData::NumberPoints()
+void CPaneData::NumberPoints(double first)
 {
-    if (m_numbered)
+    const std::size_t points = m_x.size();
+    if (points == 0 || XCountsFrom() == first)
         return;
-    std::iota(m_x.begin(), m_x.end(), 1.0);
-    m_numbered = true;
-    m_ascending = 1;
+    const std::size_t known = m_counted.First() == first ? m_counted.Count() : 0;
+    std::iota(m_x.begin() + known, m_x.end(), first + static_cast<double>(known));
+    m_counted.Set(first, points);
+    m_ascending = m_counted.Covers(points) ? 1 : -1;
     NoteWhole();
+}
+
+bool CPaneData::TakeX(const CPaneData& other)
+{
+    if (!Has(1) || other.m_x.size() < m_x.size())
+        return false;
+    if (const std::optional<double> first = other.XCountsFrom()) {
+        NumberPoints(*first);
+        return true;
+    }
+    return SetXVector(1, other.X());
 }
 
 void CPaneData::SetConstantY(int series, double y)
@@ -279,6 +304,7 @@ void CPaneData::SetStepY(int series, int firstPoint, double y)
     std::fill(values.begin() + holes, sameValue ? values.begin() + std::max(holes, heldHoles) : values.end(),
               y);
     Step(series) = sStep{holes, y};
+    ForgetBlocks(series);
     NoteWhole(series);
 }
 
@@ -300,6 +326,7 @@ bool CPaneData::SetYVector(int series, std::span<const double> y)
         return false;
     std::copy_n(y.begin(), m_x.size(), m_y[static_cast<std::size_t>(series - 1)].begin());
     Step(series).reset();
+    ForgetBlocks(series);
     NoteWhole(series);
     return true;
 }
@@ -317,9 +344,38 @@ std::span<double> CPaneData::WholeY(int series)
     if (!Has(series))
         return {};
     Step(series).reset();
+    ForgetBlocks(series);
     NoteWhole(series);
     auto& y = m_y[static_cast<std::size_t>(series - 1)];
     return {y.data(), y.size()};
+}
+
+void CPaneData::ForgetBlocks(int series, std::size_t from)
+{
+    const auto at = static_cast<std::size_t>(series - 1);
+    m_blocks[at].ForgetFrom(m_y[at].Begin() + from);
+}
+
+sBlockedValues CPaneData::BlockedY(int series) const
+{
+    if (!Has(series))
+        return {};
+    const auto at = static_cast<std::size_t>(series - 1);
+    return m_blocks[at].Of(m_y[at].Places(), m_y[at].Begin());
+}
+
+void CPaneData::LearnBlocks(int series) const
+{
+    LearnBlocks(series, m_x.size());
+}
+
+void CPaneData::LearnBlocks(int series, std::size_t written) const
+{
+    if (!Has(series))
+        return;
+    const auto at = static_cast<std::size_t>(series - 1);
+    const CSlidingArray& y = m_y[at];
+    m_blocks[at].Learn(y.Places().first(y.Begin() + std::min(written, y.size())), y.Begin());
 }
 
 std::span<const double> CPaneData::Y(int series) const

@@ -1,8 +1,10 @@
 // The points of a group and what is known of their changes. Chart window's thread.
 #pragma once
 
+#include "drawing/CountedRun.h"
 #include "drawing/PaneNode.h"
 #include "drawing/SlidingArray.h"
+#include "drawing/ValueBlocks.h"
 
 #include <cstdint>
 #include <optional>
@@ -63,21 +65,32 @@ public:
     bool SetXVector(int series, std::span<const double> x);
     bool SetXVector(int series, std::span<const int> x);
     bool SetYVector(int series, std::span<const double> y);
-    // x becomes 1 to PointCount, and every y of a series one value. Both cost nothing where it is so already,
-    // since a pane remembers it: a whole draw of many points sets them again each time.
-    void NumberPoints();
+    // x becomes `first`, the number behind it, and so on, and every y of a series one value. Both cost
+    // nothing where it is so already, since a pane remembers it: a whole draw of many points sets them again
+    // each time.
+    void NumberPoints(double first = 1);
     void SetConstantY(int series, double y);
     // One value from a point on and the hole value before it. Writes only what is not so already.
     void SetStepY(int series, int firstPoint, double y);
     bool GetXVector(int series, std::vector<double>& x) const;
+    // x becomes that of another group, which costs next to nothing where that counts up; false when it has
+    // fewer points.
+    bool TakeX(const CPaneData& other);
     // The y values of a series for who writes all of them in place, which saves a copy of what may be long.
-    // Inside a batch, or with CommitPaneData behind it. Good until a count changes; empty for a number out of
-    // range.
+    // Inside a batch, or with CommitPaneData behind it, and before anybody reads them again. Good until a
+    // count changes; empty for a number out of range.
     std::span<double> WholeY(int series);
 
     // For the painter and for whole-vector readers: no copies.
     std::span<const double> X() const { return m_x; }
     std::span<const double> Y(int series) const;
+    // The same with what is known of blocks of the values: of all of them after LearnBlocks, which costs a
+    // look at those that changed since and is worth it where many are looked at together. Good until the
+    // values change.
+    sBlockedValues BlockedY(int series) const;
+    void LearnBlocks(int series) const;
+    // The same for the first so many values alone, by who is filling WholeY and has them at hand.
+    void LearnBlocks(int series, std::size_t written) const;
     // What is known of a series without looking at its values; nothing where they may be anything.
     std::optional<sStep> KnownStep(int series) const
     {
@@ -90,8 +103,14 @@ public:
     // Whether no x is below the one before it, which lets a search for x halve its way. Worked out once per
     // change of x.
     bool XAscending() const;
-    // Whether x is known to be 1, 2, 3, ...
-    bool XNumbered() const { return m_numbered; }
+    // The first x when x is known to count up by one from it, as NumberPoints leaves it; a live chart goes on
+    // counting at the right while points leave at the left. Nothing where x may be anything, and without
+    // points.
+    std::optional<double> XCountsFrom() const
+    {
+        return m_x.size() > 0 && m_counted.Covers(m_x.size()) ? std::optional(m_counted.First())
+                                                              : std::nullopt;
+    }
 
     // Change tracking for who keeps a picture of the points: remember Revision(), later ask what changed
     // since.
@@ -111,6 +130,7 @@ private:
     void NoteWhole(int series = 0); // 0: of all series
     void NotePoints(int series, int first, int last);
     void ForgetX();
+    void ForgetBlocks(int series, std::size_t from = 0); // of the values from there on
     std::optional<sStep>& Step(int series) { return m_steps[static_cast<std::size_t>(series - 1)]; }
     bool Has(int series) const { return series >= 1 && series <= SeriesCount(); }
     bool Has(int series, int point) const
@@ -121,9 +141,10 @@ private:
     int m_layout = 1, m_firstShown = 1, m_lastShown = 0;
     CSlidingArray m_x;
     std::vector<CSlidingArray> m_y;
+    mutable std::vector<CValueBlocks> m_blocks; // by series
     std::vector<int> m_firstPoint, m_drawnTo;
     std::vector<std::optional<sStep>> m_steps; // by series: what is known to stand at every point
-    bool m_numbered = true;                    // x is known to be 1, 2, 3, ...
+    CCountedRun m_counted;                     // of x
     mutable signed char m_ascending = 1;       // -1: to be found out
     std::uint64_t m_revision = 0;
     std::uint64_t m_frameRevision = 0;         // the last change of what all series share

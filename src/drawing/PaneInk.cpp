@@ -2,32 +2,13 @@
 
 #include "drawing/BarInk.h"
 #include "drawing/InkStyle.h"
-#include "drawing/LeastGreatest.h"
+#include "drawing/Prefetch.h"
 
 #include <bit>
 #include <limits>
 #include <utility>
 
 namespace zantroq {
-
-namespace {
-
-// The first of the values from `i` on that may be drawn, as far as whole blocks of holes tell; never beyond
-// the end.
-std::size_t SkipUndrawn(std::span<const double> y, std::size_t i)
-{
-    constexpr std::size_t block = 32;
-    for (; i + block <= y.size(); i += block) {
-        bool any = false;
-        for (std::size_t k = 0; k < block; ++k)
-            any |= y[i + k] != CPaneData::HoleValue();
-        if (any)
-            break;
-    }
-    return i;
-}
-
-} // namespace
 
 bool CPaneInk::sLook::operator==(const sLook& other) const
 {
@@ -108,6 +89,12 @@ bool CPaneInk::IsCrowded() const
     return m_detail == InkDetail::Reduced && m_ascending && m_map.X.PixelsPerUnit() < 0.5;
 }
 
+// Whether a column holds several blocks of points.
+bool CPaneInk::UsesBlocks() const
+{
+    return IsCrowded() && m_map.X.PixelsPerUnit() * 3 * sBlockedValues::BlockSize < 1;
+}
+
 void CPaneInk::DrawAll(const CPaneGroup& group)
 {
     m_rects.clear();
@@ -148,6 +135,8 @@ bool CPaneInk::DrawTail(const CPaneGroup& group, std::size_t firstPoint)
 bool CPaneInk::DrawBars(const CPaneGroup& group, std::size_t firstPoint)
 {
     const CPaneData& data = group.PaneData();
+    if (UsesBlocks() && IsBarType(group.Type()))
+        data.LearnBlocks(data.FirstVisible());
     sBarSource source = sBarSource::Of(group, m_map, m_scale, m_barWidth);
     source.Origin = m_origin;
     source.Filled = m_filledCandles;
@@ -272,7 +261,7 @@ bool CPaneInk::DrawLevel(const CPaneGroup& group, int series, sInkLine& line)
 {
     const CPaneData& data = group.PaneData();
     const std::optional<sStep> step = data.KnownStep(series);
-    if (!step || std::isinf(step->Value) || !IsCrowded() || !data.XNumbered() ||
+    if (!step || std::isinf(step->Value) || !IsCrowded() || !data.XCountsFrom() ||
         (line.Pattern != LineSolid && line.Width > 1))
         return false;
     line.Vertices.clear();
@@ -306,6 +295,9 @@ void CPaneInk::DrawLine(const CPaneGroup& group, int series, std::size_t firstPo
         return;
     const CPaneData& data = group.PaneData();
     const double* y = data.Y(series).data();
+    if (UsesBlocks())
+        data.LearnBlocks(series);
+    const sBlockedValues blocked = data.BlockedY(series);
     const std::size_t points = data.X().size();
     std::size_t i = static_cast<std::size_t>(std::max(0, data.FirstPoint(series) - 1));
     if (firstPoint == 0) {
@@ -321,7 +313,7 @@ void CPaneInk::DrawLine(const CPaneGroup& group, int series, std::size_t firstPo
     for (; i < points; ++i) {
         if (!IsDrawn(y[i]) || !m_points.IsPlaced(i)) {
             joined = false;
-            i = SkipUndrawn(data.Y(series), i + 1) - 1;
+            i = SkipUndrawn(blocked, i + 1) - 1;
             continue;
         }
         const int column = m_points.ColumnOf(i), h = HeightOf(y[i]);
@@ -329,8 +321,10 @@ void CPaneInk::DrawLine(const CPaneGroup& group, int series, std::size_t firstPo
             // A column of plain numbers at once: the least and greatest decide, the order of the points
             // between does not.
             const std::size_t end = m_points.End(i, column);
+            if (const std::size_t ahead = i + 3 * (end - i); blocked.Blocks() > 0 && ahead < points)
+                Prefetch(y + ahead, sBlockedValues::BlockSize);
             sLeastGreatest found;
-            const bool plain = end - i > 2 && FindLeastGreatest({y + i, y + end}, found);
+            const bool plain = end - i > 2 && FindLeastGreatest(blocked, i, end, found);
             if (m_runs.empty() || m_runs.back().End <= i) // else a column with gaps, begun already
                 m_runs.push_back({i, end, found.Least, found.Greatest, plain});
             if (plain) {

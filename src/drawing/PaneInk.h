@@ -103,7 +103,8 @@ private:
     bool HasBars(const CPaneGroup& group) const;
     bool DrawLevel(const CPaneGroup& group, int series, sInkLine& line);
     int HeightOf(double value) const; // in 1/256 device pixels
-    bool IsCrowded() const;           // many points a column, in order: they may be looked at together
+    bool UsesBlocks() const;
+    bool IsCrowded() const; // many points a column, in order: they may be looked at together
 
     int m_group;
     InkDetail m_detail;

@@ -1,5 +1,5 @@
-// Which points lie in which pixel column, for x values that ascend. x values that are known to be 1, 2, 3,
-// ... are not read at all. Lives for one drawing; the values must stay as they are meanwhile.
+// Which points lie in which pixel column, for x values that ascend. x values that are known to count up by
+// one are not read at all. Lives for one drawing; the values must stay as they are meanwhile.
 #pragma once
 
 #include "drawing/PaneGeometry.h"
@@ -16,20 +16,24 @@ public:
         : m_x(data.X().data()),
           m_count(data.X().size()),
           m_ascending(data.XAscending()),
-          m_numbered(data.XNumbered()),
+          m_counts(data.XCountsFrom().has_value()),
+          m_first(data.XCountsFrom().value_or(0)),
           m_map(map)
     {
     }
 
     std::size_t Count() const { return m_count; }
     // Whether the point has a place at all.
-    bool IsPlaced(std::size_t i) const { return m_numbered || (IsDrawn(m_x[i]) && !std::isinf(m_x[i])); }
+    bool IsPlaced(std::size_t i) const { return m_counts || (IsDrawn(m_x[i]) && !std::isinf(m_x[i])); }
     // Whether the columns of the points ascend, each point having one.
-    bool InOrder() const { return m_ascending && (m_count == 0 || (IsPlaced(0) && IsPlaced(m_count - 1))); }
+    bool InOrder() const
+    {
+        return m_ascending && (m_count == 0 || (IsPlaced(0) && IsPlaced(m_count - 1)));
+    }
     // REQUIRES: IsPlaced(i).
     int ColumnOf(std::size_t i) const
     {
-        return m_map.Pixel(m_numbered ? static_cast<double>(i + 1) : m_x[i]);
+        return m_map.Pixel(m_counts ? m_first + static_cast<double>(i) : m_x[i]);
     }
 
     // The first point from `from` on that lies in the column or right of it.
@@ -40,7 +44,8 @@ public:
 private:
     const double* m_x = nullptr;
     std::size_t m_count = 0;
-    bool m_ascending = true, m_numbered = false;
+    bool m_ascending = true, m_counts = false;
+    double m_first = 0;
     CAxisMap m_map;
     std::size_t m_stride = 1; // points in the column looked at last
 };

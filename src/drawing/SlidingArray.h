@@ -26,6 +26,10 @@ public:
     double& operator[](std::size_t i) { return data()[i]; }
     const double& operator[](std::size_t i) const { return data()[i]; }
     operator std::span<const double>() const { return {data(), size()}; }
+    // The array's numbers behind those that are gone: a number stays at its place as long as the array
+    // slides.
+    std::span<const double> Places() const { return m_store; }
+    std::size_t Begin() const { return m_begin; }
 
     void resize(std::size_t size, double value = 0) { m_store.resize(m_begin + size, value); }
     void clear()
@@ -35,35 +39,39 @@ public:
     }
 
     // Copies the `count` values that begin at `from` to the beginning; what lies behind them stays as it is.
-    // from + count is at most size().
-    void MoveToFront(std::size_t count, std::size_t from)
+    // from + count is at most size(). Returns the first place whose number may have become another one.
+    std::size_t MoveToFront(std::size_t count, std::size_t from)
     {
         const std::size_t had = size();
         if (from == 0 || count == 0)
-            return;
+            return m_store.size();
         if (from + count != had || from > had / 8) {
             std::copy_n(data() + from, count, data());
-            return;
+            return m_begin;
         }
-        if (m_store.size() + from > m_store.capacity())
-            MakeRoom();
+        std::size_t kept = m_store.size();
+        if (kept + from > m_store.capacity() && !MakeRoom())
+            kept = 0;
         // The last values appear twice: moved, and where they were.
         m_store.insert(m_store.end(), from, 0.0);
         std::copy_n(m_store.end() - static_cast<std::ptrdiff_t>(2 * from), from,
                     m_store.end() - static_cast<std::ptrdiff_t>(from));
         m_begin += from;
+        return kept;
     }
 
 private:
-    void MakeRoom()
+    // Whether the numbers stayed at their places.
+    bool MakeRoom()
     {
         const std::size_t had = size();
-        if (m_begin < had / 8)
+        if (m_begin < had / 8) {
             m_store.reserve(had + had / 4 + m_begin);
-        else {
-            m_store.erase(m_store.begin(), m_store.begin() + static_cast<std::ptrdiff_t>(m_begin));
-            m_begin = 0;
+            return true;
         }
+        m_store.erase(m_store.begin(), m_store.begin() + static_cast<std::ptrdiff_t>(m_begin));
+        m_begin = 0;
+        return false;
     }
 
     std::vector<double> m_store; // the array's values, and m_begin ones before them that are gone

@@ -1,6 +1,5 @@
 #include "studies/HistStudyChart.h"
 
-#include "drawing/LeastGreatest.h"
 #include "drawing/NumberTexts.h"
 #include "drawing/SeriesStyleTable.h"
 #include "drawing/XAxis.h"
@@ -42,16 +41,16 @@ std::size_t ComputedLines(const std::vector<sStudyLine>& lines)
 
 } // namespace
 
-void sValueRange::Widen(std::span<const double> values)
+void sValueRange::Widen(const sBlockedValues& values, std::size_t first, std::size_t end)
 {
     sLeastGreatest found;
     // Of a 0 and a -0 the earlier one counts, which the quick search does not tell.
-    if (FindLeastGreatest(values, found) && found.Least != 0 && found.Greatest != 0) {
+    if (FindLeastGreatest(values, first, end, found) && found.Least != 0 && found.Greatest != 0) {
         Widen(found.Least);
         Widen(found.Greatest);
         return;
     }
-    for (const double value : values)
+    for (const double value : values.Values.subspan(first, end - first))
         Widen(value);
 }
 
@@ -104,25 +103,34 @@ void CHistStudyChart::DrawStudy()
 // In stretches that are still in the processor's cache when they are looked at for the axis.
 sValueRange CHistStudyChart::ComputeLines(const std::vector<sStudyLine>& lines, int first, int shown)
 {
-    std::vector<double*> whole, out;
+    struct sWritten
+    {
+        CPaneData& Data;
+        int Series;
+        double* Values;
+    };
+    std::vector<sWritten> whole;
     for (const sStudyLine& line : lines) {
         CPaneData& data = chart->PaneGroups(line.Group).PaneData();
         data.NumberPoints();
         if (line.Level)
             data.SetConstantY(line.Series, *line.Level);
         else
-            whole.push_back(data.WholeY(line.Series).data());
+            whole.push_back({data, line.Series, data.WholeY(line.Series).data()});
     }
     const std::optional<sValueRange> start = RangeStart();
     sValueRange range = start.value_or(sValueRange{0, 0});
+    std::vector<double*> out(whole.size());
     InPieces(shown, LookBack(), [&](int offset, int length) {
-        out.clear();
-        for (double* line : whole)
-            out.push_back(line + offset);
+        std::transform(whole.begin(), whole.end(), out.begin(),
+                       [&](const sWritten& line) { return line.Values + offset; });
         Compute(std::int64_t{first} - DrawLag() + offset, length, out);
-        for (const double* line : out)
+        const auto from = static_cast<std::size_t>(offset), to = from + static_cast<std::size_t>(length);
+        for (const sWritten& line : whole) {
+            line.Data.LearnBlocks(line.Series, to);
             if (start)
-                range.Widen({line, static_cast<std::size_t>(length)});
+                range.Widen(line.Data.BlockedY(line.Series), from, to);
+        }
     });
     return range;
 }
@@ -206,7 +214,7 @@ void CHistStudyChart::WidenAxis(CLineValues values)
     const sValueRange present{ValueAxis().DataHigh().Value(), ValueAxis().DataLow().Value()};
     sValueRange range = present;
     for (const std::span<const double> line : values)
-        range.Widen(line);
+        range.Widen({line, {}, 0}, 0, line.size());
     if (range.Max > present.Max || range.Min < present.Min)
         SetStudyYAxis(*chart, AxisLook(), range.Max, range.Min);
 }

@@ -7,6 +7,7 @@
 #pragma once
 
 #include "drawing/BaseChart.h"
+#include "drawing/ValueBlocks.h"
 #include "studies/StudyAxis.h"
 
 #include <cstdint>
@@ -38,7 +39,7 @@ struct sValueRange
         if (value < Min)
             Min = value;
     }
-    void Widen(std::span<const double> values);
+    void Widen(const sBlockedValues& values, std::size_t first, std::size_t end);
 };
 
 class CHistStudyChart : public CStudyChart

@@ -135,7 +135,7 @@ void CHistVOLChart::UpdateStudy(int newPoints)
 
     VolumeAverage = CalcVolumeAverage();
     if (ShowsAverage()) {
-        chart->PaneGroups(2).PaneData().SetXVector(1, volumes.X());
+        chart->PaneGroups(2).PaneData().TakeX(volumes);
         WriteAverageLine(0);
     }
     RefreshStudyHeader();

@@ -28,12 +28,12 @@ int PointDistance(int dx, int dy)
     return RoundedPixels(std::sqrt(x * x + y * y));
 }
 
-// x is the axis base, the one behind it, and so on. It nearly always is already, which a pane knows that was
-// numbered from 1; else all points are looked at without a branch first.
+// x is the axis base, the one behind it, and so on. It nearly always is already, which a pane knows; where
+// only the first points are to be numbered, they are looked at without a branch first.
 void NumberPoints(CPaneData& data, int base, int shown)
 {
-    if (base == 1 && shown >= static_cast<int>(data.X().size())) {
-        data.NumberPoints();
+    if (shown >= static_cast<int>(data.X().size())) {
+        data.NumberPoints(base);
         return;
     }
     const std::span<const double> x = data.X();

@@ -78,6 +78,9 @@ void ExpectSame(const CPaneData& data, const sPlainData& plain)
     }
     if (data.SeriesCount() > 0) {
         ASSERT_TRUE(same(data.X(), plain.X));
+        const std::optional<double> first = data.XCountsFrom();
+        for (std::size_t i = 0; first && i < plain.X.size(); ++i)
+            ASSERT_EQ(plain.X[i], *first + static_cast<double>(i)) << i;
         ASSERT_EQ(data.XAscending(), plain.Ascending());
     }
 }
@@ -95,7 +98,7 @@ void OneOperation(CPaneData& data, sPlainData& plain, std::mt19937& random)
             numbers.push_back(below(5) ? i + 1.0 : values[below(7)]);
         return numbers;
     };
-    switch (below(14)) {
+    switch (below(16)) {
     case 0: {
         const int count = below(5);
         data.SetSeriesCount(count);
@@ -137,11 +140,13 @@ void OneOperation(CPaneData& data, sPlainData& plain, std::mt19937& random)
             std::copy_n(numbers.begin(), plain.X.size(), (x ? plain.X : plain.Series(series)).begin());
         break;
     }
-    case 9:
-        data.NumberPoints();
+    case 9: {
+        const double first = below(2) ? 1 : below(5);
+        data.NumberPoints(first);
         for (std::size_t i = 0; i < plain.X.size(); ++i)
-            plain.X[i] = static_cast<double>(i + 1);
+            plain.X[i] = first + static_cast<double>(i);
         break;
+    }
     case 10:
         data.SetConstantY(series, value);
         if (plain.Has(series))
@@ -161,6 +166,31 @@ void OneOperation(CPaneData& data, sPlainData& plain, std::mt19937& random)
         ASSERT_EQ(data.AdvanceDrawn(series, count), moves);
         if (moves)
             plain.DrawnTo[static_cast<std::size_t>(series - 1)] += count;
+        break;
+    }
+    case 13: { // a point more in a full window
+        const double next = plain.X.empty() ? 0 : plain.X.back() + 1;
+        for (int one = 1; one <= static_cast<int>(plain.Y.size()); ++one)
+            ASSERT_EQ(data.ShiftPoints(one, points - 1, 2), plain.Shift(one, points - 1, 2));
+        data.SetPointX(1, points, next);
+        if (!plain.X.empty())
+            plain.X.back() = next;
+        break;
+    }
+    case 14: {
+        CChart2D chart;
+        CPaneData& other = chart.PaneGroups(1).PaneData();
+        const int count = std::max(0, points + below(4) - 1);
+        other.SetSeriesCount(1);
+        other.SetPointCount(1, count);
+        if (below(2))
+            other.NumberPoints(below(4));
+        else if (count > 0)
+            other.SetPointX(1, 1 + below(count), value);
+        const bool fits = count >= points && !plain.Y.empty();
+        ASSERT_EQ(data.TakeX(other), fits);
+        for (std::size_t i = 0; fits && i < plain.X.size(); ++i)
+            plain.X[i] = other.X()[i];
         break;
     }
     default:
@@ -208,6 +238,30 @@ TEST(PaneDataModel, AFullWindowSlidesForEver)
                 ASSERT_EQ(data.PointY(series, point), series * 10000.0 + taken - points + point)
                     << "after " << taken;
     }
+}
+
+TEST(PaneData, XCountsOnWhilePointsComeAndGo)
+{
+    CChart2D chart;
+    CPaneData& data = chart.PaneGroups(1).PaneData();
+    data.SetSeriesCount(1);
+    EXPECT_EQ(data.XCountsFrom(), std::nullopt) << "no point";
+    data.SetPointCount(1, 5);
+    EXPECT_EQ(data.XCountsFrom(), 1);
+    ASSERT_TRUE(data.ShiftPoints(1, 4, 2));
+    EXPECT_EQ(data.XCountsFrom(), std::nullopt) << "the last x stands twice";
+    data.SetPointX(1, 5, 6);
+    EXPECT_EQ(data.XCountsFrom(), 2);
+    data.SetPointX(1, 3, 9);
+    EXPECT_EQ(data.XCountsFrom(), std::nullopt);
+    data.NumberPoints(2);
+    EXPECT_EQ(data.XCountsFrom(), 2);
+    EXPECT_EQ(data.PointX(1, 3), 4);
+    data.SetPointCount(1, 6);
+    EXPECT_EQ(data.PointX(1, 6), 6) << "points that come into being are numbered from 1";
+    EXPECT_EQ(data.XCountsFrom(), std::nullopt);
+    data.SetPointX(1, 6, 7);
+    EXPECT_EQ(data.XCountsFrom(), 2);
 }
 
 } // namespace

@@ -1,0 +1,22 @@
+// Asks the memory for numbers that are about to be read, where their order is none that the processor
+// foresees.
+#pragma once
+
+#include <cstddef>
+
+namespace zantroq {
+
+inline void Prefetch(const double* values, std::size_t count)
+{
+#ifdef __GNUC__
+    constexpr std::size_t line = 8; // numbers of a cache line
+    for (std::size_t i = 0; i < count; i += line)
+        __builtin_prefetch(values + i);
+    __builtin_prefetch(values + count - 1);
+#else
+    static_cast<void>(values);
+    static_cast<void>(count);
+#endif
+}
+
+} // namespace zantroq
