@@ -322,7 +322,7 @@ void CPaneInk::DrawLine(const CPaneGroup& group, int series, std::size_t firstPo
             // between does not.
             const std::size_t end = m_points.End(i, column);
             if (const std::size_t ahead = i + 3 * (end - i); blocked.Blocks() > 0 && ahead < points)
-                Prefetch(y + ahead, sBlockedValues::BlockSize);
+                Prefetch(y + ahead - sBlockedValues::BlockSize, 2 * sBlockedValues::BlockSize);
             sLeastGreatest found;
             const bool plain = end - i > 2 && FindLeastGreatest(blocked, i, end, found);
             if (m_runs.empty() || m_runs.back().End <= i) // else a column with gaps, begun already

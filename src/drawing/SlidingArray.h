@@ -3,6 +3,8 @@
 // eighth of the array's length has gone by, the array moves back to the front of its memory.
 #pragma once
 
+#include "platform/LargePages.h"
+
 #include <algorithm>
 #include <cstddef>
 #include <span>
@@ -74,7 +76,8 @@ private:
         return false;
     }
 
-    std::vector<double> m_store; // the array's values, and m_begin ones before them that are gone
+    std::vector<double, CLargePages<double>>
+        m_store; // the array's values, and m_begin ones before them that are gone
     std::size_t m_begin = 0;
 };
 

@@ -49,7 +49,7 @@ private:
     // What wiping a rectangle costs, in pixels: a row of a few pixels takes as long as one of a cache line.
     static std::int64_t Cost(const sPixelRect& rect)
     {
-        constexpr int cacheLine = 16, perRect = 64;
+        constexpr int cacheLine = 8, perRect = 64;
         return perRect + std::int64_t{std::max(rect.Width(), cacheLine)} * rect.Height();
     }
 
