@@ -347,20 +347,31 @@ sPaneFurniture PlaceFurniture(const CChart2D& chart, const sPlotMap& map, double
     return std::move(placer.Out);
 }
 
-void DrawRuled(IPaneCanvas& canvas, const sRuledLine& line)
+void DrawRuled(IPaneCanvas& canvas, const sRuledLine& line, const sPixelRect& within)
 {
     if (line.Pattern != LineLongDashes && line.Pattern != LineShortDashes)
         return canvas.Fill(line.Rect, line.Color);
     const int width = line.Upright ? line.Rect.Width() : line.Rect.Height();
     const int on = (line.Pattern == LineLongDashes ? 8 : 2) * width,
               off = (line.Pattern == LineLongDashes ? 4 : 2) * width;
+    if (width <= 0)
+        return;
+    const int begin = line.Upright ? line.Rect.Top : line.Rect.Left;
     const int end = line.Upright ? line.Rect.Bottom : line.Rect.Right;
-    for (int at = line.Upright ? line.Rect.Top : line.Rect.Left; at < end; at += on + off) {
+    const int from = line.Upright ? within.Top : within.Left;
+    const int to = std::min(end, line.Upright ? within.Bottom : within.Right);
+    const int passed = std::max(0, from - begin) / (on + off);
+    for (int at = begin + passed * (on + off); at < to; at += on + off) {
         sPixelRect dash = line.Rect;
         (line.Upright ? dash.Top : dash.Left) = at;
         (line.Upright ? dash.Bottom : dash.Right) = std::min(end, at + on);
         canvas.Fill(dash, line.Color);
     }
+}
+
+void DrawRuled(IPaneCanvas& canvas, const sRuledLine& line)
+{
+    DrawRuled(canvas, line, line.Rect);
 }
 
 } // namespace zantroq

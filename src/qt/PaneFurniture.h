@@ -51,5 +51,7 @@ sPaneFurniture PlaceFurniture(const CChart2D& chart, const sPlotMap& map, double
 
 // Draws a ruled line as rectangles.
 void DrawRuled(IPaneCanvas& canvas, const sRuledLine& line);
+// The part of it inside a rectangle, the dashes as those of the whole; more may be painted.
+void DrawRuled(IPaneCanvas& canvas, const sRuledLine& line, const sPixelRect& within);
 
 } // namespace zantroq

@@ -90,22 +90,7 @@ void CPanePainter::Repaint(const sPlotMap& map, double scale)
             m_fresh = false;
             PaintColumns(whole, map);
         } else {
-            const sPixelRect& plot = map.Plot;
-            const auto wipe = [&](const sPixelRect& ink) {
-                const bool inside = ink.Left >= plot.Left && ink.Right <= plot.Right && ink.Top >= plot.Top &&
-                                    ink.Bottom <= plot.Bottom;
-                if (!inside)
-                    m_canvas.Fill(ink, m_furniture.Background);
-                m_canvas.Fill({std::max(ink.Left, plot.Left), std::max(ink.Top, plot.Top),
-                               std::min(ink.Right, plot.Right), std::min(ink.Bottom, plot.Bottom)},
-                              m_furniture.PlotBackground);
-            };
-            m_canvas.SetMarking(false);
-            m_canvas.WipeInk(wipe);
-            m_canvas.SetMarking(true);
-            for (const sRuledLine& line : m_furniture.Grid)
-                DrawRuled(m_canvas, line);
-            PaintData(m_canvas, map.Plot.Left, map.Plot.Right, map.Plot);
+            PaintOverInk(whole, map);
             PaintAbove(m_canvas);
         }
         m_damage = whole;
@@ -115,6 +100,43 @@ void CPanePainter::Repaint(const sPlotMap& map, double scale)
         m_damage = columns;
         m_canvas.SetClip(whole);
     }
+}
+
+// Wipes the ink that is there and paints the data, in strips that stay in the processor's cache between the
+// one and the other.
+void CPanePainter::PaintOverInk(const sPixelRect& whole, const sPlotMap& map)
+{
+    constexpr int cached = 1024 * 1024; // bytes of a strip
+    const std::vector<sPixelRect>& ink = m_canvas.TakeInk();
+    // Lines are looked through from end to end for each strip.
+    const bool lines = !m_ink[0].Lines().empty() || !m_ink[1].Lines().empty();
+    const int width = lines ? whole.Width() : std::max(16, cached / (4 * whole.Height()));
+    for (int left = 0; left < whole.Right; left += width) {
+        const sPixelRect strip{left, 0, std::min(left + width, whole.Right), whole.Bottom};
+        m_canvas.SetClip(strip);
+        m_canvas.SetMarking(false);
+        for (const sPixelRect& rect : ink)
+            if (rect.Left < strip.Right && rect.Right > strip.Left)
+                Wipe(rect, map.Plot);
+        m_canvas.SetMarking(true);
+        for (const sRuledLine& line : m_furniture.Grid)
+            if (line.Rect.Left < strip.Right && line.Rect.Right > strip.Left)
+                DrawRuled(m_canvas, line, strip);
+        PaintData(m_canvas, std::max(strip.Left, map.Plot.Left), std::min(strip.Right, map.Plot.Right),
+                  map.Plot);
+    }
+    m_canvas.SetClip(whole);
+}
+
+void CPanePainter::Wipe(const sPixelRect& ink, const sPixelRect& plot)
+{
+    const bool inside =
+        ink.Left >= plot.Left && ink.Right <= plot.Right && ink.Top >= plot.Top && ink.Bottom <= plot.Bottom;
+    if (!inside)
+        m_canvas.Fill(ink, m_furniture.Background);
+    m_canvas.Fill({std::max(ink.Left, plot.Left), std::max(ink.Top, plot.Top),
+                   std::min(ink.Right, plot.Right), std::min(ink.Bottom, plot.Bottom)},
+                  m_furniture.PlotBackground);
 }
 
 // Everything inside the clip, from the background up.

@@ -47,6 +47,8 @@ private:
     };
 
     void Repaint(const sPlotMap& map, double scale);
+    void PaintOverInk(const sPixelRect& whole, const sPlotMap& map);
+    void Wipe(const sPixelRect& ink, const sPixelRect& plot);
     void PaintColumns(const sPixelRect& clip, const sPlotMap& map);
     void PaintData(IPaneCanvas& canvas, int left, int right, const sPixelRect& plot);
     void PaintAbove(IPaneCanvas& canvas);

@@ -25,14 +25,13 @@ public:
     void SetClip(const sPixelRect& clip) { m_clip = clip; }
     const sPixelRect& Clip() const { return m_clip; }
 
-    // Ink drawn while marking is on is wiped by WipeInk: `wipe` fills a rectangle with what lies under it.
+    // Ink drawn while marking is on is what TakeInk tells next time, to be wiped.
     void SetMarking(bool marking) { m_marking = marking; }
-    template<class F> void WipeInk(F wipe)
+    const std::vector<sPixelRect>& TakeInk()
     {
         std::swap(m_wiped, m_trail);
         m_trail.Clear();
-        for (const sPixelRect& rect : m_wiped.Rects())
-            wipe(rect);
+        return m_wiped.Rects();
     }
     void ForgetInk() { m_trail.Clear(); }
     // What lies inside is about to be painted from nothing.

@@ -337,6 +337,27 @@ TEST(KeptPicture, AfterEachChangeIsThatPaintedFromNothing)
 }
 
 // The first bar is the last one too while a chart has no other: its old ink stayed below the new.
+TEST(KeptPicture, OfALargePaneIsThatPaintedFromNothing)
+{
+    for (const int count : {40, 900, 20000}) {
+        const Pane pane = test::CandlePane(1500, 700, count, 1);
+        CPaneAxes& axes = pane->PaneArea().PaneAxes();
+        for (CPaneAxis* axis : {&axes.X(), &axes.Y()})
+            axis->AxisGrid().LineLook().SetPattern(axis == &axes.X() ? LineLongDashes : LineShortDashes);
+        axes.X().AxisGrid().SetSpacing(count / 5.0);
+        axes.Y().AxisGrid().SetSpacing(7);
+        CPanePainter kept(*pane, Family);
+        const double low = axes.Y().ViewLow().Value();
+        for (int round = 0; round < 5; ++round) {
+            axes.Y().ViewLow().SetValue(low - round % 3);
+            if (round == 3)
+                test::AddLabel(*pane, "a label", 0, 0x22).SetDataAnchor(count / 2, 50);
+            CPanePainter plain(*pane, Family, InkDetail::EveryPoint);
+            ASSERT_TRUE(SamePicture(kept.Picture(2), plain.Picture(2))) << count << ", round " << round;
+        }
+    }
+}
+
 TEST(KeptPicture, AChangedFirstBarLeavesNothingOfTheOldOne)
 {
     for (const int count : {1, 5}) {
