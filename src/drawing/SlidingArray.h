@@ -33,7 +33,12 @@ public:
     std::span<const double> Places() const { return m_store; }
     std::size_t Begin() const { return m_begin; }
 
-    void resize(std::size_t size, double value = 0) { m_store.resize(m_begin + size, value); }
+    void resize(std::size_t size, double value = 0)
+    {
+        if (m_begin + size > m_store.capacity()) // with room to slide before anything has to move
+            m_store.reserve(m_begin + size + size / 8);
+        m_store.resize(m_begin + size, value);
+    }
     void clear()
     {
         m_store.clear();
