@@ -4,7 +4,8 @@
 //                      pixel of ink is wiped and painted
 //   FromNothing/P/S    the same with an empty store of pixels: the whole picture is cleared as well
 //   LastBar/P          the last bar changed: its four values set, then the picture brought up to date
-//   ElevenPanes/P      eleven panes of 1500x127 (1500x1400 together), each after a change of its value axis; what is
+//   ElevenPanes/P      eleven panes of 1500x127 (1500x1400 together), each after a change of its value axis;
+//   what is
 //                      known of blocks of a line's points stays
 //   Pick/P             the nearest point to a mouse that is far from every point, the worst case
 //   SaveLoad/P         a pane file written to a text and read back

@@ -26,10 +26,7 @@ public:
     // Whether the point has a place at all.
     bool IsPlaced(std::size_t i) const { return m_counts || (IsDrawn(m_x[i]) && !std::isinf(m_x[i])); }
     // Whether the columns of the points ascend, each point having one.
-    bool InOrder() const
-    {
-        return m_ascending && (m_count == 0 || (IsPlaced(0) && IsPlaced(m_count - 1)));
-    }
+    bool InOrder() const { return m_ascending && (m_count == 0 || (IsPlaced(0) && IsPlaced(m_count - 1))); }
     // REQUIRES: IsPlaced(i).
     int ColumnOf(std::size_t i) const
     {
