@@ -1,4 +1,5 @@
-// A field of a line as a number, by the reading rules of LeadingNumber.h. The field must be known to be there.
+// A field of a line as a number, by the reading rules of LeadingNumber.h. The field must be known to be
+// there.
 #pragma once
 
 #include "platform/LeadingNumber.h"
