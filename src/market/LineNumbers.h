@@ -4,6 +4,10 @@
 
 #include "platform/LeadingNumber.h"
 
+#include <cstdint>
+#include <limits>
+#include <string_view>
+
 namespace zantroq {
 
 template<class Fields> double PriceField(const Fields& fields, int field)
@@ -11,22 +15,26 @@ template<class Fields> double PriceField(const Fields& fields, int field)
     return TextToDouble(fields.At(field), fields.Before(field));
 }
 
-template<class Fields> std::uint32_t UnsignedField(const Fields& fields, int field)
+// A quick look serves a field of digits alone that fits; else the rules themselves.
+template<auto ByTheRules, class Fields> auto WholeField(const Fields& fields, int field)
 {
+    using Number = decltype(ByTheRules(std::string_view()));
     const std::string_view text = fields.At(field);
     std::uint64_t value = 0;
-    if (PlainInteger(text, fields.Before(field), value) && value <= 0xFFFFFFFFu)
-        return static_cast<std::uint32_t>(value);
-    return TextToUnsigned(text);
+    if (PlainInteger(text, fields.Before(field), value) &&
+        value <= static_cast<std::uint64_t>(std::numeric_limits<Number>::max()))
+        return static_cast<Number>(value);
+    return ByTheRules(text);
+}
+
+template<class Fields> std::uint32_t UnsignedField(const Fields& fields, int field)
+{
+    return WholeField<TextToUnsigned>(fields, field);
 }
 
 template<class Fields> std::int64_t IntegerField(const Fields& fields, int field)
 {
-    const std::string_view text = fields.At(field);
-    std::uint64_t value = 0;
-    if (PlainInteger(text, fields.Before(field), value) && value <= 0x7FFFFFFFFFFFFFFFu)
-        return static_cast<std::int64_t>(value);
-    return TextToInt64(text);
+    return WholeField<TextToInt64>(fields, field);
 }
 
 } // namespace zantroq
