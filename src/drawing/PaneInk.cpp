@@ -4,11 +4,21 @@
 #include "drawing/InkStyle.h"
 #include "drawing/Prefetch.h"
 
-#include <bit>
-#include <limits>
 #include <utility>
 
 namespace zantroq {
+
+namespace {
+
+// Asks the memory for what blocks leave to be read of a column: the values about its first one.
+void ForeseeColumn(std::span<const double> y, std::size_t first)
+{
+    constexpr std::size_t size = sBlockedValues::BlockSize;
+    if (first >= size && first + size <= y.size())
+        Prefetch(y.data() + first - size, 2 * size);
+}
+
+} // namespace
 
 bool CPaneInk::sLook::operator==(const sLook& other) const
 {
@@ -295,7 +305,8 @@ void CPaneInk::DrawLine(const CPaneGroup& group, int series, std::size_t firstPo
         return;
     const CPaneData& data = group.PaneData();
     const double* y = data.Y(series).data();
-    if (UsesBlocks())
+    const bool blocks = UsesBlocks();
+    if (blocks)
         data.LearnBlocks(series);
     const sBlockedValues blocked = data.BlockedY(series);
     const std::size_t points = data.X().size();
@@ -321,8 +332,8 @@ void CPaneInk::DrawLine(const CPaneGroup& group, int series, std::size_t firstPo
             // A column of plain numbers at once: the least and greatest decide, the order of the points
             // between does not.
             const std::size_t end = m_points.End(i, column);
-            if (const std::size_t ahead = i + 3 * (end - i); blocked.Blocks() > 0 && ahead < points)
-                Prefetch(y + ahead - sBlockedValues::BlockSize, 2 * sBlockedValues::BlockSize);
+            if (blocks)
+                ForeseeColumn(data.Y(series), i + 3 * (end - i));
             sLeastGreatest found;
             const bool plain = end - i > 2 && FindLeastGreatest(blocked, i, end, found);
             if (m_runs.empty() || m_runs.back().End <= i) // else a column with gaps, begun already
