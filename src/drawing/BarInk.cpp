@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <limits>
 #include <utility>
 
@@ -95,13 +96,18 @@ sBarSource sBarSource::Of(const CPaneGroup& group, const sPlotMap& map, double s
     return source;
 }
 
-CBarInk::CBarInk(const sBarSource& source, const sPlotMap& map, std::vector<sInkRect>& rects)
+CBarInk::CBarInk(const sBarSource& source, const sPlotMap& map, std::vector<sInkRect>& rects,
+                 CInkColumns& columns)
     : m_source(source),
       m_map(map),
       m_rects(rects),
+      m_columns(columns),
       m_bars(IsBarType(source.Type)),
-      m_plainRows(map.Y.PixelsPerUnit() < 0)
+      m_plainRows(map.Y.PixelsPerUnit() < 0),
+      m_seen(map)
 {
+    if (m_source.Type == ChartCandles)
+        m_columns.SetColours(source.Up, source.Down);
 }
 
 void CBarInk::Draw(std::size_t i, int column)
@@ -202,8 +208,60 @@ void CBarInk::DrawThin(std::size_t first, std::size_t last, int column)
     std::swap(m_column, m_columnBefore);
     m_found.clear();
     m_column = column;
-    Scan(first, last);
+    // Finding them together takes as long for few as for many. A column shows about as many points as the
+    // one before it.
+    constexpr std::size_t pointsForOne = 24;
+    if (!m_bars && !m_examineAll && pointsForOne * m_shown >= last - first &&
+        m_seen.Find(m_source.High, m_source.Low, first, last)) {
+        DrawSeen(first, column);
+        m_shown = m_seen.Found().Count;
+    } else {
+        Scan(first, last);
+        m_shown = m_found.size();
+    }
     Emit(m_before, m_columnBefore);
+}
+
+// The points found become a column of pixels, or a piece where there is one colour only.
+void CBarInk::DrawSeen(std::size_t first, int column)
+{
+    const CSeenPoints::sFound found = m_seen.Found();
+    const double *const open = m_source.Open.data() + first, *const close = m_source.Close.data() + first;
+    for (std::size_t k = 0; k < found.Count; ++k) {
+        Prefetch(open + found.Point[k]);
+        Prefetch(close + found.Point[k]);
+    }
+    const int rows = m_map.Plot.Height();
+    if (m_source.Type != ChartCandles) {
+        for (std::size_t k = 0; k < found.Count; ++k)
+            m_allComplete &= IsDrawn(open[found.Point[k]]) && IsDrawn(close[found.Point[k]]);
+        return Found(m_map.Plot.Bottom - found.Up[found.Count - 1],
+                     m_map.Plot.Top + found.Down[found.Count - 1], first + found.Point[0]);
+    }
+    // Every point writes eight pixels beyond each end of what is covered; those behind it write over what is
+    // too much.
+    constexpr int more = sizeof(std::uint64_t);
+    m_shades.resize(static_cast<std::size_t>(rows + 2 * more));
+    std::uint8_t* const shades = m_shades.data() + more;
+    bool plain = true;
+    int top = rows - found.Up[0], bottom = top; // rows of the plot
+    for (std::size_t k = 0; k < found.Count; ++k) {
+        const double a = open[found.Point[k]], b = close[found.Point[k]];
+        plain &= (a < CPaneData::HoleValue()) & (b < CPaneData::HoleValue());
+        const std::uint64_t shade = b >= a ? 0 : 0x0101010101010101u;
+        const int nextTop = rows - found.Up[k], nextBottom = found.Down[k];
+        if (top - nextTop <= more && nextBottom - bottom <= more) {
+            std::memcpy(shades + top - more, &shade, more);
+            std::memcpy(shades + bottom, &shade, more);
+        } else {
+            std::fill(shades + nextTop, shades + top, static_cast<std::uint8_t>(shade & 1));
+            std::fill(shades + bottom, shades + nextBottom, static_cast<std::uint8_t>(shade & 1));
+        }
+        top = nextTop;
+        bottom = nextBottom;
+    }
+    m_allComplete &= plain;
+    m_columns.Add(column, m_map.Plot.Top + top, m_map.Plot.Top + bottom, shades + top);
 }
 
 bool CBarInk::FinishThin()

@@ -3,11 +3,14 @@
 // that of all of them painted one after the other. Lives for one drawing, on the chart window's thread.
 #pragma once
 
+#include "drawing/InkColumns.h"
 #include "drawing/InkRect.h"
 #include "drawing/PaneGeometry.h"
+#include "drawing/SeenPoints.h"
 #include "drawing/ValueBlocks.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <span>
 #include <vector>
 
@@ -34,20 +37,23 @@ struct sBarSource
 class CBarInk
 {
 public:
-    // Rectangles are added to `rects`; all three outlive this object.
-    CBarInk(const sBarSource& source, const sPlotMap& map, std::vector<sInkRect>& rects);
+    // Rectangles are added to `rects`, columns of candles to `columns`; all four outlive this object.
+    CBarInk(const sBarSource& source, const sPlotMap& map, std::vector<sInkRect>& rects,
+            CInkColumns& columns);
 
     // The rectangles of one point.
     void Draw(std::size_t i, int column);
 
-    // What is seen of a column's points, first to last (exclusive), of a thin source. Its rectangles follow
-    // with the next call or with FinishThin, when the memory has had time to bring what their colours depend
-    // on; until then the column's first rectangle is the one behind those that are there.
+    // What is seen of a column's points, first to last (exclusive), of a thin source. Candles become a column
+    // where that can be told at once. Rectangles follow with the next call or with FinishThin, when the
+    // memory has had time to bring what their colours depend on; until then the column's first rectangle is
+    // the one behind those that are there.
     void DrawThin(std::size_t first, std::size_t last, int column);
     // To be called behind the last DrawThin. False when a point that seemed to be there lacks one of its
     // values: all is then to be drawn again after ExamineAll.
     bool FinishThin();
     void ExamineAll() { m_examineAll = true; }
+    void GoPointByPoint() { m_seen.TurnOff(); }
 
     // Asks the memory for the points of the next column.
     void Foresee(std::size_t first, std::size_t count) const;
@@ -71,6 +77,7 @@ private:
     void DrawBar(std::size_t i, int column);
     void DrawPriceBar(std::size_t i, int column);
     void DrawCandle(std::size_t i, int column);
+    void DrawSeen(std::size_t first, int column);
     void Scan(std::size_t first, std::size_t last);
     bool ScanBars(std::size_t first, std::size_t last);
     std::size_t ScanOnePiece(std::size_t first, std::size_t i);
@@ -81,11 +88,15 @@ private:
     const sBarSource& m_source;
     const sPlotMap& m_map;
     std::vector<sInkRect>& m_rects;
+    CInkColumns& m_columns;
     const bool m_bars, m_plainRows; // greater values stand higher
     bool m_examineAll = false, m_allComplete = true;
     int m_column = 0, m_columnBefore = 0;
     std::vector<sFound> m_found, m_before; // of the column at hand and of the one before
+    std::size_t m_shown = 8;               // points seen of the column before, about
     std::vector<sPiece> m_pieces;          // covered in the column at hand, in order, apart
+    CSeenPoints m_seen;
+    std::vector<std::uint8_t> m_shades; // of the column at hand, all rows of the plot and room on both sides
 };
 
 } // namespace zantroq

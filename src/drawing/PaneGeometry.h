@@ -12,10 +12,10 @@ namespace zantroq {
 
 // The nearest whole number, halves upwards, of a place within 256 times FarPixel. Cutting a positive number
 // is a single instruction where rounding down is a call.
+inline constexpr double NearestPixelLift = 512.0 * FarPixel;
 inline int NearestPixel(double place)
 {
-    constexpr double lift = 512.0 * FarPixel;
-    return static_cast<int>(place + (lift + 0.5)) - static_cast<int>(lift);
+    return static_cast<int>(place + (NearestPixelLift + 0.5)) - static_cast<int>(NearestPixelLift);
 }
 
 // Maps low to firstPixel and high to lastPixel, both whole pixels and both inside the plot. A range without

@@ -96,7 +96,7 @@ CPaneInk::sDamage CPaneInk::Update(const CChart2D& chart, const sPlotMap& map, d
 
 bool CPaneInk::IsCrowded() const
 {
-    return m_detail == InkDetail::Reduced && m_ascending && m_map.X.PixelsPerUnit() < 0.5;
+    return m_detail != InkDetail::EveryPoint && m_ascending && m_map.X.PixelsPerUnit() < 0.5;
 }
 
 // Whether a column holds several blocks of points.
@@ -108,7 +108,7 @@ bool CPaneInk::UsesBlocks() const
 void CPaneInk::DrawAll(const CPaneGroup& group)
 {
     m_rects.clear();
-    m_columns.clear();
+    CutColumns(0);
     m_lines.clear();
     m_lineSeries.clear();
     m_widest = 1;
@@ -154,33 +154,43 @@ bool CPaneInk::DrawBars(const CPaneGroup& group, std::size_t firstPoint)
     m_widest = source.Width + 2 * source.Tick;
     std::size_t i = static_cast<std::size_t>(std::max(0, data.FirstPoint(data.FirstVisible()) - 1));
     if (firstPoint == 0) {
-        m_rects.clear();
-        m_columns.clear();
+        CutColumns(0);
     } else {
         // Back to the column of the first changed point.
         const int column = m_points.IsPlaced(firstPoint) ? m_points.ColumnOf(firstPoint) : 0;
-        while (!m_columns.empty() && m_columns.back().Column >= column) {
-            m_rects.resize(m_columns.back().FirstRect);
-            m_columns.pop_back();
-        }
+        std::size_t kept = m_columns.size();
+        while (kept > 0 && m_columns[kept - 1].Column >= column)
+            --kept;
+        CutColumns(kept);
         i = m_points.First(i, column);
     }
-    const std::size_t rects = m_rects.size(), columns = m_columns.size();
+    const std::size_t columns = m_columns.size();
     if (!DrawBarsFrom(source, i, false)) {
-        m_rects.resize(rects);
-        m_columns.resize(columns);
+        CutColumns(columns);
         DrawBarsFrom(source, i, true);
     }
     return true;
 }
 
+// Keeps the first columns and their ink.
+void CPaneInk::CutColumns(std::size_t count)
+{
+    if (count >= m_columns.size())
+        return;
+    m_rects.resize(m_columns[count].FirstRect);
+    m_inkColumns.Cut(m_columns[count].FirstInkColumn);
+    m_columns.resize(count);
+}
+
 // False when a point turned out to lack a value; only with examineAll are all values looked at in time.
 bool CPaneInk::DrawBarsFrom(const sBarSource& source, std::size_t i, bool examineAll)
 {
-    CBarInk ink(source, m_map, m_rects);
+    CBarInk ink(source, m_map, m_rects, m_inkColumns);
     if (examineAll)
         ink.ExamineAll();
-    const bool thin = source.IsThin() && m_ascending && m_detail == InkDetail::Reduced;
+    if (m_detail == InkDetail::PointByPoint)
+        ink.GoPointByPoint();
+    const bool thin = source.IsThin() && m_ascending && m_detail != InkDetail::EveryPoint;
     while (i < m_points.Count()) {
         if (!m_points.IsPlaced(i)) {
             ++i;
@@ -195,14 +205,16 @@ bool CPaneInk::DrawBarsFrom(const sBarSource& source, std::size_t i, bool examin
         }
         if (column >= m_map.Plot.Left - m_widest && column < m_map.Plot.Right + m_widest) {
             const bool begun = !m_columns.empty() && m_columns.back().Column == column;
+            sColumnStart start{column, i, m_rects.size(), m_inkColumns.Columns().size()};
             if (!thin) {
                 if (!begun)
-                    m_columns.push_back({column, i, m_rects.size()});
+                    m_columns.push_back(start);
                 ink.Draw(i, column);
             } else if (column >= m_map.Plot.Left && column < m_map.Plot.Right) {
                 ink.DrawThin(i, end, column);
+                start.FirstRect = m_rects.size(); // behind those of the column before
                 if (!begun)
-                    m_columns.push_back({column, i, m_rects.size()});
+                    m_columns.push_back(start);
             }
         }
         i = end;
@@ -319,7 +331,7 @@ void CPaneInk::DrawLine(const CPaneGroup& group, int series, std::size_t firstPo
             line.Vertices.pop_back();
         i = m_points.First(i, column);
     }
-    const bool reduced = m_detail == InkDetail::Reduced, crowded = IsCrowded();
+    const bool reduced = m_detail != InkDetail::EveryPoint, crowded = IsCrowded();
     bool joined = i > 0 && i <= points && !line.Vertices.empty() && IsDrawn(y[i - 1]);
     for (; i < points; ++i) {
         if (!IsDrawn(y[i]) || !m_points.IsPlaced(i)) {

@@ -10,6 +10,7 @@
 // Kept from one painting to the next: a changed last point costs its own column. Chart window's thread.
 #pragma once
 
+#include "drawing/InkColumns.h"
 #include "drawing/InkRect.h"
 #include "drawing/PaneGeometry.h"
 #include "drawing/PointColumns.h"
@@ -44,7 +45,8 @@ struct sInkLine
 enum class InkDetail
 {
     Reduced,
-    EveryPoint, // the plain definition, for comparison
+    PointByPoint, // reduced as a processor does it that cannot look at several points at a time
+    EveryPoint,   // the plain definition, for comparison
 };
 
 struct sBarSource;
@@ -63,8 +65,11 @@ public:
     // Brings the ink up to date with the scene. `scale` is device pixels a pane pixel.
     sDamage Update(const CChart2D& chart, const sPlotMap& map, double scale);
 
-    // In painting order: all bars, then all lines. The rectangles' Left ends ascend when RectsAscend().
+    // In painting order: all bars, then all lines. The rectangles' Left ends ascend when RectsAscend(). Thin
+    // candles are columns, which ascend, and rectangles in other columns.
     const std::vector<sInkRect>& Rects() const { return m_rects; }
+    const CInkColumns& Columns() const { return m_inkColumns; }
+    bool ShowsBars() const { return !m_rects.empty() || !m_inkColumns.Columns().empty(); }
     bool RectsAscend() const { return m_ascending; }
     int WidestRect() const { return m_widest; }
     const std::vector<sInkLine>& Lines() const { return m_lines; }
@@ -81,7 +86,7 @@ private:
     struct sColumnStart // where the ink of a column begins
     {
         int Column;
-        std::size_t FirstPoint, FirstRect;
+        std::size_t FirstPoint, FirstRect, FirstInkColumn;
     };
 
     struct sRun // points of a line in one column, or of a level in many, looked at together
@@ -96,6 +101,7 @@ private:
     bool DrawTail(const CPaneGroup& group, std::size_t firstPoint);
     bool DrawBars(const CPaneGroup& group, std::size_t firstPoint);
     bool DrawBarsFrom(const sBarSource& source, std::size_t i, bool examineAll);
+    void CutColumns(std::size_t count);
     void DrawLines(const CPaneGroup& group);
     bool DrawChangedLines(const CPaneGroup& group, std::uint64_t since);
     void DrawSymbols(const CPaneGroup& group, int series);
@@ -119,6 +125,7 @@ private:
     double m_origin = 0;
     CPointColumns m_points; // of the drawing at hand
     std::vector<sInkRect> m_rects;
+    CInkColumns m_inkColumns;
     std::vector<sColumnStart> m_columns;
     std::vector<sInkLine> m_lines;
     std::vector<int> m_lineSeries;

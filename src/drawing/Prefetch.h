@@ -19,4 +19,23 @@ inline void Prefetch(const double* values, std::size_t count)
 #endif
 }
 
+inline void Prefetch(const double* value)
+{
+#ifdef __GNUC__
+    __builtin_prefetch(value);
+#else
+    static_cast<void>(value);
+#endif
+}
+
+// The memory of a pixel that is about to be written.
+inline void PrefetchPixel(const void* pixel)
+{
+#ifdef __GNUC__
+    __builtin_prefetch(pixel, 1);
+#else
+    static_cast<void>(pixel);
+#endif
+}
+
 } // namespace zantroq

@@ -34,6 +34,8 @@ public:
         for (const sInkRect& rect : rects)
             Fill({rect.Left, rect.Top, rect.Right, rect.Bottom}, ScreenColour(rect.Color));
     }
+    // Some of the columns of `ink`.
+    virtual void Columns(const CInkColumns& ink, std::span<const sInkColumn> columns);
     virtual void Line(const sInkLine& line, const sPixelRect& plot) = 0; // clipped to the plot
     virtual void Text(int left, int top, std::string_view text, QRgb colour) = 0;
 };

@@ -177,9 +177,13 @@ void CPanePainter::PaintData(IPaneCanvas& canvas, int left, int right, const sPi
             rects = {first, last};
         }
         canvas.Rects(rects);
+        std::span<const sInkColumn> columns = ink.Columns().Columns();
+        const auto before = [](int edge) { return [edge](auto& column) { return column.Column < edge; }; };
+        const auto first = std::partition_point(columns.begin(), columns.end(), before(left));
+        canvas.Columns(ink.Columns(), {first, std::partition_point(first, columns.end(), before(right))});
     };
     // A histogram stands behind the curves, whichever group it is in.
-    const bool histogramFirst = m_ink[0].Rects().empty() && m_ink[1].Lines().empty();
+    const bool histogramFirst = !m_ink[0].ShowsBars() && m_ink[1].Lines().empty();
     for (const int i : histogramFirst ? std::array{1, 0} : std::array{0, 1}) {
         if (m_ink[i].Lines().empty())
             bars(m_ink[i]);

@@ -1,5 +1,7 @@
 #include "qt/RasterCanvas.h"
 
+#include "drawing/Prefetch.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -73,8 +75,11 @@ void CRasterCanvas::Fill(const sPixelRect& rect, QRgb colour)
         for (int y = cut.Top; y < cut.Bottom; ++y, line += m_stride)
             *line = colour;
     else
-        for (int y = cut.Top; y < cut.Bottom; ++y, line += m_stride)
+        for (int y = cut.Top; y < cut.Bottom; ++y, line += m_stride) {
+            if (cut.Width() <= 64)
+                PrefetchPixel(line + cut.Width()); // what lies beside a narrow piece is wiped next
             std::fill_n(line, cut.Width(), colour);
+        }
     Mark(cut);
 }
 
@@ -135,6 +140,31 @@ std::size_t CRasterCanvas::ThinRects(std::span<const sInkRect> rects, std::size_
     if (inked.Top < inked.Bottom)
         Mark(inked);
     return i;
+}
+
+// Columns side by side are marked together: wiping then takes whole cache lines.
+void CRasterCanvas::Columns(const CInkColumns& ink, std::span<const sInkColumn> columns)
+{
+    constexpr int together = 16;
+    const QRgb colours[] = {ScreenColour(ink.ColourOf(0)), ScreenColour(ink.ColourOf(1))};
+    for (std::size_t i = 0; i < columns.size();) {
+        const int end = columns[i].Column / together * together + together;
+        sPixelRect inked{m_clip.Right, m_clip.Bottom, m_clip.Left, m_clip.Top};
+        for (; i < columns.size() && columns[i].Column < end; ++i) {
+            const sInkColumn& column = columns[i];
+            const int top = std::max(column.Top, m_clip.Top), bottom = std::min(column.Bottom, m_clip.Bottom);
+            if (column.Column < m_clip.Left || column.Column >= m_clip.Right || top >= bottom)
+                continue;
+            const std::uint8_t* shade = ink.Shades(column).data() + (top - column.Top);
+            QRgb* pixel = m_pixels + static_cast<std::ptrdiff_t>(top) * m_stride + column.Column;
+            for (int y = top; y < bottom; ++y, pixel += m_stride)
+                *pixel = colours[*shade++];
+            inked = {std::min(inked.Left, column.Column), std::min(inked.Top, top), column.Column + 1,
+                     std::max(inked.Bottom, bottom)};
+        }
+        if (inked.Top < inked.Bottom)
+            Mark(inked);
+    }
 }
 
 void CRasterCanvas::Text(int left, int top, std::string_view text, QRgb colour)

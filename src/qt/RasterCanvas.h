@@ -39,6 +39,7 @@ public:
 
     void Fill(const sPixelRect& rect, QRgb colour) override;
     void Rects(std::span<const sInkRect> rects) override;
+    void Columns(const CInkColumns& ink, std::span<const sInkColumn> columns) override;
     void Line(const sInkLine& line, const sPixelRect& plot) override;
     void Text(int left, int top, std::string_view text, QRgb colour) override;
 

@@ -214,6 +214,10 @@ void ExpectThePictureThatIsPaintedFromNothing(CAnyChange& pane, double scale, in
         CPanePainter plain(pane.Pane(), "DejaVu Sans", InkDetail::EveryPoint);
         const QImage& picture = kept.Picture(scale);
         ASSERT_TRUE(picture == plain.Picture(scale)) << "round " << round << ", changes" << row;
+        if (round % 8 == 0) {
+            CPanePainter byPoint(pane.Pane(), "DejaVu Sans", InkDetail::PointByPoint);
+            ASSERT_TRUE(picture == byPoint.Picture(scale)) << "round " << round << ", changes" << row;
+        }
     }
 }
 

@@ -37,8 +37,10 @@ testing::AssertionResult SamePicture(const QImage& a, const QImage& b)
 
 testing::AssertionResult LooksAsEveryPointPainted(const CChart2D& pane, double scale)
 {
-    CPanePainter reduced(pane, Family), plain(pane, Family, InkDetail::EveryPoint);
-    return SamePicture(reduced.Picture(scale), plain.Picture(scale));
+    CPanePainter reduced(pane, Family), plain(pane, Family, InkDetail::EveryPoint),
+        byPoint(pane, Family, InkDetail::PointByPoint);
+    const testing::AssertionResult same = SamePicture(reduced.Picture(scale), plain.Picture(scale));
+    return same ? SamePicture(byPoint.Picture(scale), plain.Picture(scale)) << " point by point" : same;
 }
 
 // Values as feeds and studies produce them at their worst.
@@ -85,6 +87,31 @@ TEST(PaneReduction, CandlesWithGapsAndHolesLookAsEveryPointPainted)
         }
         test::FitAxes(*pane, 3000, 75, 118);
         ASSERT_TRUE(LooksAsEveryPointPainted(*pane, round % 2 + 1.0)) << round;
+    }
+}
+
+// So long that they are written otherwise than short ones.
+TEST(PaneReduction, CandlesThatJumpByHundredsOfPixelsLookAsEveryPointPainted)
+{
+    std::mt19937 random(4);
+    std::uniform_real_distribution<double> chance(0, 1);
+    for (const bool infinite : {false, true}) {
+        const Pane pane = test::CandlePane(280, 900, 4000, 1);
+        CPaneData& data = pane->PaneGroups(1).PaneData();
+        for (int point = 1; point <= 4000; ++point) {
+            const double open = 100 + chance(random) * (chance(random) < 0.05 ? 90 : 3),
+                         close = 100 - chance(random) * (chance(random) < 0.05 ? 90 : 3);
+            const bool up = chance(random) < 0.5;
+            data.SetPointY(1, point, open + chance(random));
+            data.SetPointY(2, point, close - chance(random));
+            data.SetPointY(3, point, up ? close : open);
+            data.SetPointY(4, point, up ? open : close);
+        }
+        if (infinite)
+            data.SetPointY(4, 1700, std::numeric_limits<double>::infinity());
+        test::FitAxes(*pane, 4000, 0, 200);
+        EXPECT_TRUE(LooksAsEveryPointPainted(*pane, 1));
+        EXPECT_TRUE(LooksAsEveryPointPainted(*pane, 2));
     }
 }
 
@@ -594,6 +621,20 @@ TEST(PaneExport, APaneWithoutASizeHasNoPicture)
     }
     QString error;
     EXPECT_TRUE(SavePanePicture(pane, folder.filePath("pane.json"), 1.0, error)) << "a state it has";
+}
+
+TEST(PaneExport, CrowdedCandlesOnAPageAreThoseOfTheScreen)
+{
+    const Pane pane = test::CandlePane(280, 180, 4000, 1);
+    CPanePainter painter(*pane, Family);
+    QImage page(280, 180, QImage::Format_RGB32);
+    QPainter onPage(&page);
+    painter.PaintInto(onPage, QRectF(0, 0, 280, 180));
+    onPage.end();
+    const QImage& screen = painter.Picture(1.0);
+    const sPixelRect plot = sPlotMap(*pane).Plot;
+    const QRect inside(plot.Left + 1, plot.Top + 1, plot.Width() - 2, plot.Height() - 2);
+    EXPECT_TRUE(SamePicture(page.copy(inside), screen.copy(inside)));
 }
 
 TEST(PaneExport, APageGetsThePaneInItsBox)
