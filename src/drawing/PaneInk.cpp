@@ -3,6 +3,7 @@
 #include "drawing/BarInk.h"
 #include "drawing/InkStyle.h"
 #include "drawing/Prefetch.h"
+#include "drawing/ThinBarInk.h"
 
 #include <utility>
 
@@ -165,9 +166,11 @@ bool CPaneInk::DrawBars(const CPaneGroup& group, std::size_t firstPoint)
         i = m_points.First(i, column);
     }
     const std::size_t columns = m_columns.size();
-    if (!DrawBarsFrom(source, i, false)) {
+    if (!source.IsThin() || !m_ascending || m_detail == InkDetail::EveryPoint) {
+        DrawWideBars(source, i);
+    } else if (!DrawThinBars(source, i, false)) {
         CutColumns(columns);
-        DrawBarsFrom(source, i, true);
+        DrawThinBars(source, i, true);
     }
     return true;
 }
@@ -182,44 +185,51 @@ void CPaneInk::CutColumns(std::size_t count)
     m_columns.resize(count);
 }
 
-// False when a point turned out to lack a value; only with examineAll are all values looked at in time.
-bool CPaneInk::DrawBarsFrom(const sBarSource& source, std::size_t i, bool examineAll)
+// Whether a column begins that has no ink yet.
+bool CPaneInk::BeginsColumn(int column) const
 {
-    CBarInk ink(source, m_map, m_rects, m_inkColumns);
+    return m_columns.empty() || m_columns.back().Column != column;
+}
+
+void CPaneInk::DrawWideBars(const sBarSource& source, std::size_t i)
+{
+    CBarInk ink(source, m_map, m_rects);
+    for (; i < m_points.Count(); ++i) {
+        if (!m_points.IsPlaced(i))
+            continue;
+        const int column = m_points.ColumnOf(i);
+        if (column < m_map.Plot.Left - m_widest || column >= m_map.Plot.Right + m_widest)
+            continue;
+        if (BeginsColumn(column))
+            m_columns.push_back({column, i, m_rects.size(), 0});
+        ink.Draw(i, column);
+    }
+}
+
+// False when a point turned out to lack a value; only with examineAll are all values looked at in time.
+bool CPaneInk::DrawThinBars(const sBarSource& source, std::size_t i, bool examineAll)
+{
+    CThinBarInk ink(source, m_map, m_rects, m_inkColumns);
     if (examineAll)
         ink.ExamineAll();
     if (m_detail == InkDetail::PointByPoint)
         ink.GoPointByPoint();
-    const bool thin = source.IsThin() && m_ascending && m_detail != InkDetail::EveryPoint;
-    while (i < m_points.Count()) {
-        if (!m_points.IsPlaced(i)) {
-            ++i;
+    for (std::size_t end = i; i < m_points.Count(); i = end) {
+        end = i + 1;
+        if (!m_points.IsPlaced(i))
             continue;
-        }
         const int column = m_points.ColumnOf(i);
-        std::size_t end = i + 1;
-        if (thin) {
-            end = m_points.End(i, column);
-            if (end - i > 8)
-                ink.Foresee(end, end - i);
-        }
-        if (column >= m_map.Plot.Left - m_widest && column < m_map.Plot.Right + m_widest) {
-            const bool begun = !m_columns.empty() && m_columns.back().Column == column;
-            sColumnStart start{column, i, m_rects.size(), m_inkColumns.Columns().size()};
-            if (!thin) {
-                if (!begun)
-                    m_columns.push_back(start);
-                ink.Draw(i, column);
-            } else if (column >= m_map.Plot.Left && column < m_map.Plot.Right) {
-                ink.DrawThin(i, end, column);
-                start.FirstRect = m_rects.size(); // behind those of the column before
-                if (!begun)
-                    m_columns.push_back(start);
-            }
-        }
-        i = end;
+        end = m_points.End(i, column);
+        if (end - i > 8)
+            ink.Foresee(end, end - i);
+        if (column < m_map.Plot.Left || column >= m_map.Plot.Right)
+            continue;
+        const std::size_t inkColumns = m_inkColumns.Columns().size();
+        ink.Draw(i, end, column);
+        if (BeginsColumn(column)) // its rectangles come behind those of the column before
+            m_columns.push_back({column, i, m_rects.size(), inkColumns});
     }
-    return !thin || ink.FinishThin();
+    return ink.Finish();
 }
 
 void CPaneInk::DrawLines(const CPaneGroup& group)

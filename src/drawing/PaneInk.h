@@ -100,7 +100,9 @@ private:
     void DrawAll(const CPaneGroup& group);
     bool DrawTail(const CPaneGroup& group, std::size_t firstPoint);
     bool DrawBars(const CPaneGroup& group, std::size_t firstPoint);
-    bool DrawBarsFrom(const sBarSource& source, std::size_t i, bool examineAll);
+    void DrawWideBars(const sBarSource& source, std::size_t i);
+    bool DrawThinBars(const sBarSource& source, std::size_t i, bool examineAll);
+    bool BeginsColumn(int column) const;
     void CutColumns(std::size_t count);
     void DrawLines(const CPaneGroup& group);
     bool DrawChangedLines(const CPaneGroup& group, std::uint64_t since);
