@@ -89,12 +89,17 @@ void* Resize(void* data, std::size_t oldBytes, std::size_t bytes)
         std::free(data);
         return moved;
     }
-    if (::mremap(data, oldBytes, oldBytes, MREMAP_MAYMOVE | MREMAP_FIXED, moved) != MAP_FAILED) {
-        AdviseHugePages(moved, bytes); // the pages that moved brought their own advice along
+    // Moved and enlarged in one step it stays one mapping; kernels before Linux 6.17 move nothing else.
+    if (::mremap(data, oldBytes, bytes, MREMAP_MAYMOVE | MREMAP_FIXED, moved) != MAP_FAILED)
         return moved;
+    // What lies at `moved` is unknown now: the system may have made room there before it refused. Address
+    // space is all that is lost with it.
+    void* const copy = Map(bytes);
+    if (copy) {
+        std::memcpy(copy, data, oldBytes);
+        ::munmap(data, oldBytes);
     }
-    ::munmap(moved, bytes);
-    return nullptr;
+    return copy;
 }
 
 void Release(void* data, std::size_t bytes)
