@@ -95,6 +95,8 @@ void CChartHistRequest::SetDays(std::int32_t days)
 void CChartHistRequest::SetRequestKind(std::int32_t kind)
 {
     CLockGuard guard(DataLock);
+    if (!FillSameArrays(Kind, kind))
+        Empty(); // else the arrays of the new kind would not be equally long
     Kind = kind;
 }
 void CChartHistRequest::SetNotifyWindow(void* window)

@@ -65,7 +65,8 @@ public:
     void SetEndDate(std::string date);
     void SetEndTime(std::string time);
     void SetEndFilterTime(std::string time);
-    void SetRequestKind(std::int32_t kind);
+    void
+    SetRequestKind(std::int32_t kind); // one that fills other arrays than the kind before empties them all
     void SetNotifyWindow(void* window);
     std::string GetSymbol() const;
     std::int32_t GetDatapoints() const;

@@ -36,6 +36,12 @@ constexpr bool IsDayKind(int kind)
 {
     return kind >= 6 && kind <= 9;
 }
+// Whether the points of both kinds lie in the same arrays of a series.
+constexpr bool FillSameArrays(int a, int b)
+{
+    return IsTickKind(a) == IsTickKind(b) && IsIntervalKind(a) == IsIntervalKind(b) &&
+           IsDayKind(a) == IsDayKind(b);
+}
 
 // What the user chooses to see.
 enum DataType : std::int32_t

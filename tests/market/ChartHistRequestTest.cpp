@@ -314,10 +314,10 @@ TEST(ChartHistRequest, AnUpdateThatFailsChangesNothing)
 {
     CChartHistRequest request;
     Fill(request, IntervalsByDatapoints, 2);
-    request.SetRequestKind(DailyByDatapoints); // which has no open interest yet
     sHIST_POINT point = PointAt(2015, 1, 1);
     point.Close = 8;
-    EXPECT_THROW(request.UpdatePoint(1, point), std::invalid_argument);
+    for (const int index : {2, -1})
+        EXPECT_THROW(request.UpdatePoint(index, point), std::invalid_argument);
     EXPECT_EQ(request.GetCloseAt(1), 2);
     EXPECT_EQ(FormatTime(request.GetTimeAt(1), "%Y"), "2014");
 }
@@ -510,25 +510,42 @@ TEST(GrowableArray, IndexesOutsideAreInvalidArguments)
     EXPECT_THROW(array.SetCount(-1), std::invalid_argument);
 }
 
-TEST(ChartHistRequest, BarsBetweenTicksDoNotUpsetTheRoomForTicks)
+// The rest of a reply that nobody wants any more may come in between a clearing and the new kind.
+TEST(ChartHistRequest, AKindThatFillsOtherArraysBeginsWithEmptyOnes)
+{
+    constexpr int kinds[] = {TicksByDatapoints, IntervalsByDatapoints, DailyByDatapoints};
+    for (const int before : kinds)
+        for (const int after : kinds) {
+            CChartHistRequest request;
+            sHIST_POINT point;
+            request.SetRequestKind(before);
+            for (int i = 0; i < 12000; ++i)
+                request.AppendPoint(point);
+            request.SetRequestKind(after);
+            const int kept = before == after ? 12000 : 0;
+            EXPECT_EQ(request.GetCount(FieldTime), kept) << before << " to " << after;
+            EXPECT_EQ(request.GetCount(FieldTotalVolume), kept) << before << " to " << after;
+            for (int i = 0; i < 20000; ++i)
+                request.AppendPoint(point);
+            const int count = kept + 20000;
+            EXPECT_EQ(request.GetCount(FieldTime), count) << before << " to " << after;
+            for (const int field : after == TicksByDatapoints
+                                       ? std::vector<int>{FieldLast, FieldSize, FieldConditions}
+                                   : after == IntervalsByDatapoints
+                                       ? std::vector<int>{FieldOpen, FieldClose, FieldSize}
+                                       : std::vector<int>{FieldOpen, FieldClose, FieldOpenInterest})
+                EXPECT_EQ(request.GetCount(field), count) << before << " to " << after << ", field " << field;
+            sHIST_DATA last;
+            EXPECT_NO_THROW(request.GetChartPoint(count - 1, last));
+        }
+}
+
+TEST(ChartHistRequest, AnotherKindOfTheSameArraysKeepsThem)
 {
     CChartHistRequest request;
     sHIST_POINT point;
-    const auto append = [&](int kind, int count) {
-        request.SetRequestKind(kind);
-        for (int i = 0; i < count; ++i)
-            request.AppendPoint(point);
-    };
-    append(TicksByDatapoints, 9990);
-    append(IntervalsByDatapoints, 10005); // the arrays that both fill run past their first ten thousand
-    append(TicksByDatapoints, 20000);
-    EXPECT_EQ(request.GetCount(FieldTime), 39995);
-    EXPECT_EQ(request.GetCount(FieldLast), 29990);
-    EXPECT_EQ(request.GetCount(FieldOpen), 10005);
-    EXPECT_EQ(request.GetCount(FieldSize), 39995);
-    EXPECT_EQ(request.GetCount(FieldConditions), 29990);
-    request.RemovePoint(29989);
-    request.ClearSeries();
-    append(TicksByDatapoints, 1);
+    request.SetRequestKind(DailyByDatapoints);
+    request.AppendPoint(point);
+    request.SetRequestKind(WeeklyByDatapoints);
     EXPECT_EQ(request.GetCount(FieldTime), 1);
 }

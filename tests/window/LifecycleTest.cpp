@@ -240,6 +240,25 @@ TEST(Lifecycle, AChangeOfTypeAsksForTheChartAnewEvenDuringALoad)
     EXPECT_EQ(chart.Desktop.Top.CaptionText, "Daily");
 }
 
+TEST(Lifecycle, AReplyThatRunsOnWhileAnotherTypeIsChosenLeavesNoHalfPoints)
+{
+    sChartFixture chart;
+    chart.Type("X");
+    chart.Window->OnCommand(CommandDrawChart);
+    chart.Append(3);
+    chart.Desktop.Type.Selected = DailyData;
+    chart.Desktop.Status.OnSaid = [&](const std::string& text) {
+        if (text == "Loading..." && chart.Window->Series()->GetRequestKind() == TicksByDatapoints)
+            chart.Append(20); // the series is empty already, and still one of ticks
+    };
+    chart.Window->OnDataTypeChanged(0);
+    chart.Desktop.Status.OnSaid = [](const std::string&) {};
+    chart.Reply(60);
+    chart.Tick();
+    EXPECT_EQ(chart.Status(), "60 datapoints available.  Displaying 60.");
+    EXPECT_EQ(chart.Window->Series()->GetCount(FieldOpen), chart.Window->Series()->GetCount(FieldTime));
+}
+
 TEST(Lifecycle, TheSameTypeAgainDoesNothing)
 {
     sChartFixture chart;
