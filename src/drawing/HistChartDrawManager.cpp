@@ -119,6 +119,23 @@ void CHistChartDrawManager::DrawStudies()
         study->collapsed = dlg.IsCollapsed(study->pane);
         study->DrawStudy();
     }
+    studiesEnd = dlg.Range().last + 1;
+}
+
+// Brings the studies to the end of the stretch that the price pane shows. A draw since the last live update
+// may have shown them some of the new points already.
+void CHistChartDrawManager::UpdateStudies()
+{
+    const int newPoints = dlg.Range().last + 1 - studiesEnd;
+    if (newPoints < 0)
+        return DrawStudies();
+    for (const auto& study : studies) {
+        if (!study || newPoints == 0)
+            continue;
+        study->collapsed = dlg.IsCollapsed(study->pane);
+        study->UpdateStudy(newPoints);
+    }
+    studiesEnd += newPoints;
 }
 
 void CHistChartDrawManager::PlaceMarkers()
@@ -137,12 +154,7 @@ void CHistChartDrawManager::Update(int newPoints)
         if (newPoints <= 0)
             return;
         priceChart.Draw(dlg.ScrollLimit());
-        for (const auto& study : studies) {
-            if (!study)
-                continue;
-            study->collapsed = dlg.IsCollapsed(study->pane);
-            study->UpdateStudy(newPoints);
-        }
+        UpdateStudies();
         // The studies move their own markers along with their points.
         priceChart.chart->PaneArea().PaneMarkers("x").SetPoint(dlg.SelectedPoint());
         RefreshMarkedTitles();

@@ -84,6 +84,7 @@ private:
     bool StudiesAsDisplayed() const;
     int DisplayedStudies() const;
     void DrawStudies();
+    void UpdateStudies();
     void PlaceMarkers();
     void RefreshMarkedTitles(); // if a point is marked
 
@@ -95,6 +96,7 @@ private:
     std::array<std::unique_ptr<CStudyChart>, 10> studies;
     CChartHistRequest* series = nullptr;
     int dataType = TickData;
+    int studiesEnd = 0; // the index behind the last point that the studies show
 };
 
 } // namespace zantroq

@@ -169,7 +169,7 @@ CHistStudyChart::sUpdatePlan CHistStudyChart::MakeRoom(int newPoints)
 
     const int fresh = static_cast<int>(std::min<std::int64_t>(newPoints, points));
     return {static_cast<int>(points), static_cast<int>(points) - fresh + 1, xLow - 1,
-            GetPointCount() - fresh};
+            dlg->Range().last + 1 - fresh};
 }
 
 void CHistStudyChart::WriteVolumeIntoLastPoint()
