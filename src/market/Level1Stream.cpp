@@ -2,6 +2,8 @@
 
 #include "market/Level1Update.h"
 
+#include <exception>
+#include <stdexcept>
 #include <utility>
 
 namespace zantroq {
@@ -49,14 +51,21 @@ void CLevel1Stream::OnLine(std::string_view line)
     }
     const sEmptyAtEnd<std::vector<RequestPtr>> letGo{m_requests};
     const Level1Fields fields(line);
+    std::exception_ptr tooShort;
     for (const RequestPtr& request : m_requests) {
-        if (!request || (!request->IsComplete() && messageType != 'F'))
-            PendingLevel1Line = line;
-        else if (messageType == 'F')
-            ApplyFundamental(*request, fields);
-        else
-            MergeUpdate(*request, messageType, fields);
+        try {
+            if (!request || (!request->IsComplete() && messageType != 'F'))
+                PendingLevel1Line = line;
+            else if (messageType == 'F')
+                ApplyFundamental(*request, fields);
+            else
+                MergeUpdate(*request, messageType, fields);
+        } catch (const std::invalid_argument&) {
+            tooShort = std::current_exception();
+        }
     }
+    if (tooShort)
+        std::rethrow_exception(tooShort);
 }
 
 void CLevel1Stream::ReplayPending()

@@ -19,7 +19,7 @@ public:
     CLevel1Stream(const CWatchTable& watches, std::function<void(std::string_view symbol)> removeSymbol);
 
     // One line without its end. Fails with std::invalid_argument when the line is too short for what a
-    // request reads of it.
+    // request reads of it; the other requests of the symbol have taken it all the same.
     void OnLine(std::string_view line);
 
     // A reply has ended: takes the kept line, if there is one, and forgets it, also when it fails.

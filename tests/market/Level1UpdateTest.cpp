@@ -395,6 +395,23 @@ TEST(Level1Fundamental, AShortOneIsAnInvalidArgument)
     EXPECT_EQ(chart.Request().GetPriceFormat(), 14);
 }
 
+// A line that ends in front of what one chart reads of it costs that chart alone.
+TEST(Level1Symbols, ALineTooShortForOneSeriesReachesTheOthers)
+{
+    for (const bool shortFirst : {true, false}) {
+        CSeriesFixture chart(0);
+        CChartHistRequest other;
+        other.SetRequestKind(0);
+        chart.Watches().Add("SYM", EnterRequest(other));
+        chart.Request().SetUseExchangeFormat(!shortFirst);
+        other.SetUseExchangeFormat(shortFirst);
+        const std::string whole = Fundamental("7", "2").Text();
+        EXPECT_THROW(chart.LiveLine(whole.substr(0, whole.rfind(','))), std::invalid_argument);
+        EXPECT_EQ((shortFirst ? other : chart.Request()).GetPriceFormat(), 7);
+        EXPECT_EQ((shortFirst ? chart.Request() : other).GetPriceFormat(), 14);
+    }
+}
+
 TEST(Level1Symbols, UpdatesThatNobodyWantsAreStopped)
 {
     CSeriesFixture chart(0);
