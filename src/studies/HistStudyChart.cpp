@@ -82,11 +82,24 @@ void CHistStudyChart::PrepareGroups(int shown)
     }
 }
 
+void CHistStudyChart::RemovePoints()
+{
+    if (chart->PaneGroups(1).PaneData().PointCount(1) == 0)
+        return;
+    for (const int group : {1, 2})
+        chart->PaneGroups(group).PaneData().SetPointCount(1, 0);
+    RefreshStudyHeader();
+}
+
 void CHistStudyChart::DrawStudy()
 {
     const int first = dlg->Range().first, shown = dlg->Range().shown;
     if (shown <= 0)
         return;
+    if (GetPointCount() == 0) {
+        RemovePoints(); // the range keeps its number of points, which nothing could be computed for
+        return;
+    }
     PrepareGroups(shown);
     SetXAxis(*chart, shown, dlg->Settings().Grid != 0);
 

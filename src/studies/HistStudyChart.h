@@ -52,7 +52,7 @@ public:
     std::int64_t GetVolume(int index) const override { return prices->Volume(index); }
     int GetPointCount() const override { return prices->Count(); }
 
-    // The whole displayed range. Nothing happens while no point is shown.
+    // The whole displayed range. Nothing happens while no point is shown; an empty series leaves no points.
     void DrawStudy() override;
 
     // Appends live points behind those the pane has, and drops as many at its left edge as the window cannot
@@ -111,6 +111,8 @@ protected:
         int FirstIndex; // the series index of FirstNew
     };
     void PrepareGroups(int shown);
+    // Takes the points of a series that has lost its own; a pane without points stays as it was set up.
+    void RemovePoints();
     sValueRange ComputeLines(const std::vector<sStudyLine>& lines, int first, int shown);
     // Shifts and sizes all series, moves the marker and the x axis.
     sUpdatePlan MakeRoom(int newPoints);

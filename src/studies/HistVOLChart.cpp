@@ -75,6 +75,11 @@ void CHistVOLChart::DrawStudy()
 {
     const int first = dlg->Range().first, shown = dlg->Range().shown;
     const int points = dlg->Pane(0).PaneGroups(1).PaneData().PointCount(1);
+    if (shown > 0 && GetPointCount() == 0) {
+        VolumeAverage = 0;
+        RemovePoints();
+        return;
+    }
     if (shown <= 0 || points == 0)
         return;
     PrepareGroups(shown);

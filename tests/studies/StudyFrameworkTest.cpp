@@ -44,6 +44,43 @@ TEST(StudyPane, NothingShownLeavesThePaneUntouched)
     }
 }
 
+// A range keeps its number of points over an empty series.
+TEST(StudyPane, AnEmptySeriesHasNoPointsOnlyWhatSetUpMade)
+{
+    for (int kind = 0; kind < StudyKinds; ++kind) {
+        CStudyPane pane(kind);
+        const double high = pane.YAxis().ViewHigh().Value(), last = pane.XAxis().ViewHigh().Value();
+        pane.Window.Shown.shown = 120;
+        pane.Study().DrawStudy();
+        for (const int group : {1, 2})
+            EXPECT_EQ(pane.Data(group).PointCount(1), 0) << kind << ", group " << group;
+        EXPECT_EQ(pane.YAxis().ViewHigh().Value(), high) << kind;
+        EXPECT_EQ(pane.XAxis().ViewHigh().Value(), last) << kind;
+        EXPECT_TRUE(pane.Labels().empty()) << kind;
+        EXPECT_EQ(pane.Header(), "") << kind;
+    }
+}
+
+TEST(StudyPane, ASeriesThatLostItsLastPointTakesThoseOfThePaneAlong)
+{
+    for (int kind = 0; kind < StudyKinds; ++kind) {
+        CStudyPane pane(kind);
+        pane.SetPeriod(1);
+        AddRisingCloses(pane, 10);
+        pane.Draw(0, 10);
+        pane.Marker().SetPoint(7);
+        pane.Study().RefreshStudyHeader();
+        pane.Series = CBarSeries();
+        pane.Window.Price.PaneGroups(1).PaneData().SetPointCount(1, 0);
+        pane.Study().DrawStudy();
+        for (const int group : {1, 2})
+            EXPECT_EQ(pane.Data(group).PointCount(1), 0) << kind << ", group " << group;
+        const std::string unmarked = pane.Header();
+        pane.Marker().SetPoint(NoPoint);
+        EXPECT_EQ(unmarked, pane.Study().GetStudyInfoText()) << kind;
+    }
+}
+
 TEST(StudyPane, OneToSixPointsHaveASpacingOfOne)
 {
     for (int shown = 1; shown <= 7; ++shown) {

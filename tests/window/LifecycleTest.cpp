@@ -172,6 +172,32 @@ TEST(Lifecycle, AnEmptyReplyIsDrawnWithNoPoints)
     EXPECT_EQ(chart.Window->Loading(), 0);
 }
 
+TEST(Lifecycle, AnEmptyReplyLeavesEveryPaneWithoutPointsThroughLaterDraws)
+{
+    sChartFixture chart;
+    std::string error;
+    ASSERT_TRUE(chart.Window->ApplySetting("Number of displayed study charts", "10", error)) << error;
+    for (int kind = 0; kind < StudyKinds; ++kind) {
+        const std::string name = "Type of study chart " + std::to_string(kind);
+        ASSERT_TRUE(chart.Window->ApplySetting(name, std::to_string(kind), error)) << error;
+    }
+    ASSERT_EQ(chart.Window->ShownPanes(), 11);
+    chart.Type("X");
+    chart.Window->OnCommand(CommandDrawChart);
+    const auto expectNoPoints = [&chart](const char* when) {
+        for (int pane = 0; pane < 11; ++pane)
+            for (const int group : {1, 2})
+                EXPECT_EQ(chart.Window->Pane(pane).PaneGroups(group).PaneData().PointCount(1), 0)
+                    << when << ", pane " << pane << ", group " << group;
+    };
+    chart.Window->OnResize();
+    expectNoPoints("while it loads");
+    chart.Reply(0);
+    chart.Tick();
+    chart.Window->OnHScroll(ScrollCode::PageLeft, 0);
+    expectNoPoints("when it is there");
+}
+
 TEST(Lifecycle, AShortSeriesIsShownWholeWithoutAScrollBar)
 {
     const auto chart = ChartOf(DailyData);
