@@ -1,6 +1,7 @@
 #include "CommandLine.h"
 
 #include "settings/ChartSettings.h"
+#include "window/ReplayScript.h"
 
 #include <CLI/CLI.hpp>
 
@@ -92,11 +93,17 @@ int ReadMilliseconds(const std::string& option, const std::string& text, double 
     return static_cast<int>(number * unit);
 }
 
-void CheckSnapshots(const sCommandLine& line)
+void CheckSnapshots(const CLI::App& app, const sCommandLine& line)
 {
+    // An empty name must not count as no option at all, whatever the reader makes of it.
+    if (app.count("--snapshot") > line.Snapshots.size())
+        Refuse("--snapshot", "", "no file is named; name one that ends in .png, .svg, .pdf or .json");
     for (const std::string& file : line.Snapshots) {
-        const std::string ending = std::filesystem::path(file).extension().string();
-        if (ending != ".png" && ending != ".svg" && ending != ".pdf" && ending != ".json")
+        if (file.empty())
+            Refuse("--snapshot", file, "no file is named; name one that ends in .png, .svg, .pdf or .json");
+        if (IsSnapshotEnding(file))
+            Refuse("--snapshot", file, "no name stands before the ending; name it such as chart.png");
+        if (!IsSnapshotFile(file))
             Refuse("--snapshot", file, "the ending is not known; use .png, .svg, .pdf or .json");
     }
     if (!line.Snapshots.empty() && line.Symbol.empty() && line.Replay.empty())
@@ -108,6 +115,8 @@ void CheckSnapshots(const sCommandLine& line)
 
 void CheckTogether(const CLI::App& app, const sCommandLine& line)
 {
+    if (app.count("--replay") > 0 && line.Replay.empty())
+        Refuse("--replay", "", "no file is named; name one with a step a line");
     if (line.Snapshots.empty() && app.count("--settle") > 0)
         throw sWrongUsage{"--settle: goes with --snapshot FILE alone; leave it out or add that"};
     if (line.Snapshots.empty() && app.count("--timeout") > 0)
@@ -180,8 +189,8 @@ std::optional<sCommandLine> ReadCommandLine(int argc, char** argv, int& exitCode
             line.SettleMs = ReadMilliseconds("--settle", texts.Settle, 1);
         if (app.count("--timeout") > 0)
             line.TimeoutMs = ReadMilliseconds("--timeout", texts.Timeout, 1000);
-        CheckSnapshots(line);
         CheckTogether(app, line);
+        CheckSnapshots(app, line);
     } catch (const CLI::Success& asked) { // --help and --version
         app.exit(asked);
         exitCode = std::cout.flush() ? ExitDone : ExitNotWritten;

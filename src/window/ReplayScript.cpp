@@ -17,6 +17,8 @@ constexpr int LargestSide = 16384;         // pixels of a window
 constexpr int LongestWait = 24 * 3600000;  // milliseconds
 constexpr int DefaultCompleteWait = 30000; // milliseconds
 
+constexpr std::array<std::string_view, 4> SnapshotEndings{".png", ".svg", ".pdf", ".json"};
+
 // What is wrong with a line; the line's number is added where it is caught.
 struct sScriptError : std::runtime_error
 {
@@ -275,6 +277,9 @@ void ReadSnapshot(CWordReader& words, sReplayStep& step)
 {
     step.Action = ReplayAction::Snapshot;
     step.Text = words.Take("the file");
+    if (IsSnapshotEnding(step.Text))
+        throw sScriptError("snapshot: the file " + Quoted(step.Text) +
+                           " has no name before its ending; name it such as chart.png");
     if (!IsSnapshotFile(step.Text))
         throw sScriptError("snapshot: the file " + Quoted(step.Text) +
                            " does not end in .png, .svg, .pdf or .json");
@@ -323,10 +328,15 @@ sReplayStep ReadStep(const Words& words)
 
 bool IsSnapshotFile(std::string_view file)
 {
-    for (const std::string_view ending : {".png", ".svg", ".pdf", ".json"})
-        if (file.size() > ending.size() && file.ends_with(ending))
-            return true;
-    return false;
+    return std::any_of(SnapshotEndings.begin(), SnapshotEndings.end(),
+                       [file](std::string_view ending) { return file.ends_with(ending); }) &&
+           !IsSnapshotEnding(file);
+}
+
+bool IsSnapshotEnding(std::string_view file)
+{
+    const std::string_view name = file.substr(file.rfind('/') + 1);
+    return std::find(SnapshotEndings.begin(), SnapshotEndings.end(), name) != SnapshotEndings.end();
 }
 
 sReplayScript ParseReplayScript(std::string_view text)

@@ -54,7 +54,9 @@ struct sReplayScript
 
 sReplayScript ParseReplayScript(std::string_view text);
 
-// The files that a snapshot can be written to.
+// The files that a snapshot can be written to: a name and one of the endings .png, .svg, .pdf and .json.
 bool IsSnapshotFile(std::string_view file);
+// One of those endings where the name should be.
+bool IsSnapshotEnding(std::string_view file);
 
 } // namespace zantroq

@@ -63,6 +63,29 @@ TEST_F(ChartErrors, OptionsThatDoNotGoTogetherAreNamed)
             "--show: goes with --replay FILE alone; without --snapshot a window opens anyway");
 }
 
+TEST_F(ChartErrors, AnEmptyValueIsAValueAndIsRefused)
+{
+    const std::string noPicture = "no file is named; name one that ends in .png, .svg, .pdf or .json";
+    Refused({"--replay", ""}, "--replay \"\": no file is named; name one with a step a line");
+    Refused({"--snapshot", "", "GOOG"}, "--snapshot \"\": " + noPicture);
+    Refused({"--snapshot", "a.png", "--snapshot", "", "GOOG"}, "--snapshot \"\": " + noPicture);
+    Refused({"--feed", "", "GOOG"}, "--feed \"\": not a feed; use system, embedded or embedded:FOLDER");
+    Refused({"--size", "", "GOOG"},
+            "--size \"\": not a size; use WIDTHxHEIGHT in pixels, such as 900x700, at most 16384 each");
+    Refused({"--data", "", "GOOG"},
+            "--data \"\": not a data type; use tick, minute, daily, weekly or monthly");
+    Refused({"--interval", "", "GOOG"},
+            "--interval \"\": not offered; use 1, 2, 3, 4, 5, 10, 15, 30, 45, 60 or 120");
+    Refused({"--snapshot", "a.png", "--settle", "", "GOOG"},
+            "--settle \"\": not a time; use a number of milliseconds from 0 on, at most a day");
+    Refused({"--snapshot", "a.png", "--timeout", "", "GOOG"},
+            "--timeout \"\": not a time; use a number of seconds from 0 on, at most a day");
+    for (const QString file : {".json", "pictures/.png"})
+        Refused({"--snapshot", file, "GOOG"},
+                "--snapshot " + file.toStdString() +
+                    ": no name stands before the ending; name it such as chart.png");
+}
+
 TEST_F(ChartErrors, UnknownOptionsAndWordsPointToTheHelp)
 {
     for (const QStringList& words :

@@ -98,6 +98,8 @@ TEST(ReplayScript, AWrongLineIsNamedAndNoStepIsLeft)
               "line 1: wait: the time \"soon\" is not a number of seconds from 0 to 86400");
     EXPECT_EQ(Wrong("snapshot a.gif"),
               "line 1: snapshot: the file \"a.gif\" does not end in .png, .svg, .pdf or .json");
+    EXPECT_EQ(Wrong("snapshot .json"), "line 1: snapshot: the file \".json\" has no name before its ending; "
+                                       "name it such as chart.png");
     EXPECT_EQ(Wrong("set NOTHING 1").substr(0, 23), "line 1: set: \"NOTHING\":");
     EXPECT_EQ(Wrong("set GRID maybe").substr(0, 19), "line 1: set: \"GRID\"");
 }
