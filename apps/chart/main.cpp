@@ -12,8 +12,30 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <exception>
+#include <new>
 
 namespace {
+
+constexpr const char* NoMemory = "there is not enough memory for this chart; make --size smaller, or leave "
+                                 "more memory to the program";
+
+// What is thrown where nobody can catch it: on another thread, or through the toolkit.
+std::terminate_handler TerminateOtherwise = nullptr;
+
+void OnTerminate()
+{
+    try {
+        if (const std::exception_ptr thrown = std::current_exception())
+            std::rethrow_exception(thrown);
+    } catch (const std::bad_alloc&) {
+        std::fprintf(stderr, "zantroq-chart: %s\n", NoMemory);
+        std::_Exit(zantroq::ExitNotWritten);
+    } catch (...) {
+        // An error of the program itself: said as ever.
+    }
+    TerminateOtherwise();
+}
 
 // The toolkit ends the program when it finds no display; the user gets a sentence and an exit code instead.
 void OnToolkitMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
@@ -47,10 +69,11 @@ void TakeLook(const QByteArray& look)
 
 } // namespace
 
-int main(int argc, char** argv)
+namespace zantroq {
+namespace {
+
+int RunProgram(int argc, char** argv)
 {
-    using namespace zantroq;
-    std::signal(SIGPIPE, SIG_IGN); // a peer or reader that went away is an error of one call
     int exitCode = ExitDone;
     const auto line = ReadCommandLine(argc, argv, exitCode);
     if (!line)
@@ -79,4 +102,19 @@ int main(int argc, char** argv)
     QApplication::setApplicationVersion(ZANTROQ_VERSION);
     TakeLook(look);
     return CSession(*line).Run();
+}
+
+} // namespace
+} // namespace zantroq
+
+int main(int argc, char** argv)
+{
+    std::signal(SIGPIPE, SIG_IGN); // a peer or reader that went away is an error of one call
+    TerminateOtherwise = std::set_terminate(OnTerminate);
+    try {
+        return zantroq::RunProgram(argc, argv);
+    } catch (const std::bad_alloc&) {
+        zantroq::Complain(NoMemory);
+        return zantroq::ExitNotWritten;
+    }
 }

@@ -15,7 +15,9 @@
 #include <QPdfWriter>
 #include <QSvgGenerator>
 
+#include <cmath>
 #include <functional>
+#include <new>
 
 namespace zantroq {
 namespace {
@@ -123,6 +125,7 @@ void PaintVectors(QPainter& painter, const sChartPicture& picture, int fine)
     });
 }
 
+// No picture is empty bytes: one that could not be drawn is.
 QByteArray SvgBytes(const sChartPicture& picture)
 {
     QBuffer bytes;
@@ -131,7 +134,9 @@ QByteArray SvgBytes(const sChartPicture& picture)
     svg.setSize(picture.Size);
     svg.setViewBox(QRect(QPoint(0, 0), picture.Size));
     svg.setTitle(QString::fromStdString(picture.Window.CurrentSymbol()));
-    QPainter painter(&svg);
+    QPainter painter;
+    if (!painter.begin(&svg))
+        return {};
     PaintVectors(painter, picture, 1);
     painter.end();
     return SizedInPixels(bytes.data(), picture.Size);
@@ -148,7 +153,9 @@ QByteArray PdfBytes(const sChartPicture& picture)
     pdf.setResolution(72 * Fine);
     pdf.setPageSize(QPageSize(QSizeF(picture.Size), QPageSize::Point, {}, QPageSize::ExactMatch));
     pdf.setPageMargins(QMarginsF());
-    QPainter painter(&pdf);
+    QPainter painter;
+    if (!painter.begin(&pdf))
+        return {};
     PaintVectors(painter, picture, Fine);
     painter.end();
     return WithoutMoment(bytes.data());
@@ -158,24 +165,51 @@ QByteArray PngBytes(const sChartPicture& picture, double devicePixelRatio)
 {
     QBuffer bytes;
     bytes.open(QIODevice::WriteOnly);
-    DrawChartPicture(picture, devicePixelRatio).save(&bytes, "PNG");
-    return bytes.data();
+    const QImage image = DrawChartPicture(picture, devicePixelRatio);
+    return !image.isNull() && image.save(&bytes, "PNG") ? bytes.data() : QByteArray();
+}
+
+QByteArray PictureBytes(const sChartPicture& picture, const QString& ending, double devicePixelRatio)
+{
+    try {
+        if (ending == "svg")
+            return SvgBytes(picture);
+        return ending == "pdf" ? PdfBytes(picture) : PngBytes(picture, devicePixelRatio);
+    } catch (const std::bad_alloc&) {
+        return {};
+    }
+}
+
+QImage DrawPixels(const sChartPicture& picture, double devicePixelRatio)
+{
+    QImage image(picture.Size * devicePixelRatio, QImage::Format_RGB32);
+    if (image.isNull())
+        return image;
+    image.setDevicePixelRatio(devicePixelRatio);
+    image.fill(Back);
+    QPainter painter;
+    if (!painter.begin(&image))
+        return {};
+    bool whole = true;
+    PaintPicture(painter, picture, [&](int pane, const QRect& rect) {
+        const QImage pixels = PanePicture(picture.Window.Pane(pane), devicePixelRatio);
+        whole = whole && !pixels.isNull();
+        painter.drawImage(rect.topLeft(), pixels);
+    });
+    painter.end();
+    image.setDevicePixelRatio(1); // a file holds pixels
+    return whole ? image : QImage();
 }
 
 } // namespace
 
 QImage DrawChartPicture(const sChartPicture& picture, double devicePixelRatio)
 {
-    QImage image(picture.Size * devicePixelRatio, QImage::Format_RGB32);
-    image.setDevicePixelRatio(devicePixelRatio);
-    image.fill(Back);
-    QPainter painter(&image);
-    PaintPicture(painter, picture, [&](int pane, const QRect& rect) {
-        painter.drawImage(rect.topLeft(), PanePicture(picture.Window.Pane(pane), devicePixelRatio));
-    });
-    painter.end();
-    image.setDevicePixelRatio(1); // a file holds pixels
-    return image;
+    try {
+        return DrawPixels(picture, devicePixelRatio);
+    } catch (const std::bad_alloc&) {
+        return {};
+    }
 }
 
 bool IsPictureFile(const QString& path)
@@ -191,13 +225,16 @@ QString SaveChartPicture(const sChartPicture& picture, const QString& path, doub
         return WritePictureFile(path, QByteArray::fromStdString(ChartSnapshotText(picture.Window)));
     if (ending == "csv")
         return WritePictureFile(path, QByteArray::fromStdString(ShownValuesCsv(picture.Window)));
-    if (ending == "svg")
-        return WritePictureFile(path, SvgBytes(picture));
-    if (ending == "pdf")
-        return WritePictureFile(path, PdfBytes(picture));
-    if (ending == "png")
-        return WritePictureFile(path, PngBytes(picture, devicePixelRatio));
-    return QString("%1: the ending is not known; use .png, .svg, .pdf, .json or .csv").arg(path);
+    if (ending != "svg" && ending != "pdf" && ending != "png")
+        return QString("%1: the ending is not known; use .png, .svg, .pdf, .json or .csv").arg(path);
+    const QByteArray bytes = PictureBytes(picture, ending, devicePixelRatio);
+    const double ratio = ending == "png" ? devicePixelRatio : 1;
+    if (bytes.isEmpty())
+        return QString("%1: there is not enough memory for a picture of %2 x %3 pixels; make it smaller")
+            .arg(path)
+            .arg(std::llround(picture.Size.width() * ratio))
+            .arg(std::llround(picture.Size.height() * ratio));
+    return WritePictureFile(path, bytes);
 }
 
 } // namespace zantroq

@@ -20,6 +20,7 @@ struct sChartPicture
     QString Notice; // shown in the heading where not empty
 };
 
+// A null image where there is not enough memory for it or for one of its panes.
 QImage DrawChartPicture(const sChartPicture& picture, double devicePixelRatio);
 
 // The endings of a picture or of the window's state.

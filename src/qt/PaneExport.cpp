@@ -11,6 +11,8 @@
 #include <QPdfWriter>
 #include <QSvgGenerator>
 
+#include <cmath>
+
 namespace zantroq {
 
 bool CPrintPage::PaintPane(const CChart2D& pane, int left, int top, int width, int height)
@@ -58,8 +60,7 @@ QByteArray PngBytes(const CChart2D& pane, double devicePixelRatio)
     bytes.open(QIODevice::WriteOnly);
     QImage picture = PanePicture(pane, devicePixelRatio);
     picture.setDevicePixelRatio(1); // a file holds pixels
-    picture.save(&bytes, "PNG");
-    return bytes.data();
+    return !picture.isNull() && picture.save(&bytes, "PNG") ? bytes.data() : QByteArray();
 }
 
 } // namespace
@@ -84,6 +85,14 @@ bool SavePanePicture(const CChart2D& pane, const QString& path, double devicePix
         bytes = ending == "svg"   ? SvgBytes(pane, size)
                 : ending == "pdf" ? PdfBytes(pane, size)
                                   : PngBytes(pane, devicePixelRatio);
+    }
+    if (bytes.isEmpty()) {
+        error =
+            QStringLiteral("%1: there is not enough memory for a picture of %2 x %3 pixels; make it smaller")
+                .arg(path)
+                .arg(std::llround(size.width() * devicePixelRatio))
+                .arg(std::llround(size.height() * devicePixelRatio));
+        return false;
     }
     const QString failure = WritePictureFile(path, bytes);
     if (!failure.isEmpty())

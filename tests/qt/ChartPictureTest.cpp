@@ -157,6 +157,18 @@ TEST_F(CChartPictureTest, AWindowWithoutAChartHasNoValues)
     EXPECT_EQ(DrawChartPicture(Picture(), 1).size(), QSize(700, 500));
 }
 
+// No system has the memory for that.
+TEST_F(CChartPictureTest, APictureThatMemoryDoesNotSufficeForIsRefusedNotWritten)
+{
+    Draw();
+    const QString path = m_folder.filePath("a.png");
+    EXPECT_TRUE(DrawChartPicture(Picture(), 100'000).isNull());
+    EXPECT_EQ(
+        SaveChartPicture(Picture(), path, 100'000),
+        path + ": there is not enough memory for a picture of 70000000 x 50000000 pixels; make it smaller");
+    EXPECT_FALSE(QFileInfo::exists(path));
+}
+
 TEST_F(CChartPictureTest, WhatCannotBeWrittenIsNamed)
 {
     Draw();
