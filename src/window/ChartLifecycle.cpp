@@ -86,7 +86,8 @@ bool CChartLifecycle::DrawChart()
         DropChart();
     if (symbol.find(',') != std::string::npos) {
         m_status.Message("Symbols cannot contain any commas.");
-        m_services.Host.SetControlsEnabled(true); // a load that was dropped would never give them back
+        m_loading = false; // a load that was dropped has no end
+        m_services.Host.SetControlsEnabled(true);
         return false;
     }
     m_services.Top.SetTitle(WindowTitle(symbol));
@@ -108,6 +109,7 @@ void CChartLifecycle::DropChart()
     m_services.Timer.Stop(ProgressTimer);
     UnwatchAndClear();
     m_range.ResetShown();
+    m_events.ChartDropped();
 }
 
 void CChartLifecycle::UnwatchAndClear()

@@ -26,6 +26,7 @@ public:
     virtual void SavePosition() = 0; // if positions are to be saved
     virtual void RememberSymbol(const std::string& symbol) = 0;
     virtual void RequestScaleReset() = 0; // a fixed value axis fits itself once
+    virtual void ChartDropped() = 0;      // the series is empty, the panes still show what it was
     virtual void ChartRequested() = 0;    // symbol, type and interval are new
     virtual void SeriesPolled() = 0;      // a tick on a complete series
 };

@@ -290,7 +290,7 @@ sContextMenu sChartParts::MenuOf(int pane) const
 void sChartParts::ChartRequested()
 {
     Bars.ShowTitleLine(Lifecycle.CurrentSymbol());
-    Bars.ShowLastTrade(""); // that of the chart before stands for nothing any more
+    ChartDropped(); // points that are brought back are asked for without a drop
 }
 
 void sChartParts::SeriesPolled()

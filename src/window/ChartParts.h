@@ -38,6 +38,7 @@ struct sChartParts : ILifecycleEvents, ISettingsTarget
     void SavePosition() override { Placement.SaveIfAsked(); }
     void RememberSymbol(const std::string& symbol) override { Bars.RememberSymbol(symbol); }
     void RequestScaleReset() override { ScaleReset = true; }
+    void ChartDropped() override { Bars.ShowLastTrade(""); } // it stands for nothing any more
     void ChartRequested() override;
     void SeriesPolled() override;
 

@@ -82,12 +82,15 @@ TEST(Lifecycle, ACommaDropsAChartThatWasOnShow)
 {
     sChartFixture chart;
     chart.Chart("OLD", 5);
+    ASSERT_NE(chart.Window->StatusPart(2), "");
     chart.Feed.Calls.clear();
     chart.Type("A,B");
     chart.Window->OnCommand(CommandDrawChart);
     EXPECT_EQ(chart.Feed.Calls, Log{"unwatch OLD"});
     EXPECT_EQ(chart.Window->Series()->GetCount(FieldTime), 0);
     EXPECT_EQ(chart.Desktop.Top.TitleText, "OLD - Chart");
+    EXPECT_EQ(chart.Window->StatusPart(2), "") << "the last trade goes with its chart";
+    EXPECT_EQ(chart.Window->Loading(), 0);
     EXPECT_TRUE(chart.Desktop.Timer.Running.empty());
     EXPECT_EQ(chart.Status(), "Symbols cannot contain any commas.");
 }
@@ -418,6 +421,7 @@ TEST(Lifecycle, ACommaDuringALoadGivesTheToolsBack)
     chart.Window->OnSymbolEnter();
     EXPECT_TRUE(chart.Desktop.Timer.Running.empty()) << "nothing would ever end the load";
     EXPECT_TRUE(chart.Desktop.Host.ControlsOn);
+    EXPECT_EQ(chart.Window->Loading(), 0);
     EXPECT_TRUE(chart.DrawEnabled());
     // What was typed wrong is typed again.
     chart.Chart("AB", 5);
