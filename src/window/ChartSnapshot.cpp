@@ -68,8 +68,8 @@ Json LayoutToJson(const CChartsResizer& resizer)
     return json;
 }
 
-// Menu items as the menu of the pane last asked for would offer them, everything else as the toolbar shows
-// it.
+// What a click would find: menu items as the menu of the pane last asked for would offer them, everything
+// else as the toolbar shows it, which stands disabled as a whole while a chart loads.
 Json CommandsToJson(const CChartDlg& window)
 {
     const sContextMenu price = window.MenuOf(0);
@@ -79,9 +79,9 @@ Json CommandsToJson(const CChartDlg& window)
         const bool ofPane = command >= CommandRestorePane && command <= CommandMaximizePane;
         const sMenuItem* const item = FindMenuItem((ofPane ? clicked : price).Items, command);
         const ICommandBar& bar = window.Services().Commands;
-        json[std::to_string(command)] = {
-            {"enabled", item != nullptr ? item->Enabled : bar.IsEnabled(command)},
-            {"checked", bar.IsChecked(command)}};
+        const bool button = window.Loading() == 0 && bar.IsEnabled(command);
+        json[std::to_string(command)] = {{"enabled", item != nullptr ? item->Enabled : button},
+                                         {"checked", bar.IsChecked(command)}};
     }
     return json;
 }

@@ -464,6 +464,28 @@ TEST(Snapshot, TellsTheWindowsState)
     EXPECT_EQ(ChartSnapshotText(*chart->Window), ChartSnapshotText(*chart->Window));
 }
 
+TEST(Snapshot, SaysOfEachCommandWhatAClickWouldFind)
+{
+    auto chart = ChartOf(DailyData);
+    const auto enabled = [&chart] {
+        const auto json = nlohmann::json::parse(ChartSnapshotText(*chart->Window));
+        std::vector<int> commands;
+        for (const auto& [number, state] : json["commands"].items())
+            if (state["enabled"].get<bool>())
+                commands.push_back(std::stoi(number));
+        std::sort(commands.begin(), commands.end());
+        return commands;
+    };
+    chart->Type("X");
+    chart->Window->OnCommand(CommandDrawChart);
+    // The toolbar stands disabled, the price pane's menu offers its tools and the panes' states.
+    EXPECT_EQ(enabled(), (std::vector<int>{32779, 32784, 32785, 32786, 32788, 32789, 32790, 32792, 32793}));
+    chart->Reply(300);
+    chart->Tick();
+    EXPECT_EQ(enabled(), (std::vector<int>{774, 777, 778, 779, 32779, 32780, 32784, 32785, 32786, 32788,
+                                           32789, 32790, 32792, 32793, 32794}));
+}
+
 struct sReplayHost : IReplayHost
 {
     explicit sReplayHost(sChartFixture& chart) : Chart(chart) {}
