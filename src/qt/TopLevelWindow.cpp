@@ -14,14 +14,15 @@ sWindowRect FromRect(const QRect& rect)
 
 } // namespace
 
+// The toolkit takes "[*]" for its mark of changed documents, and two of them for the text.
 std::string CTopLevelWindow::Title() const
 {
-    return m_inside.window()->windowTitle().toStdString();
+    QString text = m_inside.window()->windowTitle();
+    return text.replace("[*][*]", "[*]").toStdString();
 }
 
 void CTopLevelWindow::SetTitle(const std::string& title)
 {
-    // The toolkit takes "[*]" for its mark of changed documents.
     QString text = QString::fromStdString(title);
     m_inside.window()->setWindowTitle(text.replace("[*]", "[*][*]"));
 }

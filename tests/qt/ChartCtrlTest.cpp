@@ -54,6 +54,13 @@ TEST_F(CChartCtrlTest, ASymbolBecomesAChart)
     EXPECT_EQ(Window().Pane(0).PaneGroups(1).PaneData().PointY(1, 30), Days + 2) << "the last high";
 }
 
+TEST_F(CChartCtrlTest, ATitleWithTheToolkitsMarkReadsAsItWasSet)
+{
+    m_chart->SetStockSymbol("A[*]B");
+    EXPECT_EQ(m_chart->windowTitle(), "A[*][*]B - Chart") << "how the toolkit is told to show the text";
+    EXPECT_EQ(Window().Services().Top.Title(), "A[*]B - Chart");
+}
+
 TEST_F(CChartCtrlTest, BarsAndPanesFillTheClientArea)
 {
     Draw();
