@@ -68,9 +68,16 @@ void CChartLifecycle::OnDrawChart()
         m_services.Box.Ask("Empty Symbol is not allowed", "Warning", BoxButtons::Ok, BoxIcon::Error);
         return;
     }
-    if (m_settings.FixedScale)
-        m_events.RequestScaleReset();
+    FitFixedScale();
     DrawChart();
+}
+
+void CChartLifecycle::FitFixedScale()
+{
+    if (!m_settings.FixedScale)
+        return;
+    m_fitScale = true;
+    m_events.RequestScaleReset();
 }
 
 bool CChartLifecycle::DrawChart()
@@ -104,8 +111,7 @@ void CChartLifecycle::DropChart()
 {
     if (m_trends != nullptr)
         m_trends->ResetState();
-    if (m_settings.FixedScale)
-        m_events.RequestScaleReset();
+    FitFixedScale();
     m_services.Timer.Stop(ProgressTimer);
     UnwatchAndClear();
     m_range.ResetShown();
@@ -220,6 +226,10 @@ void CChartLifecycle::OnTimer()
         return;
     }
     if (m_range.FirstFill()) {
+        // A draw while the chart loaded, by a resize for one, fitted the scale to the points of that moment.
+        if (m_fitScale)
+            FitFixedScale();
+        m_fitScale = false;
         m_range.ShowFirst(count);
         LeaveLoading();
         m_range.ReportPoints(count);

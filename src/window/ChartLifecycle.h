@@ -56,6 +56,7 @@ public:
     void SetCurrentSymbol(std::string symbol) { m_currentSymbol = std::move(symbol); }
 
 private:
+    void FitFixedScale(); // to the chart that is asked for
     void DropChart();
     void RequestChart();
     void EnterLoading();
@@ -76,6 +77,7 @@ private:
     std::string m_currentSymbol;
     bool m_loading = false;
     bool m_requested = false; // some chart was asked for
+    bool m_fitScale = false;  // the first draw of the chart fits a fixed scale to all of it
 };
 
 } // namespace zantroq

@@ -388,6 +388,28 @@ TEST(Lifecycle, AFixedScaleFitsItselfOnceToANewChart)
     EXPECT_FALSE(chart.Window->ResetScale()); // the draw used it up
 }
 
+TEST(Lifecycle, AFixedScaleFitsTheWholeSeriesWhateverWasDrawnWhileItLoaded)
+{
+    const auto axisOf = [](bool drawnWhileLoading) {
+        sChartFixture chart(false);
+        chart.Key->Write("Price Bar Show/Hide", std::string("1"));
+        chart.Key->Write("RequestDataType", std::string("2"));
+        chart.Start();
+        chart.Type("X");
+        chart.Window->OnCommand(CommandDrawChart);
+        chart.Append(2); // closes of 100 and 101
+        if (drawnWhileLoading)
+            chart.Window->OnHScroll(ScrollCode::LeftEnd, 0);
+        chart.Reply(150); // closes up to 109
+        chart.Tick();
+        EXPECT_FALSE(chart.Window->ResetScale());
+        const CPaneAxis& axis = chart.Window->Pane(0).PaneArea().PaneAxes().Y();
+        return std::pair(axis.DataLow().Value(), axis.DataHigh().Value());
+    };
+    EXPECT_EQ(axisOf(true), axisOf(false));
+    EXPECT_GE(axisOf(true).second, 110) << "the greatest high";
+}
+
 TEST(Lifecycle, TheEndOfAWindowUnwatchesAndReleasesItsSeries)
 {
     sChartFixture chart;
