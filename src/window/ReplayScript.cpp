@@ -7,7 +7,6 @@
 #include <array>
 #include <charconv>
 #include <optional>
-#include <stdexcept>
 
 namespace zantroq {
 
@@ -20,9 +19,9 @@ constexpr int DefaultCompleteWait = 30000; // milliseconds
 constexpr std::array<std::string_view, 4> SnapshotEndings{".png", ".svg", ".pdf", ".json"};
 
 // What is wrong with a line; the line's number is added where it is caught.
-struct sScriptError : std::runtime_error
+struct sScriptError
 {
-    using std::runtime_error::runtime_error;
+    std::string Sentence;
 };
 
 using Words = std::vector<std::string>;
@@ -33,6 +32,8 @@ Words SplitWords(std::string_view line)
     std::string word;
     bool inWord = false, quoted = false;
     for (const char c : line) {
+        if (c == '\0')
+            throw sScriptError{"a NUL byte stands in it; a script is plain text, take the byte out"};
         if (quoted) {
             if (c == '"')
                 quoted = false;
@@ -53,7 +54,7 @@ Words SplitWords(std::string_view line)
         }
     }
     if (quoted)
-        throw sScriptError("a double quote is not closed; add the closing quote");
+        throw sScriptError{"a double quote is not closed; add the closing quote"};
     if (inWord)
         words.push_back(std::move(word));
     return words;
@@ -68,7 +69,7 @@ std::string Quoted(const std::string& word)
 class CWordReader
 {
 public:
-    explicit CWordReader(const Words& words) : m_words(words) {}
+    CWordReader(const Words& words, const char* usage) : m_words(words), m_usage(usage) {}
     const std::string& Step() const { return m_words.front(); }
     bool More() const { return m_next < m_words.size(); }
 
@@ -82,7 +83,7 @@ public:
     const std::string& Take(const char* what)
     {
         if (!More())
-            throw sScriptError(Step() + ": " + what + " is missing");
+            throw sScriptError{Step() + ": " + what + " is missing; write " + m_usage};
         return m_words[m_next++];
     }
 
@@ -94,11 +95,14 @@ public:
         const char* const end = word.data() + word.size();
         int value = 0;
         const auto [stop, error] = std::from_chars(begin, end, value, hex ? 16 : 10);
-        if (error != std::errc() || stop != end || begin == end)
-            throw sScriptError(Step() + ": " + what + " " + Quoted(word) + " is not a whole number");
-        if (value < low || value > high)
-            throw sScriptError(Step() + ": " + what + " " + word + " is not within " + std::to_string(low) +
-                               " and " + std::to_string(high));
+        const bool tooLarge = error == std::errc::result_out_of_range;
+        if ((error != std::errc() && !tooLarge) || stop != end)
+            throw sScriptError{Step() + ": " + what + " " + Quoted(word) +
+                               " is not a whole number; use one within " + std::to_string(low) + " and " +
+                               std::to_string(high)};
+        if (tooLarge || value < low || value > high)
+            throw sScriptError{Step() + ": " + what + " " + word + " is not within " + std::to_string(low) +
+                               " and " + std::to_string(high)};
         return value;
     }
 
@@ -113,27 +117,33 @@ public:
         std::string offered;
         for (const char* choice : choices)
             offered += (offered.empty() ? "" : ", ") + std::string(choice);
-        throw sScriptError(Step() + ": " + what + " " + Quoted(word) + " is not offered; use one of " +
-                           offered);
+        throw sScriptError{Step() + ": " + what + " " + Quoted(word) + " is not offered; use one of " +
+                           offered};
     }
 
     void End() const
     {
         if (More())
-            throw sScriptError(Step() + ": " + Quoted(m_words[m_next]) + " is one word too many");
+            throw sScriptError{Step() + ": " + Quoted(m_words[m_next]) + " is one word too many; write " +
+                               m_usage};
     }
 
 private:
     const Words& m_words;
+    const char* m_usage;
     std::size_t m_next = 1;
 };
 
 int TakeCommand(CWordReader& words)
 {
     const int command = words.TakeInt("the command", 0, 65535);
-    if (std::find(AllCommands.begin(), AllCommands.end(), command) == AllCommands.end())
-        throw sScriptError(words.Step() + ": there is no command " + std::to_string(command));
-    return command;
+    if (std::find(AllCommands.begin(), AllCommands.end(), command) != AllCommands.end())
+        return command;
+    std::string offered;
+    for (const int known : AllCommands)
+        offered += (offered.empty() ? "" : ", ") + std::to_string(known);
+    throw sScriptError{words.Step() + ": there is no command " + std::to_string(command) + "; use one of " +
+                       offered};
 }
 
 void TakePane(CWordReader& words, sReplayStep& step)
@@ -241,7 +251,7 @@ int TakeSeconds(CWordReader& words)
     const auto [stop, error] = std::from_chars(word.data(), word.data() + word.size(), seconds);
     if (error != std::errc() || stop != word.data() + word.size() ||
         !(seconds >= 0 && seconds * 1000 <= LongestWait))
-        throw sScriptError("wait: the time " + Quoted(word) + " is not a number of seconds from 0 to 86400");
+        throw sScriptError{"wait: the time " + Quoted(word) + " is not a number of seconds from 0 to 86400"};
     return static_cast<int>(seconds * 1000);
 }
 
@@ -262,7 +272,7 @@ void ReadSet(CWordReader& words, sReplayStep& step)
     step.Name = words.Take("the name");
     step.Text = words.Take("the value");
     if (const std::string wrong = CheckSetting(step.Name, step.Text); !wrong.empty())
-        throw sScriptError("set: " + Quoted(step.Name) + ": " + wrong);
+        throw sScriptError{"set: " + Quoted(step.Name) + ": " + wrong};
 }
 
 void ReadPrint(CWordReader& words, sReplayStep& step)
@@ -270,7 +280,7 @@ void ReadPrint(CWordReader& words, sReplayStep& step)
     step.Action = ReplayAction::Print;
     step.Text = words.Take("the file");
     if (step.Text.empty())
-        throw sScriptError("print: the name of the file is empty");
+        throw sScriptError{"print: the name of the file is empty; name the file that the page goes to"};
 }
 
 void ReadSnapshot(CWordReader& words, sReplayStep& step)
@@ -278,41 +288,43 @@ void ReadSnapshot(CWordReader& words, sReplayStep& step)
     step.Action = ReplayAction::Snapshot;
     step.Text = words.Take("the file");
     if (IsSnapshotEnding(step.Text))
-        throw sScriptError("snapshot: the file " + Quoted(step.Text) +
-                           " has no name before its ending; name it such as chart.png");
+        throw sScriptError{"snapshot: the file " + Quoted(step.Text) +
+                           " has no name before its ending; name it such as chart.png"};
     if (!IsSnapshotFile(step.Text))
-        throw sScriptError("snapshot: the file " + Quoted(step.Text) +
-                           " does not end in .png, .svg, .pdf or .json");
+        throw sScriptError{"snapshot: the file " + Quoted(step.Text) +
+                           " does not end in .png, .svg, .pdf or .json"};
 }
 
 struct sStepReader
 {
     const char* Name;
+    const char* Usage;
     void (*Read)(CWordReader& words, sReplayStep& step);
 };
 
-constexpr std::array<sStepReader, 15> Readers{{{"symbol", ReadSymbol},
-                                               {"draw", ReadDraw},
-                                               {"command", ReadCommand},
-                                               {"type", ReadType},
-                                               {"interval", ReadInterval},
-                                               {"mouse", ReadMouse},
-                                               {"key", ReadKey},
-                                               {"scroll", ReadScroll},
-                                               {"resize", ReadResize},
-                                               {"menu", ReadMenu},
-                                               {"answer", ReadAnswer},
-                                               {"wait", ReadWait},
-                                               {"set", ReadSet},
-                                               {"print", ReadPrint},
-                                               {"snapshot", ReadSnapshot}}};
+constexpr std::array<sStepReader, 15> Readers{
+    {{"symbol", "symbol TEXT", ReadSymbol},
+     {"draw", "draw alone", ReadDraw},
+     {"command", "command ID", ReadCommand},
+     {"type", "type NAME", ReadType},
+     {"interval", "interval MINUTES", ReadInterval},
+     {"mouse", "mouse down|move|up CONTROL BUTTON X Y", ReadMouse},
+     {"key", "key CONTROL CODE", ReadKey},
+     {"scroll", "scroll ACTION, scroll thumb N or scroll track N", ReadScroll},
+     {"resize", "resize W H", ReadResize},
+     {"menu", "menu ID or menu none", ReadMenu},
+     {"answer", "answer yes|no|ok|cancel", ReadAnswer},
+     {"wait", "wait MS or wait complete [S]", ReadWait},
+     {"set", "set NAME VALUE, a word with blanks in double quotes", ReadSet},
+     {"print", "print FILE", ReadPrint},
+     {"snapshot", "snapshot FILE", ReadSnapshot}}};
 
 sReplayStep ReadStep(const Words& words)
 {
     for (const sStepReader& reader : Readers) {
         if (words.front() != reader.Name)
             continue;
-        CWordReader line(words);
+        CWordReader line(words, reader.Usage);
         sReplayStep step;
         reader.Read(line, step);
         line.End();
@@ -321,7 +333,7 @@ sReplayStep ReadStep(const Words& words)
     std::string offered;
     for (const sStepReader& reader : Readers)
         offered += (offered.empty() ? "" : ", ") + std::string(reader.Name);
-    throw sScriptError(Quoted(words.front()) + " is not a step; use one of " + offered);
+    throw sScriptError{Quoted(words.front()) + " is not a step; use one of " + offered};
 }
 
 } // namespace
@@ -361,7 +373,7 @@ sReplayScript ParseReplayScript(std::string_view text)
             script.Steps.push_back(std::move(step));
         } catch (const sScriptError& wrong) {
             script.Steps.clear();
-            script.Error = "line " + std::to_string(number) + ": " + wrong.what();
+            script.Error = "line " + std::to_string(number) + ": " + wrong.Sentence;
             break;
         }
     }

@@ -76,23 +76,31 @@ TEST(ReplayScript, AnEmptyScriptHasNoSteps)
 TEST(ReplayScript, AWrongLineIsNamedAndNoStepIsLeft)
 {
     EXPECT_EQ(Wrong("draw\njump 3\n").substr(0, 29), "line 2: \"jump\" is not a step;");
-    EXPECT_EQ(Wrong("symbol"), "line 1: symbol: the symbol is missing");
-    EXPECT_EQ(Wrong("draw now"), "line 1: draw: \"now\" is one word too many");
+    EXPECT_EQ(Wrong("symbol"), "line 1: symbol: the symbol is missing; write symbol TEXT");
+    EXPECT_EQ(Wrong("draw now"), "line 1: draw: \"now\" is one word too many; write draw alone");
     EXPECT_EQ(Wrong("symbol \"A"), "line 1: a double quote is not closed; add the closing quote");
-    EXPECT_EQ(Wrong("command 1234"), "line 1: command: there is no command 1234");
-    EXPECT_EQ(Wrong("command x"), "line 1: command: the command \"x\" is not a whole number");
+    EXPECT_EQ(
+        Wrong("command 1234"),
+        "line 1: command: there is no command 1234; use one of 774, 775, 776, 777, 778, 779, 32777, 32779, "
+        "32780, 32782, 32783, 32784, 32785, 32786, 32787, 32788, 32789, 32790, 32791, 32792, 32793, 32794");
+    EXPECT_EQ(Wrong("command x"),
+              "line 1: command: the command \"x\" is not a whole number; use one within 0 and 65535");
     EXPECT_EQ(
         Wrong("type hourly"),
         "line 1: type: the type \"hourly\" is not offered; use one of tick, minute, daily, weekly, monthly");
     EXPECT_EQ(Wrong("interval 7").substr(0, 50), "line 1: interval: the interval \"7\" is not offered;");
     EXPECT_EQ(Wrong("mouse down 340 1 0 0"), "line 1: mouse: the control 340 is not within 341 and 351");
     EXPECT_EQ(Wrong("mouse down 341 3 0 0"), "line 1: mouse: the button 3 is not within 0 and 2");
-    EXPECT_EQ(Wrong("mouse down 341 1 0"), "line 1: mouse: y is missing");
-    EXPECT_EQ(Wrong("scroll thumb"), "line 1: scroll: the position is missing");
+    EXPECT_EQ(Wrong("mouse down 341 1 0"),
+              "line 1: mouse: y is missing; write mouse down|move|up CONTROL BUTTON X Y");
+    EXPECT_EQ(
+        Wrong("scroll thumb"),
+        "line 1: scroll: the position is missing; write scroll ACTION, scroll thumb N or scroll track N");
     EXPECT_EQ(Wrong("resize 0 5"), "line 1: resize: the width 0 is not within 1 and 16384");
     EXPECT_EQ(Wrong("answer maybe"),
               "line 1: answer: the answer \"maybe\" is not offered; use one of yes, no, ok, cancel");
-    EXPECT_EQ(Wrong("wait"), "line 1: wait: the number of milliseconds is missing");
+    EXPECT_EQ(Wrong("wait"),
+              "line 1: wait: the number of milliseconds is missing; write wait MS or wait complete [S]");
     EXPECT_EQ(Wrong("wait -1").substr(0, 44), "line 1: wait: the number of milliseconds -1 ");
     EXPECT_EQ(Wrong("wait complete soon"),
               "line 1: wait: the time \"soon\" is not a number of seconds from 0 to 86400");
@@ -102,6 +110,30 @@ TEST(ReplayScript, AWrongLineIsNamedAndNoStepIsLeft)
                                        "name it such as chart.png");
     EXPECT_EQ(Wrong("set NOTHING 1").substr(0, 23), "line 1: set: \"NOTHING\":");
     EXPECT_EQ(Wrong("set GRID maybe").substr(0, 19), "line 1: set: \"GRID\"");
+}
+
+TEST(ReplayScript, AWholeNumberOutOfRangeIsCalledThat)
+{
+    EXPECT_EQ(Wrong("scroll thumb 99999999999"),
+              "line 1: scroll: the position 99999999999 is not within -2000000000 and 2000000000");
+    EXPECT_EQ(Wrong("scroll track -99999999999"),
+              "line 1: scroll: the position -99999999999 is not within -2000000000 and 2000000000");
+    EXPECT_EQ(Wrong("wait 99999999999"),
+              "line 1: wait: the number of milliseconds 99999999999 is not within 0 and 86400000");
+    EXPECT_EQ(Wrong("key 341 0xfffffffff"),
+              "line 1: key: the key code 0xfffffffff is not within -1 and 65535");
+    for (const char* number : {"9x", "99999999999x", "0x", "", "-", "1.5"})
+        EXPECT_EQ(Wrong("wait \"" + std::string(number) + "\""),
+                  "line 1: wait: the number of milliseconds \"" + std::string(number) +
+                      "\" is not a whole number; use one within 0 and 86400000");
+}
+
+TEST(ReplayScript, ANulByteIsNamedAndCutsNoSentence)
+{
+    using namespace std::string_literals;
+    for (const std::string& text : {"type a\0b"s, "draw\0"s, "symbol \"a\0b\""s, "\0"s})
+        EXPECT_EQ(Wrong(text), "line 1: a NUL byte stands in it; a script is plain text, take the byte out");
+    EXPECT_EQ(ParseReplayScript("draw # a\0b"s).Error, "");
 }
 
 TEST(ReplayMessageBox, WithoutAQueuedAnswerItSaysNoOrOk)
