@@ -50,7 +50,7 @@ std::shared_ptr<ISettingsKey> CEmbeddedFeed::PortKey() const
     return MakePortKey(m_server->LookupPort(), m_server->Level1Port());
 }
 
-std::string CEmbeddedFeed::Advice(const std::string& symbol, int dataType) const
+std::string CEmbeddedFeed::Advice(const std::string& symbol, int dataType, const std::string& wait) const
 {
     feed::CMarketCatalog catalog(1, [](const std::string&) {});
     catalog.AddFolder(feed::ShippedDataFolder());
@@ -71,7 +71,7 @@ std::string CEmbeddedFeed::Advice(const std::string& symbol, int dataType) const
     if (dataType <= MinuteData && finest == Finest::Days)
         return std::string("the embedded feed has ") + (dataType == TickData ? "no ticks" : "no minutes") +
                " of it, but daily prices, which --data daily shows";
-    return "the embedded feed has data of it; check the range in the settings, or give --timeout more";
+    return "the embedded feed has data of it; check the range in the settings, or give " + wait + " more";
 }
 
 } // namespace zantroq

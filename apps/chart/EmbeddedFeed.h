@@ -26,8 +26,8 @@ public:
     std::shared_ptr<ISettingsKey> PortKey() const; // once started
 
     // What to do when no complete reply came for a symbol, as half a sentence: what the feed has of it, and
-    // how to see that. Reads the recordings again.
-    std::string Advice(const std::string& symbol, int dataType) const;
+    // how to see that. `wait` is what would wait longer. Reads the recordings again.
+    std::string Advice(const std::string& symbol, int dataType, const std::string& wait) const;
 
 signals:
     // A sentence for the user; from the feed's thread.

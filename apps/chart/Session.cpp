@@ -133,12 +133,8 @@ int CSession::RunWindow()
 
 int CSession::RunSnapshot()
 {
-    if (!WaitComplete(m_line.TimeoutMs)) {
-        Complain(m_line.Symbol + ": the feed gave no complete reply in time (" +
-                 QString::number(m_line.TimeoutMs / 1000.0).toStdString() + " s); " +
-                 (m_feed != nullptr
-                      ? m_feed->Advice(m_line.Symbol, m_window->Chart().Window().Settings().Request.DataType)
-                      : "start zantroq-feed, try --feed embedded, or give --timeout more"));
+    if (const std::string wrong = WaitComplete(m_line.TimeoutMs); !wrong.empty()) {
+        Complain(wrong);
         return ExitNoAnswer;
     }
     if (m_line.SettleMs > 0)
@@ -175,12 +171,25 @@ int CSession::RunReplay()
     return result.ExitCode;
 }
 
-bool CSession::WaitComplete(int milliseconds)
+std::string CSession::NoReply(int milliseconds) const
+{
+    const CChartDlg& chart = m_window->Chart().Window();
+    const std::string time = QString::number(milliseconds / 1000.0).toStdString() + " s";
+    const std::string& symbol = chart.CurrentSymbol();
+    if (chart.Loading() == 0)
+        return "no chart was asked for, and " + time + " brought none; let symbol and draw steps come before";
+    const std::string more = m_line.Replay.empty() ? "--timeout" : "the step";
+    return symbol + ": the feed gave no complete reply in time (" + time + "); " +
+           (m_feed != nullptr ? m_feed->Advice(symbol, chart.Settings().Request.DataType, more)
+                              : "start zantroq-feed, try --feed embedded, or give " + more + " more");
+}
+
+std::string CSession::WaitComplete(int milliseconds)
 {
     const CChartDlg& chart = m_window->Chart().Window();
     const bool done = Pump(milliseconds, [&chart] { return chart.CompleteAndDrawn(); });
     QApplication::sendPostedEvents(); // notices of the feed that came before the reply
-    return done;
+    return done ? "" : NoReply(milliseconds);
 }
 
 void CSession::Wait(int milliseconds)

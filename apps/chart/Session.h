@@ -29,8 +29,9 @@ private:
     void ApplyOptions(); // data type, interval, size: before the symbol
     void OnNotice(const QString& sentence);
     void WatchSymbol();
+    std::string NoReply(int milliseconds) const; // why, and what to do
 
-    bool WaitComplete(int milliseconds) override;
+    std::string WaitComplete(int milliseconds) override;
     void Wait(int milliseconds) override;
     void Resize(int width, int height) override;
     std::string Print(const std::string& file) override;

@@ -1,6 +1,7 @@
 #include "window/ReplayRunner.h"
 
 #include "window/ChartDlg.h"
+#include "window/ContextMenus.h"
 #include "window/WindowTexts.h"
 
 namespace zantroq {
@@ -33,6 +34,19 @@ sReplayResult RunFileStep(const sReplayStep& step, IReplayHost& host)
     const bool print = step.Action == ReplayAction::Print;
     const std::string wrong = print ? host.Print(step.Text) : host.Snapshot(step.Text);
     return wrong.empty() ? sReplayResult() : Failed(4, step, wrong);
+}
+
+// Empty, or why there is nothing to pick. A disabled item is there, but does nothing.
+std::string PickFromMenu(CChartDlg& window, int command)
+{
+    const std::string step = command == 0 ? "menu none" : "menu " + std::to_string(command);
+    if (command != 0 && !window.OpenMenu())
+        return step + ": no context menu is open; open one by a right mouse down in the step before";
+    if (command != 0 && FindMenuItem(window.OpenMenu()->Items, command) == nullptr)
+        return step + ": the open context menu has no such item; open that of another pane, or use command " +
+               std::to_string(command);
+    window.OnMenuCommand(command);
+    return "";
 }
 
 sReplayResult RunStep(const sReplayStep& step, CChartDlg& window, CReplayMessageBox& boxes, IReplayHost& host)
@@ -81,16 +95,15 @@ sReplayResult RunStep(const sReplayStep& step, CChartDlg& window, CReplayMessage
         host.Resize(step.X, step.Y);
         break;
     case ReplayAction::Menu:
-        window.OnMenuCommand(step.Number);
+        if (wrong = PickFromMenu(window, step.Number); !wrong.empty())
+            return Failed(2, step, wrong);
         break;
     case ReplayAction::Answer:
         boxes.Queue(step.BoxReply);
         break;
     case ReplayAction::WaitComplete:
-        if (!host.WaitComplete(step.Milliseconds))
-            return Failed(
-                3, step,
-                "the feed gave no complete reply in time; is it running and does it know the symbol?");
+        if (wrong = host.WaitComplete(step.Milliseconds); !wrong.empty())
+            return Failed(3, step, "wait complete: " + wrong);
         break;
     case ReplayAction::Wait:
         host.Wait(step.Milliseconds);

@@ -15,18 +15,18 @@ class IReplayHost
 {
 public:
     virtual ~IReplayHost() = default;
-    virtual bool WaitComplete(int milliseconds) = 0; // false: the reply was not complete and drawn in time
     virtual void Wait(int milliseconds) = 0;
     virtual void Resize(int width, int height) = 0;
-    // Empty, or one sentence that says what is wrong.
+    // Empty, or one sentence that says what is wrong. A wait goes on until the reply is complete and drawn.
+    virtual std::string WaitComplete(int milliseconds) = 0;
     virtual std::string Print(const std::string& file) = 0;
     virtual std::string Snapshot(const std::string& file) = 0;
 };
 
 struct sReplayResult
 {
-    int ExitCode =
-        0; // 0, 2 a value that cannot be set, 3 no complete reply in time, 4 a file that could not be written
+    int ExitCode = 0; // 0, 2 what the window does not take, 3 no complete reply in time, 4 a file that could
+                      // not be written
     std::string Message; // one sentence that names the line
 };
 

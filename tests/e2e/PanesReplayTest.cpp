@@ -117,13 +117,18 @@ TEST_F(PanesReplay, ItemsThatAreNotOfferedDoNothing)
         << "the price pane takes all of the room";
 }
 
-TEST_F(PanesReplay, AMenuThatIsClosedOrOfAnotherPressPicksNothing)
+TEST_F(PanesReplay, AMenuThatIsClosedOrOfAnotherPressIsNotThereToPickFrom)
 {
     Serve(60, DayLine);
-    After(DailyX +
-          "mouse down 342 2 3 3\nmenu none\nmenu 32793\nmouse down 342 2 3 3\nmouse down 342 1 3 60\n"
-          "menu 32793");
-    EXPECT_EQ(States(2), "999 (missing) (missing)");
+    for (const std::string closed : {"menu none\n", "mouse down 342 1 3 60\n"}) {
+        const sRun run = Play(DailyX + "mouse down 342 2 3 3\n" + closed + "menu 32793\n");
+        EXPECT_EQ(run.ExitCode, 2);
+        EXPECT_NE(run.Err.find("menu 32793: no context menu is open; open one by a right mouse down in the "
+                               "step before"),
+                  std::string::npos)
+            << run.Err;
+        EXPECT_EQ(States(2), "999 (missing) (missing)");
+    }
 }
 
 TEST_F(PanesReplay, ADraggedBorderIsStoredAsAShare)

@@ -79,8 +79,24 @@ TEST_F(Replay, AWaitThatRunsOutEndsWithExitThree)
 {
     const sRun run = Play("symbol NOSUCH\ndraw\nwait complete 1\nsnapshot 1.json\n");
     EXPECT_EQ(run.ExitCode, 3);
-    EXPECT_NE(run.Err.find("line 3"), std::string::npos) << run.Err;
+    EXPECT_EQ(run.Err,
+              "zantroq-chart: --replay script.txt: line 3: wait complete: NOSUCH: the feed gave no "
+              "complete reply in time (1 s); the embedded feed has no recording of it; name a folder "
+              "that has one with --feed embedded:FOLDER\n");
     EXPECT_TRUE(Bytes("1.json").isEmpty());
+}
+
+TEST_F(Replay, AWaitForNothingSaysSo)
+{
+    for (const std::string script : {"wait complete 0.1\n", "symbol \"A,B\"\ndraw\nwait complete 0.1\n"}) {
+        const sRun run = Play(script);
+        EXPECT_EQ(run.ExitCode, 3);
+        EXPECT_NE(
+            run.Err.find("wait complete: no chart was asked for, and 0.1 s brought none; let symbol and "
+                         "draw steps come before\n"),
+            std::string::npos)
+            << run.Err;
+    }
 }
 
 TEST_F(Replay, AFileThatCannotBeWrittenEndsWithExitFour)

@@ -489,15 +489,15 @@ TEST(Snapshot, SaysOfEachCommandWhatAClickWouldFind)
 struct sReplayHost : IReplayHost
 {
     explicit sReplayHost(sChartFixture& chart) : Chart(chart) {}
-    bool WaitComplete(int) override
+    std::string WaitComplete(int) override
     {
         if (!Answers)
-            return false;
+            return "X: no reply in 1 s; ask again";
         if (!Chart.Window->CompleteAndDrawn()) {
             Chart.Reply(200);
             Chart.Tick();
         }
-        return true;
+        return "";
     }
     void Wait(int) override { Chart.Tick(); }
     void Resize(int width, int height) override
@@ -562,7 +562,7 @@ TEST(Replay, EndsWithThreeWhenTheReplyDoesNotCome)
     sChartFixture chart;
     const sReplayResult result = Play(chart, "symbol X\ndraw\nwait complete 1\ncommand 779", false);
     EXPECT_EQ(result.ExitCode, 3);
-    EXPECT_EQ(result.Message.substr(0, 7), "line 3:");
+    EXPECT_EQ(result.Message, "line 3: wait complete: X: no reply in 1 s; ask again");
     EXPECT_TRUE(chart.Desktop.Commands.Checked[CommandGrid]); // the step behind it did not run
 }
 
@@ -577,7 +577,25 @@ TEST(Replay, PicksFromTheMenuOfTheRightClickBefore)
     auto chart = ChartOf(DailyData);
     Play(*chart, "symbol X\ndraw\nwait complete\nmouse down 342 2 100 40\nmenu 32793");
     EXPECT_EQ(chart->Window->Settings().Panes.MaximizedIndex, 1);
-    Play(*chart, "mouse down 342 2 100 40\nmenu none\nmenu 32791");
+    EXPECT_EQ(Play(*chart, "mouse down 342 2 100 40\nmenu 32793").ExitCode, 0) << "a disabled item";
+    EXPECT_EQ(chart->Window->Settings().Panes.MaximizedIndex, 1);
+}
+
+TEST(Replay, EndsWithTwoWhereNoMenuHasTheItem)
+{
+    auto chart = ChartOf(DailyData);
+    Play(*chart, "symbol X\ndraw\nwait complete\nmouse down 342 2 100 40\nmenu 32793");
+    for (const char* before : {"", "mouse down 342 2 100 40\nmenu none\nmenu none\n"}) {
+        const sReplayResult result = Play(*chart, std::string(before) + "menu 32791");
+        EXPECT_EQ(result.ExitCode, 2);
+        EXPECT_EQ(result.Message.substr(result.Message.find(':')),
+                  ": menu 32791: no context menu is open; open one by a right mouse down in the step before");
+    }
+    const sReplayResult result = Play(*chart, "mouse down 342 2 100 40\nmenu 777");
+    EXPECT_EQ(result.ExitCode, 2);
+    EXPECT_EQ(result.Message,
+              "line 2: menu 777: the open context menu has no such item; open that of another "
+              "pane, or use command 777");
     EXPECT_EQ(chart->Window->Settings().Panes.MaximizedIndex, 1);
 }
 
