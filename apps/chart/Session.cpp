@@ -139,13 +139,15 @@ int CSession::RunSnapshot()
     }
     if (m_line.SettleMs > 0)
         Wait(m_line.SettleMs);
+    int exitCode = ExitDone;
     for (const std::string& file : m_line.Snapshots) {
-        if (const std::string wrong = Snapshot(file); !wrong.empty()) {
-            Complain("--snapshot " + wrong);
-            return ExitNotWritten;
-        }
+        const std::string wrong = Snapshot(file);
+        if (wrong.empty())
+            continue;
+        Complain("--snapshot " + wrong);
+        exitCode = ExitNotWritten; // the other files are written all the same
     }
-    return ExitDone;
+    return exitCode;
 }
 
 int CSession::RunReplay()

@@ -144,6 +144,16 @@ TEST_F(ChartErrors, AFileThatCannotBeWrittenEndsWithExitFour)
     }
 }
 
+TEST_F(ChartErrors, AFileThatCannotBeWrittenKeepsNoOtherFromBeingWritten)
+{
+    const sRun run = Chart({"GOOG", "--data", "daily", "--feed", "embedded", "--snapshot", "no/such/a.png",
+                            "--snapshot", "b.png", "--snapshot", "no/such/c.svg", "--snapshot", "d.json"});
+    EXPECT_EQ(run.ExitCode, 4);
+    EXPECT_EQ(std::count(run.Err.begin(), run.Err.end(), '\n'), 2) << run.Err;
+    EXPECT_TRUE(Bytes("b.png").startsWith("\x89PNG"));
+    EXPECT_TRUE(Bytes("d.json").startsWith("{"));
+}
+
 #if !defined(__SANITIZE_ADDRESS__) // which takes more address space than these limits leave
 TEST_F(ChartErrors, WithoutTheMemoryForItAPictureIsWholeOrNotWritten)
 {
