@@ -16,6 +16,9 @@ namespace {
 constexpr QSize WindowSize(900, 700), PictureSize(620, 460);
 constexpr int LeastSide = 1, GreatestSide = 16'384;
 
+constexpr std::array SingleOptions{"--data",   "--interval", "--size",  "--feed",
+                                   "--settle", "--timeout",  "--replay"};
+
 struct sWrongUsage
 {
     std::string Sentence;
@@ -32,9 +35,14 @@ template<class TNumber> bool ReadWhole(const std::string& text, TNumber& number)
     return !text.empty() && read.ec == std::errc() && read.ptr == text.data() + text.size();
 }
 
+std::string Shown(const std::string& value)
+{
+    return value.empty() ? "\"\"" : value;
+}
+
 [[noreturn]] void Refuse(const std::string& option, const std::string& value, const std::string& advice)
 {
-    throw sWrongUsage{option + (value.empty() ? " \"\"" : " " + value) + ": " + advice};
+    throw sWrongUsage{option + " " + Shown(value) + ": " + advice};
 }
 
 int ReadDataType(const std::string& name)
@@ -91,6 +99,17 @@ int ReadMilliseconds(const std::string& option, const std::string& text, double 
                std::string("not a time; use a number of ") + (unit == 1 ? "milliseconds" : "seconds") +
                    " from 0 on, at most a day");
     return static_cast<int>(number * unit);
+}
+
+// Of two values nobody can say which one was meant.
+void CheckGivenOnce(const CLI::App& app)
+{
+    for (const char* name : SingleOptions) {
+        const std::vector<std::string>& values = app.get_option(name)->results();
+        if (values.size() > 1)
+            throw sWrongUsage{std::string(name) + " " + Shown(values[0]) + ", " + name + " " +
+                              Shown(values[1]) + ": given more than once; leave one"};
+    }
 }
 
 void CheckSnapshots(const CLI::App& app, const sCommandLine& line)
@@ -176,7 +195,11 @@ std::optional<sCommandLine> ReadCommandLine(int argc, char** argv, int& exitCode
                "be written.\n--snapshot and --replay need no display.\n"
                "ZANTROQ_LOOK=light, dark or system (default) chooses the look of a window.");
     try {
+        // Taken as they come, so that what is given twice is refused in this program's words.
+        for (const char* name : SingleOptions)
+            app.get_option(name)->take_last();
         app.parse(argc, argv);
+        CheckGivenOnce(app);
         if (app.count("--data") > 0)
             line.DataType = ReadDataType(texts.Data);
         if (app.count("--interval") > 0)
@@ -194,6 +217,8 @@ std::optional<sCommandLine> ReadCommandLine(int argc, char** argv, int& exitCode
     } catch (const CLI::Success& asked) { // --help and --version
         app.exit(asked);
         exitCode = std::cout.flush() ? ExitDone : ExitNotWritten;
+        if (exitCode != ExitDone)
+            Complain("standard output: cannot be written; send it to a terminal or to a file with room");
         return std::nullopt;
     } catch (const CLI::ParseError& error) {
         Complain(std::string(error.what()) + "; see zantroq-chart --help");

@@ -32,6 +32,27 @@ TEST_F(ChartErrors, HelpAndVersionGoToStandardOutput)
     EXPECT_EQ(Chart({"--version"}).Out.rfind("zantroq-chart ", 0), 0u);
 }
 
+TEST_F(ChartErrors, HelpAndVersionThatNobodyCanReadEndWithExitFour)
+{
+    for (const char* option : {"--help", "--version"}) {
+        const sRun run =
+            Run("/bin/sh", {"-c", "exec \"$0\" \"$1\" >/dev/full", ZANTROQ_CHART, option}, Environment());
+        EXPECT_EQ(run.ExitCode, 4) << option;
+        EXPECT_EQ(run.Err, "zantroq-chart: standard output: cannot be written; send it to a terminal or to a "
+                           "file with room\n");
+    }
+}
+
+TEST_F(ChartErrors, AnOptionGivenTwiceIsNamedWithBothValues)
+{
+    Refused({"--data", "daily", "--data", "tick", "GOOG"},
+            "--data daily, --data tick: given more than once; leave one");
+    Refused({"--size", "90x90", "--size", "90x90", "--size", "80x80", "GOOG"},
+            "--size 90x90, --size 90x90: given more than once; leave one");
+    Refused({"--replay", "a.txt", "--replay", ""},
+            "--replay a.txt, --replay \"\": given more than once; leave one");
+}
+
 TEST_F(ChartErrors, WrongValuesAreNamed)
 {
     Refused({"--interval", "7", "GOOG"},
