@@ -14,12 +14,28 @@ constexpr std::size_t MostFields = 88;
 constexpr std::string_view MarketCenter = "1";
 constexpr std::string_view PlainConditions = "01";
 
-void AppendField(Level1Field field, std::string_view symbol, const sLIVE_QUOTE& quote, std::string& text)
+void AppendSummaryContents(const sLIVE_QUOTE& quote, std::string& text)
+{
+    if (quote.Open)
+        text += 'C';
+    else if (quote.Last)
+        text += quote.Basis;
+    text += "ba";
+    if (quote.Open)
+        text += "ohl";
+    if (quote.PreviousClose)
+        text += 'c';
+    text += 'v';
+}
+
+void AppendField(Level1Field field, char type, std::string_view symbol, const sLIVE_QUOTE& quote,
+                 std::string& text)
 {
     char number[32];
-    const auto price = [&](sPRICE value) {
+    const auto price = [&](std::optional<sPRICE> value) {
         // Live prices are invented or rounded to the symbol's decimals; recorded ones stand as written.
-        text.append(number, WritePrice(number, value));
+        if (value)
+            text.append(number, WritePrice(number, *value));
     };
     const auto integer = [&](auto value) { text.append(number, WriteInteger(number, value)); };
     switch (field) {
@@ -82,7 +98,10 @@ void AppendField(Level1Field field, std::string_view symbol, const sLIVE_QUOTE& 
         text += MarketCenter;
         break;
     case Level1Contents:
-        text += quote.Contents;
+        if (type == 'P')
+            AppendSummaryContents(quote, text);
+        else
+            text += quote.Contents;
         break;
     case Level1Conditions:
         text += PlainConditions;
@@ -91,6 +110,16 @@ void AppendField(Level1Field field, std::string_view symbol, const sLIVE_QUOTE& 
 }
 
 } // namespace
+
+void sLIVE_QUOTE::TakeRegularPrice(sPRICE price)
+{
+    if (!Open)
+        Open = High = Low = price;
+    if (IsBelow(*High, price))
+        High = price;
+    if (IsBelow(price, *Low))
+        Low = price;
+}
 
 TFieldSelection AllQuoteFields()
 {
@@ -136,7 +165,7 @@ void AppendQuoteLine(char type, std::string_view symbol, const sLIVE_QUOTE& quot
     text += type;
     for (const Level1Field field : selection) {
         text += ',';
-        AppendField(field, symbol, quote, text);
+        AppendField(field, type, symbol, quote, text);
     }
     text += ",\r\n";
 }

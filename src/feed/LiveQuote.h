@@ -10,25 +10,35 @@
 #include "feed/FeedRecords.h"
 #include "market/Level1Command.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace zantroq::feed {
 
+// A price that nobody knows is absent and leaves its field empty; a size or count that nobody knows is 0.
 struct sLIVE_QUOTE
 {
-    TFeedTime Time = 0; // of the most recent trade
-    sPRICE Last, Open, High, Low, PreviousClose, Bid, Ask;
+    TFeedTime Time = 0;         // of the most recent trade
+    std::optional<sPRICE> Last; // its price, and Basis its kind
+    char Basis = 0;
+    // Of the day's regular trades.
+    std::optional<sPRICE> Open, High, Low;
+    std::optional<sPRICE> PreviousClose; // of the trading day before
+    sPRICE Bid, Ask;
     std::int64_t TotalVolume = 0; // of the day
     std::uint32_t Size = 0, BidSize = 0, AskSize = 0;
     std::uint32_t OpenInterest = 0;
     std::uint32_t TickId = 0;
     int DisplayCode = 12;
     unsigned Decimals = 2;
-    // Letters: C a regular trade, E an extended one, O another, b and a a changed bid and ask, v the volume,
-    // o, h and l a changed open, high and low, c the close.
+    // Of an update. Letters: C a regular trade, E an extended one, O another, b and a a changed bid and ask,
+    // v the volume, o, h and l a changed open, high and low, c the close.
     std::string_view Contents;
+
+    // Puts a regular trade into the day's open, high and low.
+    void TakeRegularPrice(sPRICE price);
 };
 
 using TFieldSelection = std::vector<Level1Field>;
@@ -40,7 +50,8 @@ TFieldSelection AllQuoteFields();
 bool ReadFieldSelection(std::string_view names, TFieldSelection& selection);
 std::string FieldNamesText(const TFieldSelection& selection);
 
-// `type` is 'Q' or 'P'. The symbol stands in the line as it was asked for.
+// `type` is 'Q' or 'P'. The symbol stands in the line as it was asked for. The contents of a summary are the
+// letters of all that is known; it is a regular trade's once the day has had one.
 void AppendQuoteLine(char type, std::string_view symbol, const sLIVE_QUOTE& quote,
                      const TFieldSelection& selection, std::string& text);
 void AppendFundamentalLine(std::string_view symbol, const sLIVE_QUOTE& quote, const sLISTED_SYMBOL* listed,

@@ -1,15 +1,10 @@
 #include "feed/LiveTrades.h"
 
+#include "feed/LastPoint.h"
+
 #include <algorithm>
 
 namespace zantroq::feed {
-namespace {
-
-constexpr TFeedTime OpeningTime = (9 * 60 + 30) * 60 * MsPerSecond;
-constexpr TFeedTime ClosingTime = 16 * 3600 * MsPerSecond;
-constexpr std::string_view SummaryContents = "Cbaohlcv";
-
-} // namespace
 
 CLiveTrades::CLiveTrades(const IMarketSource& market, std::string_view symbol, std::uint64_t seed,
                          LiveManner manner)
@@ -21,60 +16,28 @@ CLiveTrades::CLiveTrades(const IMarketSource& market, std::string_view symbol, s
 
 void CLiveTrades::StartAtLastPoint()
 {
-    m_quote.DisplayCode = m_market.DisplayCode();
-    m_quote.Decimals = m_market.Decimals();
-    m_quote.Contents = SummaryContents;
-
-    const auto daily = m_market.Daily();
-    const auto minuteDays = m_market.MinuteDays();
+    const sLAST_POINT point = LastPointOf(m_market);
+    m_quote = point.Quote;
+    m_day = point.Day;
+    m_clock = point.Clock;
     const auto tickDays = m_market.TickDays();
-    if (!daily.empty()) {
-        const sFEED_BAR& bar = daily.back();
-        m_day = DayOf(bar.Stamp);
-        m_quote.Time = StartOfDay(m_day) + ClosingTime;
-        m_quote.Last = bar.Close;
-        m_quote.Open = bar.Open;
-        m_quote.High = bar.High;
-        m_quote.Low = bar.Low;
-        m_quote.TotalVolume = bar.Volume;
-        m_quote.OpenInterest = bar.OpenInterest;
-        m_quote.PreviousClose = daily.size() > 1 ? daily[daily.size() - 2].Close : bar.Close;
-        // The next session begins on the next weekday, unless finer records below say where this one stands.
-        m_clock = StartOfDay(NextWeekday(m_day)) + OpeningTime - 1;
-    }
-    bool fine = false;
-    const auto standAt = [&](TFeedTime time, TFeedDay day, sPRICE last) {
-        // Finer records that end days before the daily ones say nothing about where the market stands.
-        if ((!daily.empty() && day < m_day) || (fine && time < m_quote.Time))
-            return;
-        fine = true;
-        m_quote.Time = m_clock = time;
-        m_quote.Last = last;
-    };
-    if (!minuteDays.empty()) {
-        std::vector<sFEED_BAR> scratch;
-        const sFEED_BAR bar = m_market.Minutes(minuteDays.size() - 1, scratch).back();
-        standAt(bar.Stamp, minuteDays.back(), bar.Close);
-    }
-    if (!tickDays.empty()) {
+    if (m_manner == LiveManner::Replayed && !tickDays.empty()) {
         std::vector<sFEED_TICK> scratch;
         const auto ticks = m_market.Ticks(tickDays.size() - 1, scratch);
-        standAt(ticks.back().Time, tickDays.back(), ticks.back().Last);
-        m_quote.TickId = ticks.back().TickId;
-        if (m_manner == LiveManner::Replayed) {
-            m_ticks.assign(ticks.begin(), ticks.end());
-            m_shift = m_clock + 1 - m_ticks.front().Time;
-        }
+        m_ticks.assign(ticks.begin(), ticks.end());
+        m_shift = m_clock + 1 - m_ticks.front().Time;
     }
-    m_quote.Last = WithDecimals(m_quote.Last, m_quote.Decimals);
-    m_base = m_quote.Last.Mantissa;
+    const sPRICE last = WithDecimals(m_quote.Last.value_or(sPRICE{}), m_quote.Decimals);
+    if (m_quote.Last)
+        m_quote.Last = last;
+    m_base = last.Mantissa;
     // About two hundredths of a percent, and for fractions the fraction itself.
     const std::int64_t fraction =
         m_quote.DisplayCode >= 1 && m_quote.DisplayCode <= 8
             ? WithDecimals(MakePrice(1, 0), m_quote.Decimals).Mantissa >> m_quote.DisplayCode
             : 0;
     m_step = fraction > 0 ? fraction : std::max<std::int64_t>(1, std::abs(m_base) / 5000);
-    const auto decimals = static_cast<unsigned>(m_quote.Last.Decimals);
+    const auto decimals = static_cast<unsigned>(last.Decimals);
     m_quote.Bid = MakePrice(m_base - m_step, decimals);
     m_quote.Ask = MakePrice(m_base + m_step, decimals);
     m_quote.BidSize = m_quote.AskSize = 100;
@@ -88,7 +51,8 @@ bool CLiveTrades::NextTime(TFeedTime& time) const
 
 void CLiveTrades::PlanNext()
 {
-    if (m_manner == LiveManner::Invented)
+    // What was never traded has no price to go on from.
+    if (m_manner == LiveManner::Invented && m_quote.Last)
         m_next = m_clock + 100 + m_random.Below(900);
     else if (m_manner == LiveManner::Replayed && m_tick < m_ticks.size())
         m_next = std::max(m_clock + 1, m_ticks[m_tick].Time + m_shift);
@@ -112,9 +76,9 @@ void CLiveTrades::Advance()
 
 void CLiveTrades::InventNext()
 {
-    const std::int64_t last = m_quote.Last.Mantissa;
-    const auto decimals = static_cast<unsigned>(m_quote.Last.Decimals);
-    const bool still = m_market.IsSimulated() && PriceValue(m_quote.High) == PriceValue(m_quote.Low);
+    const std::int64_t last = m_quote.Last->Mantissa;
+    const auto decimals = static_cast<unsigned>(m_quote.Last->Decimals);
+    const bool still = m_market.IsSimulated() && PriceValue(*m_quote.High) == PriceValue(*m_quote.Low);
     const std::int64_t pull = std::clamp<std::int64_t>((m_base - last) / (50 * m_step), -1, 1);
     const std::int64_t move = still ? 0 : (m_random.Around(2) + (m_random.Below(4) == 0 ? pull : 0)) * m_step;
     const std::int64_t price = last + move > m_step ? last + move : last;
@@ -143,12 +107,13 @@ void CLiveTrades::Trade(sPRICE price, std::uint32_t size, char basis)
     }
     m_quote.Time = m_clock;
     m_quote.Last = price;
+    m_quote.Basis = basis;
     m_quote.Size = size;
     m_quote.TotalVolume += size;
     ++m_quote.TickId;
     // Extended and other trades change the volume, not the day's regular prices.
-    const bool higher = basis == 'C' && IsBelow(m_quote.High, price),
-               lower = basis == 'C' && IsBelow(price, m_quote.Low);
+    const bool higher = basis == 'C' && m_quote.High && IsBelow(*m_quote.High, price),
+               lower = basis == 'C' && m_quote.Low && IsBelow(price, *m_quote.Low);
     if (higher)
         m_quote.High = price;
     if (lower)

@@ -36,6 +36,11 @@ constexpr std::string_view AllFields =
     "Code,TickID,Most Recent Trade "
     "Market Center,Bid Market Center,Ask Market Center,Message Contents,Most Recent Trade Conditions";
 
+// What a summary says about its day.
+constexpr std::string_view DayFields = "S,SELECT UPDATE FIELDS,Symbol,Most Recent Trade Date,Most Recent "
+                                       "Trade TimeMS,Most Recent Trade,Open,High,"
+                                       "Low,Close,Total Volume,Open Interest";
+
 } // namespace
 
 class Level1Session : public testing::Test
@@ -88,6 +93,67 @@ TEST_F(Level1Session, AWatchGivesTheFundamentalLineAndThenTheSummary)
         lines[1],
         "P,DY,2000,0,12.00,10.00,10.99,11.01,100,100,16:00:00.000,5,10.50,10.5,01/03/2014,11.00,12,0,1,1,1,"
         "Cbaohlcv,01,");
+}
+
+TEST_F(Level1Session, ASummaryIsOfTheDayOfTheNewestRecords)
+{
+    m_folder.Write("NEW.daily.csv", "date,open,high,low,close,volume,open_interest\n"
+                                    "2014-01-02,100,110,90,105,1000,5\n2014-01-03,105,111,95,106,2000,6\n");
+    m_folder.Write("NEW.tick.csv", "time,last,size,total_volume,bid,ask,tick_id,basis\n"
+                                   "2014-01-06 09:30:00.000,200,10,10,199,201,1,C\n"
+                                   "2014-01-06 09:30:01.000,203,10,20,202,204,2,C\n"
+                                   "2014-01-06 09:30:02.000,201,10,30,200,202,3,C\n");
+    m_folder.Write("NEWM.daily.csv", "date,open,high,low,close,volume\n2014-01-03,5,6,4,5.5,100\n");
+    m_folder.Write("NEWM.minute.csv", "time,open,high,low,close,volume\n2014-01-06 09:31:00,7,9,6,8,30\n"
+                                      "2014-01-06 09:32:00,8,8.5,7,7.5,40\n");
+    m_catalog.AddFolder(m_folder.Path());
+    CLevel1Session session(m_catalog, {});
+    Say(session, DayFields);
+    // Date, time, last, open, high, low, close before, volume, open interest.
+    EXPECT_EQ(Lines(Say(session, "wNEW"))[1], "P,NEW,01/06/2014,09:30:02.000,201.00,200,203,200,106,30,0,");
+    EXPECT_EQ(Lines(Say(session, "wNEWM"))[1], "P,NEWM,01/06/2014,09:32:00.000,7.50,7,9,6,5.5,70,0,");
+}
+
+TEST_F(Level1Session, AMinuteStampedMidnightStandsInTheDayThatItCloses)
+{
+    m_folder.Write("MID.minute.csv", "time,open,high,low,close,volume\n2014-01-02 23:59:00,10,11,9,10,5\n"
+                                     "2014-01-03 00:00:00,10,12,9.5,11,7\n");
+    m_catalog.AddFolder(m_folder.Path());
+    CLevel1Session session(m_catalog, {});
+    Say(session, DayFields);
+    EXPECT_EQ(Lines(Say(session, "wMID"))[1], "P,MID,01/02/2014,23:59:59.999,11.00,10,12,9,,12,0,");
+}
+
+TEST_F(Level1Session, RecordedTicksOfTheDayStayInItsValuesWhenTradesGoOn)
+{
+    m_folder.Write("ON.daily.csv", "date,open,high,low,close,volume\n2014-01-03,5,6,4,5.5,100\n");
+    m_folder.Write("ON.tick.csv", "time,last,size,basis\n2014-01-06 09:30:00,7.00,30,C\n"
+                                  "2014-01-06 09:31:00,99.00,40,C\n2014-01-06 09:32:00,8.00,50,C\n");
+    m_catalog.AddFolder(m_folder.Path());
+    CLevel1Session session(m_catalog, {.SimulateAll = true});
+    Say(session, DayFields);
+    EXPECT_EQ(Lines(Say(session, "wON"))[2], "P,ON,01/06/2014,09:32:00.000,8.00,7.00,99.00,7.00,5.5,120,0,");
+    const auto lines = Trades(session, 30s);
+    ASSERT_FALSE(lines.empty());
+    for (const auto& line : lines) {
+        const auto fields = Fields(line);
+        EXPECT_EQ(fields[2], "01/06/2014");
+        EXPECT_EQ(fields[5], "7.00");
+        EXPECT_EQ(fields[6], "99.00");
+        EXPECT_LE(std::atof(fields[7].c_str()), 7);
+        EXPECT_EQ(fields[8], "5.5");
+        EXPECT_GE(std::atoi(fields[9].c_str()), 120);
+    }
+}
+
+// A second chart of a symbol that moves already is served like the first.
+TEST_F(Level1Session, ASummaryInBetweenTellsOfTheWholeDay)
+{
+    CLevel1Session session(m_catalog, {.SimulateAll = true});
+    Say(session, "S,SELECT UPDATE FIELDS,Symbol,Message Contents");
+    Say(session, "wDY");
+    EXPECT_FALSE(Trades(session, 30s).empty());
+    EXPECT_EQ(Lines(Say(session, "wDY"))[1], "P,DY,Cbaohlcv,");
 }
 
 TEST_F(Level1Session, TheFundamentalLineCarriesCodeAndDecimalsAt39And40)
