@@ -69,7 +69,10 @@ void CLiveTrades::Advance()
         const sFEED_TICK& tick = m_ticks[m_tick++];
         m_quote.Bid = tick.Bid;
         m_quote.Ask = tick.Ask;
-        Trade(tick.Last, tick.Size, tick.Basis);
+        if (IsTrade(tick))
+            Trade(tick.Last, tick.Size, tick.Basis);
+        else
+            m_quote.Contents = "ba";
     }
     PlanNext();
 }
@@ -122,8 +125,6 @@ void CLiveTrades::Trade(sPRICE price, std::uint32_t size, char basis)
         m_quote.Contents = "Ebav";
     else if (basis == 'O')
         m_quote.Contents = "Obav";
-    else if (basis != 'C')
-        m_quote.Contents = "ba";
     else
         m_quote.Contents = newDay ? "Cbaohlv" : higher ? "Cbahv" : lower ? "Cbalv" : "Cbav";
 }

@@ -36,6 +36,7 @@ private:
     void StartAtLastPoint();
     void PlanNext();
     void InventNext();
+    // `basis` is that of a trade.
     void Trade(sPRICE price, std::uint32_t size, char basis);
 
     const IMarketSource& m_market;

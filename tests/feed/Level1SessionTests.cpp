@@ -353,6 +353,52 @@ TEST_F(Level1Session, RecordedTicksAreReplayedBehindTheLastPoint)
     EXPECT_EQ(m_notices.size(), 1u);
 }
 
+constexpr std::string_view TicksWithQuotes = "time,last,size,total_volume,bid,ask,tick_id,basis\n"
+                                             "2014-01-06 09:30:00.000,200.00,10,10,199.50,200.50,7,C\n"
+                                             "2014-01-06 09:30:01.000,201.00,30,40,200.50,201.50,8,C\n"
+                                             "2014-01-06 09:30:02.000,999.00,50,90,200.75,201.25,9,X\n";
+
+TEST_F(Level1Session, ARowThatIsNoTradeIsNotThePriceOfTheMarket)
+{
+    m_folder.Write("QU.tick.csv", TicksWithQuotes);
+    m_catalog.AddFolder(m_folder.Path());
+    for (const bool simulate : {false, true}) {
+        CLevel1Session session(m_catalog, {.SimulateAll = simulate});
+        Say(session, "S,SELECT UPDATE FIELDS,Symbol,Most Recent Trade TimeMS,Most Recent Trade,High,Total "
+                     "Volume,TickID,Message Contents");
+        EXPECT_EQ(Lines(Say(session, "wQU")).back(), "P,QU,09:30:01.000,201.00,201.00,40,8,Cbaohlv,");
+        for (const auto& line : Trades(session, 60s)) {
+            EXPECT_LT(std::abs(std::atof(Fields(line)[3].c_str()) - 201), 5) << line;
+            EXPECT_GT(Fields(line)[2], "09:30:00.999") << line;
+        }
+    }
+}
+
+TEST_F(Level1Session, AReplayedRowThatIsNoTradeChangesBidAndAskAlone)
+{
+    m_folder.Write("QU.tick.csv", TicksWithQuotes);
+    m_catalog.AddFolder(m_folder.Path());
+    CLevel1Session session(m_catalog, {.ReplayTicks = true});
+    Say(session, "S,SELECT UPDATE FIELDS,Symbol,Most Recent Trade TimeMS,Most Recent Trade,Most Recent Trade "
+                 "Size,Total Volume,TickID,Bid,Ask,Message Contents");
+    Say(session, "wQU");
+    const auto lines = Trades(session, 1h);
+    ASSERT_EQ(lines.size(), 3u);
+    EXPECT_EQ(lines[1], "Q,QU,09:30:03.001,201.00,30,80,10,200.50,201.50,Cbav,");
+    EXPECT_EQ(lines[2], "Q,QU,09:30:03.001,201.00,30,80,10,200.75,201.25,ba,");
+}
+
+// There is no price to begin with, and nothing goes on from it.
+TEST_F(Level1Session, ASymbolThatWasNeverTradedHasNoPrice)
+{
+    m_folder.Write("NO.tick.csv", "time,last,size,bid,ask,basis\n2014-01-06 09:30:00,5.00,10,4.90,5.10,X\n");
+    m_catalog.AddFolder(m_folder.Path());
+    CLevel1Session session(m_catalog, {.SimulateAll = true});
+    Say(session, DayFields);
+    EXPECT_EQ(Lines(Say(session, "wNO")).back(), "P,NO,01/06/2014,09:30:00.000,,,,,,0,0,");
+    EXPECT_TRUE(Trades(session, 60s).empty());
+}
+
 TEST_F(Level1Session, TradesRunPastMidnightIntoANewDay)
 {
     CLevel1Session session(m_catalog, {.SimulateAll = true, .Speed = 1000});
