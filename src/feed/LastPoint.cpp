@@ -68,8 +68,11 @@ sLAST_POINT LastPointOf(const IMarketSource& market)
     sNEWEST_TICKS ticks;
     FindNewestTicks(market, ticks);
     if (daily.empty() && minuteDays.empty() && !ticks.Trade) {
-        if (!ticks.Ticks.empty())
+        if (!ticks.Ticks.empty()) {
             quote.Time = point.Clock = ticks.Ticks.back().Time;
+            quote.Bid = ticks.Ticks.back().Bid;
+            quote.Ask = ticks.Ticks.back().Ask;
+        }
         point.Day = DayOf(point.Clock);
         return point;
     }
@@ -114,6 +117,9 @@ sLAST_POINT LastPointOf(const IMarketSource& market)
             quote.Time = ticks.Trade->Time;
             quote.Last = ticks.Trade->Last;
             quote.Basis = ticks.Trade->Basis;
+            quote.Size = ticks.Trade->Size;
+            quote.Bid = ticks.Ticks.back().Bid;
+            quote.Ask = ticks.Ticks.back().Ask;
         }
         const TFeedTime lastRow = ticks.Ticks.back().Time;
         point.Clock = hasMinutes ? std::max(point.Clock, lastRow) : lastRow;

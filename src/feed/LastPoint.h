@@ -18,9 +18,10 @@ struct sLAST_POINT
     TFeedTime Clock = 0; // what goes on from here comes later than this
 };
 
-// A day that is in daily bars has that bar's values, a newer one those of its minutes; its ticks are within
-// them in either case. Open, high and low are absent on a day without a regular trade, the close before where
-// no daily bar is older, the last price where nothing was ever traded.
+// Bid, ask and size are recorded ones, absent where the newest record is a bar. A day that is in daily bars
+// has that bar's values, a newer one those of its minutes; its ticks are within them in either case. Open,
+// high and low are absent on a day without a regular trade, the close before where no daily bar is older, the
+// last price where nothing was ever traded.
 sLAST_POINT LastPointOf(const IMarketSource& market);
 
 } // namespace zantroq::feed

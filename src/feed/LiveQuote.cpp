@@ -20,7 +20,10 @@ void AppendSummaryContents(const sLIVE_QUOTE& quote, std::string& text)
         text += 'C';
     else if (quote.Last)
         text += quote.Basis;
-    text += "ba";
+    if (quote.Bid)
+        text += 'b';
+    if (quote.Ask)
+        text += 'a';
     if (quote.Open)
         text += "ohl";
     if (quote.PreviousClose)

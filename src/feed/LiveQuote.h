@@ -26,7 +26,7 @@ struct sLIVE_QUOTE
     // Of the day's regular trades.
     std::optional<sPRICE> Open, High, Low;
     std::optional<sPRICE> PreviousClose; // of the trading day before
-    sPRICE Bid, Ask;
+    std::optional<sPRICE> Bid, Ask;
     std::int64_t TotalVolume = 0; // of the day
     std::uint32_t Size = 0, BidSize = 0, AskSize = 0;
     std::uint32_t OpenInterest = 0;

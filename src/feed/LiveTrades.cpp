@@ -37,10 +37,10 @@ void CLiveTrades::StartAtLastPoint()
             ? WithDecimals(MakePrice(1, 0), m_quote.Decimals).Mantissa >> m_quote.DisplayCode
             : 0;
     m_step = fraction > 0 ? fraction : std::max<std::int64_t>(1, std::abs(m_base) / 5000);
-    const auto decimals = static_cast<unsigned>(last.Decimals);
-    m_quote.Bid = MakePrice(m_base - m_step, decimals);
-    m_quote.Ask = MakePrice(m_base + m_step, decimals);
-    m_quote.BidSize = m_quote.AskSize = 100;
+    if (m_manner == LiveManner::Invented && m_quote.Last) {
+        InventQuote(last);
+        m_quote.BidSize = m_quote.AskSize = 100;
+    }
 }
 
 bool CLiveTrades::NextTime(TFeedTime& time) const
@@ -77,6 +77,12 @@ void CLiveTrades::Advance()
     PlanNext();
 }
 
+void CLiveTrades::InventQuote(sPRICE price)
+{
+    m_quote.Bid = MakePrice(price.Mantissa - m_step, price.Decimals);
+    m_quote.Ask = MakePrice(price.Mantissa + m_step, price.Decimals);
+}
+
 void CLiveTrades::InventNext()
 {
     const std::int64_t last = m_quote.Last->Mantissa;
@@ -89,8 +95,7 @@ void CLiveTrades::InventNext()
     m_quote.BidSize = 100 * (1 + m_random.Below(20));
     m_quote.AskSize = 100 * (1 + m_random.Below(20));
     const std::uint32_t size = 10 * (1 + m_random.Below(50));
-    m_quote.Bid = MakePrice(price - m_step, decimals);
-    m_quote.Ask = MakePrice(price + m_step, decimals);
+    InventQuote(MakePrice(price, decimals));
     if (kind < 15)
         m_quote.Contents = "ba";
     else

@@ -36,6 +36,7 @@ private:
     void StartAtLastPoint();
     void PlanNext();
     void InventNext();
+    void InventQuote(sPRICE price);
     // `basis` is that of a trade.
     void Trade(sPRICE price, std::uint32_t size, char basis);
 

@@ -228,6 +228,30 @@ TEST_F(ChartReadsFeed, LiveTradesFollowOnTheHistory)
     EXPECT_EQ(m_removed, (std::vector<std::string>{}));
 }
 
+// Without bid and ask, and with the day that it brings taken whole.
+TEST_F(ChartReadsFeed, ASummaryOfANewerDayGivesADailyChartItsBar)
+{
+    m_folder.Write("NEW.daily.csv", "date,open,high,low,close,volume,open_interest\n"
+                                    "2014-01-03,105,111,95,106,2000,6\n");
+    m_folder.Write("NEW.minute.csv",
+                   "time,open,high,low,close,volume\n2014-01-06 09:31:00,200,203,199,202,30\n");
+    m_catalog.AddFolder(m_folder.Path());
+    Request(DailyByDatapoints, "NEW");
+    Say(Level1SetupText());
+    EXPECT_EQ(Load(), 1);
+    m_watches.Add("NEW", EnterRequest(m_request));
+    Say(WatchCommand("NEW"));
+    ASSERT_EQ(m_request.GetCount(FieldTime), 2);
+    EXPECT_EQ(TimeOf(1), "2014-01-06 00:00:00");
+    const sHIST_POINT bar = Point(1);
+    EXPECT_EQ(bar.Open, 200);
+    EXPECT_EQ(bar.High, 203);
+    EXPECT_EQ(bar.Low, 199);
+    EXPECT_EQ(bar.Close, 202);
+    EXPECT_EQ(bar.TotalVolume, 30);
+    EXPECT_EQ(bar.OpenInterest, 0u);
+}
+
 // The chart answers what it did not ask for by a remove command, and the feed stops.
 TEST_F(ChartReadsFeed, UpdatesThatNobodyWantsEnd)
 {

@@ -89,10 +89,8 @@ TEST_F(Level1Session, AWatchGivesTheFundamentalLineAndThenTheSummary)
     const auto lines = Lines(Say(session, "wDY"));
     ASSERT_EQ(lines.size(), 2u);
     EXPECT_TRUE(lines[0].starts_with("F,DY,"));
-    EXPECT_EQ(
-        lines[1],
-        "P,DY,2000,0,12.00,10.00,10.99,11.01,100,100,16:00:00.000,5,10.50,10.5,01/03/2014,11.00,12,0,1,1,1,"
-        "Cbaohlcv,01,");
+    EXPECT_EQ(lines[1], "P,DY,2000,0,12.00,10.00,,,0,0,16:00:00.000,5,10.50,10.5,01/03/2014,11.00,12,0,1,1,1,"
+                        "Cohlcv,01,");
 }
 
 TEST_F(Level1Session, ASummaryIsOfTheDayOfTheNewestRecords)
@@ -397,6 +395,32 @@ TEST_F(Level1Session, ASymbolThatWasNeverTradedHasNoPrice)
     Say(session, DayFields);
     EXPECT_EQ(Lines(Say(session, "wNO")).back(), "P,NO,01/06/2014,09:30:00.000,,,,,,0,0,");
     EXPECT_TRUE(Trades(session, 60s).empty());
+}
+
+TEST_F(Level1Session, QuotesOfARecordingAreRecordedOnesOrEmpty)
+{
+    m_folder.Write("QU.tick.csv", TicksWithQuotes);
+    m_folder.Write("QM.tick.csv", TicksWithQuotes);
+    m_folder.Write("QM.minute.csv",
+                   "time,open,high,low,close,volume\n2014-01-06 09:40:00,200,202,199,202,9\n");
+    m_catalog.AddFolder(m_folder.Path());
+    const std::string fields =
+        "S,SELECT UPDATE FIELDS,Symbol,Most Recent Trade,Most Recent Trade Size,Bid,Bid "
+        "Size,Ask,Ask Size,Message Contents";
+    for (const bool replay : {false, true}) {
+        CLevel1Session session(m_catalog, {.ReplayTicks = replay});
+        Say(session, fields);
+        EXPECT_EQ(Lines(Say(session, "wQU")).back(), "P,QU,201.00,30,200.75,0,201.25,0,Cbaohlv,");
+        // Newer minutes tell of no quotes.
+        EXPECT_EQ(Lines(Say(session, "wQM")).back(), "P,QM,202.00,0,,0,,0,Cohlv,");
+        EXPECT_EQ(Lines(Say(session, "wDY")).back(), "P,DY,11.00,0,,0,,0,Cohlcv,");
+    }
+    // Invented ones go with the word for it.
+    CLevel1Session session(m_catalog, {.SimulateAll = true});
+    Say(session, fields);
+    const auto lines = Lines(Say(session, "wDY"));
+    EXPECT_EQ(lines.front(), "S,SIMULATED,DY");
+    EXPECT_EQ(lines.back(), "P,DY,11.00,0,10.99,100,11.01,100,Cbaohlcv,");
 }
 
 TEST_F(Level1Session, TradesRunPastMidnightIntoANewDay)
