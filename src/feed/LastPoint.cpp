@@ -30,6 +30,13 @@ void FindNewestTicks(const IMarketSource& market, sNEWEST_TICKS& newest)
     }
 }
 
+const sFEED_TICK* NewestRegularTrade(std::span<const sFEED_TICK> ticks)
+{
+    const auto trade =
+        std::find_if(ticks.rbegin(), ticks.rend(), [](const sFEED_TICK& tick) { return tick.Basis == 'C'; });
+    return trade == ticks.rend() ? nullptr : &*trade;
+}
+
 void TakeDayOf(const sFEED_BAR& bar, sLIVE_QUOTE& quote)
 {
     quote.Last = bar.Close;
@@ -90,8 +97,9 @@ sLAST_POINT LastPointOf(const IMarketSource& market)
     const auto isDay = [](const sFEED_BAR& bar, TFeedDay wanted) { return DayOf(bar.Stamp) < wanted; };
     const auto dayBar = std::lower_bound(daily.begin(), daily.end(), day, isDay);
     if (dayBar != daily.begin())
-        quote.PreviousClose = std::prev(dayBar)->Close;
+        point.Close = quote.PreviousClose = std::prev(dayBar)->Close;
     if (dayBar != daily.end()) {
+        point.Close = dayBar->Close;
         TakeDayOf(*dayBar, quote);
         quote.Time = StartOfDay(day) + ClosingTime;
         point.Clock = StartOfDay(NextWeekday(day)) + OpeningTime - 1;
@@ -103,7 +111,7 @@ sLAST_POINT LastPointOf(const IMarketSource& market)
             BuildIntervalsFromMinutes(minutes, static_cast<int>(MsPerDay / MsPerSecond), whole);
             TakeDayOf(whole.front(), quote);
         }
-        quote.Last = minutes.back().Close;
+        quote.Last = point.Close = minutes.back().Close;
         quote.Basis = 'C';
         point.Clock = minutes.back().Stamp;
         // A bar stamped midnight closes this day and has no trade of the next.
@@ -114,6 +122,8 @@ sLAST_POINT LastPointOf(const IMarketSource& market)
         quote.TickId = ticks.Trade->TickId;
         const bool newest = !hasMinutes || ticks.Trade->Time >= point.Clock - MsPerMinute;
         if (newest) {
+            if (const sFEED_TICK* const regular = NewestRegularTrade(ticks.Ticks))
+                point.Close = regular->Last;
             quote.Time = ticks.Trade->Time;
             quote.Last = ticks.Trade->Last;
             quote.Basis = ticks.Trade->Basis;

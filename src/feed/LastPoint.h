@@ -14,8 +14,9 @@ inline constexpr TFeedTime ClosingTime = 16 * 3600 * MsPerSecond;
 struct sLAST_POINT
 {
     sLIVE_QUOTE Quote;
-    TFeedDay Day = 0;    // the trading day of Quote's open, high, low, volume and open interest
-    TFeedTime Clock = 0; // what goes on from here comes later than this
+    TFeedDay Day = 0;            // the trading day of Quote's open, high, low, volume and open interest
+    std::optional<sPRICE> Close; // newest regular price, which the next day has as its close before
+    TFeedTime Clock = 0;         // what goes on from here comes later than this
 };
 
 // Bid, ask and size are recorded ones, absent where the newest record is a bar. A day that is in daily bars

@@ -20,6 +20,8 @@ void CLiveTrades::StartAtLastPoint()
     m_quote = point.Quote;
     m_day = point.Day;
     m_clock = point.Clock;
+    m_close = point.Close;
+    m_still = m_market.IsSimulated() && m_quote.Open && PriceValue(*m_quote.High) == PriceValue(*m_quote.Low);
     const auto tickDays = m_market.TickDays();
     if (m_manner == LiveManner::Replayed && !tickDays.empty()) {
         std::vector<sFEED_TICK> scratch;
@@ -87,9 +89,9 @@ void CLiveTrades::InventNext()
 {
     const std::int64_t last = m_quote.Last->Mantissa;
     const auto decimals = static_cast<unsigned>(m_quote.Last->Decimals);
-    const bool still = m_market.IsSimulated() && PriceValue(*m_quote.High) == PriceValue(*m_quote.Low);
     const std::int64_t pull = std::clamp<std::int64_t>((m_base - last) / (50 * m_step), -1, 1);
-    const std::int64_t move = still ? 0 : (m_random.Around(2) + (m_random.Below(4) == 0 ? pull : 0)) * m_step;
+    const std::int64_t move =
+        m_still ? 0 : (m_random.Around(2) + (m_random.Below(4) == 0 ? pull : 0)) * m_step;
     const std::int64_t price = last + move > m_step ? last + move : last;
     const std::uint32_t kind = m_random.Below(100);
     m_quote.BidSize = 100 * (1 + m_random.Below(20));
@@ -102,17 +104,20 @@ void CLiveTrades::InventNext()
         Trade(MakePrice(price, decimals), size, kind < 18 ? 'E' : kind < 20 ? 'O' : 'C');
 }
 
+void CLiveTrades::BeginDay(TFeedDay day)
+{
+    m_quote.PreviousClose = m_close;
+    m_quote.Open = m_quote.High = m_quote.Low = std::nullopt;
+    m_quote.TotalVolume = 0;
+    m_quote.OpenInterest = 0;
+    m_quote.TickId = 0;
+    m_day = day;
+}
+
 void CLiveTrades::Trade(sPRICE price, std::uint32_t size, char basis)
 {
-    const TFeedDay day = DayOf(m_clock);
-    const bool newDay = day != m_day;
-    if (newDay) {
-        m_quote.PreviousClose = m_quote.Last;
-        m_quote.Open = m_quote.High = m_quote.Low = price;
-        m_quote.TotalVolume = 0;
-        m_quote.TickId = 0;
-        m_day = day;
-    }
+    if (const TFeedDay day = DayOf(m_clock); day != m_day)
+        BeginDay(day);
     m_quote.Time = m_clock;
     m_quote.Last = price;
     m_quote.Basis = basis;
@@ -120,18 +125,18 @@ void CLiveTrades::Trade(sPRICE price, std::uint32_t size, char basis)
     m_quote.TotalVolume += size;
     ++m_quote.TickId;
     // Extended and other trades change the volume, not the day's regular prices.
-    const bool higher = basis == 'C' && m_quote.High && IsBelow(*m_quote.High, price),
-               lower = basis == 'C' && m_quote.Low && IsBelow(price, *m_quote.Low);
-    if (higher)
-        m_quote.High = price;
-    if (lower)
-        m_quote.Low = price;
-    if (basis == 'E')
-        m_quote.Contents = "Ebav";
-    else if (basis == 'O')
-        m_quote.Contents = "Obav";
+    if (basis != 'C') {
+        m_quote.Contents = basis == 'E' ? "Ebav" : "Obav";
+        return;
+    }
+    if (!m_quote.Open)
+        m_quote.Contents = "Cbaohlv";
+    else if (IsBelow(*m_quote.High, price))
+        m_quote.Contents = "Cbahv";
     else
-        m_quote.Contents = newDay ? "Cbaohlv" : higher ? "Cbahv" : lower ? "Cbalv" : "Cbav";
+        m_quote.Contents = IsBelow(price, *m_quote.Low) ? "Cbalv" : "Cbav";
+    m_quote.TakeRegularPrice(price);
+    m_close = price;
 }
 
 } // namespace zantroq::feed

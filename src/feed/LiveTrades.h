@@ -37,6 +37,7 @@ private:
     void PlanNext();
     void InventNext();
     void InventQuote(sPRICE price);
+    void BeginDay(TFeedDay day);
     // `basis` is that of a trade.
     void Trade(sPRICE price, std::uint32_t size, char basis);
 
@@ -47,8 +48,10 @@ private:
     TFeedTime m_clock = 0; // of the last line
     TFeedTime m_next = 0;
     bool m_ended = false;
-    TFeedDay m_day = 0; // the trading day that the day's values belong to
+    TFeedDay m_day = 0;            // the trading day that the day's values belong to
+    std::optional<sPRICE> m_close; // the newest regular price
     std::int64_t m_step = 1, m_base = 0;
+    bool m_still = false; // a simulation of one price for ever
     // Replay: the newest recorded day and the way from its times to those behind the last point.
     std::vector<sFEED_TICK> m_ticks;
     std::size_t m_tick = 0;

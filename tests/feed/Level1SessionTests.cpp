@@ -423,6 +423,40 @@ TEST_F(Level1Session, QuotesOfARecordingAreRecordedOnesOrEmpty)
     EXPECT_EQ(lines.back(), "P,DY,11.00,0,10.99,100,11.01,100,Cbaohlcv,");
 }
 
+// The replay goes on behind the last point, which is Friday's; the day after it begins with extended trades.
+TEST_F(Level1Session, ADayOpensWithItsFirstRegularTrade)
+{
+    m_folder.Write("EX.tick.csv", "time,last,size,basis\n2014-01-03 00:00:00,10.00,1,E\n"
+                                  "2014-01-03 06:00:00,11.00,2,O\n2014-01-03 12:00:00,9.00,4,C\n"
+                                  "2014-01-03 18:00:00,9.50,8,C\n2014-01-03 23:59:59.999,30.00,16,E\n");
+    m_catalog.AddFolder(m_folder.Path());
+    CLevel1Session session(m_catalog, {.ReplayTicks = true});
+    Say(session, "S,SELECT UPDATE FIELDS,Symbol,Most Recent Trade Date,Most Recent "
+                 "Trade,Open,High,Low,Close,Total Volume,TickID,Message Contents");
+    Say(session, "wEX");
+    const auto lines = Trades(session, 48h);
+    ASSERT_EQ(lines.size(), 5u);
+    // Friday's last regular price is the close before; its open, high and low are nothing to the new day.
+    EXPECT_EQ(lines[0], "Q,EX,01/04/2014,10.00,,,,9.50,1,1,Ebav,");
+    EXPECT_EQ(lines[1], "Q,EX,01/04/2014,11.00,,,,9.50,3,2,Obav,");
+    EXPECT_EQ(lines[2], "Q,EX,01/04/2014,9.00,9.00,9.00,9.00,9.50,7,3,Cbaohlv,");
+    EXPECT_EQ(lines[3], "Q,EX,01/04/2014,9.50,9.00,9.50,9.00,9.50,15,4,Cbahv,");
+    EXPECT_EQ(lines[4], "Q,EX,01/04/2014,30.00,9.00,9.50,9.00,9.50,31,5,Ebav,");
+}
+
+// A daily chart that wants regular trades alone takes such a summary for nothing.
+TEST_F(Level1Session, ASummaryBeforeTheFirstRegularTradeIsAnExtendedOne)
+{
+    m_folder.Write("EX.daily.csv", "date,open,high,low,close,volume\n2014-01-03,5,6,4,5.5,100\n");
+    m_folder.Write("EX.tick.csv", "time,last,size,basis\n2014-01-06 08:00:00,7.00,30,E\n");
+    m_catalog.AddFolder(m_folder.Path());
+    CLevel1Session session(m_catalog, {});
+    Say(session, DayFields);
+    EXPECT_EQ(Lines(Say(session, "wEX")).back(), "P,EX,01/06/2014,08:00:00.000,7.00,,,,5.5,30,0,");
+    Say(session, "S,SELECT UPDATE FIELDS,Symbol,Message Contents");
+    EXPECT_EQ(Lines(Say(session, "wEX")).back(), "P,EX,Ebacv,");
+}
+
 TEST_F(Level1Session, TradesRunPastMidnightIntoANewDay)
 {
     CLevel1Session session(m_catalog, {.SimulateAll = true, .Speed = 1000});
