@@ -5,6 +5,19 @@
 #include <algorithm>
 
 namespace zantroq::feed {
+namespace {
+
+// That time, or the next opening when the market is closed.
+TFeedTime OpenTime(TFeedTime time)
+{
+    const TFeedDay day = DayOf(time);
+    const TFeedTime opening = StartOfDay(day) + OpeningTime;
+    if (WeekdayOf(day) > 4 || time >= StartOfDay(day) + ClosingTime)
+        return StartOfDay(NextWeekday(day)) + OpeningTime;
+    return std::max(time, opening);
+}
+
+} // namespace
 
 CLiveTrades::CLiveTrades(const IMarketSource& market, std::string_view symbol, std::uint64_t seed,
                          LiveManner manner)
@@ -47,16 +60,18 @@ void CLiveTrades::StartAtLastPoint()
 
 bool CLiveTrades::NextTime(TFeedTime& time) const
 {
-    time = m_next;
+    time = m_next - m_closed;
     return !m_ended;
 }
 
 void CLiveTrades::PlanNext()
 {
     // What was never traded has no price to go on from.
-    if (m_manner == LiveManner::Invented && m_quote.Last)
-        m_next = m_clock + 100 + m_random.Below(900);
-    else if (m_manner == LiveManner::Replayed && m_tick < m_ticks.size())
+    if (m_manner == LiveManner::Invented && m_quote.Last) {
+        const TFeedTime next = m_clock + 100 + m_random.Below(900);
+        m_next = OpenTime(next);
+        m_closed += m_next - next;
+    } else if (m_manner == LiveManner::Replayed && m_tick < m_ticks.size())
         m_next = std::max(m_clock + 1, m_ticks[m_tick].Time + m_shift);
     else
         m_ended = true;

@@ -26,8 +26,8 @@ public:
 
     // Where the market stands: at first at its last recorded point.
     const sLIVE_QUOTE& Quote() const { return m_quote; }
-    // Market time of the next line, in milliseconds, later than that of the line before; false when none will
-    // come.
+    // When the next line comes, in milliseconds of open market from any origin, later than the line before:
+    // the hours between two sessions of invented trades are left out. False when none will come.
     bool NextTime(TFeedTime& time) const;
     // Moves on to the next line.
     void Advance();
@@ -47,6 +47,7 @@ private:
     sLIVE_QUOTE m_quote;
     TFeedTime m_clock = 0; // of the last line
     TFeedTime m_next = 0;
+    TFeedTime m_closed = 0; // time between sessions, passed over so far
     bool m_ended = false;
     TFeedDay m_day = 0;            // the trading day that the day's values belong to
     std::optional<sPRICE> m_close; // the newest regular price

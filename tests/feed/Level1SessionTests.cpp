@@ -457,21 +457,52 @@ TEST_F(Level1Session, ASummaryBeforeTheFirstRegularTradeIsAnExtendedOne)
     EXPECT_EQ(Lines(Say(session, "wEX")).back(), "P,EX,Ebacv,");
 }
 
-TEST_F(Level1Session, TradesRunPastMidnightIntoANewDay)
+TEST_F(Level1Session, SimulatedTradesKeepToTheSessionsOfWeekdays)
+{
+    for (const std::string symbol : {"MN", "SIM.CALM", "SIM.WILD"}) {
+        CLevel1Session session(m_catalog, {.SimulateAll = true, .Speed = 1000});
+        Say(session, "S,SELECT UPDATE FIELDS,Symbol,Most Recent Trade Date,Most Recent Trade TimeMS,Total "
+                     "Volume,Open,Message Contents,Most Recent Trade");
+        Say(session, "w" + symbol);
+        std::vector<std::string> dates;
+        std::string last, price;
+        int openings = 0, moves = 0;
+        for (const auto& line : Trades(session, 60s)) { // 60,000 seconds of open market
+            const auto fields = Fields(line);
+            if (dates.empty() || dates.back() != fields[2]) {
+                dates.push_back(fields[2]);
+                // The next session follows at once.
+                if (dates.size() > 1) {
+                    EXPECT_TRUE(fields[3].starts_with("09:30:0")) << line;
+                    EXPECT_TRUE(last.starts_with("15:59:5")) << last;
+                    EXPECT_LE(std::atoi(fields[4].c_str()), 500);
+                }
+                moves = 0;
+            }
+            EXPECT_GE(fields[3], "09:30:00.000") << line;
+            EXPECT_LT(fields[3], "16:00:00.000") << line;
+            openings += fields[6].starts_with("Cbaohl");
+            moves += fields[7] != price;
+            price = fields[7];
+            last = fields[3];
+        }
+        // The recording ends on a Friday at 09:32, the simulations on a Wednesday at 13:00.
+        const bool recorded = symbol == "MN";
+        EXPECT_EQ(dates, recorded ? (std::vector<std::string>{"01/03/2014", "01/06/2014", "01/07/2014"})
+                                  : (std::vector<std::string>{"06/12/2024", "06/13/2024", "06/14/2024",
+                                                              "06/17/2024"}));
+        EXPECT_EQ(openings, recorded ? 2 : 3);
+        EXPECT_GT(moves, 1000);
+    }
+}
+
+TEST_F(Level1Session, SimulatedTradesOfOnePriceForEverNeverMove)
 {
     CLevel1Session session(m_catalog, {.SimulateAll = true, .Speed = 1000});
-    Say(session, "S,SELECT UPDATE FIELDS,Symbol,Most Recent Trade Date,Most Recent Trade TimeMS,Total "
-                 "Volume,Message Contents");
-    Say(session, "wMN");
-    bool newDay = false;
-    for (const auto& line : Trades(session, 60s)) { // 60,000 seconds of market, from 09:32
-        const auto fields = Fields(line);
-        if (fields[5].starts_with("Cbaohl") && fields[2] == "01/04/2014") {
-            newDay = true;
-            EXPECT_LE(std::atoi(fields[4].c_str()), 500);
-        }
-    }
-    EXPECT_TRUE(newDay);
+    Say(session, "S,SELECT UPDATE FIELDS,Symbol,Most Recent Trade");
+    Say(session, "wSIM.FLAT");
+    for (const auto& line : Trades(session, 60s))
+        EXPECT_EQ(line, "Q,SIM.FLAT,20.00,");
 }
 
 } // namespace zantroq::feed
