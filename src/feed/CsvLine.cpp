@@ -68,4 +68,13 @@ std::string UpperCase(std::string_view text)
     return upper;
 }
 
+std::string ShownText(std::string_view text)
+{
+    constexpr std::size_t longest = 40;
+    std::string shown;
+    for (const char c : text.substr(0, longest))
+        shown += c >= ' ' && c <= '~' ? c : '?';
+    return text.size() > longest ? shown + "..." : shown;
+}
+
 } // namespace zantroq::feed

@@ -21,5 +21,8 @@ void SplitAtCommas(std::string_view line, std::vector<std::string_view>& fields)
 std::string_view TrimBlanks(std::string_view text);
 // Letters A to Z only, whatever the locale.
 std::string UpperCase(std::string_view text);
+// What a person gets to see of a text of unknown origin: at most 40 bytes, "..." behind a longer one, and "?"
+// for whatever is no printable ASCII.
+std::string ShownText(std::string_view text);
 
 } // namespace zantroq::feed

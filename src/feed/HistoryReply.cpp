@@ -4,8 +4,10 @@
 
 namespace zantroq::feed {
 
-CHistoryReply::CHistoryReply(std::unique_ptr<IHistoryPoints> points, const sHISTORY_COMMAND& command)
-    : m_points(std::move(points)),
+CHistoryReply::CHistoryReply(std::unique_ptr<IHistoryPoints> points, const sHISTORY_COMMAND& command,
+                             std::shared_ptr<const IMarketSource> market)
+    : m_market(std::move(market)),
+      m_points(std::move(points)),
       m_command(command),
       m_prefix(command.Id + ','),
       m_filtered(command.Begin || command.End || command.FilterBegin > 0 || command.FilterEnd < MsPerDay - 1)

@@ -10,7 +10,9 @@ namespace zantroq::feed {
 class CHistoryReply : public IFeedReply
 {
 public:
-    CHistoryReply(std::unique_ptr<IHistoryPoints> points, const sHISTORY_COMMAND& command);
+    // `market` is what the points are of; kept for as long as the reply is, where nobody else keeps it.
+    CHistoryReply(std::unique_ptr<IHistoryPoints> points, const sHISTORY_COMMAND& command,
+                  std::shared_ptr<const IMarketSource> market = nullptr);
     bool Write(CTextBlock& block, std::size_t limit) override;
 
 private:
@@ -18,6 +20,7 @@ private:
     bool LoadNextDay();
     bool IsWanted(TFeedTime stamp) const;
 
+    const std::shared_ptr<const IMarketSource> m_market; // outlives the points
     const std::unique_ptr<IHistoryPoints> m_points;
     const sHISTORY_COMMAND m_command;
     const std::string m_prefix;               // identifier and comma

@@ -8,8 +8,8 @@
 namespace zantroq::feed {
 namespace {
 
-// Clients read level 1 lines through small buffers, and a line carries its symbol.
-constexpr std::size_t MaxSymbol = 100;
+// More than any client shows at once.
+constexpr std::size_t MaxWatches = 2000;
 
 // Milliseconds, some thirty years: at a speed of next to nothing a wait is longer than a clock can count.
 constexpr double LongestWait = 1e12;
@@ -34,7 +34,7 @@ void CLevel1Session::OnLine(std::string_view line, TClock::time_point now, std::
     }
     const std::string_view symbol = TrimBlanks(line.substr(1));
     const bool isSymbol =
-        !symbol.empty() && symbol.size() <= MaxSymbol && symbol.find(',') == std::string_view::npos;
+        !symbol.empty() && symbol.size() <= MaxSymbolLength && symbol.find(',') == std::string_view::npos;
     if (line[0] == 'w' && isSymbol)
         Watch(symbol, now, text);
     else if (line[0] == 'r' && !symbol.empty()) {
@@ -61,6 +61,12 @@ void CLevel1Session::Watch(std::string_view symbol, TClock::time_point now, std:
         return;
     }
     auto watch = m_watches.find(symbol);
+    if (watch == m_watches.end() && m_watches.size() >= MaxWatches) {
+        text += "N,";
+        text += symbol;
+        text += ",Too many symbols are watched\r\n";
+        return;
+    }
     if (watch == m_watches.end()) {
         const LiveManner manner = MannerOf(*market);
         CLiveTrades trades(*market, UpperCase(symbol), m_catalog.Seed(), manner);

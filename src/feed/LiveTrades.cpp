@@ -21,24 +21,24 @@ TFeedTime OpenTime(TFeedTime time)
 
 CLiveTrades::CLiveTrades(const IMarketSource& market, std::string_view symbol, std::uint64_t seed,
                          LiveManner manner)
-    : m_market(market), m_manner(manner), m_random(HashText(symbol, seed + 1))
+    : m_manner(manner), m_random(HashText(symbol, seed + 1))
 {
-    StartAtLastPoint();
+    StartAtLastPoint(market);
     PlanNext();
 }
 
-void CLiveTrades::StartAtLastPoint()
+void CLiveTrades::StartAtLastPoint(const IMarketSource& market)
 {
-    const sLAST_POINT point = LastPointOf(m_market);
+    const sLAST_POINT point = LastPointOf(market);
     m_quote = point.Quote;
     m_day = point.Day;
     m_clock = point.Clock;
     m_close = point.Close;
-    m_still = m_market.IsSimulated() && m_quote.Open && PriceValue(*m_quote.High) == PriceValue(*m_quote.Low);
-    const auto tickDays = m_market.TickDays();
+    m_still = market.IsSimulated() && m_quote.Open && PriceValue(*m_quote.High) == PriceValue(*m_quote.Low);
+    const auto tickDays = market.TickDays();
     if (m_manner == LiveManner::Replayed && !tickDays.empty()) {
         std::vector<sFEED_TICK> scratch;
-        const auto ticks = m_market.Ticks(tickDays.size() - 1, scratch);
+        const auto ticks = market.Ticks(tickDays.size() - 1, scratch);
         m_ticks.assign(ticks.begin(), ticks.end());
         m_shift = m_clock + 1 - m_ticks.front().Time;
     }

@@ -22,6 +22,7 @@ enum class LiveManner
 class CLiveTrades
 {
 public:
+    // The market is looked at here and needed no more afterwards.
     CLiveTrades(const IMarketSource& market, std::string_view symbol, std::uint64_t seed, LiveManner manner);
 
     // Where the market stands: at first at its last recorded point.
@@ -33,7 +34,7 @@ public:
     void Advance();
 
 private:
-    void StartAtLastPoint();
+    void StartAtLastPoint(const IMarketSource& market);
     void PlanNext();
     void InventNext();
     void InventQuote(sPRICE price);
@@ -41,7 +42,6 @@ private:
     // `basis` is that of a trade.
     void Trade(sPRICE price, std::uint32_t size, char basis);
 
-    const IMarketSource& m_market;
     const LiveManner m_manner;
     CRandomNumbers m_random;
     sLIVE_QUOTE m_quote;

@@ -49,8 +49,10 @@ void CLookupSession::OnLine(std::string_view line)
 
 void CLookupSession::OnHistoryCommand(const sHISTORY_COMMAND& command)
 {
-    const IMarketSource* const market = m_catalog.Find(command.Symbol);
-    std::string reason = "Unknown symbol " + command.Symbol;
+    const bool isSymbol = command.Symbol.size() <= MaxSymbolLength;
+    const auto market = isSymbol ? m_catalog.Share(command.Symbol) : nullptr;
+    std::string reason = isSymbol ? "Unknown symbol " + command.Symbol
+                                  : "The symbol is longer than " + std::to_string(MaxSymbolLength) + " bytes";
     auto points = market ? MakeHistoryPoints(*market, command, reason) : nullptr;
     if (!points) {
         Reply(command.Id + ",E," + reason + ",\r\n");
@@ -58,7 +60,7 @@ void CLookupSession::OnHistoryCommand(const sHISTORY_COMMAND& command)
     }
     if (market->IsSimulated())
         m_catalog.NotifySimulated(command.Symbol, "history");
-    m_replies.push_back(std::make_unique<CHistoryReply>(std::move(points), command));
+    m_replies.push_back(std::make_unique<CHistoryReply>(std::move(points), command, market));
 }
 
 void CLookupSession::Write(CTextBlock& block, std::size_t limit)

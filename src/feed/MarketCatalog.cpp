@@ -72,6 +72,11 @@ void CMarketCatalog::AddRecording(const std::filesystem::path& path)
             m_notice(file + ": a symbol with a comma cannot be asked for; the file is not used");
             return;
         }
+        if (symbol.size() > MaxSymbolLength) {
+            m_notice(file + ": a symbol of more than " + std::to_string(MaxSymbolLength) +
+                     " bytes cannot be asked for; the file is not used");
+            return;
+        }
         std::string text;
         if (!ReadWholeFile(path, text)) {
             m_notice(file + ": cannot be read; the file is not used");
@@ -103,39 +108,55 @@ void CMarketCatalog::AddSymbols(const std::filesystem::path& path)
     Tell(m_notice, path.string(), report);
 }
 
-const IMarketSource* CMarketCatalog::Find(std::string_view symbol)
+std::shared_ptr<const IMarketSource> CMarketCatalog::Share(std::string_view symbol)
 {
-    if (const auto made = m_markets.find(symbol); made != m_markets.end())
-        return made->second.get();
+    if (const auto made = m_markets.find(symbol); made != m_markets.end()) {
+        const auto market = made->second;
+        const auto used = std::find(m_unlisted.begin(), m_unlisted.end(), symbol);
+        if (used != m_unlisted.end())
+            m_unlisted.splice(m_unlisted.begin(), m_unlisted, used);
+        return market;
+    }
     if (const auto read = m_records.find(symbol); read != m_records.end()) {
         sRECORDS records = std::move(read->second);
         m_records.erase(read);
         if (records.Ticks.empty() && records.Minutes.empty() && records.Daily.empty())
             return nullptr;
         auto& market = m_markets[std::string(symbol)];
-        market = std::make_unique<CRecordedMarket>(std::move(records.Ticks), std::move(records.Minutes),
+        market = std::make_shared<CRecordedMarket>(std::move(records.Ticks), std::move(records.Minutes),
                                                    std::move(records.Daily));
-        return market.get();
+        return market;
     }
     const std::string upper = UpperCase(symbol);
     if (upper != symbol)
-        return Find(upper);
-    if (!symbol.starts_with(SimulatedPrefix) || symbol.size() == SimulatedPrefix.size())
+        return Share(upper);
+    if (!symbol.starts_with(SimulatedPrefix) || symbol.size() == SimulatedPrefix.size() ||
+        symbol.size() > MaxSymbolLength)
         return nullptr;
-    auto& market = m_markets[upper];
-    market = std::make_unique<CSimulatedMarket>(symbol, m_seed);
-    return market.get();
+    const auto market = std::make_shared<const CSimulatedMarket>(symbol, m_seed);
+    m_markets[upper] = market;
+    if (!m_listed.contains(upper)) {
+        m_unlisted.push_front(upper);
+        DropUnlisted();
+    }
+    return market;
+}
+
+void CMarketCatalog::DropUnlisted()
+{
+    while (m_unlisted.size() > MaxUnlisted) {
+        m_markets.erase(m_unlisted.back());
+        m_notified.erase(m_unlisted.back());
+        m_unlisted.pop_back();
+    }
 }
 
 void CMarketCatalog::NotifySimulated(std::string_view symbol, std::string_view what)
 {
     const std::string name = UpperCase(symbol);
-    bool& notified = m_notified[name + ' ' + std::string(what)];
-    if (notified)
-        return;
-    notified = true;
-    m_notice(name + ": simulated " + std::string(what) + ", not a genuine market (seed " +
-             std::to_string(m_seed) + ")");
+    if (m_notified[name].insert(std::string(what)).second)
+        m_notice(name + ": simulated " + std::string(what) + ", not a genuine market (seed " +
+                 std::to_string(m_seed) + ")");
 }
 
 } // namespace zantroq::feed

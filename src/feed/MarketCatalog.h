@@ -7,13 +7,18 @@
 #include <cstdint>
 #include <filesystem>
 #include <functional>
+#include <list>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace zantroq::feed {
+
+// A longer symbol is none: level 1 lines carry it, and their readers have small buffers.
+inline constexpr std::size_t MaxSymbolLength = 100;
 
 // Built on one thread; afterwards used by the feed's thread alone.
 class CMarketCatalog
@@ -28,14 +33,20 @@ public:
     // read before.
     void AddFolder(const std::filesystem::path& folder);
 
-    // The market of a symbol, or null. The exact name first, then the name in capitals.
-    const IMarketSource* Find(std::string_view symbol);
+    // The market of a symbol, or null. The exact name first, then the name in capitals. Every name that
+    // begins with "SIM." is a market, so those that have no line in the list are kept only while they are
+    // among the MaxUnlisted used last; made anew, such a market is the same as before.
+    std::shared_ptr<const IMarketSource> Share(std::string_view symbol);
+    // The same for a short look: good until the next Find or Share.
+    const IMarketSource* Find(std::string_view symbol) { return Share(symbol).get(); }
+    static constexpr std::size_t MaxUnlisted = 64;
 
     // By symbol, in order.
     const std::map<std::string, sLISTED_SYMBOL>& Listed() const { return m_listed; }
     std::uint64_t Seed() const { return m_seed; }
     void Notify(const std::string& sentence) const { m_notice(sentence); }
-    // Says once for each symbol and kind of thing ("history", "live trades", ...) that it is not genuine.
+    // Says once for each symbol and kind of thing ("history", "live trades", ...) that it is not genuine; of
+    // a market that was dropped in between, once more.
     void NotifySimulated(std::string_view symbol, std::string_view what);
 
 private:
@@ -46,14 +57,16 @@ private:
     };
     void AddRecording(const std::filesystem::path& path);
     void AddSymbols(const std::filesystem::path& path);
+    void DropUnlisted();
     void List(const sLISTED_SYMBOL& listed) { m_listed[listed.Symbol] = listed; }
 
     const std::uint64_t m_seed;
     const TNotice m_notice;
     std::map<std::string, sRECORDS, std::less<>> m_records; // read and not yet asked for
-    std::map<std::string, std::unique_ptr<IMarketSource>, std::less<>> m_markets;
+    std::map<std::string, std::shared_ptr<const IMarketSource>, std::less<>> m_markets;
+    std::list<std::string> m_unlisted; // simulated markets outside the list, the one used last in front
     std::map<std::string, sLISTED_SYMBOL> m_listed;
-    std::map<std::string, bool, std::less<>> m_notified;
+    std::map<std::string, std::set<std::string, std::less<>>, std::less<>> m_notified; // by symbol
 };
 
 } // namespace zantroq::feed

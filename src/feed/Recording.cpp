@@ -79,13 +79,7 @@ private:
 
 std::string Quoted(std::string_view what, std::string_view value)
 {
-    constexpr std::size_t longest = 40;
-    std::string text(what);
-    text += " \"";
-    // What a broken file holds need not be text.
-    for (const char c : value.substr(0, longest))
-        text += c >= ' ' && c <= '~' ? c : '?';
-    return text + (value.size() > longest ? "...\"" : "\"");
+    return std::string(what) + " \"" + ShownText(value) + '"';
 }
 
 // A whole number, or one with nothing but zeros behind its point.

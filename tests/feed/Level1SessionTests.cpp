@@ -457,6 +457,29 @@ TEST_F(Level1Session, ASummaryBeforeTheFirstRegularTradeIsAnExtendedOne)
     EXPECT_EQ(Lines(Say(session, "wEX")).back(), "P,EX,Ebacv,");
 }
 
+TEST_F(Level1Session, AClientWatchesABoundedNumberOfSymbols)
+{
+    m_folder.Write("ABCDEFGHIJK.daily.csv", "date,open,high,low,close\n2014-01-02,1,1,1,1\n");
+    m_catalog.AddFolder(m_folder.Path());
+    // One market under 2,048 spellings, each of which is a watch of its own.
+    const auto spelling = [](unsigned bits) {
+        std::string symbol = "abcdefghijk";
+        for (std::size_t i = 0; i < symbol.size(); ++i)
+            if ((bits >> i) % 2 == 1)
+                symbol[i] = static_cast<char>(symbol[i] - 'a' + 'A');
+        return symbol;
+    };
+    CLevel1Session session(m_catalog, {});
+    for (unsigned i = 0; i < 2000; ++i)
+        ASSERT_TRUE(Say(session, "w" + spelling(i)).starts_with("F,"));
+    const std::string next = spelling(2000);
+    EXPECT_EQ(Say(session, "w" + next), "N," + next + ",Too many symbols are watched\r\n");
+    // One that is watched already is no more.
+    EXPECT_TRUE(Say(session, "w" + spelling(7)).starts_with("F,"));
+    Say(session, "r" + spelling(7));
+    EXPECT_TRUE(Say(session, "w" + next).starts_with("F,"));
+}
+
 TEST_F(Level1Session, SimulatedTradesKeepToTheSessionsOfWeekdays)
 {
     for (const std::string symbol : {"MN", "SIM.CALM", "SIM.WILD"}) {

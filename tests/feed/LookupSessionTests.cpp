@@ -328,6 +328,59 @@ TEST_F(LookupSession, SimulatedHistoryIsToldOnce)
     EXPECT_NE(m_notices[0].find("SIM.CALM: simulated"), std::string::npos);
 }
 
+// Every name that begins with "SIM." is a market, and a client can think of any number of them.
+TEST_F(LookupSession, UnlistedSimulatedMarketsAreKeptInABoundedNumber)
+{
+    const std::string before = Ask("HTX,SIM.Q0,20,1,0");
+    const std::weak_ptr<const IMarketSource> dropped = m_catalog.Share("SIM.Q0");
+    const std::weak_ptr<const IMarketSource> used = m_catalog.Share("SIM.Q1");
+    const auto inUse = m_catalog.Share("SIM.Q2");
+    const std::weak_ptr<const IMarketSource> listed = m_catalog.Share("SIM.WILD"),
+                                             recorded = m_catalog.Share("DY");
+    for (std::size_t i = 0; i < 2 * CMarketCatalog::MaxUnlisted; ++i) {
+        ASSERT_TRUE(m_catalog.Find("SIM.N" + std::to_string(i)));
+        ASSERT_TRUE(m_catalog.Find("sim.q1"));
+    }
+    EXPECT_TRUE(dropped.expired());
+    EXPECT_FALSE(used.expired());
+    EXPECT_EQ(inUse.use_count(), 1) << "held by its user alone";
+    EXPECT_FALSE(listed.expired());
+    EXPECT_FALSE(recorded.expired());
+    EXPECT_EQ(Ask("HTX,SIM.Q0,20,1,0"), before);
+    // What was made anew is told of anew.
+    ASSERT_EQ(m_notices.size(), 2u);
+    EXPECT_EQ(m_notices[0], m_notices[1]);
+}
+
+TEST_F(LookupSession, AReplyKeepsItsMarketUntilItsEnd)
+{
+    const std::string whole = Ask("HTX,SIM.Q0,5000,1,0");
+    CLookupSession session(m_catalog);
+    session.OnLine("HTX,SIM.Q0,5000,1,0");
+    CTextBlock piece;
+    session.Write(piece, 1);
+    std::string text(piece.Text());
+    for (std::size_t i = 0; i <= CMarketCatalog::MaxUnlisted; ++i)
+        ASSERT_TRUE(m_catalog.Find("SIM.N" + std::to_string(i)));
+    piece.Clear();
+    session.Write(piece, 10'000'000);
+    EXPECT_EQ(text.append(piece.Text()), whole);
+}
+
+TEST_F(LookupSession, ATooLongSymbolIsNone)
+{
+    const std::string longest = "SIM." + std::string(96, 'X');
+    EXPECT_TRUE(Ask("HDX," + longest + ",1,1,6").ends_with("6,!ENDMSG!,\r\n"));
+    EXPECT_EQ(Ask("HDX," + longest + "X,1,1,6"), "6,E,The symbol is longer than 100 bytes,\r\n");
+    m_notices.clear();
+    CTemporaryFolder second;
+    second.Write(std::string(101, 'A') + ".daily.csv", Days);
+    m_catalog.AddFolder(second.Path());
+    ASSERT_EQ(m_notices.size(), 1u);
+    EXPECT_TRUE(m_notices[0].ends_with(
+        ": a symbol of more than 100 bytes cannot be asked for; the file is not used"));
+}
+
 TEST_F(LookupSession, ALaterFolderReplacesARecordingOfTheSameKindAlone)
 {
     CTemporaryFolder second;
