@@ -155,7 +155,7 @@ void CMarketCatalog::NotifySimulated(std::string_view symbol, std::string_view w
 {
     const std::string name = UpperCase(symbol);
     if (m_notified[name].insert(std::string(what)).second)
-        m_notice(name + ": simulated " + std::string(what) + ", not a genuine market (seed " +
+        m_notice(ShownText(name) + ": simulated " + std::string(what) + ", not a genuine market (seed " +
                  std::to_string(m_seed) + ")");
 }
 

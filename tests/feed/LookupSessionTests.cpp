@@ -381,6 +381,17 @@ TEST_F(LookupSession, ATooLongSymbolIsNone)
         ": a symbol of more than 100 bytes cannot be asked for; the file is not used"));
 }
 
+// What a client sends need not be text, and a notice goes to a terminal.
+TEST_F(LookupSession, NoticesHoldNoRawBytesOfAClient)
+{
+    Ask("HDX,SIM.\x1b[31m\xff\x01,1,1,6");
+    Ask("HDX,SIM." + std::string(90, 'x') + ",1,1,6");
+    ASSERT_EQ(m_notices.size(), 2u);
+    EXPECT_EQ(m_notices[0], "SIM.?[31M??: simulated history, not a genuine market (seed 1)");
+    EXPECT_EQ(m_notices[1],
+              "SIM." + std::string(36, 'X') + "...: simulated history, not a genuine market (seed 1)");
+}
+
 TEST_F(LookupSession, ALaterFolderReplacesARecordingOfTheSameKindAlone)
 {
     CTemporaryFolder second;
