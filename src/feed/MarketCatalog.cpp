@@ -24,6 +24,8 @@ void Tell(const CMarketCatalog::TNotice& notice, const std::string& file, const 
 {
     for (const std::string& problem : report.Problems)
         notice(problem);
+    if (!report.Unusable.empty())
+        notice(report.Unusable);
     if (report.SkippedRows > 0)
         notice(file + ": " + std::to_string(report.SkippedRows) +
                (report.SkippedRows == 1 ? " row" : " rows") + " skipped");
@@ -34,9 +36,7 @@ void Tell(const CMarketCatalog::TNotice& notice, const std::string& file, const 
 CMarketCatalog::CMarketCatalog(std::uint64_t seed, TNotice notice)
     : m_seed(seed), m_notice(notice ? std::move(notice) : [](const std::string&) {})
 {
-    for (const sSIMULATION& simulation : NamedSimulations())
-        List({std::string(simulation.Name), SimulatedMarketId, SimulatedSecurityTypeId,
-              std::string(simulation.Description)});
+    ListServed();
 }
 
 void CMarketCatalog::AddFolder(const std::filesystem::path& folder)
@@ -53,6 +53,27 @@ void CMarketCatalog::AddFolder(const std::filesystem::path& folder)
         AddRecording(file);
     if (std::filesystem::exists(folder / "symbols.csv", error))
         AddSymbols(folder / "symbols.csv");
+    ListServed();
+}
+
+bool CMarketCatalog::IsServed(const std::string& symbol) const
+{
+    const std::string upper = UpperCase(symbol);
+    return m_recorded.contains(symbol) || m_recorded.contains(upper) ||
+           (upper.starts_with(SimulatedPrefix) && upper.size() > SimulatedPrefix.size() &&
+            upper.size() <= MaxSymbolLength);
+}
+
+void CMarketCatalog::ListServed()
+{
+    for (const sSIMULATION& simulation : NamedSimulations())
+        List({std::string(simulation.Name), SimulatedMarketId, SimulatedSecurityTypeId,
+              std::string(simulation.Description)});
+    for (const std::string& symbol : m_recorded)
+        List({symbol, UnknownMarketId, UnknownSecurityTypeId, symbol});
+    for (const auto& [symbol, named] : m_named)
+        if (IsServed(symbol))
+            List(named);
 }
 
 void CMarketCatalog::AddRecording(const std::filesystem::path& path)
@@ -83,15 +104,27 @@ void CMarketCatalog::AddRecording(const std::filesystem::path& path)
             return;
         }
         sRECORDING_REPORT report;
-        sRECORDS& records = m_records[symbol];
+        sRECORDS read;
         if (ending.Kind == RecordingKind::Ticks)
-            records.Ticks = ReadTicks(text, file, report);
+            read.Ticks = ReadTicks(text, file, report);
         else
-            (ending.Kind == RecordingKind::Minutes ? records.Minutes : records.Daily) =
+            (ending.Kind == RecordingKind::Minutes ? read.Minutes : read.Daily) =
                 ReadBars(ending.Kind, text, file, report);
         Tell(m_notice, file, report);
-        if (!m_listed.contains(symbol))
-            List({symbol, UnknownMarketId, UnknownSecurityTypeId, symbol});
+        if (read.IsEmpty()) {
+            if (report.Unusable.empty())
+                m_notice(file + (report.SkippedRows > 0 ? ": no usable rows" : ": no rows") +
+                         "; the file is not used");
+            return;
+        }
+        m_recorded.insert(symbol);
+        sRECORDS& records = m_records[symbol];
+        if (ending.Kind == RecordingKind::Ticks)
+            records.Ticks = std::move(read.Ticks);
+        else if (ending.Kind == RecordingKind::Minutes)
+            records.Minutes = std::move(read.Minutes);
+        else
+            records.Daily = std::move(read.Daily);
     }
 }
 
@@ -104,7 +137,7 @@ void CMarketCatalog::AddSymbols(const std::filesystem::path& path)
     }
     sRECORDING_REPORT report;
     for (const sLISTED_SYMBOL& listed : ReadSymbols(text, path.string(), report))
-        List(listed);
+        m_named[listed.Symbol] = listed;
     Tell(m_notice, path.string(), report);
 }
 
@@ -120,8 +153,6 @@ std::shared_ptr<const IMarketSource> CMarketCatalog::Share(std::string_view symb
     if (const auto read = m_records.find(symbol); read != m_records.end()) {
         sRECORDS records = std::move(read->second);
         m_records.erase(read);
-        if (records.Ticks.empty() && records.Minutes.empty() && records.Daily.empty())
-            return nullptr;
         auto& market = m_markets[std::string(symbol)];
         market = std::make_shared<CRecordedMarket>(std::move(records.Ticks), std::move(records.Minutes),
                                                    std::move(records.Daily));

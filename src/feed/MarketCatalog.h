@@ -29,8 +29,8 @@ public:
 
     CMarketCatalog(std::uint64_t seed, TNotice notice);
 
-    // Reads all recordings and symbols.csv of a folder. A recording replaces one of the same symbol and kind
-    // read before.
+    // Reads all recordings and symbols.csv of a folder. A recording with at least one usable row replaces one
+    // of the same symbol and kind read before.
     void AddFolder(const std::filesystem::path& folder);
 
     // The market of a symbol, or null. The exact name first, then the name in capitals. Every name that
@@ -41,7 +41,7 @@ public:
     const IMarketSource* Find(std::string_view symbol) { return Share(symbol).get(); }
     static constexpr std::size_t MaxUnlisted = 64;
 
-    // By symbol, in order.
+    // What the search finds, by symbol, in order: the symbols with records and simulated ones.
     const std::map<std::string, sLISTED_SYMBOL>& Listed() const { return m_listed; }
     std::uint64_t Seed() const { return m_seed; }
     void Notify(const std::string& sentence) const { m_notice(sentence); }
@@ -54,10 +54,13 @@ private:
     {
         std::vector<sFEED_TICK> Ticks;
         std::vector<sFEED_BAR> Minutes, Daily;
+        bool IsEmpty() const { return Ticks.empty() && Minutes.empty() && Daily.empty(); }
     };
     void AddRecording(const std::filesystem::path& path);
     void AddSymbols(const std::filesystem::path& path);
     void DropUnlisted();
+    bool IsServed(const std::string& symbol) const;
+    void ListServed();
     void List(const sLISTED_SYMBOL& listed) { m_listed[listed.Symbol] = listed; }
 
     const std::uint64_t m_seed;
@@ -65,7 +68,9 @@ private:
     std::map<std::string, sRECORDS, std::less<>> m_records; // read and not yet asked for
     std::map<std::string, std::shared_ptr<const IMarketSource>, std::less<>> m_markets;
     std::list<std::string> m_unlisted; // simulated markets outside the list, the one used last in front
-    std::map<std::string, sLISTED_SYMBOL> m_listed;
+    std::set<std::string, std::less<>> m_recorded;  // symbols with records
+    std::map<std::string, sLISTED_SYMBOL> m_named;  // by a symbols.csv, with records or not
+    std::map<std::string, sLISTED_SYMBOL> m_listed; // of both, what can be served
     std::map<std::string, std::set<std::string, std::less<>>, std::less<>> m_notified; // by symbol
 };
 

@@ -27,9 +27,11 @@ public:
     {
         if (m_text.starts_with(ByteOrderMark))
             m_text.remove_prefix(ByteOrderMark.size());
-        if (NextLine())
-            for (const auto field : m_fields)
-                m_columns.push_back(UpperCase(field));
+        m_readable = NextLine();
+        if (!m_readable)
+            m_report.Unusable = m_file + ": the file is empty and not used";
+        for (const auto field : m_fields)
+            m_columns.push_back(UpperCase(field));
     }
 
     // The column of that name; a needed one that is missing makes the file unreadable.
@@ -40,9 +42,8 @@ public:
             return static_cast<std::size_t>(at - m_columns.begin());
         if (needed && m_readable) {
             m_readable = false;
-            m_report.Skip(m_file, std::max<std::size_t>(m_line, 1),
-                          "the header line has no column \"" + std::string(name) +
-                              "\"; the file is not used");
+            m_report.Unusable = m_file + ":" + std::to_string(m_line) + ": the header line has no column \"" +
+                                std::string(name) + "\"; the file is not used";
         }
         return NoColumn;
     }

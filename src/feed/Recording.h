@@ -19,11 +19,12 @@ enum class RecordingKind
 };
 
 // What was wrong in a file. Problems holds at most MaxProblems sentences, each naming file and line;
-// SkippedRows counts all.
+// SkippedRows counts all. Unusable is the sentence for a file that has nothing to read rows by.
 struct sRECORDING_REPORT
 {
     static constexpr std::size_t MaxProblems = 10;
     std::vector<std::string> Problems;
+    std::string Unusable;
     std::size_t SkippedRows = 0;
 
     void Skip(const std::string& file, std::size_t line, std::string_view why);

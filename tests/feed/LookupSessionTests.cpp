@@ -288,6 +288,42 @@ TEST_F(LookupSession, FindTakesTextsWithCommas)
     EXPECT_EQ(Ask("FIND,7,d,Daily, Inc,e,3"), "7,!ENDMSG!,\r\n");
 }
 
+TEST_F(LookupSession, FindLooksThroughSymbolsWithRecordsAlone)
+{
+    CTemporaryFolder first, second;
+    first.Write("symbols.csv", "symbol,market_id,security_type_id,description\nXA,2,1,Later\nXB,2,1,Never\n"
+                               "SIM.XC,9,9,Invented\n");
+    first.Write("XD.daily.csv", "date,open,high,low,close\n");
+    first.Write("XE.tick.csv", "time,last\nnever,1\n");
+    first.Write("XF.minute.csv", "");
+    m_catalog.AddFolder(first.Path());
+    EXPECT_EQ(Ask("FIND,7,s,X,,"), "7,!ENDMSG!,\r\n");
+    EXPECT_EQ(Ask("FIND,7,s,SIM.X,,"), "7,SIM.XC,9,9,Invented\r\n7,!ENDMSG!,\r\n");
+    const std::string folder = first.Path().string() + "/";
+    EXPECT_EQ(
+        m_notices,
+        (std::vector<std::string>{
+            folder + "XD.daily.csv: no rows; the file is not used",
+            folder +
+                "XE.tick.csv:2: time is not a date of the form YYYY-MM-DD or a time behind one: \"never\"",
+            folder + "XE.tick.csv: 1 row skipped",
+            folder + "XE.tick.csv: no usable rows; the file is not used",
+            folder + "XF.minute.csv: the file is empty and not used"}));
+    second.Write("XA.daily.csv", "date,open,high,low,close\n2020-01-01,1,1,1,1\n");
+    m_catalog.AddFolder(second.Path());
+    EXPECT_EQ(Ask("FIND,7,s,X,,"), "7,XA,2,1,Later\r\n7,!ENDMSG!,\r\n");
+}
+
+TEST_F(LookupSession, AFileWithoutUsableRowsReplacesNothing)
+{
+    CTemporaryFolder second;
+    second.Write("DY.daily.csv", "date,open,high,low,close\n2020-01-01,1,x,1,1\n");
+    second.Write("TK.tick.csv", "no header\n");
+    m_catalog.AddFolder(second.Path());
+    EXPECT_TRUE(Ask("HDX,DY,1,1,6").starts_with("6,2014-01-06,"));
+    EXPECT_TRUE(Ask("HTX,TK,1,1,0").starts_with("0,2014-01-06 "));
+}
+
 TEST_F(LookupSession, FindKeepsToMarketsOrSecurityTypes)
 {
     EXPECT_EQ(Ask("FIND,7,d,i,e,3 4"), "7,TK,3,5,Tick Tock\r\n7,!ENDMSG!,\r\n");

@@ -165,11 +165,14 @@ TEST(Recordings, WithoutAHeaderTheFileIsNotUsed)
 {
     sRECORDING_REPORT report;
     EXPECT_TRUE(Daily("2014-01-02,1,2,0.5,1.5,10,0\n2014-01-03,1,2,0.5,1.5,10,0\n", report).empty());
-    ASSERT_EQ(report.Problems.size(), 1u);
-    EXPECT_NE(report.Problems[0].find("header"), std::string::npos);
-    sRECORDING_REPORT empty;
-    EXPECT_TRUE(Daily("", empty).empty());
-    EXPECT_EQ(empty.Problems.size(), 1u);
+    EXPECT_EQ(report.Unusable, "x.daily.csv:1: the header line has no column \"date\"; the file is not used");
+    EXPECT_EQ(report.SkippedRows, 0u);
+    for (const char* nothing : {"", "\n\r\n", "\xEF\xBB\xBF"}) {
+        sRECORDING_REPORT empty;
+        EXPECT_TRUE(Daily(nothing, empty).empty());
+        EXPECT_EQ(empty.Unusable, "x.daily.csv: the file is empty and not used");
+        EXPECT_EQ(empty.SkippedRows, 0u);
+    }
 }
 
 TEST(Recordings, ColumnsAreFoundByName)
@@ -253,8 +256,7 @@ TEST(SymbolList, WithoutAHeaderTheFileIsNotUsed)
 {
     sRECORDING_REPORT report;
     EXPECT_TRUE(ReadSymbols("GOOG,2,1,Google Inc.\nMSFT,2,1,Microsoft\n", "symbols.csv", report).empty());
-    ASSERT_EQ(report.Problems.size(), 1u);
-    EXPECT_EQ(report.Problems[0],
+    EXPECT_EQ(report.Unusable,
               "symbols.csv:1: the header line has no column \"symbol\"; the file is not used");
 }
 
