@@ -65,16 +65,12 @@ bool ReadFilterEnd(std::string_view text, TFeedTime wholeSecond, TFeedTime& boun
 
 bool ReadField(char letter, std::string_view text, sHISTORY_COMMAND& command)
 {
-    std::int64_t number = 0;
     switch (letter) {
     case 's':
         command.Symbol = TrimBlanks(text);
         return !command.Symbol.empty();
     case 'i':
-        if (text.empty() || !ReadWhole(text, number) || number < 1 || number > MsPerDay / MsPerSecond)
-            return false;
-        command.IntervalSeconds = static_cast<int>(number);
-        return true;
+        return !text.empty() && ReadWhole(text, command.IntervalSeconds);
     case 'n':
         return ReadWhole(text, command.Datapoints);
     case 'd':

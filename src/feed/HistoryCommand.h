@@ -24,11 +24,11 @@ struct sHISTORY_COMMAND
 {
     HistoryData Data = HistoryData::Ticks;
     std::string Symbol;
-    std::string Id;                 // comes back on every line, as it came
-    int IntervalSeconds = 0;        // intervals: 1 to 86,400
-    std::int64_t Datapoints = 0;    // the newest so many; 0 all
-    std::int64_t Days = 0;          // calendar days back from the newest, that day included; 0 all
-    std::optional<TFeedTime> Begin; // first stamp of the range, milliseconds
+    std::string Id;                   // comes back on every line, as it came
+    std::int64_t IntervalSeconds = 0; // intervals; what can be served is 1 to 86,400
+    std::int64_t Datapoints = 0;      // the newest so many; 0 all
+    std::int64_t Days = 0;            // calendar days back from the newest, that day included; 0 all
+    std::optional<TFeedTime> Begin;   // first stamp of the range, milliseconds
     std::optional<TFeedTime>
         End;                   // last one, the whole of its second (or, without a time, of its day) included
     TFeedTime FilterBegin = 0; // time-of-day filter, both ends included

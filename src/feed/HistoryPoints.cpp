@@ -177,10 +177,16 @@ std::unique_ptr<IHistoryPoints> MakeHistoryPoints(const IMarketSource& market,
         return nullptr;
     }
     if (command.Data == HistoryData::Intervals) {
-        if (!market.MinuteDays().empty() && command.IntervalSeconds % 60 == 0)
-            return std::make_unique<CIntervalPoints>(market, command.IntervalSeconds, true);
+        if (command.IntervalSeconds < 1 || command.IntervalSeconds > MsPerDay / MsPerSecond) {
+            reason = "An interval of " + std::to_string(command.IntervalSeconds) +
+                     " seconds cannot be served; use 1 to 86400";
+            return nullptr;
+        }
+        const auto seconds = static_cast<int>(command.IntervalSeconds);
+        if (!market.MinuteDays().empty() && seconds % 60 == 0)
+            return std::make_unique<CIntervalPoints>(market, seconds, true);
         if (!market.TickDays().empty())
-            return std::make_unique<CIntervalPoints>(market, command.IntervalSeconds, false);
+            return std::make_unique<CIntervalPoints>(market, seconds, false);
         reason = market.MinuteDays().empty() ? "No ticks or minutes are recorded for " + command.Symbol
                                              : "No ticks are recorded for " + command.Symbol +
                                                    " and minutes build whole minutes only";

@@ -226,13 +226,18 @@ TEST_F(LookupSession, WhatCannotBeServedIsAnErrorUnderItsIdentifier)
     EXPECT_EQ(Ask("HIX,MN,90,10,1,31"),
               "31,E,No ticks are recorded for MN and minutes build whole minutes only,\r\n");
     EXPECT_EQ(Ask("HDX,NIX,10,1,61"), "61,E,Unknown symbol NIX,\r\n");
+    for (const char* seconds : {"0", "86401", "9223372036854775807"})
+        EXPECT_EQ(Ask(std::string("HIX,TK,") + seconds + ",5,1,31"),
+                  std::string("31,E,An interval of ") + seconds +
+                      " seconds cannot be served; use 1 to 86400,\r\n");
+    EXPECT_TRUE(Ask("HIX,TK,86400,5,1,31").ends_with("31,!ENDMSG!,\r\n"));
 }
 
 TEST_F(LookupSession, MalformedAndUnknownLinesAreSyntaxErrors)
 {
     for (const char* line :
          {"HTX", "HTX,TK", "HTX,TK,5,1", "HTX,TK,5,1,", "HTX,TK,x,1,0", "HTX,TK,-1,1,0", "HTX,TK,5,2,0",
-          "HTX,,5,1,0", "HIX,TK,0,5,1,0", "HIX,TK,,5,1,0", "HIX,TK,86401,5,1,0", "HTT,TK,2014,,,,,1,0",
+          "HTX,,5,1,0", "HIX,TK,-1,5,1,0", "HIX,TK,,5,1,0", "HIX,TK,1m,5,1,0", "HTT,TK,2014,,,,,1,0",
           "HTD,TK,1,,9,,1,0", "HTX,TK,5,1,0,more", "htx,TK,5,1,0", "nonsense",
           "HTX,TK,99999999999999999999,1,0", "FIND,1,s", "\x01\xff"})
         EXPECT_EQ(Ask(line), "E,!SYNTAX_ERROR!,,\r\n") << line;
