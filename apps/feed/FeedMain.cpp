@@ -10,6 +10,9 @@
 #include <cmath>
 #include <csignal>
 #include <iostream>
+#include <span>
+#include <string>
+#include <string_view>
 
 namespace {
 
@@ -31,6 +34,23 @@ int Fail(ExitCode code, const std::string& sentence)
 int FailOutput()
 {
     return Fail(NoOutput, "standard output: cannot be written; give it a place that can");
+}
+
+// What is wrong with the arguments, and what to do.
+std::string UsageSentence(const CLI::App& app, const CLI::ParseError& error, std::span<char* const> arguments)
+{
+    const std::string told = error.what();
+    if (dynamic_cast<const CLI::ArgumentMismatch*>(&error)) {
+        const std::string name = told.substr(0, told.find(':'));
+        const auto times = app.count(name);
+        return times > 1 ? name + ": given " + std::to_string(times) + " times; give it once"
+                         : name + ": its value is missing; give one behind it, as --help tells";
+    }
+    if (dynamic_cast<const CLI::ConversionError*>(&error))
+        for (const std::string_view argument : arguments)
+            if (argument.starts_with("--simulate="))
+                return std::string(argument) + ": the option takes no value; give --simulate alone";
+    return told + "; --help lists the options";
 }
 
 template<class TNumber> bool ReadWhole(const std::string& text, TNumber& number)
@@ -68,7 +88,7 @@ int main(int argc, char** argv)
         app.exit(request);
         return std::cout.flush() ? Success : FailOutput();
     } catch (const CLI::ParseError& error) {
-        return Fail(WrongUsage, std::string(error.what()) + "; --help lists the options");
+        return Fail(WrongUsage, UsageSentence(app, error, {argv, static_cast<std::size_t>(argc)}));
     }
 
     sFEED_OPTIONS options;

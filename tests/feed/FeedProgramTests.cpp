@@ -196,6 +196,21 @@ TEST(FeedProgram, WrongUsageIsExitTwoAndOneSentence)
     }
 }
 
+TEST(FeedProgram, AMissingOrNeedlessValueIsNamedWithWhatToDo)
+{
+    const std::vector<std::pair<std::vector<std::string>, std::string>> wrong = {
+        {{"--lookup-port"}, "--lookup-port: its value is missing; give one behind it, as --help tells"},
+        {{"--data"}, "--data: its value is missing; give one behind it, as --help tells"},
+        {{"--seed", "1", "--seed", "2"}, "--seed: given 2 times; give it once"},
+        {{"--simulate=banana"}, "--simulate=banana: the option takes no value; give --simulate alone"},
+        {{"surplus"}, "The following argument was not expected: surplus; --help lists the options"}};
+    for (const auto& [arguments, sentence] : wrong) {
+        CFeedProgram program(arguments);
+        EXPECT_EQ(program.Wait(), 2);
+        EXPECT_EQ(program.Errors(), "zantroq-feed: " + sentence + "\n");
+    }
+}
+
 TEST(FeedProgram, ATakenPortIsWrongUsageAndOneSentenceThatSaysWhatToDo)
 {
     CFeedProgram first({"--lookup-port", "0", "--level1-port", "0"});
