@@ -61,28 +61,72 @@ void TakeDayOf(std::span<const sFEED_TICK> ticks, sLIVE_QUOTE& quote)
     quote.TotalVolume = std::max(quote.TotalVolume, volume);
 }
 
+void StandAtDay(const sFEED_BAR& bar, sLAST_POINT& point)
+{
+    TakeDayOf(bar, point.Quote);
+    point.Close = bar.Close;
+    point.Quote.Time = StartOfDay(point.Day) + ClosingTime;
+    point.Clock = StartOfDay(NextWeekday(point.Day)) + OpeningTime - 1;
+}
+
+// `minutes` are those of the point's day.
+void StandAtMinutes(std::span<const sFEED_BAR> minutes, bool hasDayBar, sLAST_POINT& point)
+{
+    if (!hasDayBar) {
+        std::vector<sFEED_BAR> whole;
+        BuildIntervalsFromMinutes(minutes, static_cast<int>(MsPerDay / MsPerSecond), whole);
+        TakeDayOf(whole.front(), point.Quote);
+    }
+    point.Quote.Last = point.Close = minutes.back().Close;
+    point.Quote.Basis = 'C';
+    point.Clock = minutes.back().Stamp;
+    // A bar stamped midnight closes this day and has no trade of the next.
+    point.Quote.Time = std::min(point.Clock, StartOfDay(point.Day + 1) - 1);
+}
+
+// `newest` is of the point's day. Minutes may go on behind the last tick.
+void StandAtTicks(const sNEWEST_TICKS& newest, bool hasMinutes, sLAST_POINT& point)
+{
+    sLIVE_QUOTE& quote = point.Quote;
+    const sFEED_TICK &trade = *newest.Trade, &row = newest.Ticks.back();
+    TakeDayOf(newest.Ticks, quote);
+    quote.TickId = trade.TickId;
+    if (!hasMinutes || trade.Time >= point.Clock - MsPerMinute) {
+        if (const sFEED_TICK* const regular = NewestRegularTrade(newest.Ticks))
+            point.Close = regular->Last;
+        quote.Time = trade.Time;
+        quote.Last = trade.Last;
+        quote.Basis = trade.Basis;
+        quote.Size = trade.Size;
+        quote.Bid = row.Bid;
+        quote.Ask = row.Ask;
+    }
+    point.Clock = hasMinutes ? std::max(point.Clock, row.Time) : row.Time;
+}
+
+// Quotes at most.
+void StandWithoutTrades(std::span<const sFEED_TICK> ticks, sLAST_POINT& point)
+{
+    if (ticks.empty())
+        return;
+    point.Quote.Time = point.Clock = ticks.back().Time;
+    point.Quote.Bid = ticks.back().Bid;
+    point.Quote.Ask = ticks.back().Ask;
+    point.Day = DayOf(point.Clock);
+}
+
 } // namespace
 
 sLAST_POINT LastPointOf(const IMarketSource& market)
 {
     sLAST_POINT point;
-    sLIVE_QUOTE& quote = point.Quote;
-    quote.DisplayCode = market.DisplayCode();
-    quote.Decimals = market.Decimals();
+    point.Quote.DisplayCode = market.DisplayCode();
+    point.Quote.Decimals = market.Decimals();
 
     const auto daily = market.Daily();
     const auto minuteDays = market.MinuteDays();
     sNEWEST_TICKS ticks;
     FindNewestTicks(market, ticks);
-    if (daily.empty() && minuteDays.empty() && !ticks.Trade) {
-        if (!ticks.Ticks.empty()) {
-            quote.Time = point.Clock = ticks.Ticks.back().Time;
-            quote.Bid = ticks.Ticks.back().Bid;
-            quote.Ask = ticks.Ticks.back().Ask;
-        }
-        point.Day = DayOf(point.Clock);
-        return point;
-    }
     std::vector<TFeedDay> lastDays;
     if (!daily.empty())
         lastDays.push_back(DayOf(daily.back().Stamp));
@@ -90,50 +134,25 @@ sLAST_POINT LastPointOf(const IMarketSource& market)
         lastDays.push_back(minuteDays.back());
     if (ticks.Trade)
         lastDays.push_back(ticks.Day);
+    if (lastDays.empty()) {
+        StandWithoutTrades(ticks.Ticks, point);
+        return point;
+    }
     const TFeedDay day = point.Day = *std::max_element(lastDays.begin(), lastDays.end());
-    const bool hasMinutes = !minuteDays.empty() && minuteDays.back() == day;
-    const bool hasTicks = ticks.Trade && ticks.Day == day;
-
-    const auto isDay = [](const sFEED_BAR& bar, TFeedDay wanted) { return DayOf(bar.Stamp) < wanted; };
-    const auto dayBar = std::lower_bound(daily.begin(), daily.end(), day, isDay);
+    const auto isBefore = [](const sFEED_BAR& bar, TFeedDay other) { return DayOf(bar.Stamp) < other; };
+    const auto dayBar = std::lower_bound(daily.begin(), daily.end(), day, isBefore);
     if (dayBar != daily.begin())
-        point.Close = quote.PreviousClose = std::prev(dayBar)->Close;
-    if (dayBar != daily.end()) {
-        point.Close = dayBar->Close;
-        TakeDayOf(*dayBar, quote);
-        quote.Time = StartOfDay(day) + ClosingTime;
-        point.Clock = StartOfDay(NextWeekday(day)) + OpeningTime - 1;
-    }
+        point.Close = point.Quote.PreviousClose = std::prev(dayBar)->Close;
+    const bool hasDayBar = dayBar != daily.end();
+    const bool hasMinutes = !minuteDays.empty() && minuteDays.back() == day;
+    if (hasDayBar)
+        StandAtDay(*dayBar, point);
     if (hasMinutes) {
-        std::vector<sFEED_BAR> scratch, whole;
-        const auto minutes = market.Minutes(minuteDays.size() - 1, scratch);
-        if (dayBar == daily.end()) {
-            BuildIntervalsFromMinutes(minutes, static_cast<int>(MsPerDay / MsPerSecond), whole);
-            TakeDayOf(whole.front(), quote);
-        }
-        quote.Last = point.Close = minutes.back().Close;
-        quote.Basis = 'C';
-        point.Clock = minutes.back().Stamp;
-        // A bar stamped midnight closes this day and has no trade of the next.
-        quote.Time = std::min(point.Clock, StartOfDay(day + 1) - 1);
+        std::vector<sFEED_BAR> scratch;
+        StandAtMinutes(market.Minutes(minuteDays.size() - 1, scratch), hasDayBar, point);
     }
-    if (hasTicks) {
-        TakeDayOf(ticks.Ticks, quote);
-        quote.TickId = ticks.Trade->TickId;
-        const bool newest = !hasMinutes || ticks.Trade->Time >= point.Clock - MsPerMinute;
-        if (newest) {
-            if (const sFEED_TICK* const regular = NewestRegularTrade(ticks.Ticks))
-                point.Close = regular->Last;
-            quote.Time = ticks.Trade->Time;
-            quote.Last = ticks.Trade->Last;
-            quote.Basis = ticks.Trade->Basis;
-            quote.Size = ticks.Trade->Size;
-            quote.Bid = ticks.Ticks.back().Bid;
-            quote.Ask = ticks.Ticks.back().Ask;
-        }
-        const TFeedTime lastRow = ticks.Ticks.back().Time;
-        point.Clock = hasMinutes ? std::max(point.Clock, lastRow) : lastRow;
-    }
+    if (ticks.Trade && ticks.Day == day)
+        StandAtTicks(ticks, hasMinutes, point);
     return point;
 }
 
