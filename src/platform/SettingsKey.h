@@ -57,6 +57,8 @@ public:
     virtual bool Delete(std::string_view name) = 0; // whether a value was there and is gone now
     // In name order; empty where the store could not be read.
     virtual std::vector<std::pair<std::string, SettingValue>> List() = 0;
+    // Whether the calls from now on may wait for other processes; at first they may. For who will try again.
+    virtual void SetWaiting(bool) {}
 };
 
 inline constexpr const char* ChartSettingsKey = "Software\\Zantro\\Zantroq\\Applications\\Chart";
@@ -68,7 +70,8 @@ inline constexpr const char* FeedSettingsKey = "Software\\Zantro\\Quovex\\Startu
 // Nothing is created before the first write. In a missing file all values are missing; in a locked or damaged
 // one, or one that may not be read, all are unreadable; a read-only one is read, and what cannot be written
 // is skipped. While another process holds the file locked, a call waits three seconds at most, and the calls
-// of the ten seconds after it do not wait.
+// of the ten seconds after it do not wait. That holds for writes while another process is writing, too,
+// though reads go on then.
 std::unique_ptr<ISettingsKey> OpenSettingsKey(std::string keyPath);
 
 // The same in a file of the caller's choice.

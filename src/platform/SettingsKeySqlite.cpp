@@ -20,23 +20,29 @@ public:
 
     CSettingRead Read(std::string_view name) override
     {
-        const auto value = Try([&] { return m_file.Read(m_key, name); });
+        const auto value = Try(Intent::Read, [&] { return m_file.Read(m_key, name); });
         if (!value)
             return CSettingRead::Unreadable();
         return *value ? CSettingRead(**value) : CSettingRead::Missing();
     }
     bool Write(std::string_view name, const SettingValue& value) override
     {
-        return Try([&] { return m_file.Write(m_key, name, value), true; }).has_value();
+        return Try(Intent::Write, [&] { return m_file.Write(m_key, name, value), true; }).has_value();
     }
     bool Delete(std::string_view name) override
     {
-        return Try([&] { return m_file.Delete(m_key, name); }).value_or(false);
+        return Try(Intent::Write, [&] { return m_file.Delete(m_key, name); }).value_or(false);
     }
     std::vector<std::pair<std::string, SettingValue>> List() override
     {
-        const SettingValues values = Try([&] { return m_file.List(m_key); }).value_or(SettingValues());
+        const SettingValues values =
+            Try(Intent::Read, [&] { return m_file.List(m_key); }).value_or(SettingValues());
         return {values.begin(), values.end()};
+    }
+    void SetWaiting(bool waiting) override
+    {
+        const std::lock_guard lock(m_mutex);
+        m_waiting = waiting;
     }
 
 private:
@@ -45,18 +51,29 @@ private:
     static constexpr std::chrono::milliseconds Patience{3000};
     static constexpr std::chrono::seconds Sulk{10};
 
+    enum class Intent
+    {
+        Read,
+        Write
+    };
+
     // Nothing when the file would not have it.
-    template<class Call> auto Try(Call call) -> std::optional<decltype(call())>
+    template<class Call> auto Try(Intent intent, Call call) -> std::optional<decltype(call())>
     {
         const std::lock_guard lock(m_mutex);
+        auto& noWaitUntil = intent == Intent::Read ? m_noReadWaitUntil : m_noWriteWaitUntil;
         try {
-            m_file.SetPatience(Clock::now() < m_noWaitUntil ? std::chrono::milliseconds{0} : Patience);
+            const bool waits = m_waiting && Clock::now() >= noWaitUntil;
+            m_file.SetPatience(waits ? Patience : std::chrono::milliseconds{0});
             std::optional<decltype(call())> result(std::in_place, call());
-            m_noWaitUntil = {};
+            m_noReadWaitUntil = {};
+            // Reading goes on while another process is writing, so it says nothing about the next write.
+            if (intent == Intent::Write)
+                m_noWriteWaitUntil = {};
             return result;
         } catch (const CSettingsFileError& error) {
             if (error.Problem == SettingsProblem::Locked)
-                m_noWaitUntil = Clock::now() + Sulk;
+                m_noReadWaitUntil = m_noWriteWaitUntil = Clock::now() + Sulk;
             return std::nullopt;
         }
     }
@@ -64,7 +81,8 @@ private:
     const std::string m_key;
     std::mutex m_mutex;
     CSettingsFile m_file;
-    Clock::time_point m_noWaitUntil{};
+    bool m_waiting = true;
+    Clock::time_point m_noReadWaitUntil{}, m_noWriteWaitUntil{};
 };
 
 } // namespace

@@ -8,11 +8,18 @@ bool CRetryingKey::Make(std::string subject, Change change)
 {
     std::erase_if(m_waiting, [&](const sWaiting& waiting) { return waiting.Subject == subject; });
     m_waiting.push_back({std::move(subject), std::move(change)});
-    Retry();
+    CarryOut();
     return m_waiting.empty();
 }
 
 void CRetryingKey::Retry()
+{
+    m_key.SetWaiting(false);
+    CarryOut();
+    m_key.SetWaiting(true);
+}
+
+void CRetryingKey::CarryOut()
 {
     const auto refused =
         std::ranges::find_if(m_waiting, [&](const sWaiting& waiting) { return !waiting.Carry(m_key); });

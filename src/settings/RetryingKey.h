@@ -22,13 +22,14 @@ public:
     using Change = std::function<bool(ISettingsKey& key)>;
 
     explicit CRetryingKey(ISettingsKey& key) : m_key(key) {} // the key must outlive this one
-    ~CRetryingKey() override { Retry(); }
+    ~CRetryingKey() override { CarryOut(); }
 
     // Makes a change now or keeps it, behind those kept already. It takes the place of a kept one of the same
     // subject. The answer is whether it is stored.
     bool Make(std::string subject, Change change);
 
-    // Carries out what is kept, in order, up to the first that is refused again.
+    // Carries out what is kept, in order, up to the first that is refused again. Waits for no other process:
+    // nobody has asked for it just now.
     void Retry();
     bool IsWaiting() const { return !m_waiting.empty(); }
 
@@ -37,6 +38,7 @@ public:
     bool Write(std::string_view name, const SettingValue& value) override;
     bool Delete(std::string_view name) override;
     std::vector<std::pair<std::string, SettingValue>> List() override { return m_key.List(); }
+    void SetWaiting(bool waiting) override { m_key.SetWaiting(waiting); }
 
 private:
     struct sWaiting
@@ -44,6 +46,8 @@ private:
         std::string Subject;
         Change Carry;
     };
+
+    void CarryOut();
 
     ISettingsKey& m_key;
     std::vector<sWaiting> m_waiting; // in the order of the changes

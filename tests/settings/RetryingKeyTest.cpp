@@ -98,4 +98,34 @@ TEST_F(RetryingKey, ChangesAreCarriedOutInTheirOrderUpToTheOneThatIsRefused)
     EXPECT_EQ(log, "abbbc");
 }
 
+// A retry every two seconds must not hold up the window; a change that the user makes may.
+TEST(RetryingKeyWaiting, ARetryWaitsForNobody)
+{
+    struct sWaitingKey final : ISettingsKey
+    {
+        std::string Log; // 'w' for a write that may wait, 'n' for one that may not
+        bool Waiting = true;
+        CSettingRead Read(std::string_view) override { return CSettingRead::Missing(); }
+        bool Write(std::string_view, const SettingValue&) override
+        {
+            Log += Waiting ? 'w' : 'n';
+            return false;
+        }
+        bool Delete(std::string_view) override { return false; }
+        std::vector<std::pair<std::string, SettingValue>> List() override { return {}; }
+        void SetWaiting(bool waiting) override { Waiting = waiting; }
+    } below;
+    {
+        CRetryingKey key(below);
+        key.Write("a", 1u);
+        EXPECT_EQ(below.Log, "w");
+        key.Retry();
+        key.Retry();
+        EXPECT_EQ(below.Log, "wnn");
+        key.Write("b", 1u);
+        EXPECT_EQ(below.Log, "wnnw");
+    }
+    EXPECT_EQ(below.Log, "wnnww");
+}
+
 } // namespace zantroq

@@ -229,6 +229,43 @@ TEST_F(SettingsFile, AKeyTellsWhatIsMissingFromWhatALockKeptFromBeingRead)
     EXPECT_EQ(key->Read("GRID").Result(), ReadResult::Missing);
 }
 
+// A window on a fresh file reads and writes its defaults in turn. Each read that went through under the
+// other process's write lock made the next write wait again: the start took five minutes.
+TEST_F(SettingsFile, AWriteLockThatLetsReadsThroughIsWaitedForOnce)
+{
+    CSettingsFile(Path).Write("K", "a", 1u);
+    sqlite3* holder = nullptr;
+    ASSERT_EQ(sqlite3_open(Path.c_str(), &holder), SQLITE_OK);
+    ASSERT_EQ(sqlite3_exec(holder, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
+    const auto key = OpenSettingsKey(Path, "K");
+    int waits = 0;
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_EQ(key->Read("a"), SettingValue(1u));
+        const auto start = std::chrono::steady_clock::now();
+        EXPECT_FALSE(key->Write("a", 2u));
+        waits += std::chrono::steady_clock::now() - start >= std::chrono::milliseconds(2900);
+    }
+    EXPECT_EQ(waits, 1);
+    sqlite3_exec(holder, "COMMIT", nullptr, nullptr, nullptr);
+    sqlite3_close(holder);
+    EXPECT_TRUE(key->Write("a", 2u));
+}
+
+TEST_F(SettingsFile, AKeyThatMayNotWaitGivesUpAtOnce)
+{
+    CSettingsFile(Path).Write("K", "a", 1u);
+    sqlite3* holder = nullptr;
+    ASSERT_EQ(sqlite3_open(Path.c_str(), &holder), SQLITE_OK);
+    ASSERT_EQ(sqlite3_exec(holder, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
+    const auto key = OpenSettingsKey(Path, "K");
+    key->SetWaiting(false);
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_FALSE(key->Write("a", 2u));
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(2900));
+    sqlite3_exec(holder, "COMMIT", nullptr, nullptr, nullptr);
+    sqlite3_close(holder);
+}
+
 TEST_F(SettingsFile, AReadOnlyFileIsReadAndNotWritten)
 {
     CSettingsFile(Path).Write("K", "a", 1u);
