@@ -81,15 +81,24 @@ private:
     class CStatement;
     class CTransaction;
 
+    enum class Door
+    {
+        Ordinary,
+        Frozen // without locks and logs
+    };
+
     bool Open(Access access); // false: no file, and only reading was asked for
     void OpenHandle(Access access, bool exists);
+    void OpenDoor(Door door, const std::string& path, Access access);
+    void RefuseByLook(const std::string& followed);
     void CheckContents(Access access);
     void CreateContents();
     void Close();
     bool SameFile() const;
-    void Execute(const char* sql);
+    void Execute(const char* sql, Access access);
     sqlite3_stmt* Prepared(const char* sql, Access access);
     void Insert(std::string_view key, std::string_view name, const SettingValue& value);
+    [[noreturn]] void FailForeign();
     [[noreturn]] void Fail(int code, Access access);
 
     const std::string m_path;

@@ -2,6 +2,7 @@
 // something fails.
 #include "platform/SettingsFile.h"
 
+#include "platform/SettingsFileLook.h"
 #include "platform/SettingsStatement.h"
 
 #include <cerrno>
@@ -14,7 +15,6 @@
 namespace zantroq {
 namespace {
 
-constexpr int ApplicationId = 0x5A545251; // "ZTRQ" in the header of the file
 constexpr int FormatVersion = 1;
 
 constexpr const char* TableText =
@@ -25,29 +25,6 @@ constexpr const char* TableText =
 bool IsMissing(int error)
 {
     return error == ENOENT || error == ENOTDIR;
-}
-
-// A path as the name part of an SQLite address.
-std::string AsAddress(const std::string& path)
-{
-    static constexpr char Digits[] = "0123456789abcdef";
-    std::string address = "file:";
-    for (const char c : path) {
-        const auto byte = static_cast<unsigned char>(c);
-        if ((c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '/')
-            address += c;
-        else
-            address += {'%', Digits[byte >> 4], Digits[byte & 15]};
-    }
-    return address + "?immutable=1&mode=ro";
-}
-
-bool HasPendingLog(const std::string& path)
-{
-    struct stat about
-    {
-    };
-    return ::stat((path + "-wal").c_str(), &about) == 0 && about.st_size > 0;
 }
 
 // Folders of settings are private to their user, so create_directories, which gives no say in the mode, will
@@ -101,57 +78,87 @@ bool CSettingsFile::Open(Access access)
         CreateContents();
     if (!m_hasTable) // another process may have filled an empty file since
         CheckContents(access);
+    if (m_hasTable)
+        sqlite3_db_config(m_db, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 0, nullptr);
     return m_hasTable;
 }
 
 void CSettingsFile::OpenHandle(Access access, bool exists)
 {
+    const std::string followed = FollowedPath(m_path);
+    if (exists)
+        RefuseByLook(followed);
     // A file that cannot be written is read without locks and without the two side files, which could not be
     // made or would be left behind. Where a log is pending it must be read through the ordinary door.
-    const bool canFreeze = exists && !HasPendingLog(m_path);
-    const auto open = [&](bool frozen) {
-        m_frozen = frozen;
-        const int flags = frozen ? SQLITE_OPEN_READONLY | SQLITE_OPEN_URI
-                                 : SQLITE_OPEN_READWRITE | (access == Access::Write ? SQLITE_OPEN_CREATE : 0);
-        const int code = sqlite3_open_v2((frozen ? AsAddress(m_path) : m_path).c_str(), &m_db,
-                                         flags | SQLITE_OPEN_NOMUTEX, nullptr);
-        if (code != SQLITE_OK) {
-            const int detail = m_db ? sqlite3_extended_errcode(m_db) : code;
-            Close();
-            Fail(detail, access);
-        }
-        sqlite3_extended_result_codes(m_db, 1);
-        sqlite3_busy_timeout(m_db, static_cast<int>(m_patience.count()));
-        // The file may come from anywhere; nothing in it may run.
-        sqlite3_db_config(m_db, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
-        sqlite3_db_config(m_db, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
-        sqlite3_db_config(m_db, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
-        sqlite3_db_config(m_db, SQLITE_DBCONFIG_ENABLE_VIEW, 0, nullptr);
-        struct stat about
-        {
-        };
-        if (::stat(m_path.c_str(), &about) == 0) {
-            m_device = about.st_dev;
-            m_inode = about.st_ino;
-        }
-        Execute("PRAGMA synchronous=NORMAL");
-        CheckContents(access);
-    };
+    const bool hasLog = exists && HasPendingLog(followed);
+    const bool canFreeze = exists && !hasLog;
     const bool freeze = canFreeze && ::access(m_path.c_str(), W_OK) != 0;
     try {
-        open(freeze);
+        OpenDoor(freeze ? Door::Frozen : Door::Ordinary, m_path, access);
+        return;
     } catch (const CSettingsFileError& error) {
         Close();
         const bool closedDoor =
             error.Problem == SettingsProblem::Unreadable || error.Problem == SettingsProblem::Unwritable;
         if (freeze || !canFreeze || access == Access::Write || !closedDoor)
             throw;
-        try {
-            open(true);
-        } catch (...) {
-            Close();
-            throw;
-        }
+    }
+    try {
+        OpenDoor(Door::Frozen, m_path, access);
+    } catch (...) {
+        Close();
+        throw;
+    }
+}
+
+void CSettingsFile::OpenDoor(Door door, const std::string& path, Access access)
+{
+    m_frozen = door == Door::Frozen;
+    const int flags = m_frozen ? SQLITE_OPEN_READONLY | SQLITE_OPEN_URI
+                               : SQLITE_OPEN_READWRITE | (access == Access::Write ? SQLITE_OPEN_CREATE : 0);
+    const int code = sqlite3_open_v2((m_frozen ? FrozenAddress(path) : path).c_str(), &m_db,
+                                     flags | SQLITE_OPEN_NOMUTEX, nullptr);
+    if (code != SQLITE_OK) {
+        const int detail = m_db ? sqlite3_extended_errcode(m_db) : code;
+        Close();
+        Fail(detail, access);
+    }
+    sqlite3_extended_result_codes(m_db, 1);
+    sqlite3_busy_timeout(m_db, static_cast<int>(m_patience.count()));
+    // The file may come from anywhere; nothing in it may run.
+    sqlite3_db_config(m_db, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+    sqlite3_db_config(m_db, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+    sqlite3_db_config(m_db, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
+    sqlite3_db_config(m_db, SQLITE_DBCONFIG_ENABLE_VIEW, 0, nullptr);
+    // Until the file is known for one of ours, its log must survive the closing.
+    if (HasPendingLog(FollowedPath(path)))
+        sqlite3_db_config(m_db, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+    struct stat about
+    {
+    };
+    if (::stat(m_path.c_str(), &about) == 0) {
+        m_device = about.st_dev;
+        m_inode = about.st_ino;
+    }
+    Execute("PRAGMA synchronous=NORMAL", access);
+    CheckContents(access);
+}
+
+// Refuses by its first bytes what must not even be opened.
+void CSettingsFile::RefuseByLook(const std::string& followed)
+{
+    switch (LookAtSettings(followed)) {
+    case SettingsLook::Usable:
+        return;
+    case SettingsLook::Noise:
+        Fail(SQLITE_NOTADB, Access::Read);
+    case SettingsLook::CutOff:
+        throw CSettingsFileError(SettingsProblem::Damaged,
+                                 m_path +
+                                     ": the settings file is damaged (it is empty, but a log beside it is "
+                                     "not); both were left as they are, move them away or restore a copy");
+    case SettingsLook::Foreign:
+        FailForeign();
     }
 }
 
@@ -167,13 +174,11 @@ void CSettingsFile::CheckContents(Access access)
     const auto objects = number("SELECT count(*) FROM sqlite_master");
     const auto application = number("PRAGMA application_id");
     m_hasTable = false;
-    if (objects == 0 && (application == 0 || application == ApplicationId))
+    if (objects == 0 && (application == 0 || application == SettingsApplicationId))
         return;
-    if (application != ApplicationId ||
+    if (application != SettingsApplicationId ||
         number("SELECT count(*) FROM sqlite_master WHERE type = 'table' AND name = 'setting'") != 1)
-        throw CSettingsFileError(
-            SettingsProblem::NotSettings,
-            m_path + ": this data base is not a settings file; set ZANTROQ_SETTINGS to another file");
+        FailForeign();
     if (const auto version = number("PRAGMA user_version"); version != FormatVersion)
         throw CSettingsFileError(SettingsProblem::NotSettings,
                                  m_path + ": the settings file has format " + std::to_string(version) +
@@ -198,9 +203,9 @@ void CSettingsFile::CreateContents()
     CTransaction transaction(*this);
     CheckContents(Access::Write);
     if (!m_hasTable) {
-        Execute(TableText);
-        Execute(("PRAGMA application_id=" + std::to_string(ApplicationId)).c_str());
-        Execute(("PRAGMA user_version=" + std::to_string(FormatVersion)).c_str());
+        Execute(TableText, Access::Write);
+        Execute(("PRAGMA application_id=" + std::to_string(SettingsApplicationId)).c_str(), Access::Write);
+        Execute(("PRAGMA user_version=" + std::to_string(FormatVersion)).c_str(), Access::Write);
     }
     transaction.Commit();
     m_hasTable = true;
@@ -225,10 +230,10 @@ bool CSettingsFile::SameFile() const
     return ::stat(m_path.c_str(), &about) == 0 && about.st_dev == m_device && about.st_ino == m_inode;
 }
 
-void CSettingsFile::Execute(const char* sql)
+void CSettingsFile::Execute(const char* sql, Access access)
 {
     if (sqlite3_exec(m_db, sql, nullptr, nullptr, nullptr) != SQLITE_OK)
-        Fail(sqlite3_extended_errcode(m_db), Access::Write);
+        Fail(sqlite3_extended_errcode(m_db), access);
 }
 
 sqlite3_stmt* CSettingsFile::Prepared(const char* sql, Access access)
@@ -240,6 +245,13 @@ sqlite3_stmt* CSettingsFile::Prepared(const char* sql, Access access)
         Fail(sqlite3_extended_errcode(m_db), access);
     m_statements.emplace(sql, statement);
     return statement;
+}
+
+void CSettingsFile::FailForeign()
+{
+    throw CSettingsFileError(
+        SettingsProblem::NotSettings,
+        m_path + ": this data base is not a settings file; set ZANTROQ_SETTINGS to another file");
 }
 
 void CSettingsFile::Fail(int code, Access access)

@@ -34,7 +34,8 @@ default is written only for a value that is surely missing, never for one that c
 all the same; where the file does not take it, the chart tries again while it runs, and once more when its window closes. Of a list
 that could not be read only the entries that the user changed are written, and symbols stand in front of those that could not be
 read. A read-only file is read, and what would be written is skipped. A damaged file, another program's data base, or a file of a
-later format is never written to. `zantroq-settings` says what is wrong with it.
+later format is never written to, and neither is a log or journal beside it; an empty file with a log beside it counts as damaged.
+`zantroq-settings` says what is wrong with it.
 
 )";
 

@@ -34,9 +34,18 @@ struct SettingsFile : testing::Test
         ADD_FAILURE() << "no error";
         return {};
     }
+    // The file and what may lie beside it, each with its name.
+    std::string AllBytes() const
+    {
+        std::string bytes;
+        for (const std::string ending : {"", "-wal", "-journal"})
+            if (std::filesystem::exists(Path + ending))
+                bytes += "\n=== file" + ending + "\n" + test::Contents(Path + ending);
+        return bytes;
+    }
     void ExpectLeftAlone(SettingsProblem problem)
     {
-        const std::string before = test::Contents(Path);
+        const std::string before = AllBytes();
         EXPECT_EQ(ProblemOfReading(), problem);
         CSettingsFile file(Path, std::chrono::milliseconds(50));
         EXPECT_THROW(file.Write("K", "a", 1u), CSettingsFileError);
@@ -47,8 +56,39 @@ struct SettingsFile : testing::Test
         EXPECT_FALSE(key->Write("a", 1u));
         EXPECT_FALSE(key->Delete("a"));
         EXPECT_TRUE(key->List().empty());
-        EXPECT_TRUE(test::Contents(Path) == before) << "the file was changed";
-        EXPECT_FALSE(std::filesystem::exists(Path + "-wal"));
+        EXPECT_TRUE(AllBytes() == before) << "the file or its log was changed";
+    }
+    // Many values in the file, and one more in a log, as a process leaves them that dies.
+    void MakeFileWithPendingLog()
+    {
+        {
+            CSettingsFile file(Path);
+            for (int i = 0; i < 500; ++i)
+                file.Write("K", "name " + std::to_string(i), std::string(50, 'x'));
+        }
+        ASSERT_EQ(test::WaitFor(test::StartChild([&] {
+                      (new CSettingsFile(Path))->Write("K", "new", 1u);
+                      return 0;
+                  })),
+                  0);
+        ASSERT_GT(test::Contents(Path + "-wal").size(), 0u);
+    }
+    // The same with another program's data base.
+    void DieAfterSql(const std::string& sql)
+    {
+        ASSERT_EQ(test::WaitFor(test::StartChild([&] {
+                      sqlite3* db = nullptr;
+                      sqlite3_open(Path.c_str(), &db);
+                      return sqlite3_exec(db, sql.c_str(), nullptr, nullptr, nullptr);
+                  })),
+                  SQLITE_OK);
+    }
+    // A journal that SQLite would play back, of a file that had so many pages.
+    void PutJournal(char pages)
+    {
+        std::string header("\xd9\xd5\x05\xf9\x20\xa1\x63\xd7\0\0\0\0\1\2\3\4\0\0\0\0\0\0\2\0\0\0\x10\0", 28);
+        header[19] = pages;
+        test::PutFile(Path + "-journal", header + std::string(512 - header.size(), '\0'));
     }
     void RunSql(const std::string& sql)
     {
@@ -157,6 +197,83 @@ TEST_F(SettingsFile, AnotherProgramsDataBaseIsLeftAlone)
 {
     RunSql("CREATE TABLE setting(a); INSERT INTO setting VALUES(1)");
     ExpectLeftAlone(SettingsProblem::NotSettings);
+}
+
+// Opening a file may play back a journal, and closing it brings the log into it; both happened to files that
+// were refused.
+TEST_F(SettingsFile, ABrokenPageKeepsTheLogAsItIs)
+{
+    MakeFileWithPendingLog();
+    std::string bytes = test::Contents(Path);
+    ASSERT_GT(bytes.size(), 4096u * 6);
+    bytes.replace(4096 * 2, 4096 * 3, std::string(4096 * 3, '\x5A'));
+    test::PutFile(Path, bytes);
+    ExpectLeftAlone(SettingsProblem::Damaged);
+}
+
+TEST_F(SettingsFile, ABrokenHeaderKeepsTheLogAsItIs)
+{
+    MakeFileWithPendingLog();
+    std::string bytes = test::Contents(Path);
+    bytes.replace(0, 16, std::string(16, '\x5A'));
+    test::PutFile(Path, bytes);
+    ExpectLeftAlone(SettingsProblem::Damaged);
+}
+
+TEST_F(SettingsFile, AFileCutToNothingKeepsTheLogAsItIs)
+{
+    MakeFileWithPendingLog();
+    test::PutFile(Path, "");
+    ExpectLeftAlone(SettingsProblem::Damaged);
+    std::filesystem::remove(Path + "-wal");
+    PutJournal(3);
+    ExpectLeftAlone(SettingsProblem::Damaged);
+}
+
+TEST_F(SettingsFile, AnotherProgramsLogIsLeftAlone)
+{
+    DieAfterSql("PRAGMA journal_mode=WAL; CREATE TABLE t(a); INSERT INTO t VALUES(1)");
+    ASSERT_GT(test::Contents(Path + "-wal").size(), 0u);
+    ExpectLeftAlone(SettingsProblem::NotSettings);
+    RunSql("PRAGMA wal_checkpoint(TRUNCATE); PRAGMA application_id=7");
+    DieAfterSql("INSERT INTO t VALUES(2)");
+    ASSERT_GT(test::Contents(Path + "-wal").size(), 0u);
+    ExpectLeftAlone(SettingsProblem::NotSettings);
+}
+
+TEST_F(SettingsFile, AnotherProgramsHotJournalIsLeftAlone)
+{
+    RunSql("CREATE TABLE t(a); INSERT INTO t VALUES('old')");
+    std::string sql = "PRAGMA cache_size=1; BEGIN IMMEDIATE;";
+    for (int i = 0; i < 200; ++i)
+        sql += "INSERT INTO t VALUES('" + std::string(400, 'x') + "');";
+    DieAfterSql(sql);
+    ASSERT_EQ(test::Contents(Path + "-journal").substr(0, 1), "\xd9");
+    ExpectLeftAlone(SettingsProblem::NotSettings);
+}
+
+TEST_F(SettingsFile, AFileWhoseMakingWasCutShortIsAnEmptyStore)
+{
+    test::PutFile(Path, "");
+    PutJournal(0);
+    CSettingsFile(Path).Write("K", "a", 1u);
+    EXPECT_EQ(CSettingsFile(Path).Read("K", "a"), SettingValue(1u));
+
+    std::filesystem::remove(Path);
+    RunSql("PRAGMA journal_mode=WAL");
+    ASSERT_EQ(test::Contents(Path).size(), 4096u);
+    PutJournal(0);
+    EXPECT_FALSE(CSettingsFile(Path).Read("K", "a"));
+    CSettingsFile(Path).Write("K", "a", 2u);
+    EXPECT_EQ(CSettingsFile(Path).Read("K", "a"), SettingValue(2u));
+}
+
+TEST_F(SettingsFile, AnAcceptedLogIsBroughtIntoTheFileOnClosing)
+{
+    MakeFileWithPendingLog();
+    EXPECT_EQ(CSettingsFile(Path).Read("K", "new"), SettingValue(1u));
+    EXPECT_FALSE(std::filesystem::exists(Path + "-wal"));
+    EXPECT_EQ(CSettingsFile(Path).Read("K", "new"), SettingValue(1u));
 }
 
 TEST_F(SettingsFile, AFileOfALaterFormatIsLeftAlone)
