@@ -90,6 +90,7 @@ private:
     bool Open(Access access); // false: no file, and only reading was asked for
     void OpenHandle(Access access, bool exists);
     void OpenDoor(Door door, const std::string& path, Access access);
+    void OpenCopy(const std::string& followed);
     void RefuseByLook(const std::string& followed);
     void CheckContents(Access access);
     void CreateContents();
@@ -108,7 +109,7 @@ private:
         m_statements; // by their text, for the life of the connection
     bool m_hasTable = false;
     bool m_reopen = false; // something failed: look at the file afresh
-    bool m_frozen = false; // opened without locks, because neither file nor folder can be written
+    bool m_frozen = false; // opened without locks or as a copy, because it cannot be written where it is
     std::uint64_t m_device = 0, m_inode = 0; // which file the connection is on
 };
 

@@ -89,10 +89,10 @@ void CSettingsFile::OpenHandle(Access access, bool exists)
     if (exists)
         RefuseByLook(followed);
     // A file that cannot be written is read without locks and without the two side files, which could not be
-    // made or would be left behind. Where a log is pending it must be read through the ordinary door.
+    // made or would be left behind. Where a log is pending it must be read through the ordinary door, and
+    // where that is closed, in a copy.
     const bool hasLog = exists && HasPendingLog(followed);
-    const bool canFreeze = exists && !hasLog;
-    const bool freeze = canFreeze && ::access(m_path.c_str(), W_OK) != 0;
+    const bool freeze = exists && !hasLog && ::access(m_path.c_str(), W_OK) != 0;
     try {
         OpenDoor(freeze ? Door::Frozen : Door::Ordinary, m_path, access);
         return;
@@ -100,11 +100,14 @@ void CSettingsFile::OpenHandle(Access access, bool exists)
         Close();
         const bool closedDoor =
             error.Problem == SettingsProblem::Unreadable || error.Problem == SettingsProblem::Unwritable;
-        if (freeze || !canFreeze || access == Access::Write || !closedDoor)
+        if (freeze || !exists || access == Access::Write || !closedDoor)
             throw;
     }
     try {
-        OpenDoor(Door::Frozen, m_path, access);
+        if (hasLog)
+            OpenCopy(followed);
+        else
+            OpenDoor(Door::Frozen, m_path, access);
     } catch (...) {
         Close();
         throw;
@@ -142,6 +145,18 @@ void CSettingsFile::OpenDoor(Door door, const std::string& path, Access access)
     }
     Execute("PRAGMA synchronous=NORMAL", access);
     CheckContents(access);
+}
+
+// The copy is gone from its folder with this call; the connection goes on reading it.
+void CSettingsFile::OpenCopy(const std::string& followed)
+{
+    const CSettingsCopy copy(followed);
+    if (copy.Path().empty())
+        throw CSettingsFileError(SettingsProblem::Unreadable,
+                                 m_path + ": the settings file cannot be read together with the log beside "
+                                          "it; allow reading both, and writing to their folder");
+    OpenDoor(Door::Ordinary, copy.Path(), Access::Read);
+    m_frozen = true;
 }
 
 // Refuses by its first bytes what must not even be opened.
@@ -272,6 +287,10 @@ void CSettingsFile::Fail(int code, Access access)
                                  m_path + ": the settings file is damaged" + reason +
                                      "; it was left as it is, move it away or restore a copy");
     case SQLITE_READONLY:
+        if (access == Access::Read)
+            throw CSettingsFileError(SettingsProblem::Unreadable,
+                                     m_path + ": the settings file cannot be read" + reason +
+                                         "; allow writing to it and to its folder");
         throw CSettingsFileError(
             SettingsProblem::Unwritable,
             m_path + ": the settings file is read-only; allow writing to it and to its folder");

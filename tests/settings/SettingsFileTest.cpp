@@ -410,6 +410,70 @@ TEST_F(SettingsFile, AReadOnlyFileIsReadAndNotWritten)
     std::filesystem::permissions(Folder.File(""), std::filesystem::perms(0755));
 }
 
+// Without the -shm file SQLite cannot follow a log in a folder that cannot be written. It was looked for
+// beside a link, too, and not found there, so that values were read without it.
+TEST_F(SettingsFile, AReadOnlyFileIsReadWithItsPendingLog)
+{
+    const CTemporaryFolder elsewhere;
+    const std::string link = elsewhere.File("link.db");
+    std::filesystem::permissions(elsewhere.File(""), std::filesystem::perms(0755));
+    std::filesystem::create_symlink(Path, link);
+    MakeFileWithPendingLog();
+    const auto setMode = [&](unsigned folder, unsigned file) {
+        std::filesystem::permissions(Folder.File(""), std::filesystem::perms(folder));
+        for (const std::string ending : {"", "-wal", "-shm"})
+            if (std::filesystem::exists(Path + ending))
+                std::filesystem::permissions(Path + ending, std::filesystem::perms(file));
+    };
+    const std::string before = AllBytes();
+    for (const bool hasIndex : {true, false}) {
+        if (!hasIndex)
+            std::filesystem::remove(Path + "-shm");
+        setMode(0555, 0444);
+        for (const std::string& path : {Path, link})
+            EXPECT_EQ(test::AsOrdinaryUser([&] {
+                          const auto key = OpenSettingsKey(path, "K");
+                          if (key->Read("new") != SettingValue(1u) || key->List().size() != 501)
+                              return 1;
+                          if (key->Write("new", 2u) || key->Delete("new"))
+                              return 2;
+                          CSettingsFile file(path);
+                          if (file.Read("K", "new") != SettingValue(1u))
+                              return 3;
+                          try {
+                              file.Write("K", "new", 2u);
+                          } catch (const CSettingsFileError& error) {
+                              return error.Problem == SettingsProblem::Unwritable ? 0 : 4;
+                          }
+                          return 5;
+                      }),
+                      0)
+                << path << " " << hasIndex;
+        setMode(0755, 0644);
+    }
+    EXPECT_TRUE(AllBytes() == before);
+}
+
+TEST_F(SettingsFile, ALogThatMayNotBeReadIsSaidToBeUnreadable)
+{
+    MakeFileWithPendingLog();
+    std::filesystem::remove(Path + "-shm");
+    std::filesystem::permissions(Path, std::filesystem::perms(0444));
+    std::filesystem::permissions(Path + "-wal", std::filesystem::perms(0));
+    std::filesystem::permissions(Folder.File(""), std::filesystem::perms(0555));
+    EXPECT_EQ(test::AsOrdinaryUser([&] {
+                  try {
+                      CSettingsFile(Path).Read("K", "new");
+                  } catch (const CSettingsFileError& error) {
+                      const bool says = std::string(error.what()).find("cannot be read") != std::string::npos;
+                      return error.Problem == SettingsProblem::Unreadable && says ? 0 : 1;
+                  }
+                  return 2;
+              }),
+              0);
+    std::filesystem::permissions(Folder.File(""), std::filesystem::perms(0755));
+}
+
 TEST_F(SettingsFile, AFileThatMayNotBeReadIsMissingAndSaysSo)
 {
     CSettingsFile(Path).Write("K", "a", 1u);
