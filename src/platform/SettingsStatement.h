@@ -4,6 +4,7 @@
 
 #include "platform/SettingsFile.h"
 
+#include <limits>
 #include <sqlite3.h>
 
 namespace zantroq {
@@ -68,14 +69,19 @@ public:
         const void* bytes = sqlite3_column_blob(m_handle, column);
         return bytes ? std::string(static_cast<const char*>(bytes), Size(column)) : std::string();
     }
-    // Nothing for a type that this version does not know.
+    // Nothing for a type that this version does not know, nor for a number that is none or too large.
     std::optional<SettingValue> ValueAt(int typeColumn, int valueColumn)
     {
         switch (NumberAt(typeColumn)) {
         case StoredText:
             return TextAt(valueColumn);
-        case StoredNumber:
-            return static_cast<std::uint32_t>(NumberAt(valueColumn));
+        case StoredNumber: {
+            const std::int64_t number = NumberAt(valueColumn);
+            if (sqlite3_column_type(m_handle, valueColumn) != SQLITE_INTEGER || number < 0 ||
+                number > std::numeric_limits<std::uint32_t>::max())
+                return std::nullopt;
+            return static_cast<std::uint32_t>(number);
+        }
         case StoredBinary: {
             const auto* bytes = static_cast<const std::uint8_t*>(sqlite3_column_blob(m_handle, valueColumn));
             return bytes ? std::vector<std::uint8_t>(bytes, bytes + Size(valueColumn))

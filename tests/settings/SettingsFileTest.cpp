@@ -130,6 +130,17 @@ TEST_F(SettingsFile, ValuesOfAllTypesReadBack)
     }
 }
 
+TEST_F(SettingsFile, AStoredNumberThatIsNoDwordIsMissing)
+{
+    CSettingsFile(Path).Write("K", "most", 4294967295u);
+    RunSql("INSERT INTO setting VALUES('K', 'large', 4, 4294967296), ('K', 'negative', 4, -1), "
+           "('K', 'text', 4, '7'), ('K', 'binary', 4, x'37'), ('K', 'broken', 4, 7.5), ('K', 'least', 4, 0)");
+    CSettingsFile file(Path);
+    EXPECT_EQ(file.List("K"), (SettingValues{{"least", 0u}, {"most", 4294967295u}}));
+    EXPECT_FALSE(file.Read("K", "large"));
+    EXPECT_EQ(OpenSettingsKey(Path, "K")->Read("negative").Result(), ReadResult::Missing);
+}
+
 TEST_F(SettingsFile, NothingIsCreatedBeforeTheFirstWrite)
 {
     const std::string deep = Folder.File("one/two/settings.db");
