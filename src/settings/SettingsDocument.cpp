@@ -79,7 +79,8 @@ missing colours of studies black; neither is written.
 ### Recently used symbols
 
 `SQ0` to `SQ19`, newest first, texts. A 21st symbol pushes out the last one, and the values `RectPosition.` + that symbol and the
-same + `.Maximized` are deleted. They are not the names under which positions are stored (below), so a position stays.
+same + `.Maximized` are deleted. They are not the names under which positions are stored (below), so a position stays. Values
+behind the end of the list that is written are deleted.
 
 ### Window positions
 

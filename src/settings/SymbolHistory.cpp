@@ -45,11 +45,20 @@ void DropLast(ISettingsKey& key, Symbols& symbols)
     symbols.pop_back();
 }
 
+bool Forget(ISettingsKey& key, const std::string& name)
+{
+    return key.Read(name).Result() == ReadResult::Missing || key.Delete(name);
+}
+
+// What is stored is the list and nothing behind it: another window's longer list, or gaps and doubles in the
+// store, would leave entries there that stand in the list already.
 bool StoreAll(ISettingsKey& key, const Symbols& symbols)
 {
     bool isStored = true;
     for (std::size_t place = 0; place < symbols.size(); ++place)
         isStored = key.Write(NameOf(place), symbols[place]) && isStored;
+    for (std::size_t place = symbols.size(); place < CSymbolHistory::MostSymbols; ++place)
+        isStored = Forget(key, NameOf(place)) && isStored;
     return isStored;
 }
 

@@ -19,9 +19,9 @@ public:
     // behind the symbols added since, as soon as it can be read.
     void LoadSymbolHistory();
 
-    // Puts the symbol at the top, takes it away from where it stood, and writes the whole list. An empty
-    // symbol changes nothing. When the list is full the last entry goes, and with it the two values
-    // "RectPosition." + the entry and the same +
+    // Puts the symbol at the top, takes it away from where it stood, and writes the whole list; values behind
+    // its end go. An empty symbol changes nothing. When the list is full the last entry goes, and with it the
+    // two values "RectPosition." + the entry and the same +
     // ".Maximized". Window positions are stored by title ("XYZ - Chart"), so these are not the values of that
     // symbol's window: its position stays, and is meant to.
     void AddSymbol(const std::string& symbol);

@@ -50,6 +50,35 @@ TEST_F(SymbolHistory, EmptyAndMissingEntriesAreLeftOutOnLoading)
     EXPECT_EQ(History.Items(), (std::vector<std::string>{"X", "Y"}));
 }
 
+// Two windows: the older one knows less than is stored. Its list took the front places, and behind it stood
+// symbols that were in it already.
+TEST_F(SymbolHistory, NothingStaysStoredBehindTheEndOfTheList)
+{
+    for (const char* symbol : {"C1", "C2"})
+        History.AddSymbol(symbol);
+    CSymbolHistory newer(UserKey);
+    newer.LoadSymbolHistory();
+    for (const char* symbol : {"C3", "C4", "C5"})
+        newer.AddSymbol(symbol);
+    EXPECT_EQ(Stored("SQ4"), "C1");
+    History.AddSymbol("C3");
+    CSymbolHistory next(UserKey);
+    next.LoadSymbolHistory();
+    EXPECT_EQ(next.Items(), (std::vector<std::string>{"C3", "C2", "C1"}));
+    EXPECT_EQ(Stored("SQ3"), "(missing)");
+}
+
+TEST_F(SymbolHistory, DoublesAndGapsInTheStoreGoWithTheNextSymbol)
+{
+    for (const auto& [name, symbol] : {std::pair{"SQ0", "A"}, {"SQ1", "A"}, {"SQ2", "B"}, {"SQ9", "D"}})
+        Key->Write(name, std::string(symbol));
+    History.LoadSymbolHistory();
+    History.AddSymbol("A");
+    EXPECT_EQ(Stored("SQ0") + Stored("SQ1") + Stored("SQ2"), "ABD");
+    EXPECT_EQ(Stored("SQ3"), "(missing)");
+    EXPECT_EQ(Stored("SQ9"), "(missing)");
+}
+
 TEST_F(SymbolHistory, AnEmptySymbolChangesNothing)
 {
     History.AddSymbol("");
