@@ -40,7 +40,7 @@ bool LoadWindowPosition(ISettingsKey& key, const std::string& title, sWindowPosi
         position.Rect = {NumberAt(*bytes, 0), NumberAt(*bytes, 1), NumberAt(*bytes, 2), NumberAt(*bytes, 3)};
     const CSettingRead flag = key.Read(WindowMaximizedName(title));
     if (const auto* number = flag.As<std::uint32_t>())
-        position.Maximized = *number != 0;
+        position.Maximized = *number == 1;
     return rect.Result() != ReadResult::Unreadable && flag.Result() != ReadResult::Unreadable;
 }
 

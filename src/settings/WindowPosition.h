@@ -21,8 +21,8 @@ std::string WindowRectName(const std::string& title);
 // The same + ".Maximized": a number, 1 when the window was maximized.
 std::string WindowMaximizedName(const std::string& title);
 
-// A missing rectangle, or one that is not 16 bytes, is 0, 0, 620, 460; a missing flag means not maximized.
-// What could not be read takes the same defaults. Answers whether everything could be read.
+// A missing rectangle, or one that is not 16 bytes, is 0, 0, 620, 460; a flag that is missing or not 1 means
+// not maximized. What could not be read takes the same defaults. Answers whether everything could be read.
 bool LoadWindowPosition(ISettingsKey& key, const std::string& title, sWindowPosition& position);
 
 void SaveWindowPosition(ISettingsKey& key, const std::string& title, const sWindowPosition& position);

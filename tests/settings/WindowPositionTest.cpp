@@ -44,6 +44,15 @@ TEST(WindowPosition, ARectangleOfAnotherLengthOrTypeIsMissing)
     EXPECT_EQ(Loaded(*key, "X"), sWindowPosition{});
 }
 
+TEST(WindowPosition, OnlyTheNumber1MeansMaximized)
+{
+    const auto key = MakeMemorySettingsKey();
+    for (const std::uint32_t number : {0u, 1u, 2u, 4294967295u}) {
+        key->Write("RectPosition.X.Maximized", number);
+        EXPECT_EQ(Loaded(*key, "X").Maximized, number == 1) << number;
+    }
+}
+
 TEST(WindowPosition, OneThatCannotBeReadIsTheDefaultToo)
 {
     test::sUnreliableKey key;
