@@ -22,18 +22,13 @@ constexpr const char* TableText =
     "key TEXT NOT NULL, name TEXT NOT NULL, type INTEGER NOT NULL, value NOT NULL, "
     "PRIMARY KEY(key, name)) WITHOUT ROWID";
 
-bool IsMissing(int error)
-{
-    return error == ENOENT || error == ENOTDIR;
-}
-
 // Folders of settings are private to their user, so create_directories, which gives no say in the mode, will
 // not do.
 bool MakeFolders(const std::filesystem::path& folder)
 {
     if (folder.empty() || ::mkdir(folder.c_str(), 0700) == 0 || errno == EEXIST)
         return true;
-    if (!IsMissing(errno) || folder == folder.root_path() || !MakeFolders(folder.parent_path()))
+    if (errno != ENOENT || folder == folder.root_path() || !MakeFolders(folder.parent_path()))
         return false;
     return ::mkdir(folder.c_str(), 0700) == 0 || errno == EEXIST;
 }
@@ -55,7 +50,12 @@ bool CSettingsFile::Open(Access access)
         {
         };
         const bool exists = ::stat(m_path.c_str(), &about) == 0;
-        if (!exists && !IsMissing(errno))
+        if (!exists && errno == ENOTDIR)
+            throw CSettingsFileError(
+                access == Access::Write ? SettingsProblem::Unwritable : SettingsProblem::Unreadable,
+                m_path + ": the settings file cannot be made there, because a part of its path is no folder; "
+                         "set ZANTROQ_SETTINGS to another place");
+        if (!exists && errno != ENOENT)
             throw CSettingsFileError(SettingsProblem::Unreadable,
                                      m_path + ": the settings file cannot be reached (" +
                                          std::strerror(errno) + "); check its permissions");

@@ -113,6 +113,18 @@ TEST_F(SettingsProgram, AMissingFileIsSaidAndNotMade)
     EXPECT_FALSE(std::filesystem::exists(Folder.File("sub")));
 }
 
+// The list spoke of a first write that would make the file, and then that write failed.
+TEST_F(SettingsProgram, APathThroughAPlainFileIsSaidAtOnce)
+{
+    test::PutFile(Folder.File("sub"), "a plain file");
+    const std::string says = "cannot be made there, because a part of its path is no folder";
+    ExpectError(Run({"list"}), 1, says);
+    ExpectError(Run({"get", "a"}), 1, says);
+    ExpectError(Run({"set", "a", "1"}), 4, says);
+    ExpectError(Run({"reset", "--yes"}), 4, says);
+    EXPECT_EQ(test::Contents(Folder.File("sub")), "a plain file");
+}
+
 TEST_F(SettingsProgram, ADamagedFileIsNamedAndLeftAlone)
 {
     std::filesystem::create_directory(Folder.File("sub"));
