@@ -33,6 +33,14 @@ void SayIfMissing(const CSettingsFile& file)
                  "write makes it");
 }
 
+// JSON cannot hold what is not UTF-8; one such value must not keep the others from being exported.
+std::string Formatted(SettingsTree tree)
+{
+    for (const std::string& gone : LeaveOutWhatIsNotUtf8(tree))
+        Complain(gone + " is not UTF-8, which JSON cannot hold; it was left out, set it anew or delete it");
+    return FormatSettings(tree);
+}
+
 // The word alone, in small or capital letters.
 bool IsYes(std::string_view answer)
 {
@@ -72,12 +80,7 @@ int ListValues(CSettingsFile& file, const std::string& key, bool asJson)
         SettingsTree tree;
         if (!values.empty())
             tree[key] = values;
-        try {
-            return Print(FormatSettings(tree));
-        } catch (const CSettingsFormatError& error) {
-            Complain(error.what());
-            return ExitNotWritten;
-        }
+        return Print(Formatted(std::move(tree)));
     }
     std::string lines;
     for (const auto& [name, value] : values)
@@ -124,19 +127,14 @@ int ExportValues(CSettingsFile& file, const std::optional<std::string>& key, con
         tree[*key] = std::move(values);
     }
     SayIfMissing(file);
-    try {
-        const std::string text = FormatSettings(tree);
-        if (target == "-")
-            return Print(text);
-        if (const std::string wrong = WriteWholeFile(target, text); !wrong.empty()) {
-            Complain(target + ": the export could not be written (" + wrong + "); choose another file");
-            return ExitNotWritten;
-        }
-        return ExitDone;
-    } catch (const CSettingsFormatError& error) {
-        Complain(target + ": the export was not written: " + error.what());
+    const std::string text = Formatted(std::move(tree));
+    if (target == "-")
+        return Print(text);
+    if (const std::string wrong = WriteWholeFile(target, text); !wrong.empty()) {
+        Complain(target + ": the export could not be written (" + wrong + "); choose another file");
         return ExitNotWritten;
     }
+    return ExitDone;
 }
 
 int ImportValues(CSettingsFile& file, const std::optional<std::string>& key, const std::string& source)

@@ -111,6 +111,7 @@ The default key is the chart's. A NAME or VALUE that begins with a hyphen goes b
 - `get` prints the value as it is; of a dword the number, of a binary value hexadecimal digits.
 - `set` takes any name and any value of the type; the type is sz unless told. A dword may be written 0x and hexadecimal digits.
 - `export` writes all keys, or the one of `--key`; the file appears whole or not at all. `-` is the standard output.
+  A key, name or text that is not UTF-8 cannot stand in it: it is named on standard error and left out, here and in `list --json`.
 - `import` merges into what is there, in one transaction: a file with an error anywhere changes nothing. With `--key` only that
   key of the file is taken. `-` is the standard input.
 - `reset` removes every value of the key after reading the word yes, alone on its line and in small or capital letters, or with

@@ -217,7 +217,48 @@ std::string Escaped(std::string_view text)
     return line;
 }
 
+// Quoted, on one line, and UTF-8 whatever the bytes are.
+std::string Shown(std::string_view text)
+{
+    std::string line = Escaped(text);
+    if (!IsUtf8(line)) {
+        std::string plain;
+        for (const char c : line) {
+            const auto byte = static_cast<unsigned char>(c);
+            if (byte < 0x80)
+                plain += c;
+            else
+                plain += {'\\', 'x', HexDigits[byte >> 4], HexDigits[byte & 15]};
+        }
+        line = plain;
+    }
+    return "\"" + line + "\"";
+}
+
 } // namespace
+
+std::vector<std::string> LeaveOutWhatIsNotUtf8(SettingsTree& tree)
+{
+    std::vector<std::string> gone;
+    for (auto key = tree.begin(); key != tree.end();) {
+        auto& [path, values] = *key;
+        if (!IsUtf8(path)) {
+            gone.push_back("key " + Shown(path));
+            key = tree.erase(key);
+            continue;
+        }
+        const bool wasEmpty = values.empty();
+        std::erase_if(values, [&](const auto& entry) {
+            const auto* text = std::get_if<std::string>(&entry.second);
+            if (IsUtf8(entry.first) && (!text || IsUtf8(*text)))
+                return false;
+            gone.push_back("value " + Shown(entry.first) + " of key " + Shown(path));
+            return true;
+        });
+        key = values.empty() && !wasEmpty ? tree.erase(key) : std::next(key);
+    }
+    return gone;
+}
 
 std::string ListingLine(std::string_view name, const SettingValue& value)
 {

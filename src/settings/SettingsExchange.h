@@ -10,6 +10,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace zantroq {
 
@@ -23,6 +24,9 @@ public:
 // Two blanks of indentation and a line feed at the end. Throws CSettingsFormatError for a name or text that
 // is not UTF-8, which JSON cannot hold.
 std::string FormatSettings(const SettingsTree& tree);
+
+// Takes out what is not UTF-8: keys, names and texts. The answers tell what went, one each.
+std::vector<std::string> LeaveOutWhatIsNotUtf8(SettingsTree& tree);
 
 // Throws CSettingsFormatError for anything that is not exactly of the format.
 SettingsTree ParseSettings(std::string_view text);

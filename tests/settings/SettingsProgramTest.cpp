@@ -167,6 +167,29 @@ TEST_F(SettingsProgram, AnExportImportsElsewhere)
     EXPECT_EQ(Run({"list", "--json", "--key", "K"}).Out, Run({"export", "-", "--key", "K"}).Out);
 }
 
+// One text that another program had stored kept every other value from being exported.
+TEST_F(SettingsProgram, WhatIsNotUtf8IsNamedAndLeftOutOfAnExport)
+{
+    const SettingsTree sound{{"K", {{"a", std::string("1")}}}};
+    CSettingsFile(Store).WriteAll(sound);
+    const std::string expected = Run({"export", "-"}).Out;
+    CSettingsFile(Store).WriteAll({{"K", {{"text", std::string("\xff")}, {"n\xe4me", 1u}}},
+                                   {"L", {{"only", std::string("\xc3")}}},
+                                   {"\xfe", {{"a", 1u}}}});
+    const std::string file = Folder.File("e.json");
+    const sRun run = Run({"export", file});
+    EXPECT_EQ(run.Code, 0);
+    EXPECT_EQ(test::Contents(file), expected);
+    for (const char* gone : {"value \"text\" of key \"K\"", "value \"n\\xe4me\" of key \"K\"",
+                             "value \"only\" of key \"L\"", "key \"\\xfe\""})
+        EXPECT_NE(run.Err.find(std::string("zantroq-settings: ") + gone + " is not UTF-8"), std::string::npos)
+            << run.Err;
+    const sRun list = Run({"list", "--json", "--key", "K"});
+    EXPECT_EQ(list.Code, 0);
+    EXPECT_EQ(list.Out, expected);
+    EXPECT_EQ(std::count(list.Err.begin(), list.Err.end(), '\n'), 2) << list.Err;
+}
+
 TEST_F(SettingsProgram, AnImportMergesAndABadOneChangesNothing)
 {
     Run({"--key", "K", "set", "a", "old"});
