@@ -1,4 +1,5 @@
 // zantroq-settings: reads and writes the stored settings.
+#include "CommandWords.h"
 #include "Commands.h"
 
 #include "platform/SettingsPath.h"
@@ -85,17 +86,20 @@ int main(int argc, char** argv)
     sCommandLine line;
     const sSubcommands commands = Describe(app, line);
     try {
-        app.parse(argc, argv);
+        const auto words = ShieldedWords(argc, argv);
+        app.parse(std::vector<std::string>(words.rbegin(), words.rend())); // it takes the last word first
+        for (std::string* word : {&line.Key, &line.Name, &line.Value, &line.Type, &line.File})
+            *word = Unshielded(*word);
     } catch (const CLI::Success& asked) { // --help and --version
         app.exit(asked);
         return std::cout.flush() ? ExitDone : ExitNotWritten;
     } catch (const CLI::ParseError& error) {
         const auto unknown = app.remaining();
         if (app.get_subcommands().empty() && !unknown.empty())
-            Complain("\"" + unknown.front() +
+            Complain("\"" + Unshielded(unknown.front()) +
                      "\" is no subcommand; use list, get, set, delete, export, import or reset");
         else
-            Complain(std::string(error.what()) + "; see zantroq-settings --help");
+            Complain(WithoutShields(error.what()) + "; see zantroq-settings --help");
         return ExitUsage;
     }
     const bool writes = *commands.Set || *commands.Delete || *commands.Import || *commands.Reset;

@@ -68,6 +68,36 @@ TEST_F(SettingsProgram, SetGetListAndDeleteWorkOnExactNames)
                                  "[a,b]\tsz\tv of [a,b]\na/b\tsz\tv of a/b\nlist\tsz\tv of list\n");
 }
 
+// The command line library takes ++ for the end of a subcommand.
+TEST_F(SettingsProgram, TwoPlusSignsAreANameAndAValueLikeAnyOther)
+{
+    EXPECT_EQ(Run({"set", "++", "v"}).Code, 0);
+    EXPECT_EQ(Run({"set", "x", "++"}).Code, 0);
+    EXPECT_EQ(Run({"set", "--", "\1++", "++"}).Code, 0);
+    EXPECT_EQ(Run({"--key", "++", "set", "n", "2", "--type", "dword"}).Code, 0);
+    EXPECT_EQ(Run({"get", "++"}).Out, "v\n");
+    EXPECT_EQ(
+        CSettingsFile(Store).ReadAll(),
+        (SettingsTree{{ChartSettingsKey,
+                       {{"++", std::string("v")}, {"x", std::string("++")}, {"\1++", std::string("++")}}},
+                      {"++", {{"n", 2u}}}}));
+    EXPECT_EQ(Run({"delete", "++"}).Code, 0);
+    ExpectError(Run({"get", "++"}), 1, "\"++\" is not stored");
+    ExpectError(Run({"++"}), 2, "\"++\" is no subcommand");
+    ExpectError(Run({"get", "a", "++"}), 2, "++");
+    EXPECT_EQ(Run({"get", "a", "++"}).Err.find('\1'), std::string::npos);
+}
+
+TEST_F(SettingsProgram, NothingBehindTheEqualsSignIsTheEmptyText)
+{
+    EXPECT_EQ(Run({"--key=", "set", "x", "1"}).Code, 0);
+    EXPECT_EQ(Run({"--key", "", "get", "x"}).Out, "1\n");
+    EXPECT_EQ(CSettingsFile(Store).ReadAll(), (SettingsTree{{"", {{"x", std::string("1")}}}}));
+    ExpectError(Run({"set", "x", "--type=", "1"}), 2, "\"\" is no type");
+    EXPECT_EQ(Run({"set", "--", "--key=", "--type="}).Code, 0);
+    EXPECT_EQ(Run({"get", "--", "--key="}).Out, "--type=\n");
+}
+
 TEST_F(SettingsProgram, TypesAreTextNumberAndBinary)
 {
     EXPECT_EQ(Run({"set", "n", "0x10", "--type", "dword"}).Code, 0);
