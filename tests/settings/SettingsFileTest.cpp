@@ -1,12 +1,8 @@
 #include "platform/SettingsFile.h"
 
-#include "RunProcess.h"
-#include "TemporaryFolder.h"
+#include "SettingsFileFixture.h"
 #include "platform/SettingsPath.h"
 
-#include <chrono>
-#include <gtest/gtest.h>
-#include <sqlite3.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <thread>
@@ -17,86 +13,8 @@ namespace {
 using test::CTemporaryFolder;
 using Bytes = std::vector<std::uint8_t>;
 
-struct SettingsFile : testing::Test
+struct SettingsFile : test::sSettingsFileFixture
 {
-    CTemporaryFolder Folder;
-    const std::string Path = Folder.File("settings.db");
-
-    SettingsProblem ProblemOfReading()
-    {
-        CSettingsFile file(Path, std::chrono::milliseconds(50));
-        try {
-            file.Read("K", "a");
-        } catch (const CSettingsFileError& error) {
-            EXPECT_NE(std::string(error.what()).find(Path), std::string::npos) << error.what();
-            return error.Problem;
-        }
-        ADD_FAILURE() << "no error";
-        return {};
-    }
-    // The file and what may lie beside it, each with its name.
-    std::string AllBytes() const
-    {
-        std::string bytes;
-        for (const std::string ending : {"", "-wal", "-journal"})
-            if (std::filesystem::exists(Path + ending))
-                bytes += "\n=== file" + ending + "\n" + test::Contents(Path + ending);
-        return bytes;
-    }
-    void ExpectLeftAlone(SettingsProblem problem)
-    {
-        const std::string before = AllBytes();
-        EXPECT_EQ(ProblemOfReading(), problem);
-        CSettingsFile file(Path, std::chrono::milliseconds(50));
-        EXPECT_THROW(file.Write("K", "a", 1u), CSettingsFileError);
-        EXPECT_THROW(file.Delete("K", "a"), CSettingsFileError);
-        EXPECT_THROW(file.WriteAll({{"K", {{"a", 1u}}}}), CSettingsFileError);
-        const auto key = OpenSettingsKey(Path, "K");
-        EXPECT_EQ(key->Read("a").Result(), ReadResult::Unreadable);
-        EXPECT_FALSE(key->Write("a", 1u));
-        EXPECT_FALSE(key->Delete("a"));
-        EXPECT_TRUE(key->List().empty());
-        EXPECT_TRUE(AllBytes() == before) << "the file or its log was changed";
-    }
-    // Many values in the file, and one more in a log, as a process leaves them that dies.
-    void MakeFileWithPendingLog()
-    {
-        {
-            CSettingsFile file(Path);
-            for (int i = 0; i < 500; ++i)
-                file.Write("K", "name " + std::to_string(i), std::string(50, 'x'));
-        }
-        ASSERT_EQ(test::WaitFor(test::StartChild([&] {
-                      (new CSettingsFile(Path))->Write("K", "new", 1u);
-                      return 0;
-                  })),
-                  0);
-        ASSERT_GT(test::Contents(Path + "-wal").size(), 0u);
-    }
-    // The same with another program's data base.
-    void DieAfterSql(const std::string& sql)
-    {
-        ASSERT_EQ(test::WaitFor(test::StartChild([&] {
-                      sqlite3* db = nullptr;
-                      sqlite3_open(Path.c_str(), &db);
-                      return sqlite3_exec(db, sql.c_str(), nullptr, nullptr, nullptr);
-                  })),
-                  SQLITE_OK);
-    }
-    // A journal that SQLite would play back, of a file that had so many pages.
-    void PutJournal(char pages)
-    {
-        std::string header("\xd9\xd5\x05\xf9\x20\xa1\x63\xd7\0\0\0\0\1\2\3\4\0\0\0\0\0\0\2\0\0\0\x10\0", 28);
-        header[19] = pages;
-        test::PutFile(Path + "-journal", header + std::string(512 - header.size(), '\0'));
-    }
-    void RunSql(const std::string& sql)
-    {
-        sqlite3* db = nullptr;
-        ASSERT_EQ(sqlite3_open(Path.c_str(), &db), SQLITE_OK);
-        ASSERT_EQ(sqlite3_exec(db, sql.c_str(), nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(db);
-        sqlite3_close(db);
-    }
 };
 
 } // namespace
@@ -170,137 +88,6 @@ TEST_F(SettingsFile, KeysAreApart)
     EXPECT_EQ(file.DeleteAll("A"), 1u);
     EXPECT_TRUE(file.List("A").empty());
     EXPECT_EQ(file.Read("B", "n"), SettingValue(2u));
-}
-
-TEST_F(SettingsFile, AFileOfNoiseIsLeftAlone)
-{
-    test::PutFile(Path, "this is no data base, and it is long enough to be looked at as one: " +
-                            std::string(5000, '?'));
-    ExpectLeftAlone(SettingsProblem::Damaged);
-}
-
-TEST_F(SettingsFile, AFileWithABrokenPageIsLeftAlone)
-{
-    {
-        CSettingsFile file(Path);
-        for (int i = 0; i < 500; ++i)
-            file.Write("K", "name " + std::to_string(i), std::string(50, 'x'));
-    }
-    std::string bytes = test::Contents(Path);
-    ASSERT_GT(bytes.size(), 4096u * 4);
-    bytes.replace(4096 * 2, 4096, std::string(4096, '\x5A'));
-    test::PutFile(Path, bytes);
-    ExpectLeftAlone(SettingsProblem::Damaged);
-}
-
-TEST_F(SettingsFile, AFileThatWasCutOffIsLeftAlone)
-{
-    {
-        CSettingsFile file(Path);
-        for (int i = 0; i < 500; ++i)
-            file.Write("K", "name " + std::to_string(i), std::string(50, 'x'));
-    }
-    test::PutFile(Path, test::Contents(Path).substr(0, 4096 * 2));
-    ExpectLeftAlone(SettingsProblem::Damaged);
-}
-
-TEST_F(SettingsFile, AnotherProgramsDataBaseIsLeftAlone)
-{
-    RunSql("CREATE TABLE setting(a); INSERT INTO setting VALUES(1)");
-    ExpectLeftAlone(SettingsProblem::NotSettings);
-}
-
-// Opening a file may play back a journal, and closing it brings the log into it; both happened to files that
-// were refused.
-TEST_F(SettingsFile, ABrokenPageKeepsTheLogAsItIs)
-{
-    MakeFileWithPendingLog();
-    std::string bytes = test::Contents(Path);
-    ASSERT_GT(bytes.size(), 4096u * 6);
-    bytes.replace(4096 * 2, 4096 * 3, std::string(4096 * 3, '\x5A'));
-    test::PutFile(Path, bytes);
-    ExpectLeftAlone(SettingsProblem::Damaged);
-}
-
-TEST_F(SettingsFile, ABrokenHeaderKeepsTheLogAsItIs)
-{
-    MakeFileWithPendingLog();
-    std::string bytes = test::Contents(Path);
-    bytes.replace(0, 16, std::string(16, '\x5A'));
-    test::PutFile(Path, bytes);
-    ExpectLeftAlone(SettingsProblem::Damaged);
-}
-
-TEST_F(SettingsFile, AFileCutToNothingKeepsTheLogAsItIs)
-{
-    MakeFileWithPendingLog();
-    test::PutFile(Path, "");
-    ExpectLeftAlone(SettingsProblem::Damaged);
-    std::filesystem::remove(Path + "-wal");
-    PutJournal(3);
-    ExpectLeftAlone(SettingsProblem::Damaged);
-}
-
-TEST_F(SettingsFile, AnotherProgramsLogIsLeftAlone)
-{
-    DieAfterSql("PRAGMA journal_mode=WAL; CREATE TABLE t(a); INSERT INTO t VALUES(1)");
-    ASSERT_GT(test::Contents(Path + "-wal").size(), 0u);
-    ExpectLeftAlone(SettingsProblem::NotSettings);
-    RunSql("PRAGMA wal_checkpoint(TRUNCATE); PRAGMA application_id=7");
-    DieAfterSql("INSERT INTO t VALUES(2)");
-    ASSERT_GT(test::Contents(Path + "-wal").size(), 0u);
-    ExpectLeftAlone(SettingsProblem::NotSettings);
-}
-
-TEST_F(SettingsFile, AnotherProgramsHotJournalIsLeftAlone)
-{
-    RunSql("CREATE TABLE t(a); INSERT INTO t VALUES('old')");
-    std::string sql = "PRAGMA cache_size=1; BEGIN IMMEDIATE;";
-    for (int i = 0; i < 200; ++i)
-        sql += "INSERT INTO t VALUES('" + std::string(400, 'x') + "');";
-    DieAfterSql(sql);
-    ASSERT_EQ(test::Contents(Path + "-journal").substr(0, 1), "\xd9");
-    ExpectLeftAlone(SettingsProblem::NotSettings);
-}
-
-TEST_F(SettingsFile, AFileWhoseMakingWasCutShortIsAnEmptyStore)
-{
-    test::PutFile(Path, "");
-    PutJournal(0);
-    CSettingsFile(Path).Write("K", "a", 1u);
-    EXPECT_EQ(CSettingsFile(Path).Read("K", "a"), SettingValue(1u));
-
-    std::filesystem::remove(Path);
-    RunSql("PRAGMA journal_mode=WAL");
-    ASSERT_EQ(test::Contents(Path).size(), 4096u);
-    PutJournal(0);
-    EXPECT_FALSE(CSettingsFile(Path).Read("K", "a"));
-    CSettingsFile(Path).Write("K", "a", 2u);
-    EXPECT_EQ(CSettingsFile(Path).Read("K", "a"), SettingValue(2u));
-}
-
-TEST_F(SettingsFile, AnAcceptedLogIsBroughtIntoTheFileOnClosing)
-{
-    MakeFileWithPendingLog();
-    EXPECT_EQ(CSettingsFile(Path).Read("K", "new"), SettingValue(1u));
-    EXPECT_FALSE(std::filesystem::exists(Path + "-wal"));
-    EXPECT_EQ(CSettingsFile(Path).Read("K", "new"), SettingValue(1u));
-}
-
-TEST_F(SettingsFile, AFileOfALaterFormatIsLeftAlone)
-{
-    CSettingsFile(Path).Write("K", "a", 1u);
-    RunSql("PRAGMA journal_mode=DELETE; PRAGMA user_version=2");
-    ExpectLeftAlone(SettingsProblem::NotSettings);
-}
-
-TEST_F(SettingsFile, AFolderOrAPipeIsNoSettingsFile)
-{
-    std::filesystem::create_directory(Path);
-    EXPECT_EQ(ProblemOfReading(), SettingsProblem::Unreadable);
-    std::filesystem::remove(Path);
-    ASSERT_EQ(::mkfifo(Path.c_str(), 0600), 0);
-    EXPECT_EQ(ProblemOfReading(), SettingsProblem::Unreadable);
 }
 
 TEST_F(SettingsFile, AnEmptyFileIsAnEmptyStore)
