@@ -155,6 +155,19 @@ TEST_F(SettingsProgram, APathThroughAPlainFileIsSaidAtOnce)
     EXPECT_EQ(test::Contents(Folder.File("sub")), "a plain file");
 }
 
+// A look at the bytes of the file must not give up the locks that the process has on it: another process
+// would take the log away under the first connection, and the writes behind that would be lost.
+TEST_F(SettingsProgram, ASecondLookAtAFileKeepsTheLocksOfTheFirst)
+{
+    CSettingsFile first(Store);
+    first.Write("K", "a", std::string("1"));
+    EXPECT_EQ(CSettingsFile(Store).Read("K", "a"), SettingValue(std::string("1")));
+    EXPECT_EQ(Run({"--key", "K", "get", "a"}).Out, "1\n");
+    EXPECT_TRUE(std::filesystem::exists(Store + "-wal"));
+    first.Write("K", "b", std::string("2"));
+    EXPECT_EQ(Run({"--key", "K", "get", "b"}).Out, "2\n");
+}
+
 TEST_F(SettingsProgram, ADamagedFileIsNamedAndLeftAlone)
 {
     std::filesystem::create_directory(Folder.File("sub"));
