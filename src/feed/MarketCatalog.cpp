@@ -36,7 +36,7 @@ void Tell(const CMarketCatalog::TNotice& notice, const std::string& file, const 
 CMarketCatalog::CMarketCatalog(std::uint64_t seed, TNotice notice)
     : m_seed(seed), m_notice(notice ? std::move(notice) : [](const std::string&) {})
 {
-    ListServed();
+    MakeList();
 }
 
 void CMarketCatalog::AddFolder(const std::filesystem::path& folder)
@@ -53,18 +53,10 @@ void CMarketCatalog::AddFolder(const std::filesystem::path& folder)
         AddRecording(file);
     if (std::filesystem::exists(folder / "symbols.csv", error))
         AddSymbols(folder / "symbols.csv");
-    ListServed();
+    MakeList();
 }
 
-bool CMarketCatalog::IsServed(const std::string& symbol) const
-{
-    const std::string upper = UpperCase(symbol);
-    return m_recorded.contains(symbol) || m_recorded.contains(upper) ||
-           (upper.starts_with(SimulatedPrefix) && upper.size() > SimulatedPrefix.size() &&
-            upper.size() <= MaxSymbolLength);
-}
-
-void CMarketCatalog::ListServed()
+void CMarketCatalog::MakeList()
 {
     for (const sSIMULATION& simulation : NamedSimulations())
         List({std::string(simulation.Name), SimulatedMarketId, SimulatedSecurityTypeId,
@@ -72,8 +64,7 @@ void CMarketCatalog::ListServed()
     for (const std::string& symbol : m_recorded)
         List({symbol, UnknownMarketId, UnknownSecurityTypeId, symbol});
     for (const auto& [symbol, named] : m_named)
-        if (IsServed(symbol))
-            List(named);
+        List(named);
 }
 
 void CMarketCatalog::AddRecording(const std::filesystem::path& path)

@@ -41,7 +41,8 @@ public:
     const IMarketSource* Find(std::string_view symbol) { return Share(symbol).get(); }
     static constexpr std::size_t MaxUnlisted = 64;
 
-    // What the search finds, by symbol, in order: the symbols with records and simulated ones.
+    // What the search finds, by symbol, in order: the symbols with records, simulated ones, and whatever a
+    // symbols.csv names.
     const std::map<std::string, sLISTED_SYMBOL>& Listed() const { return m_listed; }
     std::uint64_t Seed() const { return m_seed; }
     void Notify(const std::string& sentence) const { m_notice(sentence); }
@@ -59,8 +60,7 @@ private:
     void AddRecording(const std::filesystem::path& path);
     void AddSymbols(const std::filesystem::path& path);
     void DropUnlisted();
-    bool IsServed(const std::string& symbol) const;
-    void ListServed();
+    void MakeList();
     void List(const sLISTED_SYMBOL& listed) { m_listed[listed.Symbol] = listed; }
 
     const std::uint64_t m_seed;
@@ -70,7 +70,7 @@ private:
     std::list<std::string> m_unlisted; // simulated markets outside the list, the one used last in front
     std::set<std::string, std::less<>> m_recorded;  // symbols with records
     std::map<std::string, sLISTED_SYMBOL> m_named;  // by a symbols.csv, with records or not
-    std::map<std::string, sLISTED_SYMBOL> m_listed; // of both, what can be served
+    std::map<std::string, sLISTED_SYMBOL> m_listed; // all of them
     std::map<std::string, std::set<std::string, std::less<>>, std::less<>> m_notified; // by symbol
 };
 

@@ -293,16 +293,16 @@ TEST_F(LookupSession, FindTakesTextsWithCommas)
     EXPECT_EQ(Ask("FIND,7,d,Daily, Inc,e,3"), "7,!ENDMSG!,\r\n");
 }
 
-TEST_F(LookupSession, FindLooksThroughSymbolsWithRecordsAlone)
+TEST_F(LookupSession, FindLooksThroughNamedSymbolsAndThoseWithRecords)
 {
     CTemporaryFolder first, second;
-    first.Write("symbols.csv", "symbol,market_id,security_type_id,description\nXA,2,1,Later\nXB,2,1,Never\n"
+    first.Write("symbols.csv", "symbol,market_id,security_type_id,description\nXA,2,1,Later\nXB,2,1,\n"
                                "SIM.XC,9,9,Invented\n");
     first.Write("XD.daily.csv", "date,open,high,low,close\n");
     first.Write("XE.tick.csv", "time,last\nnever,1\n");
     first.Write("XF.minute.csv", "");
     m_catalog.AddFolder(first.Path());
-    EXPECT_EQ(Ask("FIND,7,s,X,,"), "7,!ENDMSG!,\r\n");
+    EXPECT_EQ(Ask("FIND,7,s,X,,"), "7,XA,2,1,Later\r\n7,XB,2,1,XB\r\n7,!ENDMSG!,\r\n");
     EXPECT_EQ(Ask("FIND,7,s,SIM.X,,"), "7,SIM.XC,9,9,Invented\r\n7,!ENDMSG!,\r\n");
     const std::string folder = first.Path().string() + "/";
     EXPECT_EQ(
@@ -314,9 +314,10 @@ TEST_F(LookupSession, FindLooksThroughSymbolsWithRecordsAlone)
             folder + "XE.tick.csv: 1 row skipped",
             folder + "XE.tick.csv: no usable rows; the file is not used",
             folder + "XF.minute.csv: the file is empty and not used"}));
-    second.Write("XA.daily.csv", "date,open,high,low,close\n2020-01-01,1,1,1,1\n");
+    for (const char* symbol : {"XA", "XD"})
+        second.Write(symbol + std::string(".daily.csv"), "date,open,high,low,close\n2020-01-01,1,1,1,1\n");
     m_catalog.AddFolder(second.Path());
-    EXPECT_EQ(Ask("FIND,7,s,X,,"), "7,XA,2,1,Later\r\n7,!ENDMSG!,\r\n");
+    EXPECT_EQ(Ask("FIND,7,s,X,,"), "7,XA,2,1,Later\r\n7,XB,2,1,XB\r\n7,XD,1,1,XD\r\n7,!ENDMSG!,\r\n");
 }
 
 TEST_F(LookupSession, AFileWithoutUsableRowsReplacesNothing)
