@@ -14,11 +14,18 @@
 #include <cstdlib>
 #include <exception>
 #include <new>
+#include <system_error>
 
 namespace {
 
 constexpr const char* NoMemory = "there is not enough memory for this chart; make --size smaller, or leave "
                                  "more memory to the program";
+
+[[noreturn]] void EndWithoutMemory()
+{
+    std::fprintf(stderr, "zantroq-chart: %s\n", NoMemory);
+    std::_Exit(zantroq::ExitNotWritten);
+}
 
 // What is thrown where nobody can catch it: on another thread, or through the toolkit.
 std::terminate_handler TerminateOtherwise = nullptr;
@@ -29,8 +36,10 @@ void OnTerminate()
         if (const std::exception_ptr thrown = std::current_exception())
             std::rethrow_exception(thrown);
     } catch (const std::bad_alloc&) {
-        std::fprintf(stderr, "zantroq-chart: %s\n", NoMemory);
-        std::_Exit(zantroq::ExitNotWritten);
+        EndWithoutMemory();
+    } catch (const std::system_error& error) { // no room for the stack of a thread
+        if (error.code() == std::errc::resource_unavailable_try_again)
+            EndWithoutMemory();
     } catch (...) {
         // An error of the program itself: said as ever.
     }
