@@ -175,36 +175,6 @@ TEST_F(ChartErrors, AFileThatCannotBeWrittenKeepsNoOtherFromBeingWritten)
     EXPECT_TRUE(Bytes("d.json").startsWith("{"));
 }
 
-#if !defined(__SANITIZE_ADDRESS__) // which takes more address space than these limits leave
-TEST_F(ChartErrors, WithoutTheMemoryForItAPictureIsWholeOrNotWritten)
-{
-    const QStringList words{"GOOG",   "--data",    "daily",      "--feed", "embedded",
-                            "--size", "6000x6000", "--snapshot", "a.png"};
-    const sRun free = Chart(words);
-    ASSERT_EQ(free.ExitCode, 0) << free.Err;
-    const QByteArray whole = Bytes("a.png");
-    int refused = 0;
-    for (int megabytes = 400; megabytes <= 1000; megabytes += 60) {
-        QFile::remove(Path("a.png"));
-        const sRun run = Run("/bin/sh",
-                             QStringList{"-c", "ulimit -v \"$0\"; exec \"$@\"",
-                                         QString::number(megabytes * 1024), ZANTROQ_CHART} +
-                                 words,
-                             Environment());
-        if (run.ExitCode == 0) {
-            EXPECT_TRUE(Bytes("a.png") == whole) << megabytes;
-            continue;
-        }
-        ++refused;
-        EXPECT_EQ(run.ExitCode, 4) << megabytes << ": " << run.Err;
-        EXPECT_NE(run.Err.find("there is not enough memory for "), std::string::npos) << run.Err;
-        EXPECT_EQ(std::count(run.Err.begin(), run.Err.end(), '\n'), 1) << run.Err;
-        EXPECT_FALSE(QFile::exists(Path("a.png"))) << megabytes;
-    }
-    EXPECT_GT(refused, 0) << "no limit was low enough";
-}
-#endif
-
 TEST_F(ChartErrors, AWindowWithoutADisplayIsRefused)
 {
     const std::string sentence =
