@@ -369,9 +369,4 @@ void DrawRuled(IPaneCanvas& canvas, const sRuledLine& line, const sPixelRect& wi
     }
 }
 
-void DrawRuled(IPaneCanvas& canvas, const sRuledLine& line)
-{
-    DrawRuled(canvas, line, line.Rect);
-}
-
 } // namespace zantroq

@@ -49,9 +49,7 @@ struct sPaneFurniture
 sPaneFurniture PlaceFurniture(const CChart2D& chart, const sPlotMap& map, double scale, int width, int height,
                               CPaneText& text);
 
-// Draws a ruled line as rectangles.
-void DrawRuled(IPaneCanvas& canvas, const sRuledLine& line);
-// The part of it inside a rectangle, the dashes as those of the whole; more may be painted.
+// Draws the part of a ruled line inside a rectangle, the dashes as those of the whole; more may be painted.
 void DrawRuled(IPaneCanvas& canvas, const sRuledLine& line, const sPixelRect& within);
 
 } // namespace zantroq

@@ -91,13 +91,14 @@ void CPanePainter::Repaint(const sPlotMap& map, double scale)
             PaintColumns(whole, map);
         } else {
             PaintOverInk(whole, map);
-            PaintAbove(m_canvas);
+            PaintAbove(m_canvas, whole);
         }
         m_damage = whole;
     } else if (columns.Right > columns.Left) {
         m_canvas.SetClip(columns);
-        PaintColumns(columns, map);
-        m_damage = columns;
+        m_damage = m_canvas.Clip(); // a plot may reach past the picture
+        if (m_damage.Width() > 0 && m_damage.Height() > 0)
+            PaintColumns(m_damage, map);
         m_canvas.SetClip(whole);
     }
 }
@@ -159,9 +160,9 @@ void CPanePainter::PaintColumns(const sPixelRect& clip, const sPlotMap& map)
         m_canvas.Fill(plot, m_furniture.PlotBackground);
     m_canvas.SetMarking(true);
     for (const sRuledLine& line : m_furniture.Grid)
-        DrawRuled(m_canvas, line);
+        DrawRuled(m_canvas, line, clip);
     PaintData(m_canvas, std::max(clip.Left, plot.Left), std::min(clip.Right, plot.Right), plot);
-    PaintAbove(m_canvas);
+    PaintAbove(m_canvas, clip);
 }
 
 void CPanePainter::PaintData(IPaneCanvas& canvas, int left, int right, const sPixelRect& plot)
@@ -194,12 +195,12 @@ void CPanePainter::PaintData(IPaneCanvas& canvas, int left, int right, const sPi
     }
 }
 
-void CPanePainter::PaintAbove(IPaneCanvas& canvas)
+void CPanePainter::PaintAbove(IPaneCanvas& canvas, const sPixelRect& within)
 {
     for (const sRuledLine& line : m_furniture.Marker)
-        DrawRuled(canvas, line);
+        DrawRuled(canvas, line, within);
     for (const sRuledLine& line : m_furniture.Frame)
-        DrawRuled(canvas, line);
+        DrawRuled(canvas, line, within);
     for (const sPlacedText& text : m_furniture.AxisTexts)
         canvas.Text(text.Left, text.Top, text.Text, text.Color);
     for (const sPlacedLabel& label : m_furniture.Labels) {
@@ -233,14 +234,15 @@ void CPanePainter::PaintInto(QPainter& painter, const QRectF& box)
     painter.translate(box.topLeft());
     painter.scale(box.width() / deviceWidth, box.height() / deviceHeight);
     painter.setClipRect(QRect(0, 0, deviceWidth, deviceHeight), Qt::IntersectClip);
+    const sPixelRect whole{0, 0, deviceWidth, deviceHeight};
     CPainterCanvas canvas(painter, m_text);
-    canvas.Fill({0, 0, deviceWidth, deviceHeight}, m_furniture.Background);
+    canvas.Fill(whole, m_furniture.Background);
     if (!map.Empty() && m_furniture.PlotBackground != m_furniture.Background)
         canvas.Fill(map.Plot, m_furniture.PlotBackground);
     for (const sRuledLine& line : m_furniture.Grid)
-        DrawRuled(canvas, line);
+        DrawRuled(canvas, line, whole);
     PaintData(canvas, map.Plot.Left, map.Plot.Right, map.Plot);
-    PaintAbove(canvas);
+    PaintAbove(canvas, whole);
     painter.restore();
 }
 

@@ -51,7 +51,7 @@ private:
     void Wipe(const sPixelRect& ink, const sPixelRect& plot);
     void PaintColumns(const sPixelRect& clip, const sPlotMap& map);
     void PaintData(IPaneCanvas& canvas, int left, int right, const sPixelRect& plot);
-    void PaintAbove(IPaneCanvas& canvas);
+    void PaintAbove(IPaneCanvas& canvas, const sPixelRect& within);
 
     const CChart2D& m_chart;
     CPaneText m_text;

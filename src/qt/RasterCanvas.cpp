@@ -65,6 +65,11 @@ void CRasterCanvas::SetPicture(QImage& picture)
     m_clip = {0, 0, m_width, m_height};
 }
 
+void CRasterCanvas::SetClip(const sPixelRect& clip)
+{
+    m_clip = Cut(clip, {0, 0, m_width, m_height});
+}
+
 void CRasterCanvas::Fill(const sPixelRect& rect, QRgb colour)
 {
     const sPixelRect cut = Cut(rect, m_clip);

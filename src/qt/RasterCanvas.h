@@ -1,5 +1,6 @@
 // Writes a pane's pixels straight into a picture. It remembers where ink went, so that the next painting
-// wipes only that. Everything is cut to a clip of device columns. Chart window's thread.
+// wipes only that. Everything is cut to a clip, which is never larger than the picture: a plot may be. Chart
+// window's thread.
 #pragma once
 
 #include "qt/InkTrail.h"
@@ -22,7 +23,7 @@ public:
 
     // The picture to paint on, 32 bits a pixel; it must live until the next call. A new size forgets all ink.
     void SetPicture(QImage& picture);
-    void SetClip(const sPixelRect& clip) { m_clip = clip; }
+    void SetClip(const sPixelRect& clip); // what of it lies in the picture
     const sPixelRect& Clip() const { return m_clip; }
 
     // Ink drawn while marking is on is what TakeInk tells next time, to be wiped.
