@@ -1,15 +1,46 @@
 #include "qt/PainterCanvas.h"
 
-#include <QPainterPath>
+#include "qt/CutShapes.h"
+
+#include <QPaintEngine>
 #include <QPen>
 
 #include <algorithm>
 
 namespace zantroq {
 
+namespace {
+
+QRect Rectangle(const sPixelRect& rect)
+{
+    return {rect.Left, rect.Top, rect.Width(), rect.Height()};
+}
+
+// In widths of the line.
+std::optional<sDashes> DashesOf(int pattern)
+{
+    if (pattern == LineLongDashes)
+        return sDashes{8, 4};
+    if (pattern == LineShortDashes)
+        return sDashes{3, 3};
+    return std::nullopt;
+}
+
+} // namespace
+
+CPainterCanvas::CPainterCanvas(QPainter& painter, CPaneText& text, const sPixelRect& pane)
+    : m_painter(painter),
+      m_text(text),
+      m_pane(Rectangle(pane)),
+      m_ignoresClips(painter.paintEngine()->type() == QPaintEngine::SVG)
+{
+}
+
 void CPainterCanvas::Fill(const sPixelRect& rect, QRgb colour)
 {
-    m_painter.fillRect(QRect(rect.Left, rect.Top, rect.Width(), rect.Height()), QColor(colour));
+    const QRect cut = Rectangle(rect) & m_pane;
+    if (!cut.isEmpty())
+        m_painter.fillRect(cut, QColor(colour));
 }
 
 void CPainterCanvas::Line(const sInkLine& line, const sPixelRect& plot)
@@ -37,24 +68,49 @@ void CPainterCanvas::Line(const sInkLine& line, const sPixelRect& plot)
             path.lineTo(point(vertex.Column, vertex.First) + QPointF(line.Width / 2.0, 0));
         }
     }
-    QPen pen(QColor(ScreenColour(line.Color)), line.Width, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
-    if (line.Pattern == LineLongDashes)
-        pen.setDashPattern({8, 4});
-    else if (line.Pattern == LineShortDashes)
-        pen.setDashPattern({3, 3});
+    const QColor colour(ScreenColour(line.Color));
+    QPen pen(colour, line.Width, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
+    const std::optional<sDashes> dashes = DashesOf(line.Pattern);
+    const QRect box = Rectangle(plot) & m_pane;
+    const double half = line.Width / 2.0;
+    if (box.isEmpty())
+        return;
     m_painter.save();
-    m_painter.setClipRect(QRect(plot.Left, plot.Top, plot.Width(), plot.Height()), Qt::IntersectClip);
+    m_painter.setClipRect(box, Qt::IntersectClip);
     m_painter.setRenderHint(QPainter::Antialiasing);
-    m_painter.strokePath(path, pen);
+    if (IsCutByHand(path.controlPointRect().adjusted(-half, -half, half, half), box)) {
+        std::optional<sDashes> units = dashes;
+        if (units)
+            units = sDashes{units->On * line.Width, units->Off * line.Width};
+        const sCutStroke cut = CutStroke(path, line.Width, units, box);
+        if (!cut.Stroked.isEmpty())
+            m_painter.strokePath(cut.Stroked, pen);
+        if (!cut.Filled.isEmpty())
+            m_painter.fillPath(cut.Filled, colour);
+    } else {
+        if (dashes)
+            pen.setDashPattern({dashes->On, dashes->Off});
+        m_painter.strokePath(path, pen);
+    }
     m_painter.restore();
 }
 
 void CPainterCanvas::Text(int left, int top, std::string_view text, QRgb colour)
 {
+    const QString line = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    const QPointF base(left, top + m_text.Ascent());
+    if (IsCutByHand(QRectF(left, top, m_text.Advance(text), m_text.LineHeight()), m_pane)) {
+        // A text that reaches out of the pane becomes the shapes of its letters.
+        QPainterPath letters;
+        letters.addText(base, m_text.Font(), line);
+        const QPainterPath cut = CutPath(letters, m_pane);
+        if (!cut.isEmpty())
+            m_painter.fillPath(cut, QColor(colour));
+        return;
+    }
     m_painter.setFont(m_text.Font());
     m_painter.setPen(QColor(colour));
-    m_painter.drawText(QPointF(left, top + m_text.Ascent()),
-                       QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+    m_painter.drawText(base, line);
 }
 
 } // namespace zantroq

@@ -6,21 +6,30 @@
 #include "qt/PaneText.h"
 
 #include <QPainter>
+#include <QPainterPath>
 
 namespace zantroq {
 
 class CPainterCanvas : public IPaneCanvas
 {
 public:
-    CPainterCanvas(QPainter& painter, CPaneText& text) : m_painter(painter), m_text(text) {}
+    // Nothing is painted outside of `pane`. Neither the painter nor the text is owned.
+    CPainterCanvas(QPainter& painter, CPaneText& text, const sPixelRect& pane);
 
     void Fill(const sPixelRect& rect, QRgb colour) override;
     void Line(const sInkLine& line, const sPixelRect& plot) override;
     void Text(int left, int top, std::string_view text, QRgb colour) override;
 
 private:
+    bool IsCutByHand(const QRectF& ink, const QRectF& box) const
+    {
+        return m_ignoresClips && !box.contains(ink);
+    }
+
     QPainter& m_painter;
     CPaneText& m_text;
+    const QRect m_pane;
+    const bool m_ignoresClips; // as the writer of SVG files does
 };
 
 } // namespace zantroq

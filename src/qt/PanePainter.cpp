@@ -235,7 +235,7 @@ void CPanePainter::PaintInto(QPainter& painter, const QRectF& box)
     painter.scale(box.width() / deviceWidth, box.height() / deviceHeight);
     painter.setClipRect(QRect(0, 0, deviceWidth, deviceHeight), Qt::IntersectClip);
     const sPixelRect whole{0, 0, deviceWidth, deviceHeight};
-    CPainterCanvas canvas(painter, m_text);
+    CPainterCanvas canvas(painter, m_text, whole);
     canvas.Fill(whole, m_furniture.Background);
     if (!map.Empty() && m_furniture.PlotBackground != m_furniture.Background)
         canvas.Fill(map.Plot, m_furniture.PlotBackground);
