@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
 namespace zantroq {
 
@@ -112,7 +113,7 @@ void CPaneData::SetSeriesCount(int count)
     m_yRevision.resize(n, 0);
     m_steps.resize(n);
     m_firstPoint.resize(n, 1);
-    m_drawnTo.resize(n, 0);
+    m_drawn.resize(n);
     NoteWhole();
 }
 
@@ -162,21 +163,50 @@ int CPaneData::FirstPoint(int series) const
 
 int CPaneData::DrawnTo(int series) const
 {
-    return Has(series) ? m_drawnTo[static_cast<std::size_t>(series - 1)] : 0;
+    return Has(series) ? m_drawn[static_cast<std::size_t>(series - 1)].To : 0;
 }
 
 void CPaneData::SetDrawnTo(int series, int point)
 {
-    if (Has(series))
-        m_drawnTo[static_cast<std::size_t>(series - 1)] = point;
+    if (!Has(series))
+        return;
+    SetUndrawn(series, 0);
+    sDrawn& drawn = m_drawn[static_cast<std::size_t>(series - 1)];
+    drawn.To = point;
+    drawn.Put = true;
 }
 
 bool CPaneData::AdvanceDrawn(int series, int count)
 {
     if (!Has(series) || count < 0 || static_cast<std::int64_t>(DrawnTo(series)) + count > PointCount(series))
         return false;
-    m_drawnTo[static_cast<std::size_t>(series - 1)] += count;
+    sDrawn& drawn = m_drawn[static_cast<std::size_t>(series - 1)];
+    if (std::exchange(drawn.Put, false))
+        SetUndrawn(series, drawn.To);
+    drawn.To += count;
     return true;
+}
+
+int CPaneData::Undrawn(int series) const
+{
+    return Has(series) ? m_drawn[static_cast<std::size_t>(series - 1)].Undrawn : 0;
+}
+
+void CPaneData::SetUndrawn(int series, int points)
+{
+    if (!Has(series))
+        return;
+    sDrawn& drawn = m_drawn[static_cast<std::size_t>(series - 1)];
+    drawn.Put = false;
+    if (drawn.Undrawn == std::max(points, 0))
+        return;
+    drawn.Undrawn = std::max(points, 0);
+    NoteWhole(series);
+}
+
+std::size_t CPaneData::FirstDrawn(int series) const
+{
+    return static_cast<std::size_t>(std::max({0, FirstPoint(series) - 1, Undrawn(series)}));
 }
 
 double CPaneData::PointX(int series, int point) const

@@ -51,10 +51,17 @@ public:
     void SetPointCount(int series, int count);
     void SetFirstPoint(int series, int point);
     int FirstPoint(int series) const;
-    // How far the series is drawn, kept for who asks. A pane shows all its points whatever the marker says.
+    // How far the series is drawn: SetDrawnTo puts the marker, AdvanceDrawn draws `count` points behind it
+    // and moves it on, or tells false past the last point. What lies before a marker that was put so is not
+    // drawn: a curve has its warm-up there, whose values stay for who reads them. Without AdvanceDrawn behind
+    // it, a marker says nothing and all points are drawn; points behind the marker are drawn in any case.
     int DrawnTo(int series) const;
     void SetDrawnTo(int series, int point);
-    bool AdvanceDrawn(int series, int count); // moves the marker on; false past the end
+    bool AdvanceDrawn(int series, int count);
+    // The points at the series' beginning that are not drawn for that reason. Setting them is for who
+    // restores a pane: AdvanceDrawn then goes on from the marker.
+    int Undrawn(int series) const;
+    void SetUndrawn(int series, int points);
     double PointX(int series, int point) const;
     void SetPointX(int series, int point, double x);
     double PointY(int series, int point) const;
@@ -84,6 +91,8 @@ public:
     // For the painter and for whole-vector readers: no copies.
     std::span<const double> X() const { return m_x; }
     std::span<const double> Y(int series) const;
+    // The first of them that is drawn, from 0; it may lie past the last one.
+    std::size_t FirstDrawn(int series) const;
     // The same with what is known of blocks of the values: of all of them after LearnBlocks, which costs a
     // look at those that changed since and is worth it where many are looked at together. Good until the
     // values change.
@@ -142,7 +151,13 @@ private:
     CSlidingArray m_x;
     std::vector<CSlidingArray> m_y;
     mutable std::vector<CValueBlocks> m_blocks; // by series
-    std::vector<int> m_firstPoint, m_drawnTo;
+    struct sDrawn
+    {
+        int To = 0, Undrawn = 0;
+        bool Put = false; // since the last AdvanceDrawn
+    };
+    std::vector<int> m_firstPoint;
+    std::vector<sDrawn> m_drawn;               // by series
     std::vector<std::optional<sStep>> m_steps; // by series: what is known to stand at every point
     CCountedRun m_counted;                     // of x
     mutable signed char m_ascending = 1;       // -1: to be found out

@@ -140,7 +140,7 @@ bool CPaneInk::DrawBars(const CPaneGroup& group, std::size_t firstPoint)
     source.Filled = m_filledCandles;
     source.Hollow = m_hollow;
     m_widest = source.Width + 2 * source.Tick;
-    std::size_t i = static_cast<std::size_t>(std::max(0, data.FirstPoint(data.FirstVisible()) - 1));
+    std::size_t i = data.FirstDrawn(data.FirstVisible());
     if (firstPoint == 0) {
         CutColumns(0);
     } else {

@@ -85,8 +85,7 @@ bool CPaneInk::DrawLevel(const CPaneGroup& group, int series, sInkLine& line)
         (line.Pattern != LineSolid && line.Width > 1))
         return false;
     line.Vertices.clear();
-    const std::size_t first =
-        std::max(step->Holes, static_cast<std::size_t>(std::max(0, data.FirstPoint(series) - 1)));
+    const std::size_t first = std::max(step->Holes, data.FirstDrawn(series));
     if (!IsDrawn(step->Value) || first >= m_points.Count())
         return true;
     const std::size_t last = m_points.Count() - 1;
@@ -120,7 +119,7 @@ void CPaneInk::DrawLine(const CPaneGroup& group, int series, std::size_t firstPo
         data.LearnBlocks(series);
     const sBlockedValues blocked = data.BlockedY(series);
     const std::size_t points = data.X().size();
-    std::size_t i = static_cast<std::size_t>(std::max(0, data.FirstPoint(series) - 1));
+    std::size_t i = data.FirstDrawn(series);
     if (firstPoint == 0) {
         line.Vertices.clear();
     } else {
@@ -206,7 +205,7 @@ void CPaneInk::DrawSymbols(const CPaneGroup& group, int series)
     };
     m_widest = std::max(m_widest, size);
     if (!IsCrowded()) {
-        for (auto i = static_cast<std::size_t>(std::max(0, data.FirstPoint(series) - 1)); i < x.size(); ++i)
+        for (std::size_t i = data.FirstDrawn(series); i < x.size(); ++i)
             single(i);
         return;
     }

@@ -234,7 +234,10 @@ void ReadData(const CField& series, CPaneData& data, const CPaneVectors& vectors
         }
         data.SetYVector(number, y);
         data.SetDrawnTo(number, field.At("drawnTo").Int());
-        data.SetFirstPoint(number, field.Has("more") ? field.At("more").At("firstPoint").Int(0) : 1);
+        const bool more = field.Has("more");
+        data.SetFirstPoint(number, more ? field.At("more").At("firstPoint").Int(0) : 1);
+        const bool undrawn = more && field.At("more").Has("undrawn");
+        data.SetUndrawn(number, undrawn ? field.At("more").At("undrawn").Int(0) : 0);
     }
 }
 

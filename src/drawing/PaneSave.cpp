@@ -104,6 +104,8 @@ json ToJson(const CPaneGroup& group, bool withVectors)
         object["x"] = x;
         object["y"] = withVectors ? NumbersToJson(data.Y(number)) : json::array();
         object["more"] = {{"firstPoint", data.FirstPoint(number)}};
+        if (data.Undrawn(number) > 0)
+            object["more"]["undrawn"] = data.Undrawn(number);
         series.push_back(std::move(object));
     }
     for (int number = data.SeriesCount() + 1; number <= group.StyleCount(); ++number)

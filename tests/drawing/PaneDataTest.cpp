@@ -97,6 +97,52 @@ TEST(PaneData, TheDrawnMarkerMovesOnUpToTheLastPoint)
     EXPECT_EQ(pane.data.DrawnTo(1), 5);
 }
 
+// The point of the warm-up that had a value already was drawn.
+TEST(PaneData, PointsBeforeAMarkerThatWasPutAreNotDrawn)
+{
+    sPoints pane(2, 5);
+    EXPECT_EQ(pane.data.FirstDrawn(1), 0u);
+    pane.data.SetDrawnTo(1, 2);
+    EXPECT_EQ(pane.data.Undrawn(1), 0) << "the marker alone says nothing";
+    const std::uint64_t before = pane.data.Revision();
+    EXPECT_TRUE(pane.data.AdvanceDrawn(1, 2));
+    EXPECT_EQ(pane.data.Undrawn(1), 2);
+    EXPECT_EQ(pane.data.FirstDrawn(1), 2u);
+    EXPECT_TRUE(pane.data.ChangesSince(before).Whole);
+    EXPECT_TRUE(pane.data.SeriesChangedSince(1, before));
+    EXPECT_FALSE(pane.data.SeriesChangedSince(2, before));
+    EXPECT_TRUE(pane.data.AdvanceDrawn(1, 1));
+    EXPECT_EQ(pane.data.Undrawn(1), 2) << "drawing goes on behind the marker";
+    EXPECT_EQ(pane.data.FirstDrawn(2), 0u);
+    pane.data.SetFirstPoint(1, 4);
+    EXPECT_EQ(pane.data.FirstDrawn(1), 3u);
+    pane.data.SetDrawnTo(1, 0);
+    pane.data.SetFirstPoint(1, 1);
+    EXPECT_TRUE(pane.data.AdvanceDrawn(1, 5));
+    EXPECT_EQ(pane.data.FirstDrawn(1), 0u) << "drawn from the start again";
+}
+
+TEST(PaneData, ARestoredSeriesIsDrawnOnFromItsMarker)
+{
+    sPoints pane(1, 5);
+    pane.data.SetDrawnTo(1, 3);
+    pane.data.SetUndrawn(1, 1);
+    EXPECT_TRUE(pane.data.AdvanceDrawn(1, 2));
+    EXPECT_EQ(pane.data.Undrawn(1), 1);
+    EXPECT_EQ(pane.data.DrawnTo(1), 5);
+}
+
+TEST(PaneData, AMarkerThatIsPutWhereItWasChangesNothing)
+{
+    sPoints pane(1, 5);
+    pane.data.SetDrawnTo(1, 0);
+    pane.data.AdvanceDrawn(1, 5);
+    const std::uint64_t before = pane.data.Revision();
+    pane.data.SetDrawnTo(1, 0);
+    pane.data.AdvanceDrawn(1, 5);
+    EXPECT_EQ(pane.data.Revision(), before);
+}
+
 TEST(PaneData, LastShownZeroMeansNoLimit)
 {
     sPoints pane(4, 1);

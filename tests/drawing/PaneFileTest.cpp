@@ -58,7 +58,8 @@ void Fill(CChart2D& chart)
         data.SetLastShownSeries(2);
         data.SetYVector(2, std::vector<double>{1.0, CPaneData::HoleValue(), Infinity, -Infinity, 0.1 + 0.2,
                                                std::nan("")});
-        data.SetDrawnTo(2, 4);
+        data.SetDrawnTo(2, 3);
+        data.AdvanceDrawn(2, 1);
         data.SetFirstPoint(1, 2);
         group.SeriesStyles(5).FillLook().SetColour(0xc0ffee);
         group.SeriesStyles(1).LineLook().SetWidth(3);

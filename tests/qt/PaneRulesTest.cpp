@@ -1,0 +1,87 @@
+// What of a pane is painted, how wide and in which order.
+#include "drawing/PaneFile.h"
+#include "qt/PanePainter.h"
+#include "qt/PaneScenes.h"
+
+#include <gtest/gtest.h>
+
+namespace zantroq {
+namespace {
+
+const double Hole = CPaneData::HoleValue();
+const QString Family = "DejaVu Sans";
+
+// A curve over candles whose first points, as far as they are not holes, stand far from the others.
+test::Pane CurvePane(int count, int warmUp, double inWarmUp, int type, int shape)
+{
+    test::Pane pane = test::CandlePane(280, 180, count, 1);
+    test::FitAxes(*pane, count, 0, 200);
+    std::vector<double> y;
+    for (int i = 0; i < count; ++i)
+        y.push_back(i < warmUp ? inWarmUp : 40 + i * 7 % 11);
+    CPaneGroup& group = pane->PaneGroups(2);
+    group.SetChartType(type);
+    group.PaneData().SetSeriesCount(2);
+    group.PaneData().SetPointCount(1, count);
+    group.PaneData().SetYVector(1, y);
+    group.PaneData().SetStepY(2, 1, 30);
+    group.SeriesStyles(1).LineLook().SetColour(0xff0000);
+    group.SeriesStyles(1).SymbolLook().SetShape(shape);
+    group.SeriesStyles(1).SymbolLook().SetSize(4);
+    return pane;
+}
+
+// The last point of a warm-up has a value; it was drawn, as a spike that the axis does not cover.
+TEST(WarmUp, ItsPointsAreNotPaintedWhateverTheirValues)
+{
+    for (const int count : {20, 400, 30000})
+        for (const int type : {ChartLines, ChartBars})
+            for (const int shape : {SymbolNone, SymbolMark})
+                for (const double scale : {1.0, 2.0}) {
+                    SCOPED_TRACE(testing::Message()
+                                 << count << " points, type " << type << ", shape " << shape);
+                    const int warmUp = count / 3;
+                    const test::Pane pane = CurvePane(count, warmUp, 170, type, shape),
+                                     wanted = CurvePane(count, warmUp, Hole, type, shape);
+                    CPaneData& data = pane->PaneGroups(2).PaneData();
+                    CPanePainter kept(*pane, Family);
+                    ASSERT_FALSE(kept.Picture(scale) == PanePicture(*wanted, scale, Family));
+                    data.SetDrawnTo(1, warmUp);
+                    ASSERT_TRUE(data.AdvanceDrawn(1, count - warmUp));
+                    ASSERT_TRUE(kept.Picture(scale) == PanePicture(*wanted, scale, Family));
+                    EXPECT_EQ(data.PointY(1, warmUp), 170) << "readouts have it still";
+                    data.SetPointY(1, warmUp, 160);
+                    data.SetPointY(1, count, 60);
+                    wanted->PaneGroups(2).PaneData().SetPointY(1, count, 60);
+                    ASSERT_TRUE(kept.Picture(scale) == PanePicture(*wanted, scale, Family));
+                    CPanePainter plain(*pane, Family, InkDetail::EveryPoint);
+                    ASSERT_TRUE(kept.Picture(scale) == plain.Picture(scale));
+                }
+}
+
+TEST(WarmUp, OfALevelIsNotPainted)
+{
+    for (const int count : {20, 30000}) {
+        const test::Pane pane = CurvePane(count, 0, 0, ChartLines, SymbolNone),
+                         wanted = CurvePane(count, 0, 0, ChartLines, SymbolNone);
+        pane->PaneGroups(2).PaneData().SetDrawnTo(2, count / 2);
+        pane->PaneGroups(2).PaneData().AdvanceDrawn(2, count - count / 2);
+        wanted->PaneGroups(2).PaneData().SetStepY(2, count / 2 + 1, 30);
+        EXPECT_TRUE(PanePicture(*pane, 1.0, Family) == PanePicture(*wanted, 1.0, Family)) << count;
+    }
+}
+
+// A printed page is painted from a copy that went through a file.
+TEST(WarmUp, StaysUnpaintedInACopy)
+{
+    const test::Pane pane = CurvePane(40, 10, 170, ChartLines, SymbolNone);
+    pane->PaneGroups(2).PaneData().SetDrawnTo(1, 10);
+    pane->PaneGroups(2).PaneData().AdvanceDrawn(1, 30);
+    CChart2D copy;
+    PaneFromText(PaneToText(*pane), copy);
+    EXPECT_EQ(copy.PaneGroups(2).PaneData().DrawnTo(1), 40);
+    EXPECT_TRUE(PanePicture(copy, 1.0, Family) == PanePicture(*pane, 1.0, Family));
+}
+
+} // namespace
+} // namespace zantroq
