@@ -197,8 +197,22 @@ private:
             const int advance = m_text.Advance(label.Text), edge = Device(1);
             const int x = left ? std::max(edge, m_map.Plot.Left - m_hair - gap - advance)
                                : std::min(m_width - edge - advance, m_map.Plot.Right + m_hair + gap);
+            const int marks = m_hair + Device(3); // frame and tick marks
+            if (left ? x + advance > m_map.Plot.Left - marks : x < m_map.Plot.Right + marks)
+                AddGround({x - edge, top, x + advance + edge, top + line});
             Out.AxisTexts.push_back({x, top, label.Text, m_foreground});
         }
+    }
+
+    // Nothing shows between the digits of a text that lies over the frame: a line there reads as a digit.
+    void AddGround(const sPixelRect& box)
+    {
+        Out.Grounds.push_back({box, Out.Background});
+        const sPixelRect& plot = m_map.Plot;
+        const sPixelRect inside{std::max(box.Left, plot.Left), std::max(box.Top, plot.Top),
+                                std::min(box.Right, plot.Right), std::min(box.Bottom, plot.Bottom)};
+        if (inside.Width() > 0 && inside.Height() > 0)
+            Out.Grounds.push_back({inside, Out.PlotBackground});
     }
 
     void PlaceXTexts(const CPaneAxis& axis)

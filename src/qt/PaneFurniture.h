@@ -27,6 +27,12 @@ struct sPlacedText
     QRgb Color = 0;
 };
 
+struct sGround
+{
+    sPixelRect Rect;
+    QRgb Color = 0;
+};
+
 struct sPlacedLabel
 {
     sPixelRect Box;
@@ -41,6 +47,7 @@ struct sPaneFurniture
     std::vector<sRuledLine> Grid;  // below the data
     std::vector<sRuledLine> Frame; // above it: the plot's edge and the tick marks
     std::vector<sRuledLine> Marker;
+    std::vector<sGround> Grounds; // below the axis texts, which else stood in the frame
     std::vector<sPlacedText> AxisTexts;
     std::vector<sPlacedLabel> Labels;
 };

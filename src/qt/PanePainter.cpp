@@ -201,6 +201,8 @@ void CPanePainter::PaintAbove(IPaneCanvas& canvas, const sPixelRect& within)
         DrawRuled(canvas, line, within);
     for (const sRuledLine& line : m_furniture.Frame)
         DrawRuled(canvas, line, within);
+    for (const sGround& ground : m_furniture.Grounds)
+        canvas.Fill(ground.Rect, ground.Color);
     for (const sPlacedText& text : m_furniture.AxisTexts)
         canvas.Text(text.Left, text.Top, text.Text, text.Color);
     for (const sPlacedLabel& label : m_furniture.Labels) {

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <optional>
 #include <string>
@@ -315,6 +316,54 @@ TEST(PaneFurniture, ATimeTextThatWouldMeetTheOneBeforeIsLeftOut)
     EXPECT_TRUE(LeftOf(placed, "10:30"));
     EXPECT_FALSE(LeftOf(placed, "10:40"));
     EXPECT_TRUE(LeftOf(placed, "11:30"));
+}
+
+// The frame's line between two digits read as a 1.
+TEST(PaneFurniture, NothingCrossesAValueTextThatLiesOverTheFrame)
+{
+    for (const bool right : {false, true})
+        for (const double scale : {1.0, 1.5, 2.0}) {
+            const Pane pane = test::LinePane(280, 180, {40, 60, 40, 60, 50, 50, 50, 55});
+            CPaneAxes& axes = pane->PaneArea().PaneAxes();
+            axes.Y().SetShown(!right);
+            axes.Y2().SetShown(right);
+            pane->PaneArea().PlotFrame().Interior().SetBackground(0xe0ffff);
+            pane->PaneArea().PlotFrame().LeftMargin().SetValue(right ? 23 : 58);
+            pane->PaneArea().PlotFrame().RightMargin().SetValue(right ? 58 : 23);
+            CPaneAxis& labelled = right ? axes.Y2() : axes.Y();
+            axes.Y().TickLabels().RemoveAll();
+            labelled.TickLabels().RemoveAll();
+            labelled.TickLabels().Add(50, "1234567.125000");
+            axes.Y().AxisGrid().SetSpacing(50);
+            sFurnished furnished(*pane, scale);
+            const std::string digits = "1234567.125000";
+            const auto text =
+                std::find_if(furnished.Placed.AxisTexts.begin(), furnished.Placed.AxisTexts.end(),
+                             [&](const sPlacedText& one) { return one.Text == digits; });
+            ASSERT_NE(text, furnished.Placed.AxisTexts.end());
+            // The text on nothing but the two backgrounds.
+            const QImage picture = PanePicture(*pane, scale, Family);
+            QImage bare(picture.size(), picture.format());
+            CRasterCanvas canvas(furnished.Words);
+            canvas.SetPicture(bare);
+            canvas.Fill({0, 0, bare.width(), bare.height()}, furnished.Placed.Background);
+            canvas.Fill(furnished.Map.Plot, furnished.Placed.PlotBackground);
+            canvas.Text(text->Left, text->Top, digits, text->Color);
+            const int advance = furnished.Words.Advance(digits);
+            bool reaches = false;
+            for (int y = text->Top; y < text->Top + furnished.Words.LineHeight(); ++y)
+                for (int x = text->Left; x < text->Left + advance; ++x) {
+                    ASSERT_EQ(picture.pixel(x, y), bare.pixel(x, y))
+                        << x << ", " << y << " at " << scale << (right ? " right" : " left");
+                    reaches = reaches || furnished.Map.Contains(x, y);
+                }
+            EXPECT_TRUE(reaches) << "the text lies over the frame";
+        }
+}
+
+TEST(PaneFurniture, AValueTextThatFitsItsMarginHasNoGround)
+{
+    EXPECT_TRUE(sFurnished(*test::EmptyPane(280, 180)).Placed.Grounds.empty());
 }
 
 TEST(PaneFurniture, AHiddenAxisHasNeitherTextsNorTickMarks)
