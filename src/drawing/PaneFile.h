@@ -33,7 +33,8 @@ void PaneFromJson(const nlohmann::json& pane, CChart2D& chart);
 // The text of a pane file, the same bytes as PaneToJson(chart).dump() and several times as fast on long
 // series.
 std::string PaneToText(const CChart2D& chart);
-// As PaneFromJson, from a text. Fields nested deeper than a pane file ever is are refused.
+// As PaneFromJson, from a text. Values nested deeper than a pane file ever has them, a NUL byte and a text
+// that asks for more memory than there is are refused in the same way.
 void PaneFromText(const std::string& text, CChart2D& chart);
 
 } // namespace zantroq

@@ -1,6 +1,7 @@
 // A pane's scene out of JSON, a text or a file. A first reading into a scene of its own is the check.
 #include "drawing/AxisBounds.h"
 #include "drawing/PaneFile.h"
+#include "drawing/PaneTextCheck.h"
 #include "drawing/PaneVectors.h"
 
 #include <nlohmann/json.hpp>
@@ -206,27 +207,51 @@ bool SameNumbers(std::span<const double> a, std::span<const double> b)
     });
 }
 
+// Whether every series has as many points as the first one and a number for each, before there is room for
+// them: a short text may ask for any number of points.
+void CheckPointCounts(const CField& series, const CPaneVectors& vectors, std::size_t group)
+{
+    const auto size = [](const CField& list, const std::optional<std::vector<double>>* taken) {
+        return taken && *taken ? (*taken)->size() : list.Size();
+    };
+    std::size_t firstPoints = 0, firstX = 0;
+    for (std::size_t i = 0; i < series.Size(); ++i) {
+        const CField field = series.At(i);
+        const auto points = static_cast<std::size_t>(field.At("pointCount").Int(0));
+        const CPaneVectors::sSeries* taken = vectors.Find(group, i);
+        const bool sameX = i > 0 && taken && taken->XOfFirst;
+        const std::size_t x = sameX ? firstX : size(field.At("x"), taken ? &taken->X : nullptr);
+        field.At("x").NeedSize(x, points);
+        field.At("y").NeedSize(size(field.At("y"), taken ? &taken->Y : nullptr), points);
+        if (i == 0) {
+            firstPoints = points;
+            firstX = x;
+        } else if (points != firstPoints) {
+            Wrong("groups.series",
+                  "the x values of series " + std::to_string(i + 1) + " differ from those of series 1");
+        }
+    }
+}
+
 void ReadData(const CField& series, CPaneData& data, const CPaneVectors& vectors, std::size_t group)
 {
     const std::size_t count = series.Size();
     if (count > static_cast<std::size_t>(MaxSeries))
         Wrong("groups.series", std::to_string(count) + " series are more than a pane holds");
+    CheckPointCounts(series, vectors, group);
     data.SetSeriesCount(0);
     data.SetSeriesCount(static_cast<int>(count));
     for (std::size_t i = 0; i < count; ++i) {
         const CField field = series.At(i);
         const int number = static_cast<int>(i) + 1;
-        const auto points = static_cast<std::size_t>(field.At("pointCount").Int(0));
         const CPaneVectors::sSeries* taken = vectors.Find(group, i);
         std::vector<double> ownX, ownY;
         const bool sameX = i > 0 && taken && taken->XOfFirst;
         const std::span<const double> x =
             sameX ? data.X() : NumbersOf(field.At("x"), taken ? &taken->X : nullptr, ownX);
         const std::span<const double> y = NumbersOf(field.At("y"), taken ? &taken->Y : nullptr, ownY);
-        field.At("x").NeedSize(x.size(), points);
-        field.At("y").NeedSize(y.size(), points);
         if (i == 0) {
-            data.SetPointCount(number, static_cast<int>(points));
+            data.SetPointCount(number, static_cast<int>(x.size()));
             data.SetXVector(number, x);
         } else if (!sameX && !SameNumbers(x, data.X())) {
             Wrong("groups.series",
@@ -370,36 +395,66 @@ void Read(const CField& pane, CChart2D& chart, const CPaneVectors& vectors)
     marker.SetLock(more.At("markerLock").Int());
 }
 
+// One batch of changes, unless there is one already.
+class COwnBatch
+{
+public:
+    explicit COwnBatch(CChart2D& chart) : m_chart(chart), m_batched(chart.Batched())
+    {
+        if (!m_batched)
+            m_chart.SetBatched(true);
+    }
+    ~COwnBatch()
+    {
+        if (!m_batched)
+            m_chart.SetBatched(false);
+    }
+    COwnBatch(const COwnBatch&) = delete;
+    COwnBatch& operator=(const COwnBatch&) = delete;
+
+private:
+    CChart2D& m_chart;
+    const bool m_batched;
+};
+
 void FromJson(const json& pane, CChart2D& chart, const CPaneVectors& vectors)
 {
     CChart2D trial; // the first reading is the check
     Read(CField(pane, "pane"), trial, vectors);
-    const bool batched = chart.Batched();
-    if (!batched)
-        chart.SetBatched(true);
+    const COwnBatch batch(chart);
     Read(CField(pane, "pane"), chart, vectors);
-    if (!batched)
-        chart.SetBatched(false);
+}
+
+// Whatever else a reading may throw, a lack of memory too, becomes the failure that callers know.
+template<class F> void ReadOrFail(F read)
+{
+    try {
+        read();
+    } catch (const std::runtime_error&) {
+        throw;
+    } catch (const json::exception& error) {
+        throw std::runtime_error(std::string("pane file: not JSON: ") + error.what());
+    } catch (const std::exception& error) {
+        throw std::runtime_error(std::string("pane file: cannot be held: ") + error.what());
+    }
 }
 
 } // namespace
 
 void PaneFromJson(const json& pane, CChart2D& chart)
 {
-    FromJson(pane, chart, {});
+    ReadOrFail([&] { FromJson(pane, chart, {}); });
 }
 
 void PaneFromText(const std::string& text, CChart2D& chart)
 {
-    CPaneVectors vectors;
-    json pane;
-    try {
+    ReadOrFail([&] {
+        CPaneVectors vectors;
         const std::optional<std::string> rest = vectors.TakeFrom(text);
-        pane = json::parse(rest ? *rest : text);
-    } catch (const json::exception& error) {
-        throw std::runtime_error(std::string("pane file: not JSON: ") + error.what());
-    }
-    FromJson(pane, chart, vectors);
+        const std::string& parsed = rest ? *rest : text; // without the long lists, as a rule
+        CheckPaneText(parsed);
+        FromJson(json::parse(parsed), chart, vectors);
+    });
 }
 
 bool CChart2D::LoadFromFile(const std::string& path)
@@ -407,15 +462,15 @@ bool CChart2D::LoadFromFile(const std::string& path)
     std::ifstream file(path, std::ios::binary);
     if (!file)
         return false;
-    std::string text;
-    std::vector<char> piece(1 << 20);
-    while (file.read(piece.data(), static_cast<std::streamsize>(piece.size())) || file.gcount() > 0)
-        text.append(piece.data(), static_cast<std::size_t>(file.gcount()));
-    if (file.bad())
-        return false;
     try {
+        std::string text;
+        std::vector<char> piece(1 << 20);
+        while (file.read(piece.data(), static_cast<std::streamsize>(piece.size())) || file.gcount() > 0)
+            text.append(piece.data(), static_cast<std::size_t>(file.gcount()));
+        if (file.bad())
+            return false;
         PaneFromText(text, *this);
-    } catch (const std::runtime_error&) {
+    } catch (const std::exception&) {
         return false;
     }
     return true;

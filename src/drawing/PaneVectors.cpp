@@ -1,6 +1,7 @@
 #include "drawing/PaneVectors.h"
 
 #include "drawing/PaneObjects.h"
+#include "drawing/PaneTextCheck.h"
 
 #include <fast_float/fast_float.h>
 #include <nlohmann/json.hpp>
@@ -10,14 +11,11 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
-#include <stdexcept>
 #include <utility>
 
 namespace zantroq {
 
 namespace {
-
-constexpr int DeepestValue = 32;
 
 constexpr std::ptrdiff_t LongestNumber = 32; // of the texts that a number can have
 
@@ -189,8 +187,8 @@ private:
 
     bool SkipValue(int depth)
     {
-        if (depth > DeepestValue)
-            throw std::runtime_error("pane file: values lie deeper in one another than in any pane file");
+        if (depth > DeepestPaneValue)
+            RefuseDeepValue();
         SkipBlanks();
         if (m_at == m_end)
             return false;

@@ -12,6 +12,7 @@
 #include <functional>
 #include <limits>
 #include <optional>
+#include <sys/resource.h>
 #include <unistd.h>
 
 namespace zantroq {
@@ -343,6 +344,79 @@ TEST(PaneFile, ValuesDeepInOneAnotherAreRefused)
     EXPECT_THROW(PaneFromText("{\"more\":" + depth + std::string(100000, ']') + "}", chart),
                  std::runtime_error);
     EXPECT_THROW(PaneFromText(depth, chart), std::runtime_error);
+}
+
+// Texts that are left to the JSON parser were taken at any depth.
+TEST(PaneFile, TheDepthIsTheSameWhicheverReaderTakesTheText)
+{
+    CChart2D chart;
+    Fill(chart);
+    const std::string good = PaneToText(chart);
+    const auto nested = [&](int lists) { // within a member that nobody reads
+        const auto count = static_cast<std::size_t>(lists);
+        return "{\"unread\":" + std::string(count, '[') + "7" + std::string(count, ']') + "," +
+               good.substr(1);
+    };
+    const auto readers = [](const std::string& text) {
+        std::string escaped = text, twice = text;
+        escaped.replace(escaped.find("\"marker\""), 8, "\"m\\u0061rker\"");
+        twice.replace(twice.find("\"groups\""), 8, "\"groups\":[],\"groups\"");
+        return std::vector<std::string>{text, "\xEF\xBB\xBF" + text, escaped, twice};
+    };
+    for (const std::string& text : readers(nested(31))) // the 7 is at depth 32
+        EXPECT_TRUE(LoadedAsText(text)) << text.substr(0, 60);
+    for (const std::string& text : readers(nested(32)))
+        EXPECT_FALSE(LoadedAsText(text)) << text.substr(0, 60);
+    std::string inText = good;
+    inText.replace(inText.find("two"), 3, std::string(50, '['));
+    for (const std::string& text : readers(inText))
+        EXPECT_TRUE(LoadedAsText(text)) << "brackets within a text lie nowhere";
+}
+
+// What followed a NUL byte was not looked at.
+TEST(PaneFile, ANulByteIsRefusedWhereverItStands)
+{
+    CChart2D chart;
+    Fill(chart);
+    const std::string good = PaneToText(chart);
+    ASSERT_TRUE(LoadedAsText(good));
+    const std::string nul(1, '\0');
+    EXPECT_FALSE(LoadedAsText(good + nul));
+    EXPECT_FALSE(LoadedAsText(good + nul + "and more"));
+    EXPECT_FALSE(LoadedAsText("\xEF\xBB\xBF" + good + nul));
+    for (std::size_t at = 0; at < good.size(); at += 7)
+        ASSERT_FALSE(LoadedAsText(good.substr(0, at) + nul + good.substr(at))) << at;
+}
+
+// The most that this process has held so far, in megabytes.
+long MostMemory()
+{
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_maxrss / 1024;
+}
+
+// A series of many points and many series that have none of them asked for gigabytes.
+TEST(PaneFile, PointsThatTheFileDoesNotHoldGetNoRoom)
+{
+    CChart2D chart;
+    Fill(chart);
+    json pane = json::parse(PaneToText(chart));
+    json& series = pane["groups"][0]["series"];
+    json first = series[0], other = series[0];
+    first["pointCount"] = 20000;
+    first["x"] = first["y"] = std::vector<int>(20000, 1);
+    other["x"] = other["y"] = json::array();
+    for (const int points : {0, 20000}) {
+        other["pointCount"] = points;
+        series = std::vector<json>(4000, other);
+        series[0] = first;
+        const std::string text = pane.dump();
+        const long before = MostMemory();
+        EXPECT_FALSE(LoadedAsTree(text)) << points;
+        EXPECT_FALSE(LoadedAsText(text)) << points;
+        EXPECT_LT(MostMemory() - before, 250) << "4,000 times 20,000 numbers take 640";
+    }
 }
 
 TEST(PaneFile, NumbersOfEveryKindHaveTheDigitsOfTheJsonLibrary)
