@@ -28,7 +28,7 @@ enum AttachmentMethod : int
 class CPaneLabel : public CPaneNode
 {
 public:
-    explicit CPaneLabel(CChart2D* chart) : CPaneNode(chart), m_interior(chart) {}
+    explicit CPaneLabel(CChart2D* chart) : CPaneNode(chart), m_interior(chart, *this) {}
     void SetBoxAttachment(int kind) { m_boxAttachment = kind; }
     void SetBoxEdge(int kind) { m_boxEdge = kind; }
     int BoxAttachment() const { return m_boxAttachment; }
@@ -63,7 +63,17 @@ public:
     int Border() const { return m_border; }
 
 private:
-    CPaneInterior m_interior;
+    class CLabelInterior : public CPaneInterior // its colours wait with the label
+    {
+    public:
+        CLabelInterior(CChart2D* chart, CPaneLabel& label) : CPaneInterior(chart), m_label(label) {}
+
+    private:
+        void Changed() override { m_label.TouchOwn(); }
+        CPaneLabel& m_label;
+    };
+
+    CLabelInterior m_interior;
     std::string m_text;
     // While suspended, changes wait; they are told once when the suspension ends.
     template<class T> void AssignOwn(T& member, std::type_identity_t<T> value)

@@ -5,6 +5,8 @@
 #include "drawing/PaneNode.h"
 #include "settings/ChartSettings.h"
 
+#include <utility>
+
 namespace zantroq {
 
 enum LinePattern : int
@@ -24,20 +26,36 @@ class CPaneInterior : public CPaneNode
 {
 public:
     using CPaneNode::CPaneNode;
+    virtual ~CPaneInterior() = default;
+    CPaneInterior(const CPaneInterior&) = delete;
+    CPaneInterior& operator=(const CPaneInterior&) = delete;
     void SetBackground(Colour colour)
     {
         if (m_set && m_background == colour)
             return;
         m_set = true;
         m_background = colour;
-        Touch();
+        Changed();
     }
-    void SetForeground(Colour colour) { Assign(m_foreground, colour); } // also the colour of axis text
+    void SetForeground(Colour colour) // also the colour of axis text
+    {
+        if (m_foreground == colour)
+            return;
+        m_foreground = colour;
+        Changed();
+    }
     Colour Background() const { return m_background; }
     Colour Foreground() const { return m_foreground; }
     // False until a background is given. An interior without one lets what lies around it through.
     bool HasBackground() const { return m_set; }
-    void ClearBackground() { Assign(m_set, false); }
+    void ClearBackground()
+    {
+        if (std::exchange(m_set, false))
+            Changed();
+    }
+
+protected:
+    virtual void Changed() { Touch(); }
 
 private:
     bool m_set = false;

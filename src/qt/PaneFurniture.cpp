@@ -337,7 +337,7 @@ private:
         placed.Edge = edge;
         for (int i = 0; i < count; ++i)
             placed.Lines.push_back({left + padX, top + padY + i * m_text.LineHeight(),
-                                    lines[static_cast<std::size_t>(i)], foreground});
+                                    std::string(lines[static_cast<std::size_t>(i)]), foreground});
         if (title)
             m_titleBottom = std::max(m_titleBottom, placed.Box.Bottom);
         Out.Labels.push_back(std::move(placed));

@@ -6,7 +6,7 @@
 #include "qt/PaneCanvas.h"
 #include "qt/PaneText.h"
 
-#include <string_view>
+#include <string>
 #include <vector>
 
 namespace zantroq {
@@ -23,7 +23,7 @@ struct sRuledLine
 struct sPlacedText
 {
     int Left = 0, Top = 0;
-    std::string_view Text; // into the scene
+    std::string Text; // its own: that of a label whose repaint is suspended may be another by now
     QRgb Color = 0;
 };
 

@@ -89,6 +89,25 @@ TEST(Surface, ASuspendedLabelIsToldOnceWhenItResumes)
     EXPECT_EQ(pane.view.Times, 1);
 }
 
+// Its colours were told at once.
+TEST(Surface, TheColoursOfASuspendedLabelWaitWithIt)
+{
+    sWatchedPane pane;
+    CPaneLabel& label = pane.chart.PaneLabels().Add();
+    pane.view.Times = 0;
+    label.SetRepaintSuspended(true);
+    label.Interior().SetBackground(0x123456);
+    label.Interior().SetForeground(0x654321);
+    label.Interior().ClearBackground();
+    EXPECT_EQ(pane.view.Times, 0);
+    label.SetRepaintSuspended(false);
+    EXPECT_EQ(pane.view.Times, 1);
+    label.Interior().SetForeground(0x111111);
+    EXPECT_EQ(pane.view.Times, 2);
+    label.Interior().SetForeground(0x111111);
+    EXPECT_EQ(pane.view.Times, 2);
+}
+
 TEST(Surface, ItemsOfCollectionsCountFromOneAndHaveNames)
 {
     CChart2D chart;

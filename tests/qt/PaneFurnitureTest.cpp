@@ -366,6 +366,23 @@ TEST(PaneFurniture, AValueTextThatFitsItsMarginHasNoGround)
     EXPECT_TRUE(sFurnished(*test::EmptyPane(280, 180)).Placed.Grounds.empty());
 }
 
+// What was kept of the text was read when it was another one.
+TEST(PaneLabels, OneWhoseRepaintIsSuspendedIsPaintedAsItWas)
+{
+    const Pane pane = test::LinePane(280, 180, std::vector<double>(20, 50));
+    CPaneLabel& label = test::AddLabel(*pane, std::string(100, 'H'), AttachToPixel, AnchorBelowRight);
+    label.SetPixelAnchor(150, 60);
+    CPanePainter painter(*pane, Family);
+    const QImage before = painter.Picture(1.0).copy();
+    label.SetRepaintSuspended(true);
+    label.SetText(std::string(100, 'l'));
+    label.Interior().SetBackground(0x00ff00);
+    pane->PaneGroups(1).PaneData().SetPointY(1, 19, 50.001);
+    EXPECT_TRUE(painter.Picture(1.0) == before);
+    label.SetRepaintSuspended(false);
+    EXPECT_FALSE(painter.Picture(1.0) == before);
+}
+
 TEST(PaneFurniture, AHiddenAxisHasNeitherTextsNorTickMarks)
 {
     const Pane pane = test::EmptyPane(280, 180);
