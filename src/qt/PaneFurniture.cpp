@@ -221,13 +221,16 @@ private:
         const int top = m_map.Plot.Bottom + m_hair + gap;
         if (top + m_text.LineHeight() > m_height + m_text.LineHeight() / 3)
             return;
+        std::vector<const sTickLabel*> shown;
+        for (const sTickLabel& label : axis.TickLabels().All())
+            if (IsDrawn(label.Value) && !label.Text.empty() &&
+                m_map.X.Pixel(label.Value) >= m_map.Plot.Left &&
+                m_map.X.Pixel(label.Value) < m_map.Plot.Right)
+                shown.push_back(&label);
         std::vector<std::pair<int, int>> taken;
-        for (const sTickLabel& label : axis.TickLabels().All()) {
-            if (!IsDrawn(label.Value) || label.Text.empty())
-                continue;
+        for (const sTickLabel* const next : shown) {
+            const sTickLabel& label = *next;
             const int x = m_map.X.Pixel(label.Value), advance = m_text.Advance(label.Text);
-            if (x < m_map.Plot.Left || x >= m_map.Plot.Right)
-                continue;
             const int least = std::min(room, m_width - advance);
             const int left = std::clamp(x - advance / 2, least, std::max(least, m_width - advance - room));
             const auto meets = [&](const std::pair<int, int>& other) {
@@ -239,6 +242,12 @@ private:
                 if (const int by = taken[0].second - (left - room); by > 0 && taken[0].first - by >= room) {
                     taken[0] = {taken[0].first - by, taken[0].second - by};
                     Out.AxisTexts.back().Left -= by;
+                }
+            // The last one, the time of the last point, drives out what it meets.
+            if (next == shown.back())
+                while (!taken.empty() && meets(taken.back())) {
+                    taken.pop_back();
+                    Out.AxisTexts.pop_back();
                 }
             if (std::any_of(taken.begin(), taken.end(), meets))
                 continue;

@@ -297,6 +297,7 @@ TEST(PaneFurniture, TheFirstTimeTextGivesWayToTheLeft)
     x.TickLabels().RemoveAll();
     x.TickLabels().Add(advance / 2 - 58 + 8, first);
     x.TickLabels().Add(8 + advance + other / 2 - 58, second);
+    x.TickLabels().Add(190, "1");
     EXPECT_EQ(LeftOf(sFurnished(*pane).Placed, first), 8);
     EXPECT_FALSE(LeftOf(sFurnished(*pane).Placed, second));
 }
@@ -316,6 +317,31 @@ TEST(PaneFurniture, ATimeTextThatWouldMeetTheOneBeforeIsLeftOut)
     EXPECT_TRUE(LeftOf(placed, "10:30"));
     EXPECT_FALSE(LeftOf(placed, "10:40"));
     EXPECT_TRUE(LeftOf(placed, "11:30"));
+}
+
+// The time of the last point was left out where a rounder one stood before it.
+TEST(PaneFurniture, TheLastTimeTextDrivesOutTheOneBefore)
+{
+    const Pane pane = test::EmptyPane(58 + 200 + 23, 180);
+    CPaneAxis& x = pane->PaneArea().PaneAxes().X();
+    x.ViewLow().SetValue(0);
+    x.ViewHigh().SetValue(199);
+    x.TickLabels().RemoveAll();
+    x.TickLabels().Add(20, "09:30");
+    x.TickLabels().Add(100, "10:30");
+    x.TickLabels().Add(160, "11:30");
+    x.TickLabels().Add(170, "11:41");
+    x.TickLabels().Add(300, "13:00"); // out of sight
+    const sPaneFurniture placed = sFurnished(*pane).Placed;
+    EXPECT_TRUE(LeftOf(placed, "09:30"));
+    EXPECT_TRUE(LeftOf(placed, "10:30"));
+    EXPECT_FALSE(LeftOf(placed, "11:30"));
+    EXPECT_TRUE(LeftOf(placed, "11:41"));
+    x.TickLabels().Add(160, "as wide as two of them"); // meets both
+    const sPaneFurniture wide = sFurnished(*pane).Placed;
+    EXPECT_FALSE(LeftOf(wide, "11:30"));
+    EXPECT_FALSE(LeftOf(wide, "11:41"));
+    EXPECT_TRUE(LeftOf(wide, "as wide as two of them"));
 }
 
 // The frame's line between two digits read as a 1.
