@@ -34,9 +34,14 @@ sBarSource sBarSource::Of(const CPaneGroup& group, const sPlotMap& map, double s
     // A bar is never wider than the room of a point, so that a crowded pane stays readable.
     const int room =
         static_cast<int>(std::clamp(std::abs(map.X.PixelsPerUnit()), 1.0, WidestBody * std::max(1.0, scale)));
+    // Widths are asked for in pane pixels, so the room counts in whole ones of these too: a width that fills
+    // it has its gap at every scale.
+    const int wholeRoom =
+        static_cast<int>(std::clamp(std::abs(map.X.PixelsPerUnit()) / scale, 1.0, 1.0 * WidestBody));
+    const int widest = BodyWidth(std::min(room, DevicePixels(wholeRoom, scale)));
     if (IsBarType(source.Type)) {
         source.Bars = data.BlockedY(first);
-        source.Width = BodyWidth(std::min(room, DevicePixels(barWidth, scale)));
+        source.Width = std::min(DevicePixels(barWidth, scale), widest);
         return source;
     }
     source.Low = data.Y(first + 1);
@@ -57,7 +62,7 @@ sBarSource sBarSource::Of(const CPaneGroup& group, const sPlotMap& map, double s
     source.Outline = outline.FillLook().FillColour();
     source.Outlined = outline.LineLook().Pattern() != LineNone;
     const int width = std::max(up.LineLook().Width(), down.LineLook().Width());
-    source.Width = width < 1 ? 1 : BodyWidth(std::min(room, DevicePixels(width, scale)));
+    source.Width = width < 1 ? 1 : std::min(DevicePixels(width, scale), widest);
     source.Wick = std::min(hair, source.Width);
     return source;
 }

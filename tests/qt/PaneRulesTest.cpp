@@ -83,5 +83,40 @@ TEST(WarmUp, StaysUnpaintedInACopy)
     EXPECT_TRUE(PanePicture(copy, 1.0, Family) == PanePicture(*pane, 1.0, Family));
 }
 
+// The longest row of pixels that are neither white nor grey.
+int WidestRow(const QImage& picture, const sPixelRect& plot)
+{
+    int widest = 0;
+    for (int y = plot.Top; y < plot.Bottom; ++y)
+        for (int x = plot.Left, length = 0; x < plot.Right; ++x) {
+            const QRgb pixel = picture.pixel(x, y);
+            length = qRed(pixel) == qGreen(pixel) && qGreen(pixel) == qBlue(pixel) ? 0 : length + 1;
+            widest = std::max(widest, length);
+        }
+    return widest;
+}
+
+// A width that was asked for lost the gap that only a full room leaves.
+TEST(BarWidth, IsTheOneAskedForWhereTheRoomAllowsIt)
+{
+    constexpr int pane = 58 + 211 + 23; // 60 pixels a point
+    for (int width = 1; width <= 50; ++width)
+        for (const double scale : {1.0, 2.0}) {
+            const int wanted = static_cast<int>(std::min(width, 33) * scale), // 33 of 41 pixels
+                most = scale == 2.0 ? 65 : 33;
+            const test::Pane bars = test::HistogramPane(pane, 180, {Hole, 40, -40, 30}, width, ChartBars);
+            EXPECT_EQ(WidestRow(PanePicture(*bars, scale, Family), sPlotMap(*bars, scale).Plot),
+                      std::min(wanted, most))
+                << width << " at " << scale;
+            const test::Pane candles = test::CandlePane(pane, 180, 4, width);
+            candles->PaneGroups(1).SeriesStyles(4).LineLook().SetPattern(LineNone);
+            for (int series = 1; series <= 4; ++series)
+                candles->PaneGroups(1).PaneData().SetPointY(series, 1, Hole);
+            EXPECT_EQ(WidestRow(PanePicture(*candles, scale, Family), sPlotMap(*candles, scale).Plot),
+                      std::min(wanted, most))
+                << width << " at " << scale;
+        }
+}
+
 } // namespace
 } // namespace zantroq
