@@ -57,6 +57,8 @@ CPaneInk::sDamage CPaneInk::Update(const CChart2D& chart, const sPlotMap& map, d
     m_filledCandles = area.CandleLook().Filled();
     m_hollow = area.PlotBackground(chart.PaneInterior());
     m_scale = scale;
+    m_hasBars = HasBars(group);
+    m_histogram = IsBarType(group.Type());
     sLook look = LookOf(chart, map, scale);
     const sPointChanges changes = data.ChangesSince(m_revision);
     const bool known = m_drawn && look == m_look;

@@ -69,7 +69,9 @@ public:
     // candles are columns, which ascend, and rectangles in other columns.
     const std::vector<sInkRect>& Rects() const { return m_rects; }
     const CInkColumns& Columns() const { return m_inkColumns; }
-    bool ShowsBars() const { return !m_rects.empty() || !m_inkColumns.Columns().empty(); }
+    // What the group's points are: bars of any kind, such that stand on the origin, or else lines with marks.
+    bool HasBars() const { return m_hasBars; }
+    bool IsHistogram() const { return m_hasBars && m_histogram; }
     bool RectsAscend() const { return m_ascending; }
     int WidestRect() const { return m_widest; }
     const std::vector<sInkLine>& Lines() const { return m_lines; }
@@ -122,7 +124,7 @@ private:
     sPlotMap m_map;
     sLook m_look;
     std::uint64_t m_revision = ~std::uint64_t{0};
-    bool m_drawn = false, m_ascending = true;
+    bool m_drawn = false, m_ascending = true, m_hasBars = false, m_histogram = false;
     int m_widest = 1, m_barWidth = 1;
     double m_origin = 0;
     CPointColumns m_points; // of the drawing at hand

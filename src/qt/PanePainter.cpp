@@ -184,7 +184,7 @@ void CPanePainter::PaintData(IPaneCanvas& canvas, int left, int right, const sPi
         canvas.Columns(ink.Columns(), {first, std::partition_point(first, columns.end(), before(right))});
     };
     // A histogram stands behind the curves, whichever group it is in.
-    const bool histogramFirst = !m_ink[0].ShowsBars() && m_ink[1].Lines().empty();
+    const bool histogramFirst = m_ink[1].IsHistogram() && !m_ink[0].HasBars();
     for (const int i : histogramFirst ? std::array{1, 0} : std::array{0, 1}) {
         if (m_ink[i].Lines().empty())
             bars(m_ink[i]);

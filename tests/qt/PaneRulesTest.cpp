@@ -118,5 +118,36 @@ TEST(BarWidth, IsTheOneAskedForWhereTheRoomAllowsIt)
         }
 }
 
+TEST(PaintingOrder, MarksOfTheSecondGroupLieOnTheLinesOfTheFirst)
+{
+    const test::Pane pane = test::LinePane(280, 180, std::vector<double>(20, 50));
+    pane->PaneGroups(1).SeriesStyles(1).LineLook().SetWidth(3);
+    test::LoadGroup(pane->PaneGroups(2), {std::vector<double>(20, 50)});
+    CSeriesStyle& marks = pane->PaneGroups(2).SeriesStyles(1);
+    marks.LineLook().SetPattern(LineNone);
+    marks.SymbolLook().SetShape(SymbolMark);
+    marks.SymbolLook().SetSize(5);
+    marks.SymbolLook().SetColour(0x0000ff);
+    int x = 0, y = 0;
+    pane->PaneGroups(2).PointToPixel(1, 10, x, y);
+    EXPECT_EQ(PanePicture(*pane, 1.0, Family).pixel(x, y), qRgb(255, 0, 0));
+}
+
+TEST(PaintingOrder, AHistogramOfTheSecondGroupStandsBehindTheMarksOfTheFirst)
+{
+    const test::Pane pane = test::LinePane(280, 180, std::vector<double>(20, 20));
+    CSeriesStyle& marks = pane->PaneGroups(1).SeriesStyles(1);
+    marks.SymbolLook().SetShape(SymbolMark);
+    marks.SymbolLook().SetSize(5);
+    marks.SymbolLook().SetColour(0x0000ff);
+    test::LoadGroup(pane->PaneGroups(2), {std::vector<double>(20, 50)});
+    for (const int type : {ChartBars, ChartBarsFromOrigin}) {
+        pane->PaneGroups(2).SetChartType(type);
+        int x = 0, y = 0;
+        pane->PaneGroups(1).PointToPixel(1, 10, x, y);
+        EXPECT_EQ(PanePicture(*pane, 1.0, Family).pixel(x, y), qRgb(255, 0, 0)) << type;
+    }
+}
+
 } // namespace
 } // namespace zantroq
