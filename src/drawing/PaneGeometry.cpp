@@ -72,19 +72,23 @@ void CPaneGroup::PointToPixel(int series, int point, int& pixelX, int& pixelY) c
 
 namespace {
 
-// A search for the nearest point. Points are looked at in ranges of pixels around the mouse when x ascends,
-// else all of them.
+// A search for the nearest point. Points are looked at in ranges of pixels around the mouse when their
+// columns ascend, else all of them.
 class CPointSearch
 {
 public:
     CPointSearch(const CPaneData& data, const sPlotMap& map, int x, int y)
-        : m_data(data), m_map(map), m_mouseX(x), m_mouseY(y)
+        : m_data(data),
+          m_map(map),
+          m_ascending(map.X.PixelsPerUnit() > 0 && data.XAscending()),
+          m_mouseX(x),
+          m_mouseY(y)
     {
     }
 
     void FindNearest()
     {
-        if (!m_data.XAscending())
+        if (!m_ascending)
             return Look(0, Points());
         const int widest = std::max(m_mouseX - m_map.Plot.Left, m_map.Plot.Right - 1 - m_mouseX);
         for (int radius = 4;; radius *= 4) {
@@ -99,7 +103,7 @@ public:
     {
         const std::span<const double> x = m_data.X();
         std::size_t first = 0, last = x.size();
-        if (m_data.XAscending()) {
+        if (m_ascending) {
             // The points right of the mouse that share the first pixel, and the first of the pixel left of
             // it.
             const std::size_t right = FirstAtOrAfter(m_mouseX);
@@ -173,7 +177,7 @@ private:
     void Consider(int series, std::size_t i, double y)
     {
         const double dataX = m_data.X()[i];
-        if (!IsDrawn(y) || std::isinf(y) || dataX != dataX)
+        if (!IsDrawn(y) || std::isinf(y) || !IsDrawn(dataX))
             return;
         const int pixelX = m_map.X.Pixel(dataX), pixelY = m_map.Y.Pixel(y);
         const std::int64_t dx = pixelX - m_mouseX, dy = pixelY - m_mouseY;
@@ -186,6 +190,7 @@ private:
 
     const CPaneData& m_data;
     const sPlotMap& m_map;
+    const bool m_ascending;
     int m_mouseX, m_mouseY;
 };
 

@@ -25,8 +25,13 @@ public:
     std::size_t Count() const { return m_count; }
     // Whether the point has a place at all.
     bool IsPlaced(std::size_t i) const { return m_counts || (IsDrawn(m_x[i]) && !std::isinf(m_x[i])); }
-    // Whether the columns of the points ascend, each point having one.
-    bool InOrder() const { return m_ascending && (m_count == 0 || (IsPlaced(0) && IsPlaced(m_count - 1))); }
+    // Whether the columns of the points ascend, each point having one. On an axis that runs backwards they do
+    // not.
+    bool InOrder() const
+    {
+        return m_ascending && m_map.PixelsPerUnit() >= 0 &&
+               (m_count == 0 || (IsPlaced(0) && IsPlaced(m_count - 1)));
+    }
     // REQUIRES: IsPlaced(i).
     int ColumnOf(std::size_t i) const
     {

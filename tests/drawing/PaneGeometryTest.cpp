@@ -276,6 +276,45 @@ TEST(PickPoint, AgreesWithLookingAtEveryPointWhateverTheOrderOfX)
     }
 }
 
+// A search that halves its way over points whose pixels descend missed most of them.
+TEST(PickPoint, FindsEveryPointOnAnAxisThatRunsBackwards)
+{
+    std::mt19937 random(9);
+    const auto number = [&](double low, double high) {
+        return std::uniform_real_distribution<double>(low, high)(random);
+    };
+    for (int round = 0; round < 100; ++round) {
+        sUnitPane pane;
+        CPaneAxis& axis = pane.chart.PaneArea().PaneAxes().X();
+        axis.ViewLow().SetValue(round % 3 ? 100 : 50);
+        axis.ViewHigh().SetValue(round % 3 ? 0 : 50); // or an axis without extent
+        std::vector<double> x, y;
+        for (int i = 0; i < 60; ++i) {
+            x.push_back(number(-10, 110));
+            y.push_back(number(-10, 60));
+        }
+        std::sort(x.begin(), x.end());
+        pane.Load(x, {y});
+        for (int i = 0; i < 20; ++i) {
+            const int mouseX = static_cast<int>(number(10, 111)), mouseY = static_cast<int>(number(20, 71));
+            for (const int focus : {FocusAny, FocusX})
+                ASSERT_EQ(Pick(pane.group, mouseX, mouseY, focus),
+                          PlainPick(pane.group, mouseX, mouseY, focus));
+        }
+    }
+}
+
+TEST(PickPoint, APointWhoseXIsAHoleIsNotThere)
+{
+    sUnitPane pane;
+    pane.Load({Hole, 50}, {{25, 25}});
+    CPaneAxis& axis = pane.chart.PaneArea().PaneAxes().X();
+    axis.ViewLow().SetValue(0); // no slope: each x lies in the middle
+    axis.ViewHigh().SetValue(0);
+    EXPECT_EQ(Pick(pane.group, 60, 45, FocusAny).Point, 2);
+    EXPECT_EQ(Pick(pane.group, 60, 45, FocusX).Point, 2);
+}
+
 TEST(PaneGeometry, AFinerGridKeepsThePlotsEdges)
 {
     sUnitPane pane;

@@ -1,5 +1,5 @@
-// Panes as a pane file may ask for them: plots that reach past their picture or boxes larger than any
-// picture. The picture that is kept and patched is the one painted from nothing.
+// Panes as a pane file may ask for them: plots that reach past their picture, boxes larger than any picture,
+// axes that run backwards. The picture that is kept and patched is the one painted from nothing.
 #include "qt/PanePainter.h"
 #include "qt/PaneScenes.h"
 
@@ -78,6 +78,25 @@ TEST(HostilePane, ABoxLargerThanAnyPictureIsCutToIt)
             SCOPED_TRACE(testing::Message()
                          << width << " by " << height << ", type " << pane->PaneGroups(1).Type());
             ExpectKeptIsFresh(*pane, 1.0);
+        }
+}
+
+// Their pixel columns were looked for as if they ascended.
+TEST(HostilePane, OnAnAxisThatRunsBackwardsEveryPointIsPainted)
+{
+    for (const double scale : {1.0, 2.0})
+        for (const test::Pane& pane : PanesOfEachKind(200, 120)) {
+            SCOPED_TRACE(testing::Message() << "type " << pane->PaneGroups(1).Type() << " at " << scale);
+            CPaneAxis& x = pane->PaneArea().PaneAxes().X();
+            const double low = x.ViewLow().Value(), high = x.ViewHigh().Value();
+            x.ViewLow().SetValue(high);
+            x.ViewHigh().SetValue(low);
+            std::vector<double> curve(static_cast<std::size_t>(pane->PaneGroups(1).PaneData().PointCount(1)));
+            for (std::size_t i = 0; i < curve.size(); ++i)
+                curve[i] = 100 + static_cast<double>(i * 31 % 17);
+            test::LoadGroup(pane->PaneGroups(2), {curve});
+            pane->PaneGroups(2).SeriesStyles(1).SymbolLook().SetShape(SymbolMark);
+            ExpectKeptIsFresh(*pane, scale);
         }
 }
 
