@@ -169,7 +169,7 @@ int CSession::RunReplay()
     MakeWindow();
     const sReplayResult result = zantroq::RunReplay(script, m_window->Chart().Window(), m_boxes, *this);
     if (result.ExitCode != ExitDone)
-        Complain("--replay " + m_line.Replay + ": " + result.Message);
+        Warn(result.Message);
     return result.ExitCode;
 }
 
@@ -202,6 +202,11 @@ void CSession::Wait(int milliseconds)
 void CSession::Resize(int width, int height)
 {
     m_window->SetClientSize({width, height});
+}
+
+void CSession::Warn(const std::string& sentence)
+{
+    Complain("--replay " + m_line.Replay + ": " + sentence);
 }
 
 std::string CSession::Print(const std::string& file)

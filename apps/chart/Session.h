@@ -35,6 +35,7 @@ private:
     void Wait(int milliseconds) override;
     void Resize(int width, int height) override;
     std::string Print(const std::string& file) override;
+    void Warn(const std::string& sentence) override;
     std::string Snapshot(const std::string& file) override;
 
     const sCommandLine m_line;

@@ -96,7 +96,7 @@ sReplayResult RunStep(const sReplayStep& step, CChartDlg& window, CReplayMessage
         break;
     case ReplayAction::Menu:
         if (wrong = PickFromMenu(window, step.Number); !wrong.empty())
-            return Failed(2, step, wrong);
+            host.Warn(Failed(0, step, wrong).Message);
         break;
     case ReplayAction::Answer:
         boxes.Queue(step.BoxReply);

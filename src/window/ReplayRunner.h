@@ -21,6 +21,8 @@ public:
     virtual std::string WaitComplete(int milliseconds) = 0;
     virtual std::string Print(const std::string& file) = 0;
     virtual std::string Snapshot(const std::string& file) = 0;
+    // A sentence about a step that did nothing; the script goes on.
+    virtual void Warn(const std::string& sentence) = 0;
 };
 
 struct sReplayResult
