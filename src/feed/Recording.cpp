@@ -7,7 +7,6 @@
 #include <fstream>
 #include <limits>
 #include <system_error>
-#include <unordered_set>
 
 namespace zantroq::feed {
 namespace {
@@ -129,18 +128,6 @@ bool ReadTime(CCsvRows& rows, std::size_t column, std::string_view name, TFeedTi
     return false;
 }
 
-// What no bar can have, or nothing.
-std::string_view WrongPrices(const sFEED_BAR& bar)
-{
-    if (IsBelow(bar.High, bar.Low))
-        return "high is below low";
-    if (IsBelow(bar.High, bar.Open) || IsBelow(bar.Open, bar.Low))
-        return "open is not between low and high";
-    if (IsBelow(bar.High, bar.Close) || IsBelow(bar.Close, bar.Low))
-        return "close is not between low and high";
-    return {};
-}
-
 // At most so many bytes of UTF-8 text, and no half character at its end.
 std::string_view CutText(std::string_view text, std::size_t most)
 {
@@ -222,7 +209,6 @@ std::vector<sFEED_BAR> ReadBars(RecordingKind kind, std::string_view text, const
     const std::size_t volume = rows.Column("volume", false);
     const std::size_t interest = daily ? rows.Column("open_interest", false) : NoColumn;
     std::vector<sFEED_BAR> bars;
-    std::unordered_set<TFeedTime> stamps;
     while (rows.Next()) {
         sFEED_BAR bar;
         if (!ReadTime(rows, stamp, stampName, bar.Stamp) || !ReadPrice(rows, open, "open", bar.Open) ||
@@ -231,16 +217,12 @@ std::vector<sFEED_BAR> ReadBars(RecordingKind kind, std::string_view text, const
             !ReadOptionalCount(rows, volume, "volume", bar.Volume) ||
             !ReadOptionalCount(rows, interest, "open_interest", bar.OpenInterest))
             continue;
-        if (const std::string_view wrong = WrongPrices(bar); !wrong.empty()) {
-            rows.Skip(wrong);
+        if (IsBelow(bar.High, bar.Low)) {
+            rows.Skip("high is below low");
             continue;
         }
         if (daily)
             bar.Stamp = StartOfDay(DayOf(bar.Stamp));
-        if (!stamps.insert(bar.Stamp).second) {
-            rows.Skip(Quoted("a row before has the same " + std::string(stampName) + ":", rows.Field(stamp)));
-            continue;
-        }
         bars.push_back(bar);
     }
     SortByTime(bars, &sFEED_BAR::Stamp);

@@ -30,9 +30,9 @@ struct sRECORDING_REPORT
     void Skip(const std::string& file, std::size_t line, std::string_view why);
 };
 
-// Rows in time order (a file in another order is sorted; ticks of one time keep the file's order, of the bars
-// of one stamp the first good one is kept). `file` names the text in problems. Without a header line that
-// holds the needed columns nothing is read and the report says so.
+// Rows in time order (a file in another order is sorted; rows of one time keep the file's order). `file`
+// names the text in problems. Without a header line that holds the needed columns nothing is read and the
+// report says so.
 std::vector<sFEED_TICK> ReadTicks(std::string_view text, const std::string& file, sRECORDING_REPORT& report);
 std::vector<sFEED_BAR> ReadBars(RecordingKind kind, std::string_view text, const std::string& file,
                                 sRECORDING_REPORT& report);
