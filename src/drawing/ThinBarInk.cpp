@@ -87,7 +87,8 @@ void CThinBarInk::DrawSeen(std::size_t first, int column)
     int top = rows - found.Up[0], bottom = top; // rows of the plot
     for (std::size_t k = 0; k < found.Count; ++k) {
         const double a = open[found.Point[k]], b = close[found.Point[k]];
-        plain &= (a < CPaneData::HoleValue()) & (b < CPaneData::HoleValue());
+        plain &= a < CPaneData::HoleValue();
+        plain &= b < CPaneData::HoleValue();
         const std::uint64_t shade = b >= a ? 0 : 0x0101010101010101u;
         const int nextTop = rows - found.Up[k], nextBottom = found.Down[k];
         if (top - nextTop <= more && nextBottom - bottom <= more) {
