@@ -241,7 +241,8 @@ std::vector<std::string> LeaveOutWhatIsNotUtf8(SettingsTree& tree)
 {
     std::vector<std::string> gone;
     for (auto key = tree.begin(); key != tree.end();) {
-        auto& [path, values] = *key;
+        const std::string& path = key->first;
+        SettingValues& values = key->second;
         if (!IsUtf8(path)) {
             gone.push_back("key " + Shown(path));
             key = tree.erase(key);
