@@ -11,8 +11,8 @@
 //   SaveLoad/P         a pane file written to a text and read back
 //   Yardstick/P        scanning four arrays, clearing the picture, one line a column
 //   PlotWidget/P       the plot widget that Debian packages, the same candles (only where it is installed)
-#include "drawing/PaneFile.h"
-#include "qt/PanePainter.h"
+#include "qt/paint/PanePainter.h"
+#include "scene/PaneFile.h"
 
 #include <QGuiApplication>
 #include <QImage>
@@ -93,9 +93,9 @@ std::unique_ptr<CChart2D> PricePane(int count, const sBars& bars, int height)
     const int room = static_cast<int>((Width - 81.0) / (count - 0.5));
     for (int series : {2, 3})
         group.SeriesStyles(series).LineLook().SetWidth(room);
-    group.SeriesStyles(2).FillLook().SetColour(0x00ff00);
-    group.SeriesStyles(3).FillLook().SetColour(0x0000ff);
-    group.SeriesStyles(4).FillLook().SetColour(0xc0c0c0);
+    group.SeriesStyles(2).FillLook().SetColor(0x00ff00);
+    group.SeriesStyles(3).FillLook().SetColor(0x0000ff);
+    group.SeriesStyles(4).FillLook().SetColor(0xc0c0c0);
     group.SeriesStyles(4).LineLook().SetPattern(room < 3 ? LineNone : LineSolid);
     const double low = bars.Least, high = bars.Greatest, step = (high - low) / 5;
     SetRange(*pane, low, high);
@@ -109,7 +109,7 @@ std::unique_ptr<CChart2D> PricePane(int count, const sBars& bars, int height)
     axes.X().AxisGrid().LineLook().SetPattern(LineShortDashes);
     axes.Y().AxisGrid().LineLook().SetPattern(LineShortDashes);
     for (CPaneAxis* axis : {&axes.X(), &axes.Y()})
-        axis->AxisGrid().LineLook().SetColour(0xc0c0c0);
+        axis->AxisGrid().LineLook().SetColor(0xc0c0c0);
     axes.X().TickMarkSpacing().SetValue(spacing);
     axes.Y().TickMarkSpacing().SetValue(step);
     axes.Y().AxisGrid().SetSpacing(step);

@@ -21,7 +21,7 @@
 #include "studies/VolumeBalance.h"
 #include "studies/VolumeScale.h"
 
-#include "qt/PanePainter.h"
+#include "qt/paint/PanePainter.h"
 
 #include "studies/PlainStudy.h"
 #include "support/SeriesFixture.h"

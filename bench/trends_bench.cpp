@@ -7,7 +7,7 @@
 //   Compute/K/P     the same without painting
 //   DeleteClick/P  finding the line of a click with one of each kind on the pane, none of them near
 //   Yardstick/P     one array of P numbers written, the picture cleared
-#include "qt/PanePainter.h"
+#include "qt/paint/PanePainter.h"
 #include "trends/TrendInteraction.h"
 #include "trends/TrendWindow.h"
 
@@ -57,8 +57,8 @@ struct sTrendPane
         CPaneGroup& bars = window.pane.PaneGroups(1);
         bars.SetChartType(ChartCandles);
         area.CandleLook().SetFilled(true);
-        bars.SeriesStyles(2).FillLook().SetColour(0x3c8c1e);
-        bars.SeriesStyles(3).FillLook().SetColour(0x2828d2);
+        bars.SeriesStyles(2).FillLook().SetColor(0x3c8c1e);
+        bars.SeriesStyles(3).FillLook().SetColor(0x2828d2);
         const std::span<double> high = bars.PaneData().WholeY(1), low = bars.PaneData().WholeY(2),
                                 open = bars.PaneData().WholeY(3), close = bars.PaneData().WholeY(4);
         std::uint32_t state = 12345;

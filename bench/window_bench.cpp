@@ -5,10 +5,10 @@
 //   taken, moved by ten pixels and let go: layout, whole draw, painting MarkerStep   the mouse moves from bar
 //   to bar: markers, titles and study headers Yardstick    one picture of the window's size is cleared and
 //   copied
-#include "feed/FeedServer.h"
+#include "feed/server/FeedServer.h"
 #include "market/ZantroPorts.h"
-#include "qt/ChartCtrl.h"
-#include "qt/ChartView.h"
+#include "qt/widgets/ChartCtrl.h"
+#include "qt/widgets/ChartView.h"
 #include "window/ChartDlg.h"
 #include "window/ChartsResizer.h"
 

@@ -1,6 +1,6 @@
 // Any bytes as a pane file: loading either gives a pane that saves and loads back the same, or leaves the
 // pane as it was; and it gives what a tree of JSON values gives, which the long lists do not go through.
-#include "drawing/PaneFile.h"
+#include "scene/PaneFile.h"
 
 #include <nlohmann/json.hpp>
 

@@ -1,9 +1,9 @@
 // Arbitrary text read as each kind of recording and as a symbol list; whatever comes out is built into longer
 // bars and asked for. The first byte chooses the kind of recording.
-#include "feed/BarBuilder.h"
-#include "feed/HistoryReply.h"
-#include "feed/RecordedMarket.h"
-#include "feed/Recording.h"
+#include "feed/markets/BarBuilder.h"
+#include "feed/markets/RecordedMarket.h"
+#include "feed/markets/Recording.h"
+#include "feed/protocol/HistoryReply.h"
 
 #include <cstdlib>
 

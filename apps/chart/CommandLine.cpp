@@ -1,7 +1,7 @@
 #include "CommandLine.h"
 
+#include "replay/ReplayScript.h"
 #include "settings/ChartSettings.h"
-#include "window/ReplayScript.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,7 +1,7 @@
 #include "EmbeddedFeed.h"
 
 #include "CommandLine.h"
-#include "feed/MarketCatalog.h"
+#include "feed/markets/MarketCatalog.h"
 #include "market/HistoryRecords.h"
 #include "market/ZantroPorts.h"
 

@@ -1,8 +1,8 @@
 // A feed inside this process on two free ports, and what it tells the user. Window thread.
 #pragma once
 
-#include "feed/FeedServer.h"
-#include "platform/SettingsKey.h"
+#include "feed/server/FeedServer.h"
+#include "platform/settings/SettingsKey.h"
 
 #include <QObject>
 

@@ -1,7 +1,7 @@
 #include "HostWindow.h"
 
-#include "qt/BarFont.h"
-#include "qt/ChartView.h"
+#include "qt/widgets/BarFont.h"
+#include "qt/widgets/ChartView.h"
 
 #include <QIcon>
 #include <QLabel>

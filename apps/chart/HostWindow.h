@@ -2,7 +2,7 @@
 // is not a genuine one.
 #pragma once
 
-#include "qt/ChartCtrl.h"
+#include "qt/widgets/ChartCtrl.h"
 
 #include <QWidget>
 

@@ -1,7 +1,7 @@
 #include "Session.h"
 
-#include "qt/ChartPicture.h"
-#include "qt/ChartView.h"
+#include "qt/output/ChartPicture.h"
+#include "qt/widgets/ChartView.h"
 #include "window/ChartDlg.h"
 
 #include <QApplication>

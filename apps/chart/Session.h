@@ -4,7 +4,7 @@
 #include "CommandLine.h"
 #include "EmbeddedFeed.h"
 #include "HostWindow.h"
-#include "window/ReplayRunner.h"
+#include "replay/ReplayRunner.h"
 
 #include <map>
 #include <memory>

@@ -2,7 +2,7 @@
 #include "CommandLine.h"
 #include "Session.h"
 
-#include "qt/DesktopLook.h"
+#include "qt/widgets/DesktopLook.h"
 
 #include <QApplication>
 #include <QHashFunctions>

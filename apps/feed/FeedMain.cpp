@@ -1,7 +1,7 @@
 // zantroq-feed: the local feed as a program. Results on standard output, messages on standard error. Exit 0
 // after an interrupt or a termination signal, 2 for wrong usage, a port that cannot be had included, 4 when
 // standard output cannot be written.
-#include "feed/FeedServer.h"
+#include "feed/server/FeedServer.h"
 
 #include <CLI/CLI.hpp>
 #include <asio.hpp>

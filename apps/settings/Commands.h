@@ -2,7 +2,7 @@
 // error; each answers the exit code of the program. A CSettingsFileError goes through to the caller.
 #pragma once
 
-#include "platform/SettingsFile.h"
+#include "platform/settings/SettingsFile.h"
 
 #include <optional>
 #include <string>

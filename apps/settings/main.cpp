@@ -2,7 +2,7 @@
 #include "CommandWords.h"
 #include "Commands.h"
 
-#include "platform/SettingsPath.h"
+#include "platform/settings/SettingsPath.h"
 
 #include <CLI/CLI.hpp>
 #include <csignal>

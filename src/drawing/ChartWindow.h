@@ -2,7 +2,7 @@
 // the interface keeps the drawing side free of the window. Chart window's thread.
 #pragma once
 
-#include "drawing/Chart2D.h"
+#include "scene/Chart2D.h"
 #include "settings/ChartSettings.h"
 
 #include <string>

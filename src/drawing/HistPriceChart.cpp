@@ -138,11 +138,11 @@ void CHistPriceChart::ApplyCandleStyles()
         return;
     constexpr int widthBeforeNarrowing = 5;
     chart->PaneArea().CandleLook().SetFilled(true);
-    bars.SeriesStyles(2).FillLook().SetColour(settings.UpCandleColor);
+    bars.SeriesStyles(2).FillLook().SetColor(settings.UpCandleColor);
     bars.SeriesStyles(2).LineLook().SetWidth(widthBeforeNarrowing);
-    bars.SeriesStyles(3).FillLook().SetColour(settings.DownCandleColor);
+    bars.SeriesStyles(3).FillLook().SetColor(settings.DownCandleColor);
     bars.SeriesStyles(3).LineLook().SetWidth(widthBeforeNarrowing);
-    bars.SeriesStyles(4).FillLook().SetColour(settings.GridColor);
+    bars.SeriesStyles(4).FillLook().SetColor(settings.GridColor);
     bars.SeriesStyles(4).LineLook().SetPattern(LineSolid);
 }
 

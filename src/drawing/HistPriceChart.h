@@ -43,7 +43,7 @@ public:
     virtual std::int32_t Volume(int index) const; // cut to 32 bits
     virtual int Count() const;
 
-    void SetUp();            // at the start of a chart: labels, margins, axes, colours
+    void SetUp();            // at the start of a chart: labels, margins, axes, colors
     void Draw(int position); // the whole draw; a position outside the series is held at its nearer end
     void UpdateLastPoint();  // a live change of the last bar: touches that point alone
     void RefreshTitle();

@@ -3,9 +3,10 @@
 // thread.
 #pragma once
 
-#include "drawing/PaneObjects.h"
 #include "drawing/PriceFormatter.h"
 #include "market/HistoryRecords.h"
+#include "scene/PaneObjects.h"
+#include "settings/ChartSettings.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 #include "drawing/MovingAverages.h"
 
-#include "drawing/Lanes.h"
-#include "drawing/PaneObjects.h"
+#include "platform/Lanes.h"
+#include "scene/PaneObjects.h"
 
 #include <algorithm>
 

@@ -29,7 +29,7 @@ void ForgetStudy(CPaneArea& area)
     area.PaneAxes().X().DataHigh().SetKind(0);
 }
 
-void SetColours(CPaneInterior& interior, Colour background, Colour foreground)
+void SetColors(CPaneInterior& interior, ColorValue background, ColorValue foreground)
 {
     interior.SetBackground(background);
     interior.SetForeground(foreground);
@@ -42,7 +42,7 @@ void SetUpMarker(CPaneMarker& marker, const sChartSettings& settings)
     marker.SetPoint(NoPoint);
     marker.LineLook().SetPattern(LineSolid);
     marker.LineLook().SetWidth(1);
-    marker.LineLook().SetColour(settings.PriceBarColor);
+    marker.LineLook().SetColor(settings.PriceBarColor);
 }
 
 void SetUpXAxis(CPaneAxis& x, int points)
@@ -73,18 +73,18 @@ void SetUpValueAxis(CPaneAxis& axis)
 
 } // namespace
 
-Colour StudyLabelColour(const sChartSettings& settings, int kind)
+ColorValue StudyLabelColor(const sChartSettings& settings, int kind)
 {
     return kind >= 0 && kind < StudyKinds ? settings.Studies.LabelColors[static_cast<std::size_t>(kind)]
                                           : settings.PriceLabelColor;
 }
 
-void SetUpPaneFrame(CChart2D& chart, const sChartSettings& settings, int bottomPx, Colour labelColour)
+void SetUpPaneFrame(CChart2D& chart, const sChartSettings& settings, int bottomPx, ColorValue labelColor)
 {
     CPaneArea& area = chart.PaneArea();
-    SetColours(chart.PaneInterior(), settings.BackgroundColor, labelColour);
-    SetColours(area.Interior(), settings.BackgroundColor, labelColour);
-    SetColours(area.PlotFrame().Interior(), settings.BackgroundColor, labelColour);
+    SetColors(chart.PaneInterior(), settings.BackgroundColor, labelColor);
+    SetColors(area.Interior(), settings.BackgroundColor, labelColor);
+    SetColors(area.PlotFrame().Interior(), settings.BackgroundColor, labelColor);
     area.PlotFrame().TopMargin().SetValue(PlotTopPx);
     area.PlotFrame().BottomMargin().SetValue(bottomPx);
     SetUpMarker(area.PaneMarkers("x"), settings);
@@ -109,7 +109,7 @@ void SetUpStudyPane(CChart2D& chart, const sChartSettings& settings, int kind)
     SetUpGroup(chart.PaneGroups(2));
     ForgetStudy(chart.PaneArea());
     SetUpValueAxes(chart);
-    SetUpPaneFrame(chart, settings, PlotBottomPx, StudyLabelColour(settings, kind));
+    SetUpPaneFrame(chart, settings, PlotBottomPx, StudyLabelColor(settings, kind));
     SetGrid(chart, settings);
 }
 
@@ -170,7 +170,7 @@ void SetGrid(CChart2D& chart, const sChartSettings& settings)
     for (CPaneAxis* axis : {&axes.X(), &axes.Y()}) {
         axis->AxisGrid().SetSpacing(settings.Grid != 0 ? axis->TickSpacing().Value() : 0.0);
         axis->AxisGrid().LineLook().SetPattern(look.LinePattern);
-        axis->AxisGrid().LineLook().SetColour(look.Color);
+        axis->AxisGrid().LineLook().SetColor(look.Color);
         axis->AxisGrid().LineLook().SetWidth(look.Width);
     }
 }

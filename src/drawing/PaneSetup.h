@@ -2,23 +2,23 @@
 // side of the value axis and the grid. Chart window's thread.
 #pragma once
 
-#include "drawing/Chart2D.h"
+#include "scene/Chart2D.h"
 #include "settings/ChartSettings.h"
 
 namespace zantroq {
 
 inline constexpr int PlotTopPx = 17, PlotBottomPx = 4, PricePlotBottomPx = 31;
 inline constexpr int LabelledMarginPx = 58, BareMarginPx = 23;
-inline constexpr Colour TitleForeground = 0xFFFFFF, TitleBackground = 0x232323;
+inline constexpr ColorValue TitleForeground = 0xFFFFFF, TitleBackground = 0x232323;
 
 // A study pane: its only label is the title, one empty series in each group, value axes from 1 to 2, an x
-// axis for the points list's entry, margins by the side of the value axis, the colours of the study of that
+// axis for the points list's entry, margins by the side of the value axis, the colors of the study of that
 // kind (no kind: those of the price pane).
 void SetUpStudyPane(CChart2D& chart, const sChartSettings& settings, int kind);
 
-// The axes, margins, marker and colours alone, as the price pane needs them too; labelColour is that of axis
+// The axes, margins, marker and colors alone, as the price pane needs them too; labelColor is that of axis
 // texts.
-void SetUpPaneFrame(CChart2D& chart, const sChartSettings& settings, int bottomPx, Colour labelColour);
+void SetUpPaneFrame(CChart2D& chart, const sChartSettings& settings, int bottomPx, ColorValue labelColor);
 
 // Both value axes from 1 to 2 with a spacing of 15.
 void SetUpValueAxes(CChart2D& chart);
@@ -39,7 +39,7 @@ void MoveValueAxis(CChart2D& chart, AxisSide side);
 // Grid lines in the style of the settings at each label of the x axis and of the left value axis, or none.
 void SetGrid(CChart2D& chart, const sChartSettings& settings);
 
-// The colour of axis texts of a study pane.
-Colour StudyLabelColour(const sChartSettings& settings, int kind);
+// The color of axis texts of a study pane.
+ColorValue StudyLabelColor(const sChartSettings& settings, int kind);
 
 } // namespace zantroq

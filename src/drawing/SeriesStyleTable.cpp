@@ -34,12 +34,12 @@ SeriesStyleTable SeriesStyles(const sChartSettings& settings)
 void ApplyLook(CSeriesStyle& style, const sSeriesLook& look)
 {
     style.LineLook().SetPattern(look.LinePattern);
-    style.LineLook().SetColour(look.Color);
+    style.LineLook().SetColor(look.Color);
     style.LineLook().SetWidth(look.Width);
     style.FillLook().SetPattern(look.FillPattern);
-    style.FillLook().SetColour(look.Color);
+    style.FillLook().SetColor(look.Color);
     style.SymbolLook().SetShape(look.Shape);
-    style.SymbolLook().SetColour(look.Color);
+    style.SymbolLook().SetColor(look.Color);
     style.SymbolLook().SetSize(look.SymbolSize);
 }
 

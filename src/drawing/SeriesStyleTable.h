@@ -1,8 +1,8 @@
-// The looks that series start from: ten rows of line, fill and symbol, whose colours are then taken from the
+// The looks that series start from: ten rows of line, fill and symbol, whose colors are then taken from the
 // settings.
 #pragma once
 
-#include "drawing/PaneObjects.h"
+#include "scene/PaneObjects.h"
 #include "settings/ChartSettings.h"
 
 #include <array>
@@ -13,10 +13,10 @@ struct sSeriesLook
 {
     int LinePattern = LineSolid;
     int FillPattern = 2;
-    Colour Color = 0;
+    ColorValue Color = 0;
     int Width = 1;
     int Shape = SymbolNone;
-    Colour StoredSymbolColor = 0; // kept, without effect: a symbol is drawn in Color
+    ColorValue StoredSymbolColor = 0; // kept, without effect: a symbol is drawn in Color
     int SymbolSize = 1;
     bool operator==(const sSeriesLook&) const = default;
 };
@@ -38,10 +38,10 @@ using SeriesStyleTable = std::array<sSeriesLook, StyleRows>;
 // The table as it is without settings.
 const SeriesStyleTable& DefaultSeriesStyles();
 
-// The table with the colours of price, averages, bands and both grid rows overwritten.
+// The table with the colors of price, averages, bands and both grid rows overwritten.
 SeriesStyleTable SeriesStyles(const sChartSettings& settings);
 
-// Gives a series a look: all but the stored symbol colour.
+// Gives a series a look: all but the stored symbol color.
 void ApplyLook(CSeriesStyle& style, const sSeriesLook& look);
 
 // The row for the grid by the setting "GRID STYLE".

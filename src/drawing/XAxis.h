@@ -3,7 +3,7 @@
 // window's thread.
 #pragma once
 
-#include "drawing/Chart2D.h"
+#include "scene/Chart2D.h"
 
 namespace zantroq {
 

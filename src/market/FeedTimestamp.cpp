@@ -1,7 +1,7 @@
 #include "market/FeedTimestamp.h"
 
-#include "platform/DigitBlock.h"
-#include "platform/LeadingNumber.h"
+#include "platform/parse/DigitBlock.h"
+#include "platform/parse/LeadingNumber.h"
 
 #include <cstring>
 

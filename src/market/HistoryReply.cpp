@@ -1,6 +1,6 @@
 #include "market/HistoryReply.h"
 
-#include "platform/LeadingNumber.h"
+#include "platform/parse/LeadingNumber.h"
 
 #include <cstring>
 #include <new>

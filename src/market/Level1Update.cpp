@@ -1,7 +1,7 @@
 #include "market/Level1Update.h"
 
 #include "market/Level1Command.h"
-#include "platform/LeadingNumber.h"
+#include "platform/parse/LeadingNumber.h"
 
 #include <stdexcept>
 

@@ -4,7 +4,7 @@
 // buffer; when one line fills the buffer, Room() is empty for good. Belongs to the thread that reads.
 #pragma once
 
-#include "platform/ByteMarks.h"
+#include "platform/parse/ByteMarks.h"
 
 #include <bit>
 #include <cstring>

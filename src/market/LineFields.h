@@ -2,7 +2,7 @@
 // them is not looked at. A field that the line does not have fails with std::invalid_argument.
 #pragma once
 
-#include "platform/ByteMarks.h"
+#include "platform/parse/ByteMarks.h"
 
 #include <array>
 #include <bit>

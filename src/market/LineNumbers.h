@@ -2,7 +2,7 @@
 // there.
 #pragma once
 
-#include "platform/LeadingNumber.h"
+#include "platform/parse/LeadingNumber.h"
 
 #include <cstdint>
 #include <limits>

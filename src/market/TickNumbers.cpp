@@ -2,7 +2,7 @@
 
 #include "market/LineNumbers.h"
 #include "market/StoredFields.h"
-#include "platform/DigitPairs.h"
+#include "platform/parse/DigitPairs.h"
 
 namespace zantroq {
 

@@ -1,6 +1,6 @@
 #include "market/ZantroPorts.h"
 
-#include "platform/LeadingNumber.h"
+#include "platform/parse/LeadingNumber.h"
 
 #include <map>
 #include <string>

@@ -1,7 +1,7 @@
 // The feed's two port numbers, from the feed's own settings. Any thread that may use the key.
 #pragma once
 
-#include "platform/SettingsKey.h"
+#include "platform/settings/SettingsKey.h"
 
 #include <cstdint>
 #include <memory>

@@ -2,13 +2,13 @@
 // ties each member to its stored name. Lives on the window's thread.
 #pragma once
 
+#include "platform/Color.h"
+
 #include <array>
 #include <cstdint>
 #include <string>
 
 namespace zantroq {
-
-using Colour = std::uint32_t; // red in the low byte: 0x00BBGGRR
 
 // The studies in the order of every ten-entry array.
 enum StudyKind : int
@@ -41,7 +41,7 @@ enum TrendKind : int
 
 struct sTrendStyle
 {
-    Colour Color = 0;
+    ColorValue Color = 0;
     std::int32_t Width = 1;
     std::int32_t Extendable = 1;
 };
@@ -84,9 +84,9 @@ struct sOverlaySettings
     std::int32_t Exponential = 0;
     std::array<std::int32_t, 3> AverageSelected{1, 1, 1};
     std::array<std::int32_t, 3> AveragePoints{5, 10, 15};
-    std::array<Colour, 3> AverageColors{0x0000FF, 0xFF0000, 0x00FFFF};
+    std::array<ColorValue, 3> AverageColors{0x0000FF, 0xFF0000, 0x00FFFF};
     std::int32_t ShowBands = 0; // "BB STUDY SHOW"
-    Colour BandColor = 0xCECECE;
+    ColorValue BandColor = 0xCECECE;
     std::int32_t BandPeriod = 20;
     double BandDeviations = 2.0;
 };
@@ -97,28 +97,28 @@ struct sStudySettings
     std::array<std::int32_t, StudyKinds> Periods{21, 20, 20, 9, 18, 5, 10, 14, 14, 14}; // "STUDY AVG PERIOD"
     std::array<std::int32_t, StudyKinds> CustomPeriods{21, 20,  20, 9, 18,
                                                        5,  500, 9,  9, 10}; // "STUDY CUSTOM AVG PERIOD"
-    std::array<Colour, StudyKinds> DataColors{};                            // "Study Data Color %d"
-    std::array<Colour, StudyKinds> LabelColors{};                           // "Study Label Color %d"
+    std::array<ColorValue, StudyKinds> DataColors{};                        // "Study Data Color %d"
+    std::array<ColorValue, StudyKinds> LabelColors{};                       // "Study Label Color %d"
     std::int32_t RsiRadio = 1, RsiUpperLevel = 70, RsiLowerLevel = 30;
-    Colour RsiUpperColor = 0xD8BFD8, RsiLowerColor = 0x8CB4D2;
+    ColorValue RsiUpperColor = 0xD8BFD8, RsiLowerColor = 0x8CB4D2;
     std::int32_t ObvRadio = 1;
-    Colour ObvZeroColor = 0xFFFFFF;
+    ColorValue ObvZeroColor = 0xFFFFFF;
     std::int32_t MomRadio = 1;
-    Colour MomZeroColor = 0xD9BB8A;
+    ColorValue MomZeroColor = 0xD9BB8A;
     std::int32_t RocRadio = 1;
-    Colour Roc100Color = 0xBB39C6;
+    ColorValue Roc100Color = 0xBB39C6;
     std::int32_t MacdRadio = 1, MacdShort = 8, MacdLong = 17, MacdCustomShort = 38, MacdCustomLong = 78;
-    Colour MacdSignalColor = 0xC080FF, MacdHistogramColor = 0xB48246;
+    ColorValue MacdSignalColor = 0xC080FF, MacdHistogramColor = 0xB48246;
     std::int32_t StoRadio = 0, StoFast = 0, StoUpperLevel = 80, StoLowerLevel = 20;
-    Colour StoUpperColor = 0xD8BFD8, StoLowerColor = 0x8CB4D2, StoKColor = 0x000000, StoDColor = 0x8000FF;
+    ColorValue StoUpperColor = 0xD8BFD8, StoLowerColor = 0x8CB4D2, StoKColor = 0x000000, StoDColor = 0x8000FF;
     std::int32_t ShowVolumeAverage = 1, VolumeAverageAllData = 1;
-    Colour VolumeAverageColor = 0x0000FF;
+    ColorValue VolumeAverageColor = 0x0000FF;
     std::int32_t MfRadio = 1;
-    Colour MfNegativeColor = 0x0000FF, MfPositiveColor = 0xB48246;
+    ColorValue MfNegativeColor = 0x0000FF, MfPositiveColor = 0xB48246;
     std::int32_t MfiRadio = 1, MfiUpperLevel = 80, MfiLowerLevel = 20;
-    Colour MfiUpperColor = 0xD8BFD8, MfiLowerColor = 0x8CB4D2;
+    ColorValue MfiUpperColor = 0xD8BFD8, MfiLowerColor = 0x8CB4D2;
     std::int32_t AdxRadio = 1;
-    Colour AdxNegativeColor = 0x0000FF, AdxPositiveColor = 0xB48246;
+    ColorValue AdxNegativeColor = 0x0000FF, AdxPositiveColor = 0xB48246;
 };
 
 // The stack of panes: which studies show and where the borders stand.
@@ -150,13 +150,13 @@ struct sChartSettings
         {{0x8080FF}, {0xA8A800}, {0xA09E5F}, {0x4F52DF}, {0xF37B3A}, {0xFF0080}, {0x38B88B}}};
     sStudySettings Studies;
     sPaneStack Panes;
-    Colour BackgroundColor = 0xFFFFFF;
-    Colour PriceLabelColor = 0x000000;
-    Colour PriceDataColor = 0x000000;
-    Colour GridColor = 0xC0C0C0;
-    Colour UpCandleColor = 0x00FF00, DownCandleColor = 0x0000FF;
-    Colour PriceBarColor = 0xC0C0C0;
-    Colour VolumeLabelColor = 0x000000; // of the settings sheet alone
+    ColorValue BackgroundColor = 0xFFFFFF;
+    ColorValue PriceLabelColor = 0x000000;
+    ColorValue PriceDataColor = 0x000000;
+    ColorValue GridColor = 0xC0C0C0;
+    ColorValue UpCandleColor = 0x00FF00, DownCandleColor = 0x0000FF;
+    ColorValue PriceBarColor = 0xC0C0C0;
+    ColorValue VolumeLabelColor = 0x000000; // of the settings sheet alone
 
     AxisSide ValueAxisSide() const { return AxisOnRight ? AxisSide::Right : AxisSide::Left; }
 };

@@ -4,7 +4,7 @@
 // take the place of what is stored by then. Lives on the chart window's thread.
 #pragma once
 
-#include "platform/SettingsKey.h"
+#include "platform/settings/SettingsKey.h"
 
 #include <functional>
 #include <string>

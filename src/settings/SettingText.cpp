@@ -10,13 +10,13 @@
 namespace zantroq {
 namespace {
 
-constexpr Colour ColourBits = 0xFFFFFF;
+constexpr ColorValue ColorBits = 0xFFFFFF;
 
 std::string TextOf(std::int32_t value)
 {
     return TextFromInt(value);
 }
-std::string TextOf(Colour value)
+std::string TextOf(ColorValue value)
 {
     return TextFromInt(static_cast<std::int32_t>(value));
 }
@@ -108,8 +108,8 @@ void TakeStoredInt(sChartSettings& settings, const sSettingPlace& place, std::in
     }
     VisitValue(settings, place, [&](auto& member) {
         using Member = std::decay_t<decltype(member)>;
-        if constexpr (std::is_same_v<Member, Colour>)
-            member = static_cast<Colour>(value) & ColourBits;
+        if constexpr (std::is_same_v<Member, ColorValue>)
+            member = static_cast<ColorValue>(value) & ColorBits;
         else if constexpr (std::is_same_v<Member, bool>)
             member = value == 1;
         else if constexpr (std::is_same_v<Member, std::int32_t>)

@@ -1,6 +1,6 @@
 #include "settings/SettingsDocument.h"
 
-#include "platform/SettingsKey.h"
+#include "platform/settings/SettingsKey.h"
 #include "settings/SettingIds.h"
 #include "settings/SettingText.h"
 #include "settings/SettingsLoader.h"
@@ -42,7 +42,7 @@ later format is never written to, and neither is a log or journal beside it; an 
 constexpr const char* Encodings = R"(
 Numbers and booleans are texts in decimal; a number with decimals has six of them. Of a stored number the first 9 characters are
 read, of a text the first 256 bytes. What is no number reads as 0, a value of another type than sz as missing, and a missing
-number as -1, so no whole number can be -1. Colours are whole numbers, red in the low byte: blue * 65536 + green * 256 + red.
+number as -1, so no whole number can be -1. Colors are whole numbers, red in the low byte: blue * 65536 + green * 256 + red.
 
 ## All values
 
@@ -74,7 +74,7 @@ or empty it is put together from the older single values and stored, and then th
 Where the count is missing, the count, the type of pane 0 and the borders 1 and 2 are written with their defaults. Otherwise the
 types are read in order; a negative one or one of 10 and above ends the stack, and the count in memory is what was read. Borders
 that do not ascend strictly from 0 to at most 1, or are missing, are spread evenly in memory. Missing minimised flags are 0,
-missing colours of studies black; neither is written.
+missing colors of studies black; neither is written.
 
 ### Recently used symbols
 

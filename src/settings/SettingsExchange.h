@@ -5,7 +5,7 @@
 // "dword" with a number from 0 to 4294967295, and "binary" with hexadecimal digits, two a byte.
 #pragma once
 
-#include "platform/SettingsFile.h"
+#include "platform/settings/SettingsFile.h"
 
 #include <stdexcept>
 #include <string>

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "platform/CalendarTime.h"
-#include "platform/SettingsKey.h"
+#include "platform/settings/SettingsKey.h"
 #include "settings/SettingsStore.h"
 #include "settings/SettingsTable.h"
 
@@ -16,7 +16,7 @@ namespace zantroq {
 // - PtsIndex 0 to 14, GridStyle and CandleStyle 0 or 1, ScrollItems and ScrollPercent 1 to 999
 // - DataType 0 to 4, IntervalIndex 0 to 10, each entry of RequestKinds one that belongs to its data type
 // - dates are 8 digits, times 6; no claim that they exist in the calendar
-// - colours have 24 bits; widths of trendlines are 1 to 99
+// - colors have 24 bits; widths of trendlines are 1 to 99
 // - BandDeviations is finite
 // - StudyCount 0 to 10, StudyTypes 0 to 9, Bounds strictly ascending from 0 to at most 1 up to
 // Bounds[StudyCount + 1],

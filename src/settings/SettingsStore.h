@@ -4,7 +4,7 @@
 // on the chart window's thread.
 #pragma once
 
-#include "platform/SettingsKey.h"
+#include "platform/settings/SettingsKey.h"
 
 #include <cstdint>
 #include <string>

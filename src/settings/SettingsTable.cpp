@@ -72,7 +72,7 @@ const Row Rows[] = {
     Unnamed(32792, MEMBER(ScrollPercent), "Scroll step in per cent of the screen, 1 to 99"),
     Bool(32793, "Y Axis Orientation", MEMBER(AxisOnRight), EffectAxisSide, "Side of the value axis: 0 left, 1 right"),
     Bool(32794, "Price Bar Show/Hide", MEMBER(FixedScale), EffectFixedScale, "Fixed scale: 0 off, 1 on (the price bar itself is \"Show Price Bar\")"),
-    Int(32854, "Candle Price Chart Style", MEMBER(CandleStyle), 0, 1, Default, EffectColours, "0 H/L/O/C bars, 1 candles"),
+    Int(32854, "Candle Price Chart Style", MEMBER(CandleStyle), 0, 1, Default, EffectColors, "0 H/L/O/C bars, 1 candles"),
     // What is asked of the feed.
     Int(32904, "RequestDataType", MEMBER(Request.DataType), 0, 4, Default, EffectRequest, "0 ticks, 1 intervals, 2 daily, 3 weekly, 4 monthly"),
     Int(32907, "ReqestType", MEMBER(Request.RequestType), EffectRequest, "Kept as it is; the request kind is in \"RequestRecentType\""),
@@ -178,13 +178,13 @@ const Row Rows[] = {
     Indexed(32896, "Chart %d Minimized", Type::Int, MEMBER(Panes.Minimized), 0, 10, EffectPaneLayout, "Pane minimised: 0 no, 1 yes; 0 is the price pane", 0, 1),
     Indexed(32885, "Study Data Color %d", Type::Color, MEMBER(Studies.DataColors), 0, 9, EffectStudies, "Data colour per study, in study order", 0, 0xFFFFFF),
     Indexed(32886, "Study Label Color %d", Type::Color, MEMBER(Studies.LabelColors), 0, 9, EffectStudies, "Label colour per study, in study order", 0, 0xFFFFFF),
-    // General colours.
-    ColorOf(32828, "Background Color", MEMBER(BackgroundColor), EffectColours, "Background of all panes"),
-    ColorOf(32829, "PriceLabel Color", MEMBER(PriceLabelColor), EffectColours, "Labels of the price pane"),
-    ColorOf(32832, "PriceData Color", MEMBER(PriceDataColor), EffectColours, "Price line, bars and candle outlines"),
+    // General colors.
+    ColorOf(32828, "Background Color", MEMBER(BackgroundColor), EffectColors, "Background of all panes"),
+    ColorOf(32829, "PriceLabel Color", MEMBER(PriceLabelColor), EffectColors, "Labels of the price pane"),
+    ColorOf(32832, "PriceData Color", MEMBER(PriceDataColor), EffectColors, "Price line, bars and candle outlines"),
     ColorOf(32836, "Grid Color", MEMBER(GridColor), EffectGrid, "Grid lines"),
-    ColorOf(32855, "Price Up Candle Color", MEMBER(UpCandleColor), EffectColours, "Body of a rising candle"),
-    ColorOf(32856, "Price Down Candle Color", MEMBER(DownCandleColor), EffectColours, "Body of a falling candle"),
+    ColorOf(32855, "Price Up Candle Color", MEMBER(UpCandleColor), EffectColors, "Body of a rising candle"),
+    ColorOf(32856, "Price Down Candle Color", MEMBER(DownCandleColor), EffectColors, "Body of a falling candle"),
     ColorOf(32897, "Price Bar Color", MEMBER(PriceBarColor), EffectPriceBar, "The price bar"),
     // Not loaded by the window.
     {32830, "VolumeLabel Color", Form::SheetOnly, Type::Color, MEMBER(VolumeLabelColor), EffectNone, "Passes through the colour page; no control shows it", 0, 0xFFFFFF},

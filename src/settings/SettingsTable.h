@@ -49,11 +49,11 @@ enum SettingEffect : unsigned
     EffectStudyList = 1u << 5,  // rebuild the study panes
     EffectPaneLayout = 1u << 6, // lay the panes out again
     EffectOverlays = 1u << 7,   // averages and bands of the price pane
-    EffectTrends = 1u << 8,     // colour, width, extendable of a kind of trendline
+    EffectTrends = 1u << 8,     // color, width, extendable of a kind of trendline
     EffectPriceBar = 1u << 9,
     EffectRequest = 1u << 10, // what is asked of the feed
-    EffectStudies = 1u << 11, // a value or colour of a study
-    EffectColours = 1u << 12, // a general colour, or the style of the price pane
+    EffectStudies = 1u << 11, // a value or color of a study
+    EffectColors = 1u << 12,  // a general color, or the style of the price pane
     EffectLevel1 = 1u << 13,
 };
 
@@ -65,14 +65,13 @@ enum class OutOfRange
     Default, // the default, in memory only
 };
 
-using SettingMember =
-    std::variant<std::monostate, std::int32_t& (*)(sChartSettings&), Colour& (*)(sChartSettings&),
-                 bool& (*)(sChartSettings&), double& (*)(sChartSettings&),
-                 std::array<std::int32_t, 5>& (*)(sChartSettings&), std::array<bool, 5>& (*)(sChartSettings&),
-                 std::array<std::string, 5>& (*)(sChartSettings&),
-                 std::array<std::int32_t, 10>& (*)(sChartSettings&),
-                 std::array<std::int32_t, 11>& (*)(sChartSettings&),
-                 std::array<Colour, 10>& (*)(sChartSettings&), std::array<double, 12>& (*)(sChartSettings&)>;
+using SettingMember = std::variant<
+    std::monostate, std::int32_t& (*)(sChartSettings&), ColorValue& (*)(sChartSettings&),
+    bool& (*)(sChartSettings&), double& (*)(sChartSettings&),
+    std::array<std::int32_t, 5>& (*)(sChartSettings&), std::array<bool, 5>& (*)(sChartSettings&),
+    std::array<std::string, 5>& (*)(sChartSettings&), std::array<std::int32_t, 10>& (*)(sChartSettings&),
+    std::array<std::int32_t, 11>& (*)(sChartSettings&), std::array<ColorValue, 10>& (*)(sChartSettings&),
+    std::array<double, 12>& (*)(sChartSettings&)>;
 
 struct sSettingRow
 {

@@ -1,6 +1,6 @@
 #include "settings/StoredNumber.h"
 
-#include "platform/LeadingNumber.h"
+#include "platform/parse/LeadingNumber.h"
 
 #include <array>
 #include <charconv>

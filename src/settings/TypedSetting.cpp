@@ -38,7 +38,7 @@ std::string Quoted(std::string_view text)
     return "\"" + std::string(text) + "\"";
 }
 
-// A whole number or, for colours, a hexadecimal one behind 0x.
+// A whole number or, for colors, a hexadecimal one behind 0x.
 bool ParseTypedInt(const sSettingRow& row, std::string_view text, std::int64_t& value)
 {
     if (row.Type == SettingType::Color && (text.starts_with("0x") || text.starts_with("0X"))) {

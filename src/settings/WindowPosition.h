@@ -1,8 +1,8 @@
 // Where a top-level window stood, by its title. Lives on the chart window's thread.
 #pragma once
 
-#include "platform/SettingsKey.h"
 #include "platform/WindowServices.h"
+#include "platform/settings/SettingsKey.h"
 
 #include <string>
 

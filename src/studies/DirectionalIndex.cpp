@@ -1,6 +1,6 @@
 #include "studies/DirectionalIndex.h"
 
-#include "drawing/Lanes.h"
+#include "platform/Lanes.h"
 #include "studies/Hole.h"
 #include "studies/StudyArrays.h"
 

@@ -21,7 +21,7 @@ void CHistADXChart::CalcADX(int index, double& plusDI, double& minusDI, double& 
 
 std::vector<sStudyLine> CHistADXChart::Lines() const
 {
-    return {{1, 1, DataColour()},
+    return {{1, 1, DataColor()},
             {1, 2, StudySettings().AdxPositiveColor},
             {1, 3, StudySettings().AdxNegativeColor}};
 }

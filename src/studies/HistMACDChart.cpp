@@ -28,7 +28,7 @@ void CHistMACDChart::CalcMACD(int index, double& macd, double& signal)
 
 std::vector<sStudyLine> CHistMACDChart::Lines() const
 {
-    return {{1, 1, DataColour()},
+    return {{1, 1, DataColor()},
             {1, 2, StudySettings().MacdSignalColor},
             {2, 1, StudySettings().MacdHistogramColor}};
 }

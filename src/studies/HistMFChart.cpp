@@ -18,7 +18,7 @@ void CHistMFChart::CalcMoneyFlow(int index, double& positive, double& negative) 
 
 std::vector<sStudyLine> CHistMFChart::Lines() const
 {
-    return {{1, 1, DataColour()},
+    return {{1, 1, DataColor()},
             {1, 2, StudySettings().MfPositiveColor},
             {1, 3, StudySettings().MfNegativeColor}};
 }

@@ -14,7 +14,7 @@ double CHistMFIChart::CalcMFI(int index) const
 std::vector<sStudyLine> CHistMFIChart::Lines() const
 {
     const sStudySettings& s = StudySettings();
-    return {{1, 1, DataColour()},
+    return {{1, 1, DataColor()},
             {1, 2, s.MfiUpperColor, s.MfiUpperLevel},
             {1, 3, s.MfiLowerColor, s.MfiLowerLevel}};
 }

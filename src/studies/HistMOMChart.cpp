@@ -13,7 +13,7 @@ double CHistMOMChart::CalcMomentum(int index) const
 
 std::vector<sStudyLine> CHistMOMChart::Lines() const
 {
-    return {{1, 1, DataColour()}, {1, 2, StudySettings().MomZeroColor, 0.0}};
+    return {{1, 1, DataColor()}, {1, 2, StudySettings().MomZeroColor, 0.0}};
 }
 
 void CHistMOMChart::Compute(std::int64_t index, int count, std::span<double* const> out)

@@ -13,7 +13,7 @@ double CHistOBVChart::CalcOBV(int index) const
 
 std::vector<sStudyLine> CHistOBVChart::Lines() const
 {
-    return {{1, 1, DataColour()}, {1, 2, StudySettings().ObvZeroColor, 0.0}};
+    return {{1, 1, DataColor()}, {1, 2, StudySettings().ObvZeroColor, 0.0}};
 }
 
 void CHistOBVChart::Compute(std::int64_t index, int count, std::span<double* const> out)

@@ -6,7 +6,7 @@
 // Differences from the textbook, all intended:
 // - The first value is at index P + 1; index P has none, although it has a momentum.
 // - A close of 0 a period back gives a gap instead of an infinity.
-// - The stored colour of a 100 % line is kept, and no line is drawn.
+// - The stored color of a 100 % line is kept, and no line is drawn.
 #pragma once
 
 #include "studies/HistStudyChart.h"
@@ -19,7 +19,7 @@ public:
     double CalcROC(int index) const; // the hole value where there is none
 
 protected:
-    std::vector<sStudyLine> Lines() const override { return {{1, 1, DataColour()}}; }
+    std::vector<sStudyLine> Lines() const override { return {{1, 1, DataColor()}}; }
     int GroupChartType(int /*group*/) const override { return ChartBars; }
     void Compute(std::int64_t index, int count, std::span<double* const> out) override;
     std::optional<sValueRange> RangeStart() const override { return sValueRange{-100000000.0, 100000000.0}; }

@@ -20,7 +20,7 @@ double CHistRSIChart::CalcRSI(int position)
 std::vector<sStudyLine> CHistRSIChart::Lines() const
 {
     const sStudySettings& s = StudySettings();
-    return {{1, 1, DataColour()},
+    return {{1, 1, DataColor()},
             {1, 2, s.RsiUpperColor, s.RsiUpperLevel},
             {1, 3, s.RsiLowerColor, s.RsiLowerLevel}};
 }

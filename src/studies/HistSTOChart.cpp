@@ -25,7 +25,7 @@ void CHistSTOChart::CalcStochastic(int index, double& k, double& d) const
 std::vector<sStudyLine> CHistSTOChart::Lines() const
 {
     const sStudySettings& s = StudySettings();
-    return {{1, 1, DataColour()},
+    return {{1, 1, DataColor()},
             {1, 2, s.StoDColor},
             {1, 3, s.StoUpperColor, s.StoUpperLevel},
             {1, 4, s.StoLowerColor, s.StoLowerLevel}};

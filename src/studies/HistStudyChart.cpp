@@ -13,11 +13,11 @@ namespace zantroq {
 
 namespace {
 
-// The look of every study curve, in its own colour.
-void SetLook(CSeriesStyle& style, Colour colour)
+// The look of every study curve, in its own color.
+void SetLook(CSeriesStyle& style, ColorValue color)
 {
     sSeriesLook look = DefaultSeriesStyles()[StudyMainStyle];
-    look.Color = colour;
+    look.Color = color;
     ApplyLook(style, look);
 }
 
@@ -61,11 +61,11 @@ sStudyAxisLook CHistStudyChart::AxisLook() const
 
 void CHistStudyChart::PrepareGroups(int shown)
 {
-    chart->PaneInterior().SetForeground(LabelColour());
-    chart->PaneArea().Interior().SetForeground(LabelColour());
+    chart->PaneInterior().SetForeground(LabelColor());
+    chart->PaneArea().Interior().SetForeground(LabelColor());
     const std::vector<sStudyLine> lines = Lines();
     for (const sStudyLine& line : lines)
-        SetLook(chart->PaneGroups(line.Group).SeriesStyles(line.Series), line.LineColour);
+        SetLook(chart->PaneGroups(line.Group).SeriesStyles(line.Series), line.LineColor);
     for (const int group : {1, 2}) {
         const int series = SeriesOfGroup(lines, group);
         if (series == 0)
@@ -253,7 +253,7 @@ void CHistStudyChart::RefreshStudyHeader()
 {
     CPaneLabels& labels = chart->PaneLabels();
     CPaneLabel& header = labels.Count() > 0 ? labels.Item(1) : labels.Add();
-    header.Interior().SetForeground(LabelColour());
+    header.Interior().SetForeground(LabelColor());
     header.Interior().SetBackground(chart->PaneInterior().Background());
     header.SetAttachment(AttachToPixel);
     header.SetAnchorSide(AnchorBelowRight);

@@ -7,7 +7,7 @@
 #pragma once
 
 #include "drawing/BaseChart.h"
-#include "drawing/ValueBlocks.h"
+#include "scene/ValueBlocks.h"
 #include "studies/StudyAxis.h"
 
 #include <cstdint>
@@ -22,7 +22,7 @@ namespace zantroq {
 struct sStudyLine
 {
     int Group = 1, Series = 1;
-    Colour LineColour = 0;
+    ColorValue LineColor = 0;
     std::optional<double> Level{};
 };
 
@@ -70,7 +70,10 @@ protected:
     // All lines, group 1 first, each group's series in order.
     virtual std::vector<sStudyLine> Lines() const = 0;
     virtual int GroupChartType(int /*group*/) const { return ChartLines; }
-    virtual Colour LabelColour() const { return StudySettings().LabelColors[static_cast<std::size_t>(kind)]; }
+    virtual ColorValue LabelColor() const
+    {
+        return StudySettings().LabelColors[static_cast<std::size_t>(kind)];
+    }
 
     // How many points a whole draw lags behind the price pane.
     virtual int DrawLag() const { return 0; }
@@ -95,7 +98,7 @@ protected:
 
     const sStudySettings& StudySettings() const { return dlg->Settings().Studies; }
     std::int32_t Period() const { return StudySettings().Periods[static_cast<std::size_t>(kind)]; }
-    Colour DataColour() const { return StudySettings().DataColors[static_cast<std::size_t>(kind)]; }
+    ColorValue DataColor() const { return StudySettings().DataColors[static_cast<std::size_t>(kind)]; }
     sStudyAxisLook AxisLook() const;
     CPaneAxis& ValueAxis() const { return chart->PaneArea().PaneAxes().Y(); }
 

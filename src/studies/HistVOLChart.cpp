@@ -36,7 +36,7 @@ std::int32_t CHistVOLChart::CalcVolumeAverage() const
 
 std::vector<sStudyLine> CHistVOLChart::Lines() const
 {
-    std::vector<sStudyLine> lines{{1, 1, DataColour()}};
+    std::vector<sStudyLine> lines{{1, 1, DataColor()}};
     if (ShowsAverage())
         lines.push_back({2, 1, StudySettings().VolumeAverageColor});
     return lines;

@@ -1,7 +1,7 @@
 // The value that means "no value here" in study arithmetic: the pane's hole value.
 #pragma once
 
-#include "drawing/PaneObjects.h"
+#include "scene/PaneObjects.h"
 
 namespace zantroq {
 

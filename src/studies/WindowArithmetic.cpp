@@ -1,6 +1,6 @@
 #include "studies/WindowArithmetic.h"
 
-#include "drawing/Lanes.h"
+#include "platform/Lanes.h"
 #include "studies/StudyArrays.h"
 
 #include <algorithm>

@@ -59,7 +59,7 @@ public:
     int m_startIndex = 0;
     int m_endIndex = 0;
     double m_value = 0;
-    Colour m_color = 0;
+    ColorValue m_color = 0;
     int m_width = 1;
     int m_extendable = 0;
 

@@ -13,7 +13,7 @@ void SetUpTrendSeries(IChartWindow& window, int series)
     CSeriesStyle& style = group.SeriesStyles(series);
     style.LineLook().SetPattern(LineSolid);
     style.SymbolLook().SetShape(SymbolMark);
-    style.SymbolLook().SetColour(0xC0C0C0);
+    style.SymbolLook().SetColor(0xC0C0C0);
     style.SymbolLook().SetSize(3);
 }
 

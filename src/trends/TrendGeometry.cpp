@@ -1,6 +1,6 @@
 #include "trends/TrendGeometry.h"
 
-#include "drawing/PaneGeometry.h"
+#include "scene/PaneGeometry.h"
 
 #include <cmath>
 #include <cstdlib>
@@ -58,7 +58,7 @@ CPaneData& PrepareTrendSeries(IChartWindow& window, int series, const sTrendLook
 {
     CPaneGroup& group = Overlay(window);
     CLineLook& line = group.SeriesStyles(series).LineLook();
-    line.SetColour(look.Color);
+    line.SetColor(look.Color);
     line.SetPattern(look.Pattern);
     line.SetWidth(look.Width);
     CPaneData& data = group.PaneData();

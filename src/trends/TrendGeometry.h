@@ -17,7 +17,7 @@ inline constexpr int NotHittable = 1000; // the distance of a line that cannot b
 
 struct sTrendLook
 {
-    Colour Color = 0;
+    ColorValue Color = 0;
     int Pattern = LineSolid;
     int Width = 1;
 };

@@ -38,7 +38,7 @@ void CTrendList::RemoveAll()
     m_pool.Reset();
 }
 
-void CTrendList::SetAllColors(Colour color)
+void CTrendList::SetAllColors(ColorValue color)
 {
     for (const auto& trend : m_trends)
         trend->m_color = color;

@@ -19,7 +19,7 @@ public:
     CBaseTrend* FindNearest(int x, int y, int* distance) const;
     void DrawAll();
     void RemoveAll(); // erases and deletes from last to first, and empties the series pool
-    void SetAllColors(Colour color);
+    void SetAllColors(ColorValue color);
     void SetAllWidths(int width);
     void SetAllExtendable(int flag);
     // If the trendline is a member: erases it and gives its first series back.

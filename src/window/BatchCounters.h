@@ -2,7 +2,7 @@
 // suspensions of the price pane alone. Chart window's thread.
 #pragma once
 
-#include "drawing/Chart2D.h"
+#include "scene/Chart2D.h"
 
 #include <span>
 

@@ -5,8 +5,8 @@
 // Pane positions are pixels below the top of pane 0; TopOffset() leads from there to the client area.
 #pragma once
 
-#include "drawing/Chart2D.h"
 #include "platform/WindowServices.h"
+#include "scene/Chart2D.h"
 #include "settings/SettingsStore.h"
 #include "window/PaneDrawing.h"
 #include "window/PaneStack.h"

@@ -2,8 +2,8 @@
 // back there. Chart window's thread.
 #pragma once
 
-#include "platform/SettingsKey.h"
 #include "platform/WindowServices.h"
+#include "platform/settings/SettingsKey.h"
 #include "settings/WindowPosition.h"
 
 #include <optional>

@@ -18,7 +18,7 @@ struct sTrendRecord
     double Value = 0;
     double EndValue = 0;
     std::vector<int> Series; // series numbers in group 2 of the price pane
-    Colour Color = 0;
+    ColorValue Color = 0;
     int Width = 1;
     int Extendable = 1;
     std::optional<double> Offset;
@@ -44,7 +44,7 @@ public:
     virtual void OnTimer() = 0; // timer 108, which flashes a line
     virtual ITrendLayer* Layer() = 0;
     virtual std::vector<sTrendRecord> Records() const = 0; // list by list
-    // Takes the colours, widths and flags of the settings over to the lines that stand.
+    // Takes the colors, widths and flags of the settings over to the lines that stand.
     virtual void ApplyStyles() = 0;
 };
 

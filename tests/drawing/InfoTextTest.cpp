@@ -1,6 +1,6 @@
 #include "drawing/InfoText.h"
 
-#include "drawing/Chart2D.h"
+#include "scene/Chart2D.h"
 
 #include <gtest/gtest.h>
 

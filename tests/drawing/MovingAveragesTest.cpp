@@ -1,6 +1,6 @@
 #include "drawing/MovingAverages.h"
 #include "drawing/BollingerBands.h"
-#include "drawing/PaneObjects.h"
+#include "scene/PaneObjects.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>

@@ -1,6 +1,6 @@
 // The vectors of a group through random rows of operations, against plain vectors that remember nothing: what
 // is kept to save work (known constants, numbered points, an array that slides) must never show.
-#include "drawing/Chart2D.h"
+#include "scene/Chart2D.h"
 
 #include <gtest/gtest.h>
 

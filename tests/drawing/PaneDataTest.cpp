@@ -1,4 +1,4 @@
-#include "drawing/Chart2D.h"
+#include "scene/Chart2D.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "drawing/PaneFile.h"
+#include "scene/PaneFile.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -62,7 +62,7 @@ void Fill(CChart2D& chart)
         data.SetDrawnTo(2, 3);
         data.AdvanceDrawn(2, 1);
         data.SetFirstPoint(1, 2);
-        group.SeriesStyles(5).FillLook().SetColour(0xc0ffee);
+        group.SeriesStyles(5).FillLook().SetColor(0xc0ffee);
         group.SeriesStyles(1).LineLook().SetWidth(3);
         group.SeriesStyles(1).SymbolLook().SetShape(SymbolMark);
     }
@@ -80,7 +80,7 @@ void Fill(CChart2D& chart)
     CPaneMarker& marker = area.PaneMarkers("x");
     marker.SetShown(true);
     marker.SetPoint(4);
-    marker.LineLook().SetColour(0x00ff00);
+    marker.LineLook().SetColor(0x00ff00);
 }
 
 // A file of this process that goes with the test.
@@ -155,7 +155,7 @@ TEST(PaneFile, ASavedPaneLoadsBackWhole)
     EXPECT_EQ(PaneToText(copy), PaneToText(chart));
     EXPECT_TRUE(std::isnan(copy.PaneGroups(1).PaneData().PointY(2, 6)));
     EXPECT_TRUE(std::signbit(copy.PaneArea().PaneAxes().Y().AxisOrigin().Value()));
-    EXPECT_EQ(copy.PaneGroups(2).FindStyle(5)->FillLook().FillColour(), 0xc0ffeeu);
+    EXPECT_EQ(copy.PaneGroups(2).FindStyle(5)->FillLook().FillColor(), 0xc0ffeeu);
     EXPECT_EQ(copy.PaneArea().PaneAxes().Y().Setting21(), 0);
     EXPECT_EQ(copy.PaneLabels().Item(1).BoxEdge(), 3);
     EXPECT_FALSE(copy.PaneArea().AreaBox().Width().Automatic());

@@ -1,5 +1,5 @@
-#include "drawing/PaneGeometry.h"
-#include "drawing/Chart2D.h"
+#include "scene/PaneGeometry.h"
+#include "scene/Chart2D.h"
 
 #include <gtest/gtest.h>
 

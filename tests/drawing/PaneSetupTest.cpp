@@ -1,6 +1,6 @@
 #include "drawing/PaneSetup.h"
-#include "drawing/PaneFile.h"
 #include "drawing/SeriesStyleTable.h"
+#include "scene/PaneFile.h"
 
 #include <gtest/gtest.h>
 
@@ -70,7 +70,7 @@ TEST(PaneSetup, StudyPaneForgetsTheStudyBefore)
     const sChartSettings settings;
     used.PaneGroups(1).SetChartType(ChartBars);
     used.PaneGroups(2).SetChartType(ChartBarsFromOrigin);
-    used.PaneGroups(2).SeriesStyles(1).FillLook().SetColour(0x00ff00);
+    used.PaneGroups(2).SeriesStyles(1).FillLook().SetColor(0x00ff00);
     used.PaneArea().BarLook().SetBarWidth(9);
     CPaneAxes& axes = used.PaneArea().PaneAxes();
     axes.Y().AxisOrigin().SetValue(5);
@@ -129,7 +129,7 @@ TEST(PaneSetup, GridFollowsTheSpacingsInItsStyle)
     EXPECT_EQ(axes.X().AxisGrid().Spacing(), 24);
     EXPECT_EQ(axes.Y().AxisGrid().Spacing(), 2.5);
     EXPECT_EQ(axes.X().AxisGrid().LineLook().Pattern(), 5);
-    EXPECT_EQ(axes.Y().AxisGrid().LineLook().LineColour(), 0x112233u);
+    EXPECT_EQ(axes.Y().AxisGrid().LineLook().LineColor(), 0x112233u);
     settings.GridStyle = 1;
     SetGrid(chart, settings);
     EXPECT_EQ(axes.X().AxisGrid().LineLook().Pattern(), 2);
@@ -153,7 +153,7 @@ TEST(SeriesStyles, DefaultRows)
     EXPECT_EQ(table[9], (sSeriesLook{2, 2, 0xc0c0c0, 1, 1, 0xc0c0c0, 1}));
 }
 
-TEST(SeriesStyles, SettingsOverwriteTheColoursOfPriceCurvesAndGrid)
+TEST(SeriesStyles, SettingsOverwriteTheColorsOfPriceCurvesAndGrid)
 {
     sChartSettings settings;
     settings.PriceDataColor = 1;
@@ -172,18 +172,18 @@ TEST(SeriesStyles, SettingsOverwriteTheColoursOfPriceCurvesAndGrid)
     EXPECT_EQ(table[9].Color, 6u);
 }
 
-TEST(SeriesStyles, SymbolIsDrawnInTheLineColour)
+TEST(SeriesStyles, SymbolIsDrawnInTheLineColor)
 {
     CChart2D chart;
     CSeriesStyle& style = chart.PaneGroups(1).SeriesStyles(1);
     ApplyLook(style, {LineShortDashes, 2, 0xabcdef, 3, SymbolMark, 0xff00ff, 4});
     EXPECT_EQ(style.LineLook().Pattern(), 5);
-    EXPECT_EQ(style.LineLook().LineColour(), 0xabcdefu);
+    EXPECT_EQ(style.LineLook().LineColor(), 0xabcdefu);
     EXPECT_EQ(style.LineLook().Width(), 3);
     EXPECT_EQ(style.FillLook().Pattern(), 2);
-    EXPECT_EQ(style.FillLook().FillColour(), 0xabcdefu);
+    EXPECT_EQ(style.FillLook().FillColor(), 0xabcdefu);
     EXPECT_EQ(style.SymbolLook().Shape(), 3);
-    EXPECT_EQ(style.SymbolLook().SymbolColour(), 0xabcdefu);
+    EXPECT_EQ(style.SymbolLook().SymbolColor(), 0xabcdefu);
     EXPECT_EQ(style.SymbolLook().Size(), 4);
 }
 

@@ -161,7 +161,7 @@ TEST(PriceDraw, BarsAndCandlesBySetting)
     EXPECT_EQ(bars.Type(), ChartHiLoOpenClose);
     EXPECT_EQ(chart.Bars().SeriesCount(), 4);
     EXPECT_EQ(chart.Bars().LastShownSeries(), 0);
-    EXPECT_EQ(bars.SeriesStyles(1).LineLook().LineColour(), settings.PriceDataColor);
+    EXPECT_EQ(bars.SeriesStyles(1).LineLook().LineColor(), settings.PriceDataColor);
     settings.CandleStyle = 1;
     settings.UpCandleColor = 1;
     settings.DownCandleColor = 2;
@@ -169,9 +169,9 @@ TEST(PriceDraw, BarsAndCandlesBySetting)
     chart.manager.FullRedraw();
     EXPECT_EQ(bars.Type(), ChartCandles);
     EXPECT_TRUE(chart.window.Pane(0).PaneArea().CandleLook().Filled());
-    EXPECT_EQ(bars.SeriesStyles(2).FillLook().FillColour(), 1u);
-    EXPECT_EQ(bars.SeriesStyles(3).FillLook().FillColour(), 2u);
-    EXPECT_EQ(bars.SeriesStyles(4).FillLook().FillColour(), 3u);
+    EXPECT_EQ(bars.SeriesStyles(2).FillLook().FillColor(), 1u);
+    EXPECT_EQ(bars.SeriesStyles(3).FillLook().FillColor(), 2u);
+    EXPECT_EQ(bars.SeriesStyles(4).FillLook().FillColor(), 3u);
 }
 
 // (900 - 81) / (30 - 0.5) = 27.7; at 160 pixels 2.67.
@@ -361,7 +361,7 @@ TEST(PriceDraw, CurvesThatAreSwitchedOffLeaveNothing)
     overlays.ShowBands = 1;
     chart.manager.Draw(10);
     EXPECT_FALSE(AllHoles(chart.Overlays().Y(2)));
-    EXPECT_EQ(chart.window.Pane(0).PaneGroups(2).SeriesStyles(1).LineLook().LineColour(), overlays.BandColor);
+    EXPECT_EQ(chart.window.Pane(0).PaneGroups(2).SeriesStyles(1).LineLook().LineColor(), overlays.BandColor);
     overlays.ShowBands = overlays.ShowAverages = 0;
     chart.manager.Draw(10);
     for (int series = 1; series <= 3; ++series)

@@ -1,5 +1,5 @@
 // Which strokes of a pixel column are seen, against a plot whose rows are painted one stroke at a time.
-#include "drawing/SeenPoints.h"
+#include "ink/SeenPoints.h"
 
 #include <gtest/gtest.h>
 

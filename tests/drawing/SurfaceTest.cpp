@@ -1,4 +1,4 @@
-#include "drawing/Chart2D.h"
+#include "scene/Chart2D.h"
 
 #include <gtest/gtest.h>
 
@@ -89,8 +89,8 @@ TEST(Surface, ASuspendedLabelIsToldOnceWhenItResumes)
     EXPECT_EQ(pane.view.Times, 1);
 }
 
-// Its colours were told at once.
-TEST(Surface, TheColoursOfASuspendedLabelWaitWithIt)
+// Its colors were told at once.
+TEST(Surface, TheColorsOfASuspendedLabelWaitWithIt)
 {
     sWatchedPane pane;
     CPaneLabel& label = pane.chart.PaneLabels().Add();

@@ -1,5 +1,5 @@
 // What is known of blocks of a series' values, through any row of changes, against a look at each value.
-#include "drawing/Chart2D.h"
+#include "scene/Chart2D.h"
 
 #include <gtest/gtest.h>
 

@@ -16,7 +16,7 @@ protected:
     }
 };
 
-// Pixels of the candles' colours, a strong green or red.
+// Pixels of the candles' colors, a strong green or red.
 int CandleInk(const QImage& image)
 {
     int ink = 0;

@@ -134,7 +134,7 @@ TEST_F(ChartState, SettlingTakesLiveTrades)
     EXPECT_EQ(state.at("status"), "1001 datapoints available.  Displaying 120.");
 }
 
-TEST_F(ChartState, TheDarkColoursOfTheDocumentsAreTaken)
+TEST_F(ChartState, TheDarkColorsOfTheDocumentsAreTaken)
 {
     const sRun import = Settings({"import", QString(ZANTROQ_DOCS_FOLDER) + "/dark-chart.json"});
     ASSERT_EQ(import.ExitCode, 0) << import.Err;

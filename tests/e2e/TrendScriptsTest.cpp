@@ -137,7 +137,7 @@ TEST_F(TrendScripts, LinesGoWhileOneIsHalfDrawnWithoutHarm)
     }
 }
 
-TEST_F(TrendScripts, ColourWidthAndExtendableOfEachKindComeFromTheSettings)
+TEST_F(TrendScripts, ColorWidthAndExtendableOfEachKindComeFromTheSettings)
 {
     const sPlainPane pane = Begin();
     std::string steps;

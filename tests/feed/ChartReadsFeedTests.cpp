@@ -1,8 +1,8 @@
 // The two halves of the protocol face to face, without sockets: the feed's sessions answer what the chart's
 // commands ask, and the chart's handlers read the answers. Expected values are those of the recordings below.
 #include "TemporaryFolder.h"
-#include "feed/Level1Session.h"
-#include "feed/LookupSession.h"
+#include "feed/protocol/Level1Session.h"
+#include "feed/protocol/LookupSession.h"
 #include "market/HistoryCommand.h"
 #include "market/HistoryReply.h"
 #include "market/Level1Command.h"

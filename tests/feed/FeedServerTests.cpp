@@ -1,5 +1,5 @@
 // The server on real sockets of the loopback address, always on free ports.
-#include "feed/FeedServer.h"
+#include "feed/server/FeedServer.h"
 
 #include "FeedClient.h"
 #include "TemporaryFolder.h"

@@ -1,8 +1,8 @@
 // The level 1 conversation, without sockets and with a clock that the test turns.
-#include "feed/Level1Session.h"
+#include "feed/protocol/Level1Session.h"
 
 #include "TemporaryFolder.h"
-#include "feed/CsvLine.h"
+#include "feed/markets/CsvLine.h"
 
 #include <cmath>
 #include <cstdlib>

@@ -1,6 +1,6 @@
 // The lookup port's conversation, without sockets. Expected replies are worked out by hand from the small
 // recordings below.
-#include "feed/LookupSession.h"
+#include "feed/protocol/LookupSession.h"
 
 #include "TemporaryFolder.h"
 

@@ -1,8 +1,8 @@
 // Bars against a slow plain model, and the promises of the simulated markets.
-#include "feed/BarBuilder.h"
-#include "feed/RandomNumbers.h"
-#include "feed/RecordedMarket.h"
-#include "feed/SimulatedMarket.h"
+#include "feed/markets/BarBuilder.h"
+#include "feed/markets/RandomNumbers.h"
+#include "feed/markets/RecordedMarket.h"
+#include "feed/markets/SimulatedMarket.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>

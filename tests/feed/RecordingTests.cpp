@@ -1,6 +1,6 @@
-#include "feed/Recording.h"
+#include "feed/markets/Recording.h"
 
-#include "feed/DecimalPrice.h"
+#include "feed/markets/DecimalPrice.h"
 
 #include <gtest/gtest.h>
 

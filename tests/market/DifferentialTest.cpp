@@ -2,7 +2,7 @@
 #include "market/LineCutter.h"
 #include "market/SeriesFixture.h"
 #include "market/SlowHistoryModel.h"
-#include "platform/LeadingNumber.h"
+#include "platform/parse/LeadingNumber.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "platform/LeadingNumber.h"
+#include "platform/parse/LeadingNumber.h"
 
 #include <cmath>
 #include <cstdint>

@@ -1,7 +1,7 @@
 // A pane through long rows of changes of every kind, as studies, trendlines, scrolling, zooming and pane
 // files make them: the picture that is kept and patched is the one painted from nothing, point by point.
-#include "qt/PanePainter.h"
 #include "qt/PaneScenes.h"
+#include "qt/paint/PanePainter.h"
 
 #include <gtest/gtest.h>
 
@@ -94,8 +94,8 @@ public:
             style.LineLook().SetWidth(Below(6) - 1);
             break;
         case 19:
-            style.LineLook().SetColour(m_random() & 0xFFFFFF);
-            style.FillLook().SetColour(m_random() & 0xFFFFFF);
+            style.LineLook().SetColor(m_random() & 0xFFFFFF);
+            style.FillLook().SetColor(m_random() & 0xFFFFFF);
             break;
         case 20:
             style.SymbolLook().SetShape(Below(3) ? SymbolNone : SymbolMark);

@@ -1,9 +1,9 @@
 // The bars around the panes, without a chart window behind them.
-#include "qt/ChartBars.h"
-#include "qt/ChartScrollBar.h"
-#include "qt/CommandIcons.h"
-#include "qt/DesktopLook.h"
-#include "qt/StatusLine.h"
+#include "qt/widgets/ChartBars.h"
+#include "qt/widgets/ChartScrollBar.h"
+#include "qt/widgets/CommandIcons.h"
+#include "qt/widgets/DesktopLook.h"
+#include "qt/widgets/StatusLine.h"
 #include "window/WindowCommands.h"
 
 #include <QAction>
@@ -248,13 +248,12 @@ TEST(MessageBoxPicture, EachKindHasOne)
 }
 
 // Relative luminance and contrast as the web's accessibility guidelines define them (WCAG 2.1, 2018).
-double Luminance(const QColor& colour)
+double Luminance(const QColor& color)
 {
     const auto linear = [](double part) {
         return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
     };
-    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) +
-           0.0722 * linear(colour.blueF());
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
 }
 
 double Contrast(const QColor& one, const QColor& other)

@@ -1,7 +1,7 @@
 // The control with a real chart window and a real feed behind it.
 #include "qt/ChartFixture.h"
-#include "qt/MessageBox.h"
-#include "qt/PictureDialog.h"
+#include "qt/dialogs/MessageBox.h"
+#include "qt/dialogs/PictureDialog.h"
 
 #include <QAbstractButton>
 #include <QAction>

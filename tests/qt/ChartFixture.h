@@ -2,12 +2,12 @@
 // which day n (from 1) has open n, high n + 2, low n - 1, close n + 1 and volume 1000 n.
 #pragma once
 
-#include "feed/FeedServer.h"
+#include "feed/server/FeedServer.h"
 #include "market/ZantroPorts.h"
-#include "qt/ChartCtrl.h"
-#include "qt/ChartView.h"
+#include "qt/widgets/ChartCtrl.h"
+#include "qt/widgets/ChartView.h"
+#include "replay/ReplayMessageBox.h"
 #include "window/ChartDlg.h"
-#include "window/ReplayMessageBox.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

@@ -1,8 +1,8 @@
 // Pictures of the whole chart in several sizes and settings, compared with those kept in tests/golden. The
 // market is a slow wave with a trend on it.
 #include "qt/ChartFixture.h"
-#include "qt/ChartPicture.h"
 #include "qt/GoldenPicture.h"
+#include "qt/output/ChartPicture.h"
 
 #include <cmath>
 
@@ -82,7 +82,7 @@ TEST_F(CChartGoldenTest, AveragesAndBandsLookAsKept)
     Compare({900, 700}, "bands.png");
 }
 
-TEST_F(CChartGoldenTest, DarkColoursLookAsKept)
+TEST_F(CChartGoldenTest, DarkColorsLookAsKept)
 {
     Set("Background Color", "1709583"); // 0x1A160F
     Set("PriceData Color", "14211288"); // 0xD8D8D8

@@ -1,7 +1,7 @@
-#include "qt/ChartPicture.h"
+#include "qt/output/ChartPicture.h"
+#include "export/ShownTable.h"
 #include "qt/ChartFixture.h"
-#include "qt/PictureFile.h"
-#include "window/ShownTable.h"
+#include "qt/output/PictureFile.h"
 
 #include <QFile>
 #include <QFileInfo>

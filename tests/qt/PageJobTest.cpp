@@ -1,4 +1,4 @@
-#include "qt/PageJob.h"
+#include "qt/output/PageJob.h"
 
 #include <QFile>
 #include <QPrinter>

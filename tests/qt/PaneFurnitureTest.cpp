@@ -1,6 +1,6 @@
-#include "qt/PaneFurniture.h"
-#include "qt/PanePainter.h"
+#include "qt/paint/PaneFurniture.h"
 #include "qt/PaneScenes.h"
+#include "qt/paint/PanePainter.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // Pictures of small panes, one for each rule of drawing, compared with those kept in tests/golden.
 #include "qt/GoldenPicture.h"
-#include "qt/PanePainter.h"
 #include "qt/PaneScenes.h"
+#include "qt/paint/PanePainter.h"
 
 #include <gtest/gtest.h>
 

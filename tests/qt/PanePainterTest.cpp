@@ -1,6 +1,6 @@
-#include "qt/PanePainter.h"
-#include "qt/PaneExport.h"
+#include "qt/paint/PanePainter.h"
 #include "qt/PaneScenes.h"
+#include "qt/output/PaneExport.h"
 
 #include <QDir>
 #include <QFile>
@@ -166,7 +166,7 @@ TEST(PaneReduction, LevelsLookAsEveryPointPainted)
                         CSymbolLook& look = group.SeriesStyles(1).SymbolLook();
                         look.SetShape(mark > 0 ? SymbolMark : SymbolNone);
                         look.SetSize(mark);
-                        look.SetColour(0xC0C0C0);
+                        look.SetColor(0xC0C0C0);
                         group.PaneData().SetStepY(1, first, 60);
                         for (const double scale : {1.0, 2.0})
                             ASSERT_TRUE(LooksAsEveryPointPainted(*pane, scale))
@@ -253,7 +253,7 @@ TEST(PaneReduction, MarksOnLinesLookAsEveryPointPainted)
         CSymbolLook& look = pane->PaneGroups(1).SeriesStyles(1).SymbolLook();
         look.SetShape(SymbolMark);
         look.SetSize(1 + round % 4);
-        look.SetColour(0xC0C0C0);
+        look.SetColor(0xC0C0C0);
         test::FitAxes(*pane, count, 20, 80);
         ASSERT_TRUE(LooksAsEveryPointPainted(*pane, 1 + 0.5 * (round % 4))) << round;
     }
@@ -407,7 +407,7 @@ TEST(KeptPicture, AMarkWithoutALineAppears)
     style.LineLook().SetPattern(LineNone);
     style.SymbolLook().SetShape(SymbolMark);
     style.SymbolLook().SetSize(5);
-    style.SymbolLook().SetColour(0x0000FF);
+    style.SymbolLook().SetColor(0x0000FF);
     CPanePainter kept(*pane, Family);
     kept.Picture(1.0);
     pane->PaneGroups(1).PaneData().SetPointY(1, 10, 50);

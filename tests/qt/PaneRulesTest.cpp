@@ -1,7 +1,7 @@
 // What of a pane is painted, how wide and in which order.
-#include "drawing/PaneFile.h"
-#include "qt/PanePainter.h"
 #include "qt/PaneScenes.h"
+#include "qt/paint/PanePainter.h"
+#include "scene/PaneFile.h"
 
 #include <gtest/gtest.h>
 
@@ -25,7 +25,7 @@ test::Pane CurvePane(int count, int warmUp, double inWarmUp, int type, int shape
     group.PaneData().SetPointCount(1, count);
     group.PaneData().SetYVector(1, y);
     group.PaneData().SetStepY(2, 1, 30);
-    group.SeriesStyles(1).LineLook().SetColour(0xff0000);
+    group.SeriesStyles(1).LineLook().SetColor(0xff0000);
     group.SeriesStyles(1).SymbolLook().SetShape(shape);
     group.SeriesStyles(1).SymbolLook().SetSize(4);
     return pane;
@@ -127,7 +127,7 @@ TEST(PaintingOrder, MarksOfTheSecondGroupLieOnTheLinesOfTheFirst)
     marks.LineLook().SetPattern(LineNone);
     marks.SymbolLook().SetShape(SymbolMark);
     marks.SymbolLook().SetSize(5);
-    marks.SymbolLook().SetColour(0x0000ff);
+    marks.SymbolLook().SetColor(0x0000ff);
     int x = 0, y = 0;
     pane->PaneGroups(2).PointToPixel(1, 10, x, y);
     EXPECT_EQ(PanePicture(*pane, 1.0, Family).pixel(x, y), qRgb(255, 0, 0));
@@ -139,7 +139,7 @@ TEST(PaintingOrder, AHistogramOfTheSecondGroupStandsBehindTheMarksOfTheFirst)
     CSeriesStyle& marks = pane->PaneGroups(1).SeriesStyles(1);
     marks.SymbolLook().SetShape(SymbolMark);
     marks.SymbolLook().SetSize(5);
-    marks.SymbolLook().SetColour(0x0000ff);
+    marks.SymbolLook().SetColor(0x0000ff);
     test::LoadGroup(pane->PaneGroups(2), {std::vector<double>(20, 50)});
     for (const int type : {ChartBars, ChartBarsFromOrigin}) {
         pane->PaneGroups(2).SetChartType(type);

@@ -11,7 +11,7 @@ namespace zantroq::test {
 namespace {
 
 const double Hole = CPaneData::HoleValue();
-constexpr Colour Green = 0x3c8c1e, Red = 0x2828d2, Grey = 0xc0c0c0, Blue = 0xc86414;
+constexpr ColorValue Green = 0x3c8c1e, Red = 0x2828d2, Grey = 0xc0c0c0, Blue = 0xc86414;
 
 std::string Number(double value)
 {
@@ -106,11 +106,11 @@ Pane CandlePane(int width, int height, int count, int candleWidth)
     LoadGroup(group, {bars.High, bars.Low, bars.Open, bars.Close});
     group.SetChartType(ChartCandles);
     pane->PaneArea().CandleLook().SetFilled(true);
-    group.SeriesStyles(2).FillLook().SetColour(Green);
-    group.SeriesStyles(3).FillLook().SetColour(Red);
+    group.SeriesStyles(2).FillLook().SetColor(Green);
+    group.SeriesStyles(3).FillLook().SetColor(Red);
     group.SeriesStyles(2).LineLook().SetWidth(candleWidth);
     group.SeriesStyles(3).LineLook().SetWidth(candleWidth);
-    group.SeriesStyles(4).FillLook().SetColour(Grey);
+    group.SeriesStyles(4).FillLook().SetColor(Grey);
     group.SeriesStyles(4).LineLook().SetPattern(candleWidth < 3 ? LineNone : LineSolid);
     if (count > 0)
         FitAxes(*pane, count, *std::min_element(bars.Low.begin(), bars.Low.end()),
@@ -122,7 +122,7 @@ Pane PriceBarPane(int width, int height, int count)
 {
     Pane pane = CandlePane(width, height, count, 5);
     pane->PaneGroups(1).SetChartType(ChartHiLoOpenClose);
-    pane->PaneGroups(1).SeriesStyles(1).LineLook().SetColour(0x333333);
+    pane->PaneGroups(1).SeriesStyles(1).LineLook().SetColor(0x333333);
     return pane;
 }
 
@@ -130,7 +130,7 @@ Pane LinePane(int width, int height, const std::vector<double>& y)
 {
     Pane pane = EmptyPane(width, height);
     LoadGroup(pane->PaneGroups(1), {y});
-    pane->PaneGroups(1).SeriesStyles(1).LineLook().SetColour(Blue);
+    pane->PaneGroups(1).SeriesStyles(1).LineLook().SetColor(Blue);
     FitAxes(*pane, static_cast<int>(y.size()), 0, 100);
     return pane;
 }
@@ -162,7 +162,7 @@ void ShowGrid(CChart2D& pane, int pattern)
     for (CPaneAxis* axis : {&pane.PaneArea().PaneAxes().X(), &pane.PaneArea().PaneAxes().Y()}) {
         axis->AxisGrid().SetSpacing(axis->TickSpacing().Value());
         axis->AxisGrid().LineLook().SetPattern(pattern);
-        axis->AxisGrid().LineLook().SetColour(Grey);
+        axis->AxisGrid().LineLook().SetColor(Grey);
     }
 }
 
@@ -200,7 +200,7 @@ Pane MarkerPane()
     CPaneMarker& marker = pane->PaneArea().PaneMarkers("x");
     marker.SetShown(true);
     marker.SetPoint(8);
-    marker.LineLook().SetColour(0xff00ff);
+    marker.LineLook().SetColor(0xff00ff);
     return pane;
 }
 
@@ -217,7 +217,7 @@ Pane RightAxisPane()
     FitAxes(*pane, 20, 94, 106);
     ShowGrid(*pane, LineSolid);
     for (CPaneAxis* axis : {&area.PaneAxes().X(), &area.PaneAxes().Y()})
-        axis->AxisGrid().LineLook().SetColour(0x50463f);
+        axis->AxisGrid().LineLook().SetColor(0x50463f);
     return pane;
 }
 
@@ -233,11 +233,11 @@ Pane LinePatternPane()
     for (int i = 0; i < 4; ++i) {
         CSeriesStyle& style = group.SeriesStyles(i + 1);
         style.LineLook().SetPattern(patterns[static_cast<std::size_t>(i)]);
-        style.LineLook().SetColour(Blue);
+        style.LineLook().SetColor(Blue);
         style.LineLook().SetWidth(i + 1);
     }
     group.SeriesStyles(3).SymbolLook().SetShape(SymbolMark);
-    group.SeriesStyles(3).SymbolLook().SetColour(Red);
+    group.SeriesStyles(3).SymbolLook().SetColor(Red);
     group.SeriesStyles(3).SymbolLook().SetSize(5);
     FitAxes(*pane, 30, 0, 100);
     return pane;
@@ -254,8 +254,8 @@ Pane OverlayPane()
             average[i] += bars.Close[j] / 5;
     }
     LoadGroup(pane->PaneGroups(2), {average, std::vector<double>(40, 100.0)});
-    pane->PaneGroups(2).SeriesStyles(1).LineLook().SetColour(Blue);
-    pane->PaneGroups(2).SeriesStyles(2).LineLook().SetColour(Grey);
+    pane->PaneGroups(2).SeriesStyles(1).LineLook().SetColor(Blue);
+    pane->PaneGroups(2).SeriesStyles(2).LineLook().SetColor(Grey);
     ShowGrid(*pane, LineShortDashes);
     return pane;
 }

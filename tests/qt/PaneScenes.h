@@ -1,7 +1,7 @@
 // Small panes for the painter's tests: each shows one rule of drawing.
 #pragma once
 
-#include "drawing/Chart2D.h"
+#include "scene/Chart2D.h"
 
 #include <memory>
 #include <string>

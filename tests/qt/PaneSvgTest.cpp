@@ -1,8 +1,8 @@
 // SVG files of a pane: the writer of such files clips nothing, so whatever lies in one has been cut before.
-#include "qt/CutShapes.h"
-#include "qt/PaneExport.h"
-#include "qt/PanePainter.h"
 #include "qt/PaneScenes.h"
+#include "qt/output/PaneExport.h"
+#include "qt/paint/CutShapes.h"
+#include "qt/paint/PanePainter.h"
 
 #include <QFile>
 #include <QPainter>
@@ -40,8 +40,8 @@ QImage Rendered(const QByteArray& svg, const CChart2D& pane)
     return picture;
 }
 
-// The boxes of the ink of everything that an SVG file draws in a colour.
-std::vector<QRectF> InkBoxes(const QByteArray& svg, const QString& colour)
+// The boxes of the ink of everything that an SVG file draws in a color.
+std::vector<QRectF> InkBoxes(const QByteArray& svg, const QString& color)
 {
     std::vector<QRectF> boxes;
     const QString text = QString::fromUtf8(svg);
@@ -54,9 +54,9 @@ std::vector<QRectF> InkBoxes(const QByteArray& svg, const QString& colour)
     for (auto at = group.globalMatch(text); at.hasNext();) {
         const QRegularExpressionMatch found = at.next();
         const QString look = found.captured(1);
-        if (!look.contains(colour))
+        if (!look.contains(color))
             continue;
-        const bool stroked = look.contains("stroke=\"" + colour);
+        const bool stroked = look.contains("stroke=\"" + color);
         const double half = stroked ? width.match(look).captured(1).toDouble() / 2 : 0;
         for (auto part = shape.globalMatch(found.captured(2)); part.hasNext();) {
             QRectF box;
@@ -75,7 +75,7 @@ std::vector<QRectF> InkBoxes(const QByteArray& svg, const QString& colour)
     return boxes;
 }
 
-bool IsLineColour(QRgb pixel)
+bool IsLineColor(QRgb pixel)
 {
     return qBlue(pixel) > qRed(pixel) + 20;
 }
@@ -123,9 +123,9 @@ TEST(PaneSvg, ALineThatLeavesThePlotLooksAsOnTheScreen)
         for (int y = 0; y < 180; ++y)
             for (int x = 0; x < 280; ++x) {
                 const bool inPlot = x >= plot.Left && x < plot.Right && y >= plot.Top && y < plot.Bottom;
-                inVectors += IsLineColour(vectors.pixel(x, y));
-                inPixels += IsLineColour(pixels.pixel(x, y));
-                ASSERT_TRUE(inPlot || !IsLineColour(vectors.pixel(x, y))) << x << ", " << y;
+                inVectors += IsLineColor(vectors.pixel(x, y));
+                inPixels += IsLineColor(pixels.pixel(x, y));
+                ASSERT_TRUE(inPlot || !IsLineColor(vectors.pixel(x, y))) << x << ", " << y;
             }
         EXPECT_GT(inPixels, 100);
         EXPECT_NEAR(inVectors, inPixels, inPixels * 0.15) << "width " << width;

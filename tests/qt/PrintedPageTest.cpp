@@ -1,10 +1,10 @@
 // Printed pages as a reader of the PDF file sees them: the file is rendered by pdftoppm (package
 // poppler-utils) and compared with the pictures kept in tests/golden.
-#include "qt/ChartPrinter.h"
+#include "printing/PrintedChart.h"
 #include "qt/GoldenPicture.h"
 #include "qt/PaneScenes.h"
+#include "qt/output/ChartPrinter.h"
 #include "window/ChartWindowFixture.h"
-#include "window/PrintedChart.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -30,7 +30,7 @@ const sPrintFonts Fonts{"DejaVu Serif", "DejaVu Sans"};
 constexpr int Dpi = 72;                 // one picture pixel is a point
 constexpr double Margin = 28;           // 10 mm
 constexpr double MostDifferent = 0.002; // a page is mostly white
-constexpr Colour Night = 0x201810, Chalk = 0x909090;
+constexpr ColorValue Night = 0x201810, Chalk = 0x909090;
 
 sTIME_W_MILLISECONDS Moment()
 {

@@ -2,8 +2,8 @@
 // beside the labels of retracements, so that hardly a pixel may differ: a line is a fraction of a percent of
 // its picture.
 #include "qt/GoldenPicture.h"
-#include "qt/PanePainter.h"
 #include "qt/PaneScenes.h"
+#include "qt/paint/PanePainter.h"
 #include "trends/TrendInteraction.h"
 #include "trends/TrendWindow.h"
 
@@ -63,8 +63,8 @@ struct sTrendScene
         candles.SetChartType(ChartCandles);
         test::LoadGroup(candles, {bars.High, bars.Low, bars.Open, bars.Close});
         window.pane.PaneArea().CandleLook().SetFilled(true);
-        candles.SeriesStyles(2).FillLook().SetColour(0x3c8c1e);
-        candles.SeriesStyles(3).FillLook().SetColour(0x2828d2);
+        candles.SeriesStyles(2).FillLook().SetColor(0x3c8c1e);
+        candles.SeriesStyles(3).FillLook().SetColor(0x2828d2);
         candles.SeriesStyles(2).LineLook().SetWidth(3);
         candles.SeriesStyles(3).LineLook().SetWidth(3);
     }

@@ -3,7 +3,7 @@
 
 #include "RunProcess.h"
 #include "TemporaryFolder.h"
-#include "platform/SettingsFile.h"
+#include "platform/settings/SettingsFile.h"
 
 #include <chrono>
 #include <gtest/gtest.h>

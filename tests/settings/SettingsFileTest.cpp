@@ -1,7 +1,7 @@
-#include "platform/SettingsFile.h"
+#include "platform/settings/SettingsFile.h"
 
 #include "SettingsFileFixture.h"
-#include "platform/SettingsPath.h"
+#include "platform/settings/SettingsPath.h"
 
 #include <sys/resource.h>
 #include <sys/stat.h>

@@ -52,7 +52,7 @@ void ExpectUsable(const sChartSettings& s, const std::string& what)
     EXPECT_TRUE(std::isfinite(s.Overlays.BandDeviations));
     for (const auto& style : s.Trends)
         EXPECT_TRUE(style.Width >= 1 && style.Width <= 99 && style.Color <= 0xFFFFFF);
-    for (const Colour color : {s.BackgroundColor, s.GridColor, s.PriceBarColor, s.Studies.RsiUpperColor})
+    for (const ColorValue color : {s.BackgroundColor, s.GridColor, s.PriceBarColor, s.Studies.RsiUpperColor})
         EXPECT_LE(color, 0xFFFFFFu);
     ASSERT_TRUE(s.Panes.StudyCount >= 0 && s.Panes.StudyCount <= 10);
     for (int k = 0; k < s.Panes.StudyCount; ++k)
@@ -284,7 +284,7 @@ TEST_F(SettingsLoader, PeriodsAndLevelsAreKeptAsStored)
     EXPECT_EQ(s.Studies.MacdShort, 30);
 }
 
-TEST_F(SettingsLoader, ColoursKeepTheirLow24Bits)
+TEST_F(SettingsLoader, ColorsKeepTheirLow24Bits)
 {
     Put("Background Color", "33554431"); // 0x1FFFFFF
     Put("Study Data Color 3", "-2");
@@ -301,7 +301,7 @@ TEST_F(SettingsLoader, DeviationsThatAreNoNumberTakeTheDefault)
     }
 }
 
-TEST_F(SettingsLoader, StudyColoursAreLoadedInStudyOrder)
+TEST_F(SettingsLoader, StudyColorsAreLoadedInStudyOrder)
 {
     for (int study = 0; study < 10; ++study) {
         Put("Study Data Color " + std::to_string(study), std::to_string(1000 + study));

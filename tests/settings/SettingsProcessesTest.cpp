@@ -1,7 +1,7 @@
 // Several processes and threads at one file, and processes that die in the middle.
 #include "RunProcess.h"
 #include "TemporaryFolder.h"
-#include "platform/SettingsFile.h"
+#include "platform/settings/SettingsFile.h"
 #include "settings/SettingsLoader.h"
 
 #include <gtest/gtest.h>

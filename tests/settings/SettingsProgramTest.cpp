@@ -1,7 +1,7 @@
 // zantroq-settings from outside: what it prints, its exit codes, and what it leaves in the file.
 #include "RunProcess.h"
 #include "TemporaryFolder.h"
-#include "platform/SettingsFile.h"
+#include "platform/settings/SettingsFile.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>

@@ -187,7 +187,7 @@ TEST(SettingsTable, EveryNumberHasItsNameAndType)
         ASSERT_TRUE(FindSetting(expected.Id)) << expected.Id;
         EXPECT_EQ(SettingName(expected.Id), expected.Name);
         const auto type = FindSetting(expected.Id)->Type;
-        // Colours are whole numbers in the store.
+        // Colors are whole numbers in the store.
         EXPECT_EQ(type == SettingType::Color ? Int : type, expected.Type) << expected.Name;
     }
     for (const auto& [id, name] : OtherNames)

@@ -185,7 +185,7 @@ TEST_F(SettingsWriter, ChangesMadeWhileTheFileIsLockedAreWrittenWhenItIsNot)
     EXPECT_EQ(key.Stored("GRID"), "0");
 }
 
-TEST_F(SettingsWriter, AColourMayBeHexadecimal)
+TEST_F(SettingsWriter, AColorMayBeHexadecimal)
 {
     EXPECT_TRUE(Set("Background Color", "0x00FF10").Changed);
     EXPECT_EQ(Settings.BackgroundColor, 0x00FF10u);

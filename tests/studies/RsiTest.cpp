@@ -170,7 +170,7 @@ TEST(Rsi, HeaderNamesPeriodLevelsAndMarkedValue)
     EXPECT_EQ(pane.Study().GetStudyInfoText(), "RSI, lookback period - 14, levels - 70, 30 RSI: 66.6667");
 }
 
-TEST(Rsi, ColoursAreThoseOfDataAndLevels)
+TEST(Rsi, ColorsAreThoseOfDataAndLevels)
 {
     CZigzagPane pane;
     pane.Settings().DataColors[StudyRSI] = 0x010203;
@@ -178,9 +178,9 @@ TEST(Rsi, ColoursAreThoseOfDataAndLevels)
     pane.Settings().RsiLowerColor = 0x070809;
     pane.Draw(0, 20);
     CPaneGroup& group = pane.Window.Study.PaneGroups(1);
-    EXPECT_EQ(group.SeriesStyles(1).LineLook().LineColour(), 0x010203u);
-    EXPECT_EQ(group.SeriesStyles(2).LineLook().LineColour(), 0x040506u);
-    EXPECT_EQ(group.SeriesStyles(3).LineLook().LineColour(), 0x070809u);
+    EXPECT_EQ(group.SeriesStyles(1).LineLook().LineColor(), 0x010203u);
+    EXPECT_EQ(group.SeriesStyles(2).LineLook().LineColor(), 0x040506u);
+    EXPECT_EQ(group.SeriesStyles(3).LineLook().LineColor(), 0x070809u);
 }
 
 } // namespace

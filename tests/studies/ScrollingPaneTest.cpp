@@ -1,5 +1,5 @@
 // The vectors of a pane scroll without being moved; they must look as if each shift were a plain copy.
-#include "drawing/Chart2D.h"
+#include "scene/Chart2D.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

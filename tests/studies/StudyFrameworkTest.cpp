@@ -305,7 +305,7 @@ TEST(StudyHeader, CollapsedPaneSaysMinimized)
     EXPECT_EQ(pane.Header(), "Money Flow Index, lookback period - 14, levels - 80, 20 (Minimized)");
 }
 
-TEST(StudyHeader, StandsAboveTheValueAxisInItsColour)
+TEST(StudyHeader, StandsAboveTheValueAxisInItsColor)
 {
     CStudyPane pane(StudyADX);
     pane.Settings().LabelColors[StudyADX] = 0x123456;

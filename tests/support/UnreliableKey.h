@@ -2,7 +2,7 @@
 // another process holds it.
 #pragma once
 
-#include "platform/SettingsKey.h"
+#include "platform/settings/SettingsKey.h"
 
 #include <set>
 

@@ -46,7 +46,7 @@ TEST_F(TrendDraw, HorizontalRunsBetweenItsAnchors)
         else
             EXPECT_TRUE(Hole(4, i)) << i;
     }
-    EXPECT_EQ(window.pane.PaneGroups(2).SeriesStyles(4).LineLook().LineColour(), 0x123456u);
+    EXPECT_EQ(window.pane.PaneGroups(2).SeriesStyles(4).LineLook().LineColor(), 0x123456u);
     EXPECT_EQ(window.pane.PaneGroups(2).PaneData().DrawnTo(4), 60);
 }
 
@@ -381,7 +381,7 @@ TEST_F(RetracementsDraw, DeletingTheFirstKeepsTheLabelsOfTheSecond)
     EXPECT_EQ(Label(10).PixelY(), py);
 }
 
-TEST_F(RetracementsDraw, LabelColoursComeFromTheWindowNotFromTheLine)
+TEST_F(RetracementsDraw, LabelColorsComeFromTheWindowNotFromTheLine)
 {
     window.settings.BackgroundColor = 0x010203;
     window.settings.Trends[TrendFibonacciRetracements].Color = 0x0A0B0C;

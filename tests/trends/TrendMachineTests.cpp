@@ -323,7 +323,7 @@ TEST_F(TrendMachine, IndexEqualToTheCountIsAcceptedAndOneBeyondIsNot)
     EXPECT_EQ(machine.Current()->m_startIndex, 120);
 }
 
-TEST_F(TrendMachine, NewLineHasWidthOneMarkersAndTheKindsColour)
+TEST_F(TrendMachine, NewLineHasWidthOneMarkersAndTheKindsColor)
 {
     window.settings.Trends[TrendSloping] = {0x445566, 4, 1};
     machine.OnCommand(DrawSloping);

@@ -19,7 +19,7 @@ TEST_F(TrendPool, NewSeriesAreSetUpWithSolidLineAndGreyMarks)
     EXPECT_EQ(window.pane.PaneGroups(2).PaneData().SeriesCount(), 4);
     EXPECT_EQ(style.LineLook().Pattern(), LineSolid);
     EXPECT_EQ(style.SymbolLook().Shape(), SymbolMark);
-    EXPECT_EQ(style.SymbolLook().SymbolColour(), 0xC0C0C0u);
+    EXPECT_EQ(style.SymbolLook().SymbolColor(), 0xC0C0C0u);
     EXPECT_EQ(style.SymbolLook().Size(), 3);
     EXPECT_EQ(lists.AllocateSeries(), 5);
     EXPECT_EQ(lists.SeriesCount(), 5);

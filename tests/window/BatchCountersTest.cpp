@@ -23,12 +23,12 @@ struct sBatchFixture
     void ChangeBoth()
     {
         for (CChart2D& pane : Panes)
-            pane.PaneInterior().SetBackground(++Colours);
+            pane.PaneInterior().SetBackground(++Colors);
     }
     std::array<CChart2D, 2> Panes;
     CBatchCounters Batch{Panes};
     sCountingView Price, Study;
-    Colour Colours = 0;
+    ColorValue Colors = 0;
 };
 
 TEST(BatchCounters, NestedBatchesRepaintOnceAtTheOutermostEnd)

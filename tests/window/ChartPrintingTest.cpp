@@ -1,4 +1,4 @@
-#include "window/ChartPrinting.h"
+#include "printing/ChartPrinting.h"
 
 #include "platform/TemporaryFile.h"
 #include "window/PrintFakes.h"

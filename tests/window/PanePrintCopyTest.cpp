@@ -1,6 +1,6 @@
-#include "window/PanePrintCopy.h"
+#include "printing/PanePrintCopy.h"
 
-#include "drawing/PaneFile.h"
+#include "scene/PaneFile.h"
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -11,7 +11,7 @@
 namespace zantroq {
 namespace {
 
-constexpr Colour Night = 0x1a1008, Chalk = 0xe0e0e0, White = 0xFFFFFF;
+constexpr ColorValue Night = 0x1a1008, Chalk = 0xe0e0e0, White = 0xFFFFFF;
 
 // A folder of this test alone, so that nobody else's files are counted.
 struct sFolder
@@ -53,7 +53,7 @@ void Fill(CChart2D& pane)
         group.PaneData().SetPointX(1, point, point);
         group.PaneData().SetPointY(1, point, 100 + point / 3.0);
     }
-    group.SeriesStyles(1).LineLook().SetColour(0x0000FF);
+    group.SeriesStyles(1).LineLook().SetColor(0x0000FF);
     pane.PaneLabels().Add().SetText("MSFT");
     pane.PaneLabels().Item(1).Interior().SetBackground(0x232323);
     pane.PaneLabels().Item(1).SetShown(true);
@@ -85,7 +85,7 @@ TEST(PanePrintCopy, IsWhiteAroundAndBehindThePlot)
     EXPECT_EQ(copy->PaneArea().PlotBackground(copy->PaneInterior()), White);
 }
 
-TEST(PanePrintCopy, KeepsTheColourOfTheAxisTexts)
+TEST(PanePrintCopy, KeepsTheColorOfTheAxisTexts)
 {
     CChart2D pane;
     Fill(pane);

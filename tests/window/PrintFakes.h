@@ -1,7 +1,7 @@
 // A printer, its dialog and a chart in memory. All of them write what happens to one list.
 #pragma once
 
-#include "window/ChartPrinting.h"
+#include "printing/ChartPrinting.h"
 
 #include <array>
 #include <deque>
@@ -26,7 +26,7 @@ struct sFakePrintJob : IPrintJob, IPrintDevice
     struct sDrawn
     {
         sPageBox Box;
-        Colour Background;
+        ColorValue Background;
         const CChart2D* Pane;
     };
 

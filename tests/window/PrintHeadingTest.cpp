@@ -1,4 +1,4 @@
-#include "window/PrintHeading.h"
+#include "printing/PrintHeading.h"
 
 #include "window/PrintFakes.h"
 

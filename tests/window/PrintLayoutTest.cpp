@@ -1,6 +1,6 @@
 // Numbers worked by hand from the rule: window extent the picture's size, viewport extent the page's, in both
 // directions the same.
-#include "window/PrintLayout.h"
+#include "printing/PrintLayout.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "window/ReplayScript.h"
+#include "replay/ReplayScript.h"
 
-#include "window/ReplayMessageBox.h"
+#include "replay/ReplayMessageBox.h"
 
 #include <gtest/gtest.h>
 

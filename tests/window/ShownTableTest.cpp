@@ -1,4 +1,4 @@
-#include "window/ShownTable.h"
+#include "export/ShownTable.h"
 
 #include "window/ChartWindowFixture.h"
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "market/ChartHistRequest.h"
-#include "platform/SettingsKey.h"
 #include "platform/WindowServices.h"
+#include "platform/settings/SettingsKey.h"
 #include "window/ChartFeed.h"
 #include "window/PaneDrawing.h"
 #include "window/WindowDialogs.h"

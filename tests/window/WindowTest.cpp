@@ -1,11 +1,11 @@
 // Layout, bars, placement, settings and scripts over a whole window.
 #include "ChartWindowFixture.h"
 
+#include "export/ChartSnapshot.h"
+#include "replay/ReplayRunner.h"
 #include "settings/SettingsLoader.h"
 #include "window/BatchCounters.h"
-#include "window/ChartSnapshot.h"
 #include "window/ChartsResizer.h"
-#include "window/ReplayRunner.h"
 #include "window/WindowPlacement.h"
 #include "window/WindowTexts.h"
 

@@ -1,0 +1,276 @@
+#include "feed/markets/Recording.h"
+
+#include "feed/markets/CsvLine.h"
+
+#include <algorithm>
+#include <charconv>
+#include <fstream>
+#include <limits>
+#include <system_error>
+
+namespace zantroq::feed {
+namespace {
+
+constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
+// More than any market trades in a day, and small enough for the sum of a million rows.
+constexpr std::int64_t LargestCount = 5'000'000'000'000;
+// Level 1 lines carry it, and their readers take no more than some 4,000 bytes a line.
+constexpr std::size_t LongestDescription = 1000;
+constexpr std::size_t NoColumn = static_cast<std::size_t>(-1);
+
+// Walks the rows of a file below its header and keeps the columns by name.
+class CCsvRows
+{
+public:
+    CCsvRows(std::string_view text, const std::string& file, sRECORDING_REPORT& report)
+        : m_text(text), m_file(file), m_report(report)
+    {
+        if (m_text.starts_with(ByteOrderMark))
+            m_text.remove_prefix(ByteOrderMark.size());
+        m_readable = NextLine();
+        if (!m_readable)
+            m_report.Unusable = m_file + ": the file is empty and not used";
+        for (const auto field : m_fields)
+            m_columns.push_back(UpperCase(field));
+    }
+
+    // The column of that name; a needed one that is missing makes the file unreadable.
+    std::size_t Column(std::string_view name, bool needed)
+    {
+        const auto at = std::find(m_columns.begin(), m_columns.end(), UpperCase(name));
+        if (at != m_columns.end())
+            return static_cast<std::size_t>(at - m_columns.begin());
+        if (needed && m_readable) {
+            m_readable = false;
+            m_report.Unusable = m_file + ":" + std::to_string(m_line) + ": the header line has no column \"" +
+                                std::string(name) + "\"; the file is not used";
+        }
+        return NoColumn;
+    }
+
+    bool Next() { return m_readable && NextLine(); }
+    std::string_view Field(std::size_t column) const
+    {
+        return column < m_fields.size() ? m_fields[column] : std::string_view();
+    }
+    void Skip(std::string_view why) { m_report.Skip(m_file, m_line, why); }
+
+private:
+    bool NextLine()
+    {
+        std::string_view line;
+        while (TakeLine(m_text, line)) {
+            ++m_line;
+            if (TrimBlanks(line).empty())
+                continue;
+            SplitCsvLine(line, m_fields);
+            return true;
+        }
+        return false;
+    }
+
+    std::string_view m_text;
+    const std::string& m_file;
+    sRECORDING_REPORT& m_report;
+    std::vector<std::string> m_columns;
+    std::vector<std::string_view> m_fields;
+    std::size_t m_line = 0;
+    bool m_readable = true;
+};
+
+std::string Quoted(std::string_view what, std::string_view value)
+{
+    return std::string(what) + " \"" + ShownText(value) + '"';
+}
+
+// A whole number, or one with nothing but zeros behind its point.
+template<class TInteger> bool ReadCount(std::string_view text, TInteger& number)
+{
+    const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (read.ec != std::errc() || number < 0)
+        return false;
+    const std::string_view rest(read.ptr, static_cast<std::size_t>(text.data() + text.size() - read.ptr));
+    return rest.empty() || (rest[0] == '.' && rest.find_first_not_of('0', 1) == std::string_view::npos);
+}
+
+bool ReadPrice(CCsvRows& rows, std::size_t column, std::string_view name, sPRICE& price)
+{
+    if (ParsePrice(rows.Field(column), price))
+        return true;
+    rows.Skip(Quoted(std::string(name) + " is not a price:", rows.Field(column)));
+    return false;
+}
+
+// An empty field of a column that may be missing counts as 0.
+template<class TInteger>
+bool ReadOptionalCount(CCsvRows& rows, std::size_t column, std::string_view name, TInteger& number)
+{
+    const std::string_view text = rows.Field(column);
+    number = 0;
+    std::int64_t wide = 0;
+    if (text.empty())
+        return true;
+    const auto most = std::min(LargestCount, static_cast<std::int64_t>(std::numeric_limits<TInteger>::max()));
+    if (ReadCount(text, wide) && wide <= most) {
+        number = static_cast<TInteger>(wide);
+        return true;
+    }
+    rows.Skip(Quoted(std::string(name) + " is not a count:", text));
+    return false;
+}
+
+bool ReadTime(CCsvRows& rows, std::size_t column, std::string_view name, TFeedTime& time)
+{
+    if (ParseStamp(rows.Field(column), time))
+        return true;
+    rows.Skip(Quoted(std::string(name) + " is not a date of the form YYYY-MM-DD or a time behind one:",
+                     rows.Field(column)));
+    return false;
+}
+
+// At most so many bytes of UTF-8 text, and no half character at its end.
+std::string_view CutText(std::string_view text, std::size_t most)
+{
+    if (text.size() <= most)
+        return text;
+    while (most > 0 && (static_cast<unsigned char>(text[most]) & 0xC0) == 0x80)
+        --most;
+    return text.substr(0, most);
+}
+
+bool ReadListId(CCsvRows& rows, std::size_t column, std::string_view name, int& id)
+{
+    constexpr int largest = 255;
+    if (ReadCount(rows.Field(column), id) && id <= largest)
+        return true;
+    rows.Skip(Quoted(std::string(name) + " is not a number from 0 to 255:", rows.Field(column)));
+    return false;
+}
+
+template<class TRecord, class TTime> void SortByTime(std::vector<TRecord>& records, TTime time)
+{
+    const auto earlier = [time](const TRecord& a, const TRecord& b) { return a.*time < b.*time; };
+    if (!std::is_sorted(records.begin(), records.end(), earlier))
+        std::stable_sort(records.begin(), records.end(), earlier);
+}
+
+} // namespace
+
+void sRECORDING_REPORT::Skip(const std::string& file, std::size_t line, std::string_view why)
+{
+    ++SkippedRows;
+    if (Problems.size() < MaxProblems)
+        Problems.push_back(file + ":" + std::to_string(line) + ": " + std::string(why));
+}
+
+std::vector<sFEED_TICK> ReadTicks(std::string_view text, const std::string& file, sRECORDING_REPORT& report)
+{
+    CCsvRows rows(text, file, report);
+    const std::size_t time = rows.Column("time", true), last = rows.Column("last", true);
+    const std::size_t size = rows.Column("size", false);
+    const std::size_t total = rows.Column("total_volume", false), bid = rows.Column("bid", false);
+    const std::size_t ask = rows.Column("ask", false), id = rows.Column("tick_id", false);
+    const std::size_t basis = rows.Column("basis", false);
+    std::vector<sFEED_TICK> ticks;
+    while (rows.Next()) {
+        sFEED_TICK tick;
+        if (!ReadTime(rows, time, "time", tick.Time) || !ReadPrice(rows, last, "last", tick.Last) ||
+            !ReadOptionalCount(rows, size, "size", tick.Size) ||
+            !ReadOptionalCount(rows, total, "total_volume", tick.TotalVolume))
+            continue;
+        tick.Bid = tick.Ask = tick.Last;
+        if (!rows.Field(bid).empty() && !ReadPrice(rows, bid, "bid", tick.Bid))
+            continue;
+        if (!rows.Field(ask).empty() && !ReadPrice(rows, ask, "ask", tick.Ask))
+            continue;
+        if (!ReadOptionalCount(rows, id, "tick_id", tick.TickId))
+            continue;
+        const std::string_view letter = rows.Field(basis);
+        if (letter.size() > 1 || (!letter.empty() && (letter[0] <= ' ' || letter[0] > '~'))) {
+            rows.Skip(Quoted("basis is not one letter:", letter));
+            continue;
+        }
+        tick.Basis = letter.empty() ? 'C' : letter[0];
+        ticks.push_back(tick);
+    }
+    SortByTime(ticks, &sFEED_TICK::Time);
+    return ticks;
+}
+
+std::vector<sFEED_BAR> ReadBars(RecordingKind kind, std::string_view text, const std::string& file,
+                                sRECORDING_REPORT& report)
+{
+    const bool daily = kind == RecordingKind::Daily;
+    CCsvRows rows(text, file, report);
+    const std::string_view stampName = daily ? "date" : "time";
+    const std::size_t stamp = rows.Column(stampName, true);
+    const std::size_t open = rows.Column("open", true), high = rows.Column("high", true);
+    const std::size_t low = rows.Column("low", true), close = rows.Column("close", true);
+    const std::size_t volume = rows.Column("volume", false);
+    const std::size_t interest = daily ? rows.Column("open_interest", false) : NoColumn;
+    std::vector<sFEED_BAR> bars;
+    while (rows.Next()) {
+        sFEED_BAR bar;
+        if (!ReadTime(rows, stamp, stampName, bar.Stamp) || !ReadPrice(rows, open, "open", bar.Open) ||
+            !ReadPrice(rows, high, "high", bar.High) || !ReadPrice(rows, low, "low", bar.Low) ||
+            !ReadPrice(rows, close, "close", bar.Close) ||
+            !ReadOptionalCount(rows, volume, "volume", bar.Volume) ||
+            !ReadOptionalCount(rows, interest, "open_interest", bar.OpenInterest))
+            continue;
+        if (IsBelow(bar.High, bar.Low)) {
+            rows.Skip("high is below low");
+            continue;
+        }
+        if (daily)
+            bar.Stamp = StartOfDay(DayOf(bar.Stamp));
+        bars.push_back(bar);
+    }
+    SortByTime(bars, &sFEED_BAR::Stamp);
+    return bars;
+}
+
+std::vector<sLISTED_SYMBOL> ReadSymbols(std::string_view text, const std::string& file,
+                                        sRECORDING_REPORT& report)
+{
+    CCsvRows rows(text, file, report);
+    const std::size_t symbol = rows.Column("symbol", true), market = rows.Column("market_id", true);
+    const std::size_t type = rows.Column("security_type_id", true);
+    const std::size_t description = rows.Column("description", false);
+    std::vector<sLISTED_SYMBOL> symbols;
+    while (rows.Next()) {
+        sLISTED_SYMBOL listed;
+        listed.Symbol = rows.Field(symbol);
+        if (listed.Symbol.empty() || listed.Symbol.find(',') != std::string::npos) {
+            rows.Skip(Quoted("symbol is empty or holds a comma:", listed.Symbol));
+            continue;
+        }
+        if (!ReadListId(rows, market, "market_id", listed.MarketId) ||
+            !ReadListId(rows, type, "security_type_id", listed.SecurityTypeId))
+            continue;
+        listed.Description = CutText(rows.Field(description), LongestDescription);
+        if (listed.Description.empty())
+            listed.Description = listed.Symbol;
+        std::replace(listed.Description.begin(), listed.Description.end(), ',', ' ');
+        symbols.push_back(std::move(listed));
+    }
+    return symbols;
+}
+
+bool ReadWholeFile(const std::filesystem::path& path, std::string& text)
+{
+    // Opening a pipe waits for a writer, and the size of a folder is whatever the system makes of it.
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(path, error))
+        return false;
+    std::ifstream file(path, std::ios::binary | std::ios::ate);
+    if (!file)
+        return false;
+    const std::streamoff size = file.tellg();
+    if (size < 0)
+        return false;
+    text.resize(static_cast<std::size_t>(size));
+    file.seekg(0);
+    return static_cast<bool>(file.read(text.data(), size));
+}
+
+} // namespace zantroq::feed

@@ -1,0 +1,159 @@
+#include "feed/server/FeedServer.h"
+
+#include "feed/server/FeedConnections.h"
+
+#include <chrono>
+#include <functional>
+#include <thread>
+
+namespace zantroq::feed {
+
+// Everything that lives from Start to Stop. After construction only the feed's thread touches it, but for
+// Stop's one post.
+class CFeedServer::CRunning
+{
+public:
+    explicit CRunning(const sFEED_OPTIONS& options)
+        : m_catalog(options.Seed, options.OnNotice),
+          m_live{options.SimulateAll, options.ReplayTicks, options.Speed}
+    {
+        if (options.ServeShipped)
+            m_catalog.AddFolder(ShippedDataFolder());
+        for (const auto& folder : options.Folders)
+            m_catalog.AddFolder(folder);
+    }
+
+    ~CRunning()
+    {
+        m_context.stop();
+        if (m_thread.joinable())
+            m_thread.join();
+    }
+
+    bool Open(const sFEED_OPTIONS& options, std::string& error)
+    {
+        return Listen(m_lookup, options.LookupPort, "lookup", error) &&
+               Listen(m_level1, options.Level1Port, "level 1", error);
+    }
+
+    void Run()
+    {
+        Accept(m_lookup);
+        Accept(m_level1);
+        m_thread = std::thread([this] { m_context.run(); });
+    }
+
+    std::uint16_t LookupPort() const { return m_lookup.Port; }
+    std::uint16_t Level1Port() const { return m_level1.Port; }
+
+private:
+    using tcp = asio::ip::tcp;
+
+    // A port and what becomes of those who come through it.
+    struct sDoor
+    {
+        tcp::acceptor Acceptor;
+        asio::steady_timer Pause;
+        std::function<void(tcp::socket)> Start;
+        std::uint16_t Port = 0;
+    };
+
+    bool Listen(sDoor& door, std::uint16_t port, const std::string& name, std::string& error)
+    {
+        tcp::acceptor& acceptor = door.Acceptor;
+        const tcp::endpoint endpoint(asio::ip::address_v4::loopback(), port);
+        std::error_code code;
+        acceptor.open(endpoint.protocol(), code);
+        // A port that a feed has just left is free again at once.
+        if (!code)
+            acceptor.set_option(tcp::acceptor::reuse_address(true), code);
+        if (!code)
+            acceptor.bind(endpoint, code);
+        if (!code)
+            acceptor.listen(asio::socket_base::max_listen_connections, code);
+        if (code) {
+            error = "cannot listen on " + name + " port 127.0.0.1:" + std::to_string(port) + ": " +
+                    code.message() + "; choose another port, or 0 for a free one";
+            return false;
+        }
+        door.Port = acceptor.local_endpoint().port();
+        return true;
+    }
+
+    void Accept(sDoor& door)
+    {
+        door.Acceptor.async_accept([this, &door](std::error_code error, tcp::socket socket) {
+            if (error == asio::error::operation_aborted)
+                return;
+            if (error) {
+                AcceptLater(door);
+                return;
+            }
+            SendAtOnce(socket);
+            door.Start(std::move(socket));
+            Accept(door);
+        });
+    }
+
+    // Most likely no descriptor is left, and asking at once would give the same answer until a client goes.
+    void AcceptLater(sDoor& door)
+    {
+        door.Pause.expires_after(std::chrono::milliseconds(100));
+        door.Pause.async_wait([this, &door](std::error_code error) {
+            if (!error)
+                Accept(door);
+        });
+    }
+
+    static void SendAtOnce(tcp::socket& socket)
+    {
+        std::error_code ignored;
+        socket.set_option(tcp::no_delay(true), ignored);
+    }
+
+    CMarketCatalog m_catalog;
+    const sLIVE_OPTIONS m_live;
+    // Behind the catalog, so that connections still held by the context's handlers go before what they refer
+    // to.
+    asio::io_context m_context{1};
+    sDoor m_lookup{tcp::acceptor(m_context), asio::steady_timer(m_context), [this](tcp::socket socket) {
+                       std::make_shared<CLookupConnection>(std::move(socket), m_catalog)->Start();
+                   }};
+    sDoor m_level1{tcp::acceptor(m_context), asio::steady_timer(m_context), [this](tcp::socket socket) {
+                       std::make_shared<CLevel1Connection>(std::move(socket), m_catalog, m_live)->Start();
+                   }};
+    std::thread m_thread;
+};
+
+CFeedServer::CFeedServer(sFEED_OPTIONS options) : m_options(std::move(options)) {}
+
+CFeedServer::~CFeedServer() = default;
+
+bool CFeedServer::Start(std::string& error)
+{
+    if (m_running)
+        return true;
+    auto running = std::make_unique<CRunning>(m_options);
+    if (!running->Open(m_options, error))
+        return false;
+    running->Run();
+    m_running = std::move(running);
+    return true;
+}
+
+void CFeedServer::Stop()
+{
+    m_running.reset();
+}
+
+std::uint16_t CFeedServer::LookupPort() const
+{
+    return m_running ? m_running->LookupPort() : 0;
+}
+
+std::uint16_t CFeedServer::Level1Port() const
+{
+    return m_running ? m_running->Level1Port() : 0;
+}
+
+} // namespace zantroq::feed

@@ -1,0 +1,56 @@
+// What the bars of a pane's group are made of, and how wide they are. Chart window's thread.
+#pragma once
+
+#include "scene/PaneGeometry.h"
+#include "scene/ValueBlocks.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <span>
+
+namespace zantroq {
+
+struct sBarSource
+{
+    int Type = 0;
+    std::span<const double> High, Low, Open, Close; // bars: High alone
+    sBlockedValues Bars;                            // bars: the same as High
+    ColorValue Up = 0, Down = 0, Outline = 0, Hollow = 0;
+    bool Outlined = false, Filled = true;
+    int Width = 1, Wick = 1, Tick = 0; // device pixels
+    double Origin = 0;
+
+    // From the looks of the group's shown series. `barWidth` is in pane pixels, `scale` in device pixels
+    // each.
+    static sBarSource Of(const CPaneGroup& group, const sPlotMap& map, double scale, int barWidth);
+
+    // Whether a point is one vertical line of a pixel's width.
+    bool IsThin() const { return Width == 1 && Tick == 0 && Wick == 1; }
+    bool IsUp(std::size_t i) const { return Close[i] >= Open[i]; }
+    // Whether all four prices are there.
+    bool IsComplete(std::size_t i) const
+    {
+        return IsDrawn(High[i]) && IsDrawn(Low[i]) && IsDrawn(Open[i]) && IsDrawn(Close[i]);
+    }
+};
+
+// The pixel rows from one value to another, Bottom exclusive; they may lie outside the plot.
+struct sRowSpan
+{
+    sRowSpan(const CAxisMap& map, double a, double b)
+    {
+        const int first = map.Pixel(a), second = map.Pixel(b);
+        Top = std::min(first, second);
+        Bottom = std::max(first, second) + 1;
+    }
+    // What of it lies in the plot.
+    bool CutTo(const sPixelRect& plot)
+    {
+        Top = std::max(Top, plot.Top);
+        Bottom = std::min(Bottom, plot.Bottom);
+        return Top < Bottom;
+    }
+    int Top, Bottom;
+};
+
+} // namespace zantroq

@@ -1,0 +1,15 @@
+// A piece of ink in one color.
+#pragma once
+
+#include "platform/Color.h"
+
+namespace zantroq {
+
+struct sInkRect
+{
+    int Left, Top, Right, Bottom; // device pixels, Right and Bottom exclusive, inside the plot
+    ColorValue Color;
+    bool operator==(const sInkRect&) const = default;
+};
+
+} // namespace zantroq

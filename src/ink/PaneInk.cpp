@@ -1,0 +1,224 @@
+#include "ink/PaneInk.h"
+
+#include "ink/BarInk.h"
+#include "ink/InkStyle.h"
+#include "ink/ThinBarInk.h"
+
+#include <utility>
+
+namespace zantroq {
+
+bool CPaneInk::sLook::operator==(const sLook& other) const
+{
+    return Plot.Left == other.Plot.Left && Plot.Top == other.Plot.Top && Plot.Right == other.Plot.Right &&
+           Plot.Bottom == other.Plot.Bottom && X == other.X && Y == other.Y && Scale == other.Scale &&
+           Origin == other.Origin && Styles == other.Styles;
+}
+
+CPaneInk::sLook CPaneInk::LookOf(const CChart2D& chart, const sPlotMap& map, double scale) const
+{
+    const CPaneGroup& group = chart.PaneGroups(m_group);
+    const CPaneData& data = group.PaneData();
+    sLook look{map.Plot, map.X, map.Y, scale, m_origin, {}};
+    const auto add = [&](auto value) { look.Styles.push_back(static_cast<std::uint32_t>(value)); };
+    add(group.Type());
+    add(m_barWidth);
+    add(m_filledCandles);
+    add(m_hollow);
+    add(data.FirstVisible());
+    add(data.LastVisible());
+    for (int series = data.FirstVisible(); series <= data.LastVisible(); ++series) {
+        const CSeriesStyle& style = StyleOf(group, series);
+        add(style.LineLook().Pattern());
+        add(style.LineLook().LineColor());
+        add(style.LineLook().Width());
+        add(style.FillLook().FillColor());
+        add(style.SymbolLook().Shape());
+        add(style.SymbolLook().SymbolColor());
+        add(style.SymbolLook().Size());
+    }
+    return look;
+}
+
+bool CPaneInk::HasBars(const CPaneGroup& group) const
+{
+    const int series = group.PaneData().LastVisible() - group.PaneData().FirstVisible() + 1;
+    return (IsBarType(group.Type()) && series >= 1) || (IsPriceType(group.Type()) && series >= 4);
+}
+
+CPaneInk::sDamage CPaneInk::Update(const CChart2D& chart, const sPlotMap& map, double scale)
+{
+    const CPaneGroup& group = chart.PaneGroups(m_group);
+    const CPaneData& data = group.PaneData();
+    const CPaneArea& area = chart.PaneArea();
+    const CAxisBound& origin = area.PaneAxes().Y().AxisOrigin();
+    m_origin = origin.Automatic() || !IsDrawn(origin.Value()) ? 0.0 : origin.Value();
+    m_barWidth = area.BarLook().BarWidth();
+    m_filledCandles = area.CandleLook().Filled();
+    m_hollow = area.PlotBackground(chart.PaneInterior());
+    m_scale = scale;
+    m_hasBars = HasBars(group);
+    m_histogram = IsBarType(group.Type());
+    sLook look = LookOf(chart, map, scale);
+    const sPointChanges changes = data.ChangesSince(m_revision);
+    const bool known = m_drawn && look == m_look;
+    const std::uint64_t since = std::exchange(m_revision, data.Revision());
+    if (known && !changes.Whole && changes.Last < changes.First)
+        return {};
+    m_map = map;
+    m_look = std::move(look);
+    m_points = CPointColumns(data, map.X);
+    if (known && !changes.Whole) {
+        const auto first = static_cast<std::size_t>(changes.First - 1);
+        // From the point before to the one behind: lines lead from the one and to the other.
+        const double* x = data.X().data();
+        const std::size_t last = std::min(static_cast<std::size_t>(changes.Last), data.X().size() - 1);
+        const int reach = m_widest + 1;
+        if (m_points.InOrder() && DrawTail(group, first))
+            return {false, std::max(m_map.Plot.Left, m_map.X.Pixel(x[first > 0 ? first - 1 : 0]) - reach),
+                    std::min(m_map.Plot.Right, m_map.X.Pixel(x[last]) + reach + 1)};
+    }
+    if (!known || !DrawChangedLines(group, since))
+        DrawAll(group);
+    m_drawn = true;
+    return {true, m_map.Plot.Left, m_map.Plot.Right};
+}
+
+bool CPaneInk::IsCrowded() const
+{
+    return m_detail != InkDetail::EveryPoint && m_ascending && m_map.X.PixelsPerUnit() < 0.5;
+}
+
+// Whether a column holds several blocks of points.
+bool CPaneInk::UsesBlocks() const
+{
+    return IsCrowded() && m_map.X.PixelsPerUnit() * 3 * sBlockedValues::BlockSize < 1;
+}
+
+void CPaneInk::DrawAll(const CPaneGroup& group)
+{
+    m_rects.clear();
+    CutColumns(0);
+    m_lines.clear();
+    m_lineSeries.clear();
+    m_widest = 1;
+    m_ascending = m_points.InOrder();
+    if (m_map.Empty())
+        return;
+    if (HasBars(group))
+        DrawBars(group, 0);
+    else
+        DrawLines(group);
+}
+
+// Draws the points behind firstPoint anew; false when everything has to be drawn.
+bool CPaneInk::DrawTail(const CPaneGroup& group, std::size_t firstPoint)
+{
+    if (m_map.Empty())
+        return true;
+    if (HasBars(group))
+        return DrawBars(group, firstPoint);
+    // Marks are not kept point by point; a series can have them without a line.
+    for (int series = group.PaneData().FirstVisible(); series <= group.PaneData().LastVisible(); ++series)
+        if (StyleOf(group, series).SymbolLook().Shape() != SymbolNone)
+            return false;
+    for (const int series : m_lineSeries)
+        if (series == 0)
+            return false;
+    if (!m_rects.empty())
+        return false;
+    for (std::size_t i = 0; i < m_lines.size(); ++i)
+        DrawLine(group, m_lineSeries[i], m_lines[i].Level ? 0 : firstPoint, m_lines[i]);
+    return true;
+}
+
+bool CPaneInk::DrawBars(const CPaneGroup& group, std::size_t firstPoint)
+{
+    const CPaneData& data = group.PaneData();
+    if (UsesBlocks() && IsBarType(group.Type()))
+        data.LearnBlocks(data.FirstVisible());
+    sBarSource source = sBarSource::Of(group, m_map, m_scale, m_barWidth);
+    source.Origin = m_origin;
+    source.Filled = m_filledCandles;
+    source.Hollow = m_hollow;
+    m_widest = source.Width + 2 * source.Tick;
+    std::size_t i = data.FirstDrawn(data.FirstVisible());
+    if (firstPoint == 0) {
+        CutColumns(0);
+    } else {
+        // Back to the column of the first changed point.
+        const int column = m_points.IsPlaced(firstPoint) ? m_points.ColumnOf(firstPoint) : 0;
+        std::size_t kept = m_columns.size();
+        while (kept > 0 && m_columns[kept - 1].Column >= column)
+            --kept;
+        CutColumns(kept);
+        i = m_points.First(i, column);
+    }
+    const std::size_t columns = m_columns.size();
+    if (!source.IsThin() || !m_ascending || m_detail == InkDetail::EveryPoint) {
+        DrawWideBars(source, i);
+    } else if (!DrawThinBars(source, i, false)) {
+        CutColumns(columns);
+        DrawThinBars(source, i, true);
+    }
+    return true;
+}
+
+// Keeps the first columns and their ink.
+void CPaneInk::CutColumns(std::size_t count)
+{
+    if (count >= m_columns.size())
+        return;
+    m_rects.resize(m_columns[count].FirstRect);
+    m_inkColumns.Cut(m_columns[count].FirstInkColumn);
+    m_columns.resize(count);
+}
+
+// Whether a column begins that has no ink yet.
+bool CPaneInk::BeginsColumn(int column) const
+{
+    return m_columns.empty() || m_columns.back().Column != column;
+}
+
+void CPaneInk::DrawWideBars(const sBarSource& source, std::size_t i)
+{
+    CBarInk ink(source, m_map, m_rects);
+    for (; i < m_points.Count(); ++i) {
+        if (!m_points.IsPlaced(i))
+            continue;
+        const int column = m_points.ColumnOf(i);
+        if (column < m_map.Plot.Left - m_widest || column >= m_map.Plot.Right + m_widest)
+            continue;
+        if (BeginsColumn(column))
+            m_columns.push_back({column, i, m_rects.size(), 0});
+        ink.Draw(i, column);
+    }
+}
+
+// False when a point turned out to lack a value; only with examineAll are all values looked at in time.
+bool CPaneInk::DrawThinBars(const sBarSource& source, std::size_t i, bool examineAll)
+{
+    CThinBarInk ink(source, m_map, m_rects, m_inkColumns);
+    if (examineAll)
+        ink.ExamineAll();
+    if (m_detail == InkDetail::PointByPoint)
+        ink.GoPointByPoint();
+    for (std::size_t end = i; i < m_points.Count(); i = end) {
+        end = i + 1;
+        if (!m_points.IsPlaced(i))
+            continue;
+        const int column = m_points.ColumnOf(i);
+        end = m_points.End(i, column);
+        if (end - i > 8)
+            ink.Foresee(end, end - i);
+        if (column < m_map.Plot.Left || column >= m_map.Plot.Right)
+            continue;
+        const std::size_t inkColumns = m_inkColumns.Columns().size();
+        ink.Draw(i, end, column);
+        if (BeginsColumn(column)) // its rectangles come behind those of the column before
+            m_columns.push_back({column, i, m_rects.size(), inkColumns});
+    }
+    return ink.Finish();
+}
+
+} // namespace zantroq

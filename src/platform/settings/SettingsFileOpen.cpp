@@ -1,0 +1,310 @@
+// The connection of a settings file: opening, the check of what is in it, creating it, and what is said when
+// something fails.
+#include "platform/settings/SettingsFile.h"
+
+#include "platform/settings/SettingsFileLook.h"
+#include "platform/settings/SettingsStatement.h"
+
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
+
+namespace zantroq {
+namespace {
+
+constexpr int FormatVersion = 1;
+
+constexpr const char* TableText =
+    "CREATE TABLE IF NOT EXISTS setting("
+    "key TEXT NOT NULL, name TEXT NOT NULL, type INTEGER NOT NULL, value NOT NULL, "
+    "PRIMARY KEY(key, name)) WITHOUT ROWID";
+
+// Folders of settings are private to their user, so create_directories, which gives no say in the mode, will
+// not do.
+bool MakeFolders(const std::filesystem::path& folder)
+{
+    if (folder.empty() || ::mkdir(folder.c_str(), 0700) == 0 || errno == EEXIST)
+        return true;
+    if (errno != ENOENT || folder == folder.root_path() || !MakeFolders(folder.parent_path()))
+        return false;
+    return ::mkdir(folder.c_str(), 0700) == 0 || errno == EEXIST;
+}
+
+} // namespace
+
+// After this a read may look for values if the answer is true, and a write may go ahead.
+bool CSettingsFile::Open(Access access)
+{
+    if (m_path.empty())
+        throw CSettingsFileError(
+            SettingsProblem::NoPlace,
+            "no place for the settings file: neither ZANTROQ_SETTINGS, XDG_CONFIG_HOME nor "
+            "HOME is set; set one of them");
+    if (m_db && (m_reopen || m_frozen || !SameFile()))
+        Close();
+    if (!m_db) {
+        struct stat about
+        {
+        };
+        const bool exists = ::stat(m_path.c_str(), &about) == 0;
+        if (!exists && errno == ENOTDIR)
+            throw CSettingsFileError(
+                access == Access::Write ? SettingsProblem::Unwritable : SettingsProblem::Unreadable,
+                m_path + ": the settings file cannot be made there, because a part of its path is no folder; "
+                         "set ZANTROQ_SETTINGS to another place");
+        if (!exists && errno != ENOENT)
+            throw CSettingsFileError(SettingsProblem::Unreadable,
+                                     m_path + ": the settings file cannot be reached (" +
+                                         std::strerror(errno) + "); check its permissions");
+        if (exists && !S_ISREG(about.st_mode))
+            throw CSettingsFileError(SettingsProblem::Unreadable,
+                                     m_path + ": not a plain file; set ZANTROQ_SETTINGS to a settings file");
+        if (!exists && access == Access::Read)
+            return false;
+        if (!exists && !MakeFolders(std::filesystem::path(m_path).parent_path()))
+            throw CSettingsFileError(SettingsProblem::Unwritable,
+                                     m_path + ": the folder of the settings file cannot be made (" +
+                                         std::strerror(errno) +
+                                         "); set ZANTROQ_SETTINGS to "
+                                         "a place that can be written");
+        OpenHandle(access, exists);
+    }
+    if (access == Access::Write && m_frozen)
+        Fail(SQLITE_READONLY, access);
+    if (access == Access::Write && !m_hasTable)
+        CreateContents();
+    if (!m_hasTable) // another process may have filled an empty file since
+        CheckContents(access);
+    if (m_hasTable)
+        sqlite3_db_config(m_db, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 0, nullptr);
+    return m_hasTable;
+}
+
+void CSettingsFile::OpenHandle(Access access, bool exists)
+{
+    const std::string followed = FollowedPath(m_path);
+    if (exists)
+        RefuseByLook(followed);
+    // A file that cannot be written is read without locks and without the two side files, which could not be
+    // made or would be left behind. Where a log is pending it must be read through the ordinary door, and
+    // where that is closed, in a copy.
+    const bool hasLog = exists && HasPendingLog(followed);
+    const bool freeze = exists && !hasLog && ::access(m_path.c_str(), W_OK) != 0;
+    try {
+        OpenDoor(freeze ? Door::Frozen : Door::Ordinary, m_path, access);
+        return;
+    } catch (const CSettingsFileError& error) {
+        Close();
+        const bool closedDoor =
+            error.Problem == SettingsProblem::Unreadable || error.Problem == SettingsProblem::Unwritable;
+        if (freeze || !exists || access == Access::Write || !closedDoor)
+            throw;
+    }
+    try {
+        if (hasLog)
+            OpenCopy(followed);
+        else
+            OpenDoor(Door::Frozen, m_path, access);
+    } catch (...) {
+        Close();
+        throw;
+    }
+}
+
+void CSettingsFile::OpenDoor(Door door, const std::string& path, Access access)
+{
+    m_frozen = door == Door::Frozen;
+    const int flags = m_frozen ? SQLITE_OPEN_READONLY | SQLITE_OPEN_URI
+                               : SQLITE_OPEN_READWRITE | (access == Access::Write ? SQLITE_OPEN_CREATE : 0);
+    const int code = sqlite3_open_v2((m_frozen ? FrozenAddress(path) : path).c_str(), &m_db,
+                                     flags | SQLITE_OPEN_NOMUTEX, nullptr);
+    if (code != SQLITE_OK) {
+        const int detail = m_db ? sqlite3_extended_errcode(m_db) : code;
+        Close();
+        Fail(detail, access);
+    }
+    sqlite3_extended_result_codes(m_db, 1);
+    sqlite3_busy_timeout(m_db, static_cast<int>(m_patience.count()));
+    // The file may come from anywhere; nothing in it may run.
+    sqlite3_db_config(m_db, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+    sqlite3_db_config(m_db, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+    sqlite3_db_config(m_db, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
+    sqlite3_db_config(m_db, SQLITE_DBCONFIG_ENABLE_VIEW, 0, nullptr);
+    // Until the file is known for one of ours, its log must survive the closing.
+    if (HasPendingLog(FollowedPath(path)))
+        sqlite3_db_config(m_db, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+    struct stat about
+    {
+    };
+    if (::stat(m_path.c_str(), &about) == 0) {
+        m_device = about.st_dev;
+        m_inode = about.st_ino;
+    }
+    Execute("PRAGMA synchronous=NORMAL", access);
+    CheckContents(access);
+}
+
+// The copy is gone from its folder with this call; the connection goes on reading it.
+void CSettingsFile::OpenCopy(const std::string& followed)
+{
+    const CSettingsCopy copy(followed);
+    if (copy.Path().empty())
+        throw CSettingsFileError(SettingsProblem::Unreadable,
+                                 m_path + ": the settings file cannot be read together with the log beside "
+                                          "it; allow reading both, and writing to their folder");
+    OpenDoor(Door::Ordinary, copy.Path(), Access::Read);
+    m_frozen = true;
+}
+
+// Refuses by its first bytes what must not even be opened.
+void CSettingsFile::RefuseByLook(const std::string& followed)
+{
+    switch (LookAtSettings(followed)) {
+    case SettingsLook::Usable:
+        return;
+    case SettingsLook::Noise:
+        Fail(SQLITE_NOTADB, Access::Read);
+    case SettingsLook::CutOff:
+        throw CSettingsFileError(SettingsProblem::Damaged,
+                                 m_path +
+                                     ": the settings file is damaged (it is empty, but a log beside it is "
+                                     "not); both were left as they are, move them away or restore a copy");
+    case SettingsLook::Foreign:
+        FailForeign();
+    }
+}
+
+// Refuses what must not be written to, before anything is.
+void CSettingsFile::CheckContents(Access access)
+{
+    if (CStatement check(*this, access, "PRAGMA quick_check(1)"); check.Step() && check.TextAt(0) != "ok")
+        Fail(SQLITE_CORRUPT, access);
+    const auto number = [&](const char* sql) {
+        CStatement statement(*this, access, sql);
+        return statement.Step() ? statement.NumberAt(0) : 0;
+    };
+    const auto objects = number("SELECT count(*) FROM sqlite_master");
+    const auto application = number("PRAGMA application_id");
+    m_hasTable = false;
+    if (objects == 0 && (application == 0 || application == SettingsApplicationId))
+        return;
+    if (application != SettingsApplicationId ||
+        number("SELECT count(*) FROM sqlite_master WHERE type = 'table' AND name = 'setting'") != 1)
+        FailForeign();
+    if (const auto version = number("PRAGMA user_version"); version != FormatVersion)
+        throw CSettingsFileError(SettingsProblem::NotSettings,
+                                 m_path + ": the settings file has format " + std::to_string(version) +
+                                     ", and this program knows format " + std::to_string(FormatVersion) +
+                                     "; use a newer program");
+    m_hasTable = true;
+}
+
+void CSettingsFile::CreateContents()
+{
+    // Going over to write-ahead mode does not wait for other processes by itself, and two may be creating the
+    // file at once.
+    const auto deadline = std::chrono::steady_clock::now() + m_patience;
+    for (;;) {
+        const int code = sqlite3_exec(m_db, "PRAGMA journal_mode=WAL", nullptr, nullptr, nullptr);
+        if (code == SQLITE_OK)
+            break;
+        if ((code & 0xFF) != SQLITE_BUSY || std::chrono::steady_clock::now() >= deadline)
+            Fail(sqlite3_extended_errcode(m_db), Access::Write);
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+    CTransaction transaction(*this);
+    CheckContents(Access::Write);
+    if (!m_hasTable) {
+        Execute(TableText, Access::Write);
+        Execute(("PRAGMA application_id=" + std::to_string(SettingsApplicationId)).c_str(), Access::Write);
+        Execute(("PRAGMA user_version=" + std::to_string(FormatVersion)).c_str(), Access::Write);
+    }
+    transaction.Commit();
+    m_hasTable = true;
+}
+
+void CSettingsFile::Close()
+{
+    for (const auto& [sql, statement] : m_statements)
+        sqlite3_finalize(statement);
+    m_statements.clear();
+    sqlite3_close(m_db);
+    m_db = nullptr;
+    m_hasTable = false;
+    m_reopen = false;
+}
+
+bool CSettingsFile::SameFile() const
+{
+    struct stat about
+    {
+    };
+    return ::stat(m_path.c_str(), &about) == 0 && about.st_dev == m_device && about.st_ino == m_inode;
+}
+
+void CSettingsFile::Execute(const char* sql, Access access)
+{
+    if (sqlite3_exec(m_db, sql, nullptr, nullptr, nullptr) != SQLITE_OK)
+        Fail(sqlite3_extended_errcode(m_db), access);
+}
+
+sqlite3_stmt* CSettingsFile::Prepared(const char* sql, Access access)
+{
+    if (const auto found = m_statements.find(sql); found != m_statements.end())
+        return found->second;
+    sqlite3_stmt* statement = nullptr;
+    if (sqlite3_prepare_v3(m_db, sql, -1, SQLITE_PREPARE_PERSISTENT, &statement, nullptr) != SQLITE_OK)
+        Fail(sqlite3_extended_errcode(m_db), access);
+    m_statements.emplace(sql, statement);
+    return statement;
+}
+
+void CSettingsFile::FailForeign()
+{
+    throw CSettingsFileError(
+        SettingsProblem::NotSettings,
+        m_path + ": this data base is not a settings file; set ZANTROQ_SETTINGS to another file");
+}
+
+void CSettingsFile::Fail(int code, Access access)
+{
+    // Whatever went wrong, the next call starts with a fresh look at the file. Not here: statements may be in
+    // use.
+    m_reopen = true;
+    const std::string reason = std::string(" (") + sqlite3_errstr(code) + ")";
+    switch (code & 0xFF) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        throw CSettingsFileError(
+            SettingsProblem::Locked,
+            m_path + ": the settings file is locked by another process; try again when that is done");
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+        throw CSettingsFileError(SettingsProblem::Damaged,
+                                 m_path + ": the settings file is damaged" + reason +
+                                     "; it was left as it is, move it away or restore a copy");
+    case SQLITE_READONLY:
+        if (access == Access::Read)
+            throw CSettingsFileError(SettingsProblem::Unreadable,
+                                     m_path + ": the settings file cannot be read" + reason +
+                                         "; allow writing to it and to its folder");
+        throw CSettingsFileError(
+            SettingsProblem::Unwritable,
+            m_path + ": the settings file is read-only; allow writing to it and to its folder");
+    case SQLITE_FULL:
+        throw CSettingsFileError(SettingsProblem::Unwritable,
+                                 m_path + ": the disk of the settings file is full; make room on it");
+    default:
+        if (access == Access::Write)
+            throw CSettingsFileError(SettingsProblem::Unwritable,
+                                     m_path + ": the settings file cannot be written" + reason +
+                                         "; check the permissions of it and its folder");
+        throw CSettingsFileError(SettingsProblem::Unreadable, m_path + ": the settings file cannot be read" +
+                                                                  reason + "; check its permissions");
+    }
+}
+
+} // namespace zantroq

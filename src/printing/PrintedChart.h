@@ -1,0 +1,27 @@
+// A chart window as the print command sees it. Chart window's thread.
+#pragma once
+
+#include "printing/ChartPrinting.h"
+
+namespace zantroq {
+
+class CChartDlg;
+
+class CPrintedChart : public IPrintedChart
+{
+public:
+    explicit CPrintedChart(CChartDlg& window) : m_window(window) {} // not owned
+
+    int ShownPanes() const override;
+    const CChart2D& Pane(int pane) const override;
+    sPaneSize ClientSize(int pane) const override;
+    std::string Symbol() const override;
+    const sRequestSettings& Request() const override;
+    void SetStatusText(const std::string& text) override;
+    void EnableDrawChart(bool enabled) override;
+
+private:
+    CChartDlg& m_window;
+};
+
+} // namespace zantroq

@@ -1,0 +1,94 @@
+// The chart window's widget: bars above, panes between, scroll bar and status bar below. It gives the chart
+// window its services and turns events into calls of it; where things stand is the chart window's to say.
+// Chart window's thread.
+#pragma once
+
+#include "qt/widgets/ChartBars.h"
+#include "qt/widgets/ChartScrollBar.h"
+#include "qt/widgets/ContextMenuPopup.h"
+#include "qt/widgets/PaneWidget.h"
+#include "qt/widgets/StatusLine.h"
+#include "qt/widgets/TopLevelWindow.h"
+#include "qt/widgets/WindowTimer.h"
+
+#include <QWidget>
+
+#include <array>
+
+namespace zantroq {
+
+class CChartDlg;
+
+class CChartView : public QWidget, public IPaneHost, public IPointerFeedback, private IPaneEvents
+{
+public:
+    explicit CChartView(QWidget* parent);
+    ~CChartView() override;
+
+    // The box and the menu are a person's or a script's; the rest is this widget's.
+    sWindowServices Services(IMessageBox& box, IContextMenu& menu);
+    // From here on events go to the window, until Detach. Makes the widgets of its panes.
+    void Attach(CChartDlg& window);
+    void Detach();
+
+    CChartBars& Bars() { return *m_bars; }
+    CStatusLine& Status() { return *m_status; }
+    CChartScrollBar& Scroll() { return *m_scroll; }
+    CPaneWidget* Pane(int number) { return m_panes.at(static_cast<std::size_t>(number)); }
+    CContextMenuPopup& Menu() { return m_menu; }
+
+    // Wheel, arrow keys, Ctrl with +, - and P, F10 and the menu key. On unless the host switches them off.
+    void SetConveniences(bool on) { m_conveniences = on; }
+    bool Conveniences() const { return m_conveniences; }
+
+    bool MayRun(int command) const; // enabled, and no chart is being loaded
+    void RunCommand(int command);   // if it may run
+
+    // Client size of the chart window, shown or not.
+    void SetClientSize(int width, int height);
+
+    // IPaneHost
+    int ClientWidth() const override { return width(); }
+    int ClientHeight() const override { return height(); }
+    int ToolBarHeight() const override { return m_barHeight; }
+    void PlacePane(int pane, bool visible, int left, int top, int width, int height) override;
+    void PlaceBars(int scrollTop, int statusTop) override;
+    void SetControlsEnabled(bool enabled) override;
+
+    // IPointerFeedback
+    void SetCursor(CursorShape shape) override;
+    void ShowDragLine(int y) override;
+    void HideDragLine() override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void PaneMouseDown(int control, int button, int shift, int x, int y) override;
+    void PaneMouseMove(int control, int button, int shift, int x, int y) override;
+    void PaneMouseUp(int control, int button, int shift, int x, int y) override;
+    void PaneKey(int control, int code) override;
+
+    void LayOut();
+    void OpenMenuByKey();
+    bool MayScroll() const;
+
+    CChartBars* m_bars;
+    CChartScrollBar* m_scroll;
+    CStatusLine* m_status;
+    QWidget* m_dragLine;
+    std::array<CPaneWidget*, 11> m_panes{};
+    CWindowTimer m_timer;
+    CTopLevelWindow m_top;
+    CContextMenuPopup m_menu;
+    CChartDlg* m_window = nullptr; // not owned
+    int m_barHeight = 0;
+    int m_wheel = 0; // eighths of a degree not yet turned into a notch
+    bool m_conveniences = true;
+};
+
+} // namespace zantroq

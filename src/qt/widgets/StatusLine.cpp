@@ -1,0 +1,124 @@
+#include "qt/widgets/StatusLine.h"
+
+#include "qt/widgets/BarFont.h"
+
+#include <QHelpEvent>
+#include <QLocale>
+#include <QPainter>
+#include <QToolTip>
+
+#include <algorithm>
+#include <utility>
+
+namespace zantroq {
+namespace {
+
+constexpr int Padding = 6;
+constexpr int Narrowest = 62; // percent of a letter's width
+constexpr int Readable = 78;  // percent; a last trade is shortened before its letters get narrower
+constexpr int Smallest = 10;  // pixels of a letter's height
+
+// The two narrow parts squeeze their letters, then make them smaller, before they cut.
+QFont FittingFont(const QFont& font, const QString& text, int width)
+{
+    const int wanted = QFontMetrics(font).horizontalAdvance(text);
+    if (wanted <= width || width <= 0)
+        return font;
+    QFont squeezed = font;
+    // Not every desktop makes the letters as narrow as was asked for.
+    for (int stretch = 100 * width / wanted;
+         stretch > Narrowest && QFontMetrics(squeezed).horizontalAdvance(text) > width; stretch -= 3)
+        squeezed.setStretch(stretch);
+    while (QFontMetrics(squeezed).horizontalAdvance(text) > width && squeezed.pixelSize() > Smallest)
+        squeezed.setPixelSize(squeezed.pixelSize() - 1);
+    return squeezed;
+}
+
+// With letters that are still easy to read.
+bool Fits(const QFont& font, const QString& text, int width)
+{
+    return QFontMetrics(font).horizontalAdvance(text) * Readable <= 100 * width;
+}
+
+QString ShortNumber(double number)
+{
+    for (const auto& [unit, letter] : {std::pair(1e9, 'B'), std::pair(1e6, 'M'), std::pair(1e3, 'K')})
+        if (number >= unit)
+            return QLocale::c().toString(number / unit, 'f', number < 10 * unit ? 1 : 0) + letter;
+    return QLocale::c().toString(number, 'f', 0);
+}
+
+} // namespace
+
+QString CStatusLine::ShortTrade(const QString& text, const QFont& font, int width)
+{
+    const qsizetype mark = text.lastIndexOf(" x ");
+    bool number = false;
+    const double size = mark < 0 ? 0 : QLocale::c().toDouble(text.mid(mark + 3), &number);
+    if (!number || Fits(font, text, width))
+        return text;
+    const QString price = text.left(mark);
+    const QString shorter = price + " x " + ShortNumber(size);
+    return Fits(font, shorter, width) ? shorter : price;
+}
+
+CStatusLine::CStatusLine(QWidget* parent) : QWidget(parent)
+{
+    setFont(BarFont());
+    setAccessibleName("Status bar");
+}
+
+QRect CStatusLine::PartRect(int part, int width)
+{
+    const std::array<int, 4> edges{0, width - 158, width - 73, width};
+    const auto index = static_cast<std::size_t>(part);
+    return QRect(edges.at(index), 0, edges.at(index + 1) - edges.at(index), LineHeight);
+}
+
+void CStatusLine::SetPart(int part, const std::string& text)
+{
+    QString& shown = m_texts.at(static_cast<std::size_t>(part));
+    const QString wanted = QString::fromStdString(text);
+    if (shown == wanted)
+        return;
+    shown = wanted;
+    setAccessibleDescription(m_texts[0]);
+    update(PartRect(part, width()));
+}
+
+void CStatusLine::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), palette().color(QPalette::Window));
+    const QColor line = BarLineColor(palette());
+    painter.fillRect(0, 0, width(), 1, line);
+    painter.setPen(palette().color(QPalette::WindowText));
+    for (int part = 0; part < 3; ++part) {
+        const QRect room = PartRect(part, width());
+        if (part > 0)
+            painter.fillRect(room.left(), 4, 1, LineHeight - 7, line);
+        const int padding = part == 0 ? Padding : Padding / 2;
+        const QRect inner = room.adjusted(padding, 1, -padding, 0);
+        const QString& whole = m_texts[static_cast<std::size_t>(part)];
+        const QString text = part == 2 ? ShortTrade(whole, font(), inner.width()) : whole;
+        const QFont shown = part == 0 ? font() : FittingFont(font(), text, inner.width());
+        painter.setFont(shown);
+        painter.drawText(inner, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                         QFontMetrics(shown).elidedText(text, Qt::ElideRight, inner.width()));
+    }
+}
+
+bool CStatusLine::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::event(event);
+    const auto* help = static_cast<QHelpEvent*>(event);
+    for (int part = 0; part < 3; ++part) {
+        const QString& text = m_texts[static_cast<std::size_t>(part)];
+        if (PartRect(part, width()).contains(help->pos()) && !text.isEmpty())
+            QToolTip::showText(help->globalPos(), text, this);
+    }
+    return true;
+}
+
+} // namespace zantroq

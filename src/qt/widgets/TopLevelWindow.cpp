@@ -1,0 +1,59 @@
+#include "qt/widgets/TopLevelWindow.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWidget>
+
+namespace zantroq {
+namespace {
+
+sWindowRect FromRect(const QRect& rect)
+{
+    return {rect.left(), rect.top(), rect.left() + rect.width(), rect.top() + rect.height()};
+}
+
+} // namespace
+
+// The toolkit takes "[*]" for its mark of changed documents, and two of them for the text.
+std::string CTopLevelWindow::Title() const
+{
+    QString text = m_inside.window()->windowTitle();
+    return text.replace("[*][*]", "[*]").toStdString();
+}
+
+void CTopLevelWindow::SetTitle(const std::string& title)
+{
+    QString text = QString::fromStdString(title);
+    m_inside.window()->setWindowTitle(text.replace("[*]", "[*][*]"));
+}
+
+sWindowRect CTopLevelWindow::NormalRect() const
+{
+    const QWidget& window = *m_inside.window();
+    const QRect normal = window.normalGeometry();
+    const bool restored = !window.isMaximized() && !window.isFullScreen() && !window.isMinimized();
+    return FromRect(restored || normal.isEmpty() ? window.geometry() : normal);
+}
+
+bool CTopLevelWindow::Maximized() const
+{
+    return m_inside.window()->isMaximized();
+}
+
+void CTopLevelWindow::MoveTo(const sWindowRect& rect)
+{
+    m_inside.window()->setGeometry(rect.Left, rect.Top, rect.Right - rect.Left, rect.Bottom - rect.Top);
+}
+
+void CTopLevelWindow::Maximize()
+{
+    m_inside.window()->setWindowState(m_inside.window()->windowState() | Qt::WindowMaximized);
+}
+
+sWindowRect CTopLevelWindow::VirtualScreen() const
+{
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen != nullptr ? FromRect(screen->virtualGeometry()) : sWindowRect{0, 0, 1024, 768};
+}
+
+} // namespace zantroq
