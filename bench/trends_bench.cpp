@@ -59,8 +59,10 @@ struct sTrendPane
         area.CandleLook().SetFilled(true);
         bars.SeriesStyles(2).FillLook().SetColor(0x3c8c1e);
         bars.SeriesStyles(3).FillLook().SetColor(0x2828d2);
-        const std::span<double> high = bars.PaneData().WholeY(1), low = bars.PaneData().WholeY(2),
-                                open = bars.PaneData().WholeY(3), close = bars.PaneData().WholeY(4);
+        const std::span<double> high = bars.PaneData().YForOverwrite(1),
+                                low = bars.PaneData().YForOverwrite(2),
+                                open = bars.PaneData().YForOverwrite(3),
+                                close = bars.PaneData().YForOverwrite(4);
         std::uint32_t state = 12345;
         const auto next = [&] {
             state = state * 1664525u + 1013904223u;
@@ -76,7 +78,7 @@ struct sTrendPane
         }
         CPaneGroup& curves = window.pane.PaneGroups(2);
         for (int series = 1; series <= 3; ++series) {
-            const std::span<double> y = curves.PaneData().WholeY(series);
+            const std::span<double> y = curves.PaneData().YForOverwrite(series);
             std::copy(close.begin(), close.end(), y.begin());
         }
         bars.CommitPaneData();

@@ -1,6 +1,6 @@
 #include "drawing/BollingerBands.h"
 
-#include "platform/Lanes.h"
+#include "platform/DoublePair.h"
 #include "scene/PaneObjects.h"
 
 #include <algorithm>
@@ -15,19 +15,19 @@ void SquareSums(const double* values, int length, std::span<const double> middle
 {
     const std::size_t count = squares.size();
     std::size_t k = 0;
-    for (; k + LaneBlock <= count; k += LaneBlock) {
-        Lanes sum[LaneParts] = {};
-        Lanes centre[LaneParts];
-        for (std::size_t part = 0; part < LaneParts; ++part)
-            centre[part] = LoadLanes(middle.data() + k + part * LaneWidth);
+    for (; k + PairBlock <= count; k += PairBlock) {
+        DoublePair sum[PairsAtATime] = {};
+        DoublePair centre[PairsAtATime];
+        for (std::size_t part = 0; part < PairsAtATime; ++part)
+            centre[part] = LoadPair(middle.data() + k + part * PairWidth);
         for (int j = 0; j < length; ++j)
-            for (std::size_t part = 0; part < LaneParts; ++part) {
-                const Lanes distance =
-                    LoadLanes(values + k + static_cast<std::size_t>(j) + part * LaneWidth) - centre[part];
+            for (std::size_t part = 0; part < PairsAtATime; ++part) {
+                const DoublePair distance =
+                    LoadPair(values + k + static_cast<std::size_t>(j) + part * PairWidth) - centre[part];
                 sum[part] += distance * distance;
             }
-        for (std::size_t part = 0; part < LaneParts; ++part)
-            StoreLanes(squares.data() + k + part * LaneWidth, sum[part]);
+        for (std::size_t part = 0; part < PairsAtATime; ++part)
+            StorePair(squares.data() + k + part * PairWidth, sum[part]);
     }
     for (; k < count; ++k) {
         double sum = 0;

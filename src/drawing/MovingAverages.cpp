@@ -1,6 +1,6 @@
 #include "drawing/MovingAverages.h"
 
-#include "platform/Lanes.h"
+#include "platform/DoublePair.h"
 #include "scene/PaneObjects.h"
 
 #include <algorithm>
@@ -29,15 +29,15 @@ void WindowMeans(const double* values, int length, std::span<double> means)
 {
     const std::size_t count = means.size();
     const auto divisor = static_cast<double>(length);
-    const Lanes divisors{divisor, divisor};
+    const DoublePair divisors{divisor, divisor};
     std::size_t k = 0;
-    for (; k + LaneBlock <= count; k += LaneBlock) {
-        Lanes sum[LaneParts] = {};
+    for (; k + PairBlock <= count; k += PairBlock) {
+        DoublePair sum[PairsAtATime] = {};
         for (int j = 0; j < length; ++j)
-            for (std::size_t part = 0; part < LaneParts; ++part)
-                sum[part] += LoadLanes(values + k + static_cast<std::size_t>(j) + part * LaneWidth);
-        for (std::size_t part = 0; part < LaneParts; ++part)
-            StoreLanes(means.data() + k + part * LaneWidth, sum[part] / divisors);
+            for (std::size_t part = 0; part < PairsAtATime; ++part)
+                sum[part] += LoadPair(values + k + static_cast<std::size_t>(j) + part * PairWidth);
+        for (std::size_t part = 0; part < PairsAtATime; ++part)
+            StorePair(means.data() + k + part * PairWidth, sum[part] / divisors);
     }
     for (; k < count; ++k) {
         double sum = 0;

@@ -143,7 +143,7 @@ void CHistPriceChart::LoadBars(sDrawnPoints& points)
         &CHistChartDrawManager::ReadHigh, &CHistChartDrawManager::ReadLow, &CHistChartDrawManager::ReadOpen,
         &CHistChartDrawManager::ReadClose};
     for (int series = 1; series <= bars.SeriesCount(); ++series) {
-        const std::span<double> values = bars.WholeY(series);
+        const std::span<double> values = bars.YForOverwrite(series);
         const Read read =
             TickSeries() ? &CHistChartDrawManager::ReadClose : barReads[static_cast<std::size_t>(series - 1)];
         (manager->*read)(points.First, points.Count, values.data());
@@ -315,7 +315,7 @@ void CHistPriceChart::IncludeAllBands(sPriceRange& range, int count) const
 std::span<double> CHistPriceChart::OverlayValues(int series)
 {
     m_overlayDrawn[static_cast<std::size_t>(series - 1)] = true;
-    return Overlays().WholeY(series);
+    return Overlays().YForOverwrite(series);
 }
 
 void CHistPriceChart::MarkOverlayDrawn(int series, int warmUp)

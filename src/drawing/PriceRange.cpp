@@ -1,6 +1,6 @@
 #include "drawing/PriceRange.h"
 
-#include "platform/Lanes.h"
+#include "platform/DoublePair.h"
 #include "scene/PaneObjects.h"
 
 #include <algorithm>
@@ -22,31 +22,32 @@ public:
     CExtremes(double low, double high)
     {
         for (std::size_t part = 0; part < Parts; ++part) {
-            m_low[part] = Lanes{low, low};
-            m_high[part] = Lanes{high, high};
+            m_low[part] = DoublePair{low, low};
+            m_high[part] = DoublePair{high, high};
         }
     }
 
     void IncludeHighs(std::span<const double> values)
     {
-        Each(values, [this](std::size_t part, const Lanes& v) {
+        Each(values, [this](std::size_t part, const DoublePair& v) {
             m_high[part] = v > m_high[part] ? v : m_high[part];
         });
     }
 
     void IncludeLows(std::span<const double> values)
     {
-        Each(values,
-             [this](std::size_t part, const Lanes& v) { m_low[part] = v < m_low[part] ? v : m_low[part]; });
+        Each(values, [this](std::size_t part, const DoublePair& v) {
+            m_low[part] = v < m_low[part] ? v : m_low[part];
+        });
     }
 
     // Both ends, holes left out.
     void IncludeCurve(std::span<const double> values)
     {
-        const Lanes hole{Hole, Hole}, least{-Infinity, -Infinity};
-        Each(values, [&](std::size_t part, const Lanes& v) {
-            const Lanes high = v == hole ? least : v;
-            const Lanes low = v == hole ? -least : v;
+        const DoublePair hole{Hole, Hole}, least{-Infinity, -Infinity};
+        Each(values, [&](std::size_t part, const DoublePair& v) {
+            const DoublePair high = v == hole ? least : v;
+            const DoublePair low = v == hole ? -least : v;
             m_high[part] = high > m_high[part] ? high : m_high[part];
             m_low[part] = low < m_low[part] ? low : m_low[part];
         });
@@ -55,7 +56,7 @@ public:
     double Low() const
     {
         double low = Infinity;
-        for (const Lanes& lanes : m_low)
+        for (const DoublePair& lanes : m_low)
             low = std::min({low, lanes[0], lanes[1]});
         return low;
     }
@@ -63,7 +64,7 @@ public:
     double High() const
     {
         double high = -Infinity;
-        for (const Lanes& lanes : m_high)
+        for (const DoublePair& lanes : m_high)
             high = std::max({high, lanes[0], lanes[1]});
         return high;
     }
@@ -74,14 +75,14 @@ private:
     template<class Take> static void Each(std::span<const double> values, Take take)
     {
         std::size_t i = 0;
-        for (; i + Parts * LaneWidth <= values.size(); i += Parts * LaneWidth)
+        for (; i + Parts * PairWidth <= values.size(); i += Parts * PairWidth)
             for (std::size_t part = 0; part < Parts; ++part)
-                take(part, LoadLanes(values.data() + i + part * LaneWidth));
+                take(part, LoadPair(values.data() + i + part * PairWidth));
         for (; i < values.size(); ++i)
-            take(0, Lanes{values[i], values[i]});
+            take(0, DoublePair{values[i], values[i]});
     }
 
-    Lanes m_low[Parts], m_high[Parts];
+    DoublePair m_low[Parts], m_high[Parts];
 };
 
 } // namespace

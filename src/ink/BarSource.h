@@ -1,8 +1,8 @@
 // What the bars of a pane's group are made of, and how wide they are. Chart window's thread.
 #pragma once
 
+#include "scene/BlockMinMax.h"
 #include "scene/PaneGeometry.h"
-#include "scene/ValueBlocks.h"
 
 #include <algorithm>
 #include <cstddef>

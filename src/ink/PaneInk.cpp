@@ -1,8 +1,8 @@
 #include "ink/PaneInk.h"
 
-#include "ink/BarInk.h"
 #include "ink/InkStyle.h"
-#include "ink/ThinBarInk.h"
+#include "ink/OnePixelBars.h"
+#include "ink/WideBars.h"
 
 #include <utility>
 
@@ -136,7 +136,7 @@ bool CPaneInk::DrawBars(const CPaneGroup& group, std::size_t firstPoint)
 {
     const CPaneData& data = group.PaneData();
     if (UsesBlocks() && IsBarType(group.Type()))
-        data.LearnBlocks(data.FirstVisible());
+        data.UpdateBlockMinMax(data.FirstVisible());
     sBarSource source = sBarSource::Of(group, m_map, m_scale, m_barWidth);
     source.Origin = m_origin;
     source.Filled = m_filledCandles;
@@ -182,7 +182,7 @@ bool CPaneInk::BeginsColumn(int column) const
 
 void CPaneInk::DrawWideBars(const sBarSource& source, std::size_t i)
 {
-    CBarInk ink(source, m_map, m_rects);
+    CWideBars ink(source, m_map, m_rects);
     for (; i < m_points.Count(); ++i) {
         if (!m_points.IsPlaced(i))
             continue;
@@ -198,7 +198,7 @@ void CPaneInk::DrawWideBars(const sBarSource& source, std::size_t i)
 // False when a point turned out to lack a value; only with examineAll are all values looked at in time.
 bool CPaneInk::DrawThinBars(const sBarSource& source, std::size_t i, bool examineAll)
 {
-    CThinBarInk ink(source, m_map, m_rects, m_inkColumns);
+    COnePixelBars ink(source, m_map, m_rects, m_inkColumns);
     if (examineAll)
         ink.ExamineAll();
     if (m_detail == InkDetail::PointByPoint)

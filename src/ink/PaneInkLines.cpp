@@ -1,7 +1,7 @@
 #include "ink/InkStyle.h"
 #include "ink/PaneInk.h"
 #include "platform/Prefetch.h"
-#include "scene/LeastGreatest.h"
+#include "scene/MinMax.h"
 
 #include <algorithm>
 #include <cmath>
@@ -81,7 +81,7 @@ bool CPaneInk::DrawLevel(const CPaneGroup& group, int series, sInkLine& line)
 {
     const CPaneData& data = group.PaneData();
     const std::optional<sStep> step = data.KnownStep(series);
-    if (!step || std::isinf(step->Value) || !IsCrowded() || !data.XCountsFrom() ||
+    if (!step || std::isinf(step->Value) || !IsCrowded() || !data.ConsecutiveXFrom() ||
         (line.Pattern != LineSolid && line.Width > 1))
         return false;
     line.Vertices.clear();
@@ -116,7 +116,7 @@ void CPaneInk::DrawLine(const CPaneGroup& group, int series, std::size_t firstPo
     const double* y = data.Y(series).data();
     const bool blocks = UsesBlocks();
     if (blocks)
-        data.LearnBlocks(series);
+        data.UpdateBlockMinMax(series);
     const sBlockedValues blocked = data.BlockedY(series);
     const std::size_t points = data.X().size();
     std::size_t i = data.FirstDrawn(series);
@@ -143,8 +143,8 @@ void CPaneInk::DrawLine(const CPaneGroup& group, int series, std::size_t firstPo
             const std::size_t end = m_points.End(i, column);
             if (blocks)
                 ForeseeColumn(data.Y(series), i + 3 * (end - i));
-            sLeastGreatest found;
-            const bool plain = end - i > 2 && FindLeastGreatest(blocked, i, end, found);
+            sMinMax found;
+            const bool plain = end - i > 2 && FindMinMax(blocked, i, end, found);
             if (m_runs.empty() || m_runs.back().End <= i) // else a column with gaps, begun already
                 m_runs.push_back({i, end, found.Least, found.Greatest, plain});
             if (plain) {

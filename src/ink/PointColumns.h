@@ -16,8 +16,8 @@ public:
         : m_x(data.X().data()),
           m_count(data.X().size()),
           m_ascending(data.XAscending()),
-          m_counts(data.XCountsFrom().has_value()),
-          m_first(data.XCountsFrom().value_or(0)),
+          m_counts(data.ConsecutiveXFrom().has_value()),
+          m_first(data.ConsecutiveXFrom().value_or(0)),
           m_map(map)
     {
     }

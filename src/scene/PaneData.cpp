@@ -130,7 +130,7 @@ void CPaneData::SetPointCount(int series, int count)
     const std::size_t had = m_x.size();
     if (n == had)
         return;
-    const bool numbered = had == 0 || XCountsFrom() == 1;
+    const bool numbered = had == 0 || ConsecutiveXFrom() == 1;
     if (!numbered)
         m_ascending = -1;
     m_x.resize(n);
@@ -291,7 +291,7 @@ void CPaneData::ForgetX()
 void CPaneData::NumberPoints(double first)
 {
     const std::size_t points = m_x.size();
-    if (points == 0 || XCountsFrom() == first)
+    if (points == 0 || ConsecutiveXFrom() == first)
         return;
     const std::size_t known = m_counted.First() == first ? m_counted.Count() : 0;
     std::iota(m_x.begin() + known, m_x.end(), first + static_cast<double>(known));
@@ -304,7 +304,7 @@ bool CPaneData::TakeX(const CPaneData& other)
 {
     if (!Has(1) || other.m_x.size() < m_x.size())
         return false;
-    if (const std::optional<double> first = other.XCountsFrom()) {
+    if (const std::optional<double> first = other.ConsecutiveXFrom()) {
         NumberPoints(*first);
         return true;
     }
@@ -369,7 +369,7 @@ bool CPaneData::GetXVector(int series, std::vector<double>& x) const
     return true;
 }
 
-std::span<double> CPaneData::WholeY(int series)
+std::span<double> CPaneData::YForOverwrite(int series)
 {
     if (!Has(series))
         return {};
@@ -394,12 +394,12 @@ sBlockedValues CPaneData::BlockedY(int series) const
     return m_blocks[at].Of(m_y[at].Places(), m_y[at].Begin());
 }
 
-void CPaneData::LearnBlocks(int series) const
+void CPaneData::UpdateBlockMinMax(int series) const
 {
-    LearnBlocks(series, m_x.size());
+    UpdateBlockMinMax(series, m_x.size());
 }
 
-void CPaneData::LearnBlocks(int series, std::size_t written) const
+void CPaneData::UpdateBlockMinMax(int series, std::size_t written) const
 {
     if (!Has(series))
         return;

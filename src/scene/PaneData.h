@@ -1,10 +1,10 @@
 // The points of a group and what is known of their changes. Chart window's thread.
 #pragma once
 
-#include "scene/CountedRun.h"
+#include "scene/BlockMinMax.h"
+#include "scene/ConsecutiveRun.h"
 #include "scene/PaneNode.h"
 #include "scene/SlidingArray.h"
-#include "scene/ValueBlocks.h"
 
 #include <cstdint>
 #include <optional>
@@ -86,20 +86,20 @@ public:
     // The y values of a series for who writes all of them in place, which saves a copy of what may be long.
     // Inside a batch, or with CommitPaneData behind it, and before anybody reads them again. Good until a
     // count changes; empty for a number out of range.
-    std::span<double> WholeY(int series);
+    std::span<double> YForOverwrite(int series);
 
     // For the painter and for whole-vector readers: no copies.
     std::span<const double> X() const { return m_x; }
     std::span<const double> Y(int series) const;
     // The first of them that is drawn, from 0; it may lie past the last one.
     std::size_t FirstDrawn(int series) const;
-    // The same with what is known of blocks of the values: of all of them after LearnBlocks, which costs a
-    // look at those that changed since and is worth it where many are looked at together. Good until the
-    // values change.
+    // The same with what is known of blocks of the values: of all of them after UpdateBlockMinMax, which
+    // costs a look at those that changed since and is worth it where many are looked at together. Good until
+    // the values change.
     sBlockedValues BlockedY(int series) const;
-    void LearnBlocks(int series) const;
-    // The same for the first so many values alone, by who is filling WholeY and has them at hand.
-    void LearnBlocks(int series, std::size_t written) const;
+    void UpdateBlockMinMax(int series) const;
+    // The same for the first so many values alone, by who is filling YForOverwrite and has them at hand.
+    void UpdateBlockMinMax(int series, std::size_t written) const;
     // What is known of a series without looking at its values; nothing where they may be anything.
     std::optional<sStep> KnownStep(int series) const
     {
@@ -115,7 +115,7 @@ public:
     // The first x when x is known to count up by one from it, as NumberPoints leaves it; a live chart goes on
     // counting at the right while points leave at the left. Nothing where x may be anything, and without
     // points.
-    std::optional<double> XCountsFrom() const
+    std::optional<double> ConsecutiveXFrom() const
     {
         return m_x.size() > 0 && m_counted.Covers(m_x.size()) ? std::optional(m_counted.First())
                                                               : std::nullopt;
@@ -150,7 +150,7 @@ private:
     int m_layout = 1, m_firstShown = 1, m_lastShown = 0;
     CSlidingArray m_x;
     std::vector<CSlidingArray> m_y;
-    mutable std::vector<CValueBlocks> m_blocks; // by series
+    mutable std::vector<CBlockMinMax> m_blocks; // by series
     struct sDrawn
     {
         int To = 0, Undrawn = 0;
@@ -159,7 +159,7 @@ private:
     std::vector<int> m_firstPoint;
     std::vector<sDrawn> m_drawn;               // by series
     std::vector<std::optional<sStep>> m_steps; // by series: what is known to stand at every point
-    CCountedRun m_counted;                     // of x
+    CConsecutiveRun m_counted;                 // of x
     mutable signed char m_ascending = 1;       // -1: to be found out
     std::uint64_t m_revision = 0;
     std::uint64_t m_frameRevision = 0;         // the last change of what all series share

@@ -1,6 +1,6 @@
 #include "studies/DirectionalIndex.h"
 
-#include "platform/Lanes.h"
+#include "platform/DoublePair.h"
 #include "studies/Hole.h"
 #include "studies/StudyArrays.h"
 
@@ -17,15 +17,15 @@ struct sMoves
 };
 
 // Absolute differences: falling highs count as upward movement.
-Lanes Magnitude(const Lanes& change)
+DoublePair Magnitude(const DoublePair& change)
 {
-    return Lanes{std::fabs(change[0]), std::fabs(change[1])};
+    return DoublePair{std::fabs(change[0]), std::fabs(change[1])};
 }
 
 // Of the moves of high and low the smaller counts as 0, and both do when they are equal.
-Lanes LargerMove(const Lanes& moves)
+DoublePair LargerMove(const DoublePair& moves)
 {
-    const Lanes other{moves[1], moves[0]}, none{};
+    const DoublePair other{moves[1], moves[0]}, none{};
     return moves <= other ? none : moves;
 }
 
@@ -41,7 +41,7 @@ public:
 
     sMoves MovesAt(std::int64_t j) const
     {
-        const Lanes moves = LargerMove(Magnitude(Ends(j) - Ends(j - 1)));
+        const DoublePair moves = LargerMove(Magnitude(Ends(j) - Ends(j - 1)));
         return {TrueRange(j), moves[0], moves[1]};
     }
 
@@ -55,7 +55,7 @@ public:
     }
 
     // High and low.
-    Lanes Ends(std::int64_t j) const { return Lanes{m_high[j], m_low[j]}; }
+    DoublePair Ends(std::int64_t j) const { return DoublePair{m_high[j], m_low[j]}; }
 
 private:
     CPriceBlock m_high, m_low, m_close;
@@ -141,14 +141,14 @@ void Continue(const CBars& bars, std::int64_t from, std::int64_t to, double k, s
 {
     if (from >= to)
         return;
-    Lanes average{state.AvgPlus, state.AvgMinus}, before = bars.Ends(from - 1);
+    DoublePair average{state.AvgPlus, state.AvgMinus}, before = bars.Ends(from - 1);
     sDirection now{state.AvgTR, 0, 0, state.Adx, 0, 0};
     for (std::int64_t i = from; i < to; ++i) {
-        const Lanes ends = bars.Ends(i), change = Magnitude(ends - before);
+        const DoublePair ends = bars.Ends(i), change = Magnitude(ends - before);
         before = ends;
         average = (LargerMove(change) - average) * k + average;
         now.AvgTR = (bars.TrueRange(i) - now.AvgTR) * k + now.AvgTR;
-        const Lanes indicators = average * 100 / now.AvgTR;
+        const DoublePair indicators = average * 100 / now.AvgTR;
         now.PlusDI = indicators[0];
         now.MinusDI = indicators[1];
         now.SmoothADX(k);

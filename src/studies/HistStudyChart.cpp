@@ -43,9 +43,9 @@ std::size_t ComputedLines(const std::vector<sStudyLine>& lines)
 
 void sValueRange::Widen(const sBlockedValues& values, std::size_t first, std::size_t end)
 {
-    sLeastGreatest found;
+    sMinMax found;
     // Of a 0 and a -0 the earlier one counts, which the quick search does not tell.
-    if (FindLeastGreatest(values, first, end, found) && found.Least != 0 && found.Greatest != 0) {
+    if (FindMinMax(values, first, end, found) && found.Least != 0 && found.Greatest != 0) {
         Widen(found.Least);
         Widen(found.Greatest);
         return;
@@ -129,7 +129,7 @@ sValueRange CHistStudyChart::ComputeLines(const std::vector<sStudyLine>& lines, 
         if (line.Level)
             data.SetConstantY(line.Series, *line.Level);
         else
-            whole.push_back({data, line.Series, data.WholeY(line.Series).data()});
+            whole.push_back({data, line.Series, data.YForOverwrite(line.Series).data()});
     }
     const std::optional<sValueRange> start = RangeStart();
     sValueRange range = start.value_or(sValueRange{0, 0});
@@ -140,7 +140,7 @@ sValueRange CHistStudyChart::ComputeLines(const std::vector<sStudyLine>& lines, 
         Compute(std::int64_t{first} - DrawLag() + offset, length, out);
         const auto from = static_cast<std::size_t>(offset), to = from + static_cast<std::size_t>(length);
         for (const sWritten& line : whole) {
-            line.Data.LearnBlocks(line.Series, to);
+            line.Data.UpdateBlockMinMax(line.Series, to);
             if (start)
                 range.Widen(line.Data.BlockedY(line.Series), from, to);
         }

@@ -7,7 +7,7 @@
 #pragma once
 
 #include "drawing/BaseChart.h"
-#include "scene/ValueBlocks.h"
+#include "scene/BlockMinMax.h"
 #include "studies/StudyAxis.h"
 
 #include <cstdint>

@@ -47,7 +47,7 @@ sVolumeScale CHistVOLChart::LoadVolumes(int first, int count, VolumeMaximum rule
 {
     CPaneData& volumes = chart->PaneGroups(1).PaneData();
     if (volumes.PointCount(1) == count)
-        return ScaleVolumes(*prices, first, count, rule, volumes.WholeY(1).data());
+        return ScaleVolumes(*prices, first, count, rule, volumes.YForOverwrite(1).data());
     std::vector<double> scaled(static_cast<std::size_t>(count));
     const sVolumeScale scale = ScaleVolumes(*prices, first, count, rule, scaled.data());
     volumes.SetYVector(1, scaled);
@@ -61,7 +61,7 @@ void CHistVOLChart::WriteAverageLine(int minuteShift) const
         average.SetConstantY(1, VolumeAverage);
         return;
     }
-    const std::span<double> line = average.WholeY(1);
+    const std::span<double> line = average.YForOverwrite(1);
     const auto points = static_cast<std::int64_t>(line.size());
     const std::int64_t low = std::int64_t{GetPointCount()} + 2 - Period() - dlg->Range().first - minuteShift;
     const std::int64_t high = low + Period() - 1;

@@ -4,8 +4,8 @@
 // The grid spacing of "y" is written only while the grid is on.
 #pragma once
 
-#include "settings/ChartSettings.h"
 #include "scene/Chart2D.h"
+#include "settings/ChartSettings.h"
 
 #include <cstdint>
 

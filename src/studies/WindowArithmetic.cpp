@@ -1,6 +1,6 @@
 #include "studies/WindowArithmetic.h"
 
-#include "platform/Lanes.h"
+#include "platform/DoublePair.h"
 #include "studies/StudyArrays.h"
 
 #include <algorithm>
@@ -116,7 +116,7 @@ void SumEachWindow(const double* in, std::int64_t count, std::int64_t terms, dou
         return;
     }
     std::int64_t i = HasWideLanes() ? SumWideBlocks<Divide>(in, count, terms, divisor, out) : 0;
-    i += SumBlocks<Lanes, 4, Divide>(in + i, count - i, terms, divisor, out + i);
+    i += SumBlocks<DoublePair, 4, Divide>(in + i, count - i, terms, divisor, out + i);
     for (; i < count; ++i) {
         double sum = 0;
         for (std::int64_t t = 0; t < terms; ++t)

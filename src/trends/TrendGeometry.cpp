@@ -75,7 +75,7 @@ CPaneData& PrepareTrendSeries(IChartWindow& window, int series, const sTrendLook
 
 std::span<double> BeginTrendSeries(IChartWindow& window, int series, const sTrendLook& look, XVector x)
 {
-    return PrepareTrendSeries(window, series, look, x).WholeY(series);
+    return PrepareTrendSeries(window, series, look, x).YForOverwrite(series);
 }
 
 void WriteTrendLevel(IChartWindow& window, int series, const sTrendLook& look, XVector x, int from,
@@ -93,7 +93,7 @@ void EndTrendSeries(IChartWindow& window)
 
 void EraseTrendSeries(IChartWindow& window, int series)
 {
-    const std::span<double> y = Overlay(window).PaneData().WholeY(series);
+    const std::span<double> y = Overlay(window).PaneData().YForOverwrite(series);
     std::fill(y.begin(), y.end(), CPaneData::HoleValue());
     EndTrendSeries(window);
 }

@@ -78,7 +78,7 @@ void ExpectSame(const CPaneData& data, const sPlainData& plain)
     }
     if (data.SeriesCount() > 0) {
         ASSERT_TRUE(same(data.X(), plain.X));
-        const std::optional<double> first = data.XCountsFrom();
+        const std::optional<double> first = data.ConsecutiveXFrom();
         for (std::size_t i = 0; first && i < plain.X.size(); ++i)
             ASSERT_EQ(plain.X[i], *first + static_cast<double>(i)) << i;
         ASSERT_EQ(data.XAscending(), plain.Ascending());
@@ -153,7 +153,7 @@ void OneOperation(CPaneData& data, sPlainData& plain, std::mt19937& random)
             std::fill(plain.Series(series).begin(), plain.Series(series).end(), value);
         break;
     case 11: {
-        const std::span<double> room = data.WholeY(series);
+        const std::span<double> room = data.YForOverwrite(series);
         ASSERT_EQ(room.size(), plain.Has(series) ? plain.X.size() : 0);
         for (std::size_t i = 0; i < room.size(); ++i)
             room[i] = plain.Series(series)[i] = below(3) ? 1.5 : value;
@@ -245,23 +245,23 @@ TEST(PaneData, XCountsOnWhilePointsComeAndGo)
     CChart2D chart;
     CPaneData& data = chart.PaneGroups(1).PaneData();
     data.SetSeriesCount(1);
-    EXPECT_EQ(data.XCountsFrom(), std::nullopt) << "no point";
+    EXPECT_EQ(data.ConsecutiveXFrom(), std::nullopt) << "no point";
     data.SetPointCount(1, 5);
-    EXPECT_EQ(data.XCountsFrom(), 1);
+    EXPECT_EQ(data.ConsecutiveXFrom(), 1);
     ASSERT_TRUE(data.ShiftPoints(1, 4, 2));
-    EXPECT_EQ(data.XCountsFrom(), std::nullopt) << "the last x stands twice";
+    EXPECT_EQ(data.ConsecutiveXFrom(), std::nullopt) << "the last x stands twice";
     data.SetPointX(1, 5, 6);
-    EXPECT_EQ(data.XCountsFrom(), 2);
+    EXPECT_EQ(data.ConsecutiveXFrom(), 2);
     data.SetPointX(1, 3, 9);
-    EXPECT_EQ(data.XCountsFrom(), std::nullopt);
+    EXPECT_EQ(data.ConsecutiveXFrom(), std::nullopt);
     data.NumberPoints(2);
-    EXPECT_EQ(data.XCountsFrom(), 2);
+    EXPECT_EQ(data.ConsecutiveXFrom(), 2);
     EXPECT_EQ(data.PointX(1, 3), 4);
     data.SetPointCount(1, 6);
     EXPECT_EQ(data.PointX(1, 6), 6) << "points that come into being are numbered from 1";
-    EXPECT_EQ(data.XCountsFrom(), std::nullopt);
+    EXPECT_EQ(data.ConsecutiveXFrom(), std::nullopt);
     data.SetPointX(1, 6, 7);
-    EXPECT_EQ(data.XCountsFrom(), 2);
+    EXPECT_EQ(data.ConsecutiveXFrom(), 2);
 }
 
 } // namespace

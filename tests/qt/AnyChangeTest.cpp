@@ -142,7 +142,7 @@ public:
             Slide(data);
             break;
         case 30: {
-            const std::span<double> y = data.WholeY(series);
+            const std::span<double> y = data.YForOverwrite(series);
             std::fill_n(y.begin() + point / 2, y.size() / 3, Value());
             break;
         }

@@ -118,7 +118,7 @@ TEST(HostilePane, DashesOutsideThePictureAreNotDrawn)
     } counter;
     const sPlotMap map(*pane);
     CPaneText text(Family);
-    const sPaneFurniture placed = PlaceFurniture(*pane, map, 1.0, 200, 120, text);
+    const sPaneDecorations placed = PlaceDecorations(*pane, map, 1.0, 200, 120, text);
     ASSERT_FALSE(placed.Grid.empty());
     for (const sRuledLine& line : placed.Grid)
         DrawRuled(counter, line, {0, 0, 200, 120});

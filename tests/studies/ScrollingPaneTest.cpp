@@ -54,12 +54,12 @@ TEST(ScrollingPane, WholeYIsWrittenInPlace)
     data.SetSeriesCount(2);
     data.SetPointCount(1, 3);
     const auto before = data.Revision();
-    const std::span<double> y = data.WholeY(2);
+    const std::span<double> y = data.YForOverwrite(2);
     std::fill(y.begin(), y.end(), 7.0);
     EXPECT_EQ(data.PointY(2, 3), 7.0);
     EXPECT_EQ(data.PointY(1, 3), CPaneData::HoleValue());
     EXPECT_TRUE(data.ChangesSince(before).Whole);
-    EXPECT_TRUE(data.WholeY(3).empty());
+    EXPECT_TRUE(data.YForOverwrite(3).empty());
 }
 
 TEST(ScrollingPane, NumberingPointsRestoresXAfterAnyChange)
@@ -106,9 +106,9 @@ TEST(ScrollingPane, AConstantIsWrittenAgainAfterAnyOtherWrite)
     expectConstant(30);
     data.SetPointY(2, 3, 5);
     expectConstant(30);
-    data.WholeY(2)[0] = 1;
+    data.YForOverwrite(2)[0] = 1;
     expectConstant(30);
-    data.WholeY(2)[1] = 1;
+    data.YForOverwrite(2)[1] = 1;
     expectConstant(30);
     ASSERT_TRUE(data.SetYVector(2, std::vector<double>{1, 2, 3}));
     expectConstant(30);
@@ -138,7 +138,7 @@ TEST(ScrollingPane, AStepHoldsHolesBeforeItsPointWhateverStoodThere)
             data.SetPointY(2, 1 + below(points), 5);
             break;
         case 1:
-            data.WholeY(2)[static_cast<std::size_t>(below(points))] = 1;
+            data.YForOverwrite(2)[static_cast<std::size_t>(below(points))] = 1;
             break;
         case 2:
             data.SetPointCount(1, 1 + below(9));

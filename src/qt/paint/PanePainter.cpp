@@ -81,7 +81,7 @@ void CPanePainter::Repaint(const sPlotMap& map, double scale)
     }
     if (m_fresh || m_revision != m_chart.Revision() || all) {
         m_revision = m_chart.Revision();
-        m_furniture = PlaceFurniture(m_chart, map, scale, whole.Right, whole.Bottom, m_text);
+        m_furniture = PlaceDecorations(m_chart, map, scale, whole.Right, whole.Bottom, m_text);
         sKept kept{map.Plot, m_furniture.Background, m_furniture.PlotBackground};
         m_canvas.SetClip(whole);
         if (m_fresh || !(kept == m_kept)) {
@@ -230,7 +230,7 @@ void CPanePainter::PaintInto(QPainter& painter, const QRectF& box)
     m_text.SetScale(scale);
     for (CPaneInk& ink : m_ink)
         ink.Update(m_chart, map, scale);
-    m_furniture = PlaceFurniture(m_chart, map, scale, deviceWidth, deviceHeight, m_text);
+    m_furniture = PlaceDecorations(m_chart, map, scale, deviceWidth, deviceHeight, m_text);
     m_fresh = true;
     painter.save();
     painter.translate(box.topLeft());

@@ -5,7 +5,7 @@
 #pragma once
 
 #include "ink/PaneInk.h"
-#include "qt/paint/PaneFurniture.h"
+#include "qt/paint/PaneDecorations.h"
 #include "qt/paint/RasterCanvas.h"
 
 #include <QImage>
@@ -62,7 +62,7 @@ private:
     double m_ratio = 0;
     std::uint64_t m_revision = 0;
     sKept m_kept;
-    sPaneFurniture m_furniture;
+    sPaneDecorations m_furniture;
     sPixelRect m_damage;
 };
 

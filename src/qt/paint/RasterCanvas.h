@@ -3,7 +3,7 @@
 // window's thread.
 #pragma once
 
-#include "qt/paint/InkTrail.h"
+#include "qt/paint/DirtyRects.h"
 #include "qt/paint/PaneCanvas.h"
 #include "qt/paint/PaneText.h"
 
@@ -77,8 +77,8 @@ private:
     sPixelRect m_clip, m_plot;                   // the plot cut to the clip
     QRgb m_color = 0;                            // of the line at hand
     bool m_marking = false;
-    CInkTrail m_trail;
-    CInkTrail m_wiped; // kept for its memory
+    CDirtyRects m_trail;
+    CDirtyRects m_wiped; // kept for its memory
     // One line at a time: the coverage of its pixels, column by column, the greatest where its parts meet;
     // the rows touched in each column; and rows of it that are the line's color already.
     std::vector<std::uint8_t> m_mask;

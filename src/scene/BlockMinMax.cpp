@@ -1,6 +1,6 @@
-#include "scene/ValueBlocks.h"
+#include "scene/BlockMinMax.h"
 
-#include "scene/ExtremeLanes.h"
+#include "scene/MinMaxLanes.h"
 #include "scene/PaneData.h"
 
 #include <limits>
@@ -21,35 +21,35 @@ bool AnyDrawn(std::span<const double> values)
 
 // One without a number to be drawn is known by two holes; one with some holes, or the like, lies outside of
 // every range: its numbers are to be looked at.
-constexpr sLeastGreatest Undrawn{CPaneData::HoleValue(), CPaneData::HoleValue()};
+constexpr sMinMax Undrawn{CPaneData::HoleValue(), CPaneData::HoleValue()};
 
-sLeastGreatest BoundsOf(std::span<const double> block)
+sMinMax BoundsOf(std::span<const double> block)
 {
-    CExtremeLanes lanes;
+    CMinMaxLanes lanes;
     lanes.Take(block.first<sBlockedValues::BlockSize>());
-    sLeastGreatest found;
+    sMinMax found;
     if (lanes.Finish(CPaneData::HoleValue(), found))
         return found;
-    return AnyDrawn(block) ? sLeastGreatest{-Infinity, Infinity} : Undrawn;
+    return AnyDrawn(block) ? sMinMax{-Infinity, Infinity} : Undrawn;
 }
 
 } // namespace
 
-void CValueBlocks::Learn(std::span<const double> places, std::size_t begin)
+void CBlockMinMax::Learn(std::span<const double> places, std::size_t begin)
 {
     constexpr std::size_t size = sBlockedValues::BlockSize;
     const std::size_t blocks = places.size() / size, first = (begin + size - 1) / size;
     if (m_bounds.size() < 2 * blocks)
         m_bounds.resize(2 * blocks);
     for (std::size_t block = std::max(m_known, first); block < blocks; ++block) {
-        const sLeastGreatest found = BoundsOf(places.subspan(block * size, size));
+        const sMinMax found = BoundsOf(places.subspan(block * size, size));
         m_bounds[2 * block] = found.Least;
         m_bounds[2 * block + 1] = found.Greatest;
     }
     m_known = std::max(m_known, blocks);
 }
 
-sBlockedValues CValueBlocks::Of(std::span<const double> places, std::size_t begin) const
+sBlockedValues CBlockMinMax::Of(std::span<const double> places, std::size_t begin) const
 {
     const std::size_t first = (begin + sBlockedValues::BlockSize - 1) / sBlockedValues::BlockSize;
     sBlockedValues values{places.subspan(begin), {}, first * sBlockedValues::BlockSize - begin};
@@ -58,13 +58,12 @@ sBlockedValues CValueBlocks::Of(std::span<const double> places, std::size_t begi
     return values;
 }
 
-bool FindLeastGreatest(const sBlockedValues& values, std::size_t first, std::size_t end,
-                       sLeastGreatest& found)
+bool FindMinMax(const sBlockedValues& values, std::size_t first, std::size_t end, sMinMax& found)
 {
     const std::size_t block = values.FirstBlock(first), endBlock = values.EndBlock(end);
     if (endBlock < block + 2)
-        return FindLeastGreatest(values.Values.subspan(first, end - first), found);
-    CExtremeLanes lanes;
+        return FindMinMax(values.Values.subspan(first, end - first), found);
+    CMinMaxLanes lanes;
     lanes.Take(values.Values.subspan(first, values.BeginOf(block) - first));
     lanes.Take(values.Bounds.subspan(2 * block, 2 * (endBlock - block)));
     lanes.Take(values.Values.subspan(values.BeginOf(endBlock), end - values.BeginOf(endBlock)));

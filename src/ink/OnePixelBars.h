@@ -6,8 +6,8 @@
 #include "ink/BarSource.h"
 #include "ink/InkColumns.h"
 #include "ink/InkRect.h"
-#include "ink/SeenParts.h"
-#include "ink/SeenPoints.h"
+#include "ink/VisibleSpans.h"
+#include "ink/VisibleStrokes.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -15,12 +15,12 @@
 
 namespace zantroq {
 
-class CThinBarInk
+class COnePixelBars
 {
 public:
     // Rectangles are added to `rects`, columns of candles to `columns`; all four outlive this object.
-    CThinBarInk(const sBarSource& source, const sPlotMap& map, std::vector<sInkRect>& rects,
-                CInkColumns& columns);
+    COnePixelBars(const sBarSource& source, const sPlotMap& map, std::vector<sInkRect>& rects,
+                  CInkColumns& columns);
 
     // What is seen of a column's points, first to last (exclusive). Candles become a column of ink where that
     // can be told at once. Rectangles follow with the next call or with Finish, when the memory has had time
@@ -50,8 +50,8 @@ private:
     int m_column = 0, m_columnBefore = 0;
     std::vector<sSeenPart> m_found, m_before; // of the column at hand and of the one before
     std::size_t m_shown = 8;                  // points seen of the column before, about
-    CSeenPoints m_seen;
-    CSeenParts m_parts;
+    CVisibleStrokes m_seen;
+    CVisibleSpans m_parts;
     std::vector<std::uint8_t> m_shades; // of the column at hand, all rows of the plot and room on both sides
 };
 

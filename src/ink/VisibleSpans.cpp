@@ -1,8 +1,8 @@
-#include "ink/SeenParts.h"
+#include "ink/VisibleSpans.h"
 
 #include "ink/InkStyle.h"
 #include "platform/Prefetch.h"
-#include "scene/LeastGreatest.h"
+#include "scene/MinMax.h"
 
 #include <algorithm>
 #include <limits>
@@ -42,7 +42,7 @@ private:
 
 } // namespace
 
-CSeenParts::CSeenParts(const sBarSource& source, const sPlotMap& map, std::vector<sSeenPart>& found)
+CVisibleSpans::CVisibleSpans(const sBarSource& source, const sPlotMap& map, std::vector<sSeenPart>& found)
     : m_source(source),
       m_map(map),
       m_found(found),
@@ -52,7 +52,7 @@ CSeenParts::CSeenParts(const sBarSource& source, const sPlotMap& map, std::vecto
 }
 
 // Finds what is seen of the points, the last one on top.
-void CSeenParts::Find(std::size_t first, std::size_t last)
+void CVisibleSpans::Find(std::size_t first, std::size_t last)
 {
     m_pieces.clear();
     if (m_bars && FindBars(first, last))
@@ -67,10 +67,10 @@ void CSeenParts::Find(std::size_t first, std::size_t last)
 
 // Bars have one color, and all of them touch the origin: their ends tell what is seen. False, with nothing
 // taken, when some are not there.
-bool CSeenParts::FindBars(std::size_t first, std::size_t last)
+bool CVisibleSpans::FindBars(std::size_t first, std::size_t last)
 {
-    sLeastGreatest ends;
-    if (!IsDrawn(m_source.Origin) || !FindLeastGreatest(m_source.Bars, first, last, ends))
+    sMinMax ends;
+    if (!IsDrawn(m_source.Origin) || !FindMinMax(m_source.Bars, first, last, ends))
         return false;
     sRowSpan rows(m_map.Y, std::max(ends.Greatest, m_source.Origin), std::min(ends.Least, m_source.Origin));
     if (rows.CutTo(m_map.Plot))
@@ -80,7 +80,7 @@ bool CSeenParts::FindBars(std::size_t first, std::size_t last)
 
 // While what is covered has no gap, only points that reach beyond it matter. Returns where a point was met
 // that leaves a gap, which has been taken, or first.
-std::size_t CSeenParts::FindBeyondOnePiece(std::size_t first, std::size_t i)
+std::size_t CVisibleSpans::FindBeyondOnePiece(std::size_t first, std::size_t i)
 {
     const double* const high = m_source.High.data();
     const double* const low = m_bars ? high : m_source.Low.data();
@@ -126,7 +126,7 @@ std::size_t CSeenParts::FindBeyondOnePiece(std::size_t first, std::size_t i)
 }
 
 // One point, whatever the pieces are.
-void CSeenParts::TakeAny(std::size_t i)
+void CVisibleSpans::TakeAny(std::size_t i)
 {
     const double a = m_source.High[i], b = m_bars ? m_source.Origin : m_source.Low[i];
     if (!IsDrawn(a) || !IsDrawn(b) || (m_examineAll && !m_bars && !m_source.IsComplete(i)))
@@ -136,7 +136,7 @@ void CSeenParts::TakeAny(std::size_t i)
         Cover(rows.Top, rows.Bottom, i);
 }
 
-inline void CSeenParts::Add(int top, int bottom, std::size_t i)
+inline void CVisibleSpans::Add(int top, int bottom, std::size_t i)
 {
     m_found.push_back({top, bottom, i});
     if (!m_bars) {
@@ -146,7 +146,7 @@ inline void CSeenParts::Add(int top, int bottom, std::size_t i)
 }
 
 // Finds what [top, bottom) shows beside the pieces that are there, and joins it to them.
-void CSeenParts::Cover(int top, int bottom, std::size_t i)
+void CVisibleSpans::Cover(int top, int bottom, std::size_t i)
 {
     int from = top;
     std::size_t at = 0;

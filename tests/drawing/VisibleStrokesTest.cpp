@@ -1,5 +1,5 @@
 // Which strokes of a pixel column are seen, against a plot whose rows are painted one stroke at a time.
-#include "ink/SeenPoints.h"
+#include "ink/VisibleStrokes.h"
 
 #include <gtest/gtest.h>
 
@@ -69,9 +69,9 @@ bool PaintRows(const sStrokes& strokes, std::size_t first, std::size_t last, con
     return true;
 }
 
-std::vector<sSeenStroke> ListOf(const CSeenPoints& points, std::size_t first, const sPlotMap& map)
+std::vector<sSeenStroke> ListOf(const CVisibleStrokes& points, std::size_t first, const sPlotMap& map)
 {
-    const CSeenPoints::sFound found = points.Found();
+    const CVisibleStrokes::sFound found = points.Found();
     std::vector<sSeenStroke> list;
     for (std::size_t k = 0; k < found.Count; ++k)
         list.push_back({first + static_cast<std::size_t>(found.Point[k]), map.Plot.Bottom - found.Up[k],
@@ -79,17 +79,17 @@ std::vector<sSeenStroke> ListOf(const CSeenPoints& points, std::size_t first, co
     return list;
 }
 
-class SeenPoints : public testing::Test
+class VisibleStrokes : public testing::Test
 {
 protected:
     void SetUp() override
     {
-        if (!CSeenPoints(PlotOf(0, 100, 0, 100)).Available())
+        if (!CVisibleStrokes(PlotOf(0, 100, 0, 100)).Available())
             GTEST_SKIP() << "this processor has no AVX2";
     }
 };
 
-TEST_F(SeenPoints, AreThoseThatReachBeyondAllLaterOnes)
+TEST_F(VisibleStrokes, AreThoseThatReachBeyondAllLaterOnes)
 {
     const sPlotMap map = PlotOf(0, 101, 0, 100); // a value is its height in rows
     sStrokes strokes;
@@ -99,13 +99,13 @@ TEST_F(SeenPoints, AreThoseThatReachBeyondAllLaterOnes)
     strokes.Add(53, 49); // 7: further up
     strokes.Add(52, 50); // 8: no further
     strokes.Add(52, 49); // 9: the last one
-    CSeenPoints points(map);
+    CVisibleStrokes points(map);
     ASSERT_TRUE(points.Find(strokes.High, strokes.Low, 0, 10));
     const std::vector<sSeenStroke> expected{{9, 48, 52}, {7, 47, 52}, {6, 45, 56}};
     EXPECT_TRUE(ListOf(points, 0, map) == expected);
 }
 
-TEST_F(SeenPoints, OfAnyWalkAreThoseWhosePixelsShow)
+TEST_F(VisibleStrokes, OfAnyWalkAreThoseWhosePixelsShow)
 {
     std::mt19937 random(11);
     const auto below = [&](int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); };
@@ -128,7 +128,7 @@ TEST_F(SeenPoints, OfAnyWalkAreThoseWhosePixelsShow)
         const auto first = static_cast<std::size_t>(below(count - 7)), last = static_cast<std::size_t>(count);
         std::vector<sSeenStroke> expected;
         const bool together = PaintRows(strokes, first, last, map, expected);
-        CSeenPoints points(map);
+        CVisibleStrokes points(map);
         const bool found = points.Find(strokes.High, strokes.Low, first, last);
         if (found) {
             ASSERT_TRUE(together) << "round " << round;
@@ -139,7 +139,7 @@ TEST_F(SeenPoints, OfAnyWalkAreThoseWhosePixelsShow)
     EXPECT_GT(told, 1000);
 }
 
-TEST_F(SeenPoints, AreNotToldWhereRowsBetweenThemStayBare)
+TEST_F(VisibleStrokes, AreNotToldWhereRowsBetweenThemStayBare)
 {
     const sPlotMap map = PlotOf(0, 101, 0, 100);
     for (const double gap : {1.0, 2.0, 30.0})
@@ -147,12 +147,12 @@ TEST_F(SeenPoints, AreNotToldWhereRowsBetweenThemStayBare)
             sStrokes strokes;
             for (int i = 0; i < 20; ++i)
                 strokes.Add(i <= at ? 50 - gap : 52, i <= at ? 48 - gap : 50);
-            CSeenPoints points(map);
+            CVisibleStrokes points(map);
             EXPECT_EQ(gap == 1.0, points.Find(strokes.High, strokes.Low, 0, 20)) << gap << " at " << at;
         }
 }
 
-TEST_F(SeenPoints, AreNotToldWhereAPointIsNotDrawnOrFarAway)
+TEST_F(VisibleStrokes, AreNotToldWhereAPointIsNotDrawnOrFarAway)
 {
     const sPlotMap map = PlotOf(0, 101, 0, 100);
     for (const double bad : {CPaneData::HoleValue(), std::nan(""), Infinity, -Infinity, 1e9, -1e9, 1e300,
@@ -163,18 +163,18 @@ TEST_F(SeenPoints, AreNotToldWhereAPointIsNotDrawnOrFarAway)
                 for (int i = 0; i < 21; ++i)
                     strokes.Add(52, 48);
                 (high ? strokes.High : strokes.Low)[static_cast<std::size_t>(at)] = bad;
-                CSeenPoints points(map);
+                CVisibleStrokes points(map);
                 EXPECT_FALSE(points.Find(strokes.High, strokes.Low, 0, 21)) << bad << " at " << at;
             }
 }
 
-TEST_F(SeenPoints, AreNotToldWhereTheLastOneIsOutOfSightOrTheyAreFew)
+TEST_F(VisibleStrokes, AreNotToldWhereTheLastOneIsOutOfSightOrTheyAreFew)
 {
     const sPlotMap map = PlotOf(5, 101, 0, 100);
     sStrokes strokes;
     for (int i = 0; i < 8; ++i)
         strokes.Add(52, 48);
-    CSeenPoints points(map);
+    CVisibleStrokes points(map);
     EXPECT_TRUE(points.Find(strokes.High, strokes.Low, 0, 8));
     EXPECT_FALSE(points.Find(strokes.High, strokes.Low, 1, 8)) << "seven";
     EXPECT_FALSE(points.Find(strokes.High, strokes.Low, 8, 8)) << "none";
@@ -185,12 +185,12 @@ TEST_F(SeenPoints, AreNotToldWhereTheLastOneIsOutOfSightOrTheyAreFew)
     }
 }
 
-TEST_F(SeenPoints, AreOfNoUseForAViewWithoutExtentOrAHugePicture)
+TEST_F(VisibleStrokes, AreOfNoUseForAViewWithoutExtentOrAHugePicture)
 {
-    EXPECT_FALSE(CSeenPoints(PlotOf(0, 101, 5, 5)).Available());
-    EXPECT_FALSE(CSeenPoints(PlotOf(7, 7, 0, 100)).Available());
-    EXPECT_TRUE(CSeenPoints(PlotOf(0, 16000, 0, 100)).Available());
-    EXPECT_FALSE(CSeenPoints(PlotOf(0, 17000, 0, 100)).Available());
+    EXPECT_FALSE(CVisibleStrokes(PlotOf(0, 101, 5, 5)).Available());
+    EXPECT_FALSE(CVisibleStrokes(PlotOf(7, 7, 0, 100)).Available());
+    EXPECT_TRUE(CVisibleStrokes(PlotOf(0, 16000, 0, 100)).Available());
+    EXPECT_FALSE(CVisibleStrokes(PlotOf(0, 17000, 0, 100)).Available());
 }
 
 } // namespace

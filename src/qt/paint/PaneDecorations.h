@@ -41,7 +41,7 @@ struct sPlacedLabel
     std::vector<sPlacedText> Lines;
 };
 
-struct sPaneFurniture
+struct sPaneDecorations
 {
     QRgb Background = 0, PlotBackground = 0;
     std::vector<sRuledLine> Grid;  // below the data
@@ -53,8 +53,8 @@ struct sPaneFurniture
 };
 
 // `width` and `height` are the picture's device pixels.
-sPaneFurniture PlaceFurniture(const CChart2D& chart, const sPlotMap& map, double scale, int width, int height,
-                              CPaneText& text);
+sPaneDecorations PlaceDecorations(const CChart2D& chart, const sPlotMap& map, double scale, int width,
+                                  int height, CPaneText& text);
 
 // Draws the part of a ruled line inside a rectangle, the dashes as those of the whole; more may be painted.
 void DrawRuled(IPaneCanvas& canvas, const sRuledLine& line, const sPixelRect& within);

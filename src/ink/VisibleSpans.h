@@ -16,11 +16,11 @@ struct sSeenPart // rows of a column, Bottom exclusive, within the plot, and the
     std::size_t Point;
 };
 
-class CSeenParts
+class CVisibleSpans
 {
 public:
     // Parts are added to `found`; all three outlive this object.
-    CSeenParts(const sBarSource& source, const sPlotMap& map, std::vector<sSeenPart>& found);
+    CVisibleSpans(const sBarSource& source, const sPlotMap& map, std::vector<sSeenPart>& found);
 
     // Looks at all four prices of each point before it is taken; else a point without open or close may be
     // found.

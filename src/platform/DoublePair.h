@@ -7,20 +7,20 @@
 
 namespace zantroq {
 
-using Lanes = double __attribute__((vector_size(16)));
-inline constexpr std::size_t LaneWidth = 2;
-inline constexpr std::size_t LaneParts =
+using DoublePair = double __attribute__((vector_size(16)));
+inline constexpr std::size_t PairWidth = 2;
+inline constexpr std::size_t PairsAtATime =
     8; // vectors at a time: together they hide the latency of an addition
-inline constexpr std::size_t LaneBlock = LaneWidth * LaneParts;
+inline constexpr std::size_t PairBlock = PairWidth * PairsAtATime;
 
-inline Lanes LoadLanes(const double* from)
+inline DoublePair LoadPair(const double* from)
 {
-    Lanes lanes;
+    DoublePair lanes;
     std::memcpy(&lanes, from, sizeof lanes);
     return lanes;
 }
 
-inline void StoreLanes(double* to, const Lanes& lanes)
+inline void StorePair(double* to, const DoublePair& lanes)
 {
     std::memcpy(to, &lanes, sizeof lanes);
 }

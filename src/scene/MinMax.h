@@ -11,14 +11,14 @@
 
 namespace zantroq {
 
-struct sLeastGreatest
+struct sMinMax
 {
     double Least = 0, Greatest = 0;
 };
 
 // False, with nothing found, when there is a hole, a not-a-number or an infinity among the values, or no
 // value at all.
-bool FindLeastGreatest(std::span<const double> values, sLeastGreatest& found);
+bool FindMinMax(std::span<const double> values, sMinMax& found);
 
 namespace detail {
 

@@ -1,4 +1,4 @@
-#include "ink/SeenPoints.h"
+#include "ink/VisibleStrokes.h"
 
 #include <algorithm>
 #include <array>
@@ -55,15 +55,15 @@ bool ProcessorCan()
 
 } // namespace
 
-CSeenPoints::CSeenPoints(const sPlotMap& map)
+CVisibleStrokes::CVisibleStrokes(const sPlotMap& map)
     : m_map(map),
       m_available(ProcessorCan() && map.Y.PixelsPerUnit() != 0 && map.Plot.Top >= 0 &&
                   map.Plot.Bottom <= MostRows && !map.Empty())
 {
 }
 
-bool CSeenPoints::Find(std::span<const double> high, std::span<const double> low, std::size_t first,
-                       std::size_t last)
+bool CVisibleStrokes::Find(std::span<const double> high, std::span<const double> low, std::size_t first,
+                           std::size_t last)
 {
     m_count = 0;
     if (!m_available || last - first < Together || last - first > MostPoints)
@@ -93,7 +93,7 @@ bool CSeenPoints::Find(std::span<const double> high, std::span<const double> low
 // Heights are whole pixel rows in 16 bits: of the upper end, counted from the plot's bottom, in the lower
 // half of a vector, of the lower end, counted from the plot's top, in the upper half. Both grow outwards, and
 // what is covered so far is the greatest of each.
-struct CSeenPoints::sWalk
+struct CVisibleStrokes::sWalk
 {
     __m256d Low, First, Factor, Lift; // of NearestPixel(Position()), with the same operations in that order
     __m128i LiftRows, PlotBottom, AboveTop;
@@ -148,8 +148,8 @@ struct CSeenPoints::sWalk
 };
 
 // Returns how many were found; 0 when they do not hang together or some cannot be told.
-[[gnu::target("avx2,popcnt")]] std::size_t CSeenPoints::Walk(const double* high, const double* low,
-                                                             std::size_t count, int up, int down)
+[[gnu::target("avx2,popcnt")]] std::size_t CVisibleStrokes::Walk(const double* high, const double* low,
+                                                                 std::size_t count, int up, int down)
 {
     const auto sixteen = [](int value) { return static_cast<short>(value); };
     const int rows = m_map.Plot.Height();
@@ -188,7 +188,7 @@ struct CSeenPoints::sWalk
 
 #else
 
-std::size_t CSeenPoints::Walk(const double*, const double*, std::size_t, int, int)
+std::size_t CVisibleStrokes::Walk(const double*, const double*, std::size_t, int, int)
 {
     return 0;
 }

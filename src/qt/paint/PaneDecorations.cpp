@@ -1,4 +1,4 @@
-#include "qt/paint/PaneFurniture.h"
+#include "qt/paint/PaneDecorations.h"
 
 #include <algorithm>
 #include <cmath>
@@ -47,7 +47,7 @@ public:
         }
     }
 
-    sPaneFurniture Out;
+    sPaneDecorations Out;
 
 private:
     int Device(int pixels) const
@@ -362,8 +362,8 @@ private:
 
 } // namespace
 
-sPaneFurniture PlaceFurniture(const CChart2D& chart, const sPlotMap& map, double scale, int width, int height,
-                              CPaneText& text)
+sPaneDecorations PlaceDecorations(const CChart2D& chart, const sPlotMap& map, double scale, int width,
+                                  int height, CPaneText& text)
 {
     CPlacer placer(chart, map, scale, width, height, text);
     placer.Place();

@@ -13,10 +13,10 @@
 
 namespace zantroq {
 
-class CSeenPoints
+class CVisibleStrokes
 {
 public:
-    explicit CSeenPoints(const sPlotMap& map);
+    explicit CVisibleStrokes(const sPlotMap& map);
 
     // Whether Find is of any use for this plot on this processor.
     bool Available() const { return m_available; }

@@ -10,7 +10,7 @@
 
 namespace zantroq {
 
-class CInkTrail
+class CDirtyRects
 {
 public:
     void Add(const sPixelRect& rect)

@@ -18,7 +18,7 @@ bool IsPlain(double value)
 }
 
 // The plain definitions.
-bool LookAtEach(std::span<const double> values, sLeastGreatest& found)
+bool LookAtEach(std::span<const double> values, sMinMax& found)
 {
     if (values.empty())
         return false;
@@ -69,14 +69,14 @@ public:
             data.SetStepY(2, Below(points), Value());
             break;
         case 4: {
-            const std::span<double> y = data.WholeY(2);
+            const std::span<double> y = data.YForOverwrite(2);
             for (double& value : y)
                 value = Below(90) ? Below(1000) - 500 : Value();
-            data.LearnBlocks(2, static_cast<std::size_t>(Below(points)));
+            data.UpdateBlockMinMax(2, static_cast<std::size_t>(Below(points)));
             break;
         }
         case 5: {
-            const std::span<double> y = data.WholeY(2);
+            const std::span<double> y = data.YForOverwrite(2);
             std::fill(y.begin() + Below(points), y.end(), Below(2) ? Hole : std::nan(""));
             break;
         }
@@ -107,7 +107,7 @@ private:
     CChart2D m_chart;
 };
 
-TEST(ValueBlocks, AnswerAsALookAtEachValueDoes)
+TEST(BlockMinMax, AnswerAsALookAtEachValueDoes)
 {
     int answered = 0;
     for (unsigned seed = 1; seed <= 30; ++seed) {
@@ -116,7 +116,7 @@ TEST(ValueBlocks, AnswerAsALookAtEachValueDoes)
             series.Change();
             const CPaneData& data = series.Data();
             if (series.Below(3))
-                data.LearnBlocks(2);
+                data.UpdateBlockMinMax(2);
             const sBlockedValues blocked = data.BlockedY(2);
             const std::span<const double> y = data.Y(2);
             ASSERT_EQ(blocked.Values.data(), y.data());
@@ -127,9 +127,9 @@ TEST(ValueBlocks, AnswerAsALookAtEachValueDoes)
                     first + static_cast<std::size_t>(series.Below(static_cast<int>(y.size() - first) + 1));
                 SCOPED_TRACE(testing::Message() << "seed " << seed << ", round " << round << ", from "
                                                 << first << " to " << end << " of " << y.size());
-                sLeastGreatest expected, found;
+                sMinMax expected, found;
                 const bool plain = LookAtEach(y.subspan(first, end - first), expected);
-                ASSERT_EQ(FindLeastGreatest(blocked, first, end, found), plain);
+                ASSERT_EQ(FindMinMax(blocked, first, end, found), plain);
                 if (plain) {
                     ++answered;
                     ASSERT_EQ(found.Least, expected.Least);
@@ -146,23 +146,23 @@ TEST(ValueBlocks, AnswerAsALookAtEachValueDoes)
     EXPECT_GT(answered, 10000) << "or little was compared";
 }
 
-TEST(ValueBlocks, AreKnownAfterLearningAndStayKnownWhileTheSeriesSlides)
+TEST(BlockMinMax, AreKnownAfterLearningAndStayKnownWhileTheSeriesSlides)
 {
     CChart2D chart;
     CPaneData& data = chart.PaneGroups(1).PaneData();
     data.SetSeriesCount(1);
     data.SetPointCount(1, 1000);
     EXPECT_EQ(data.BlockedY(1).Blocks(), 0u);
-    data.LearnBlocks(1);
+    data.UpdateBlockMinMax(1);
     EXPECT_EQ(data.BlockedY(1).Blocks(), 1000 / sBlockedValues::BlockSize);
     for (int tick = 0; tick < 5; ++tick) {
         ASSERT_TRUE(data.ShiftPoints(1, 999, 2));
         data.SetPointY(1, 1000, tick);
     }
     EXPECT_GE(data.BlockedY(1).Blocks(), 1000 / sBlockedValues::BlockSize - 2);
-    data.WholeY(1);
+    data.YForOverwrite(1);
     EXPECT_EQ(data.BlockedY(1).Blocks(), 0u);
-    data.LearnBlocks(1, 100);
+    data.UpdateBlockMinMax(1, 100);
     EXPECT_GE(data.BlockedY(1).Blocks(), 100 / sBlockedValues::BlockSize - 1);
     EXPECT_LE(data.BlockedY(1).Blocks(), 100 / sBlockedValues::BlockSize);
     EXPECT_TRUE(data.BlockedY(2).Values.empty()) << "no such series";

@@ -3,7 +3,7 @@
 // as far as the numbers stay as they are.
 #pragma once
 
-#include "scene/LeastGreatest.h"
+#include "scene/MinMax.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -37,12 +37,11 @@ struct sBlockedValues
 };
 
 // As for a plain stretch of numbers, with the same answer.
-bool FindLeastGreatest(const sBlockedValues& values, std::size_t first, std::size_t end,
-                       sLeastGreatest& found);
+bool FindMinMax(const sBlockedValues& values, std::size_t first, std::size_t end, sMinMax& found);
 // A place from `i` on before which no number is drawn: whole stretches of holes and not-a-numbers are passed.
 std::size_t SkipUndrawn(const sBlockedValues& values, std::size_t i);
 
-class CValueBlocks
+class CBlockMinMax
 {
 public:
     // The numbers from this place on may have become other ones, or be gone.

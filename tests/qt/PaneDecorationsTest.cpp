@@ -1,4 +1,4 @@
-#include "qt/paint/PaneFurniture.h"
+#include "qt/paint/PaneDecorations.h"
 #include "qt/PaneScenes.h"
 #include "qt/paint/PanePainter.h"
 
@@ -29,7 +29,7 @@ struct sFurnished
           Words(Family)
     {
         Words.SetScale(scale);
-        Placed = PlaceFurniture(chart, Map, scale, Width, Height, Words);
+        Placed = PlaceDecorations(chart, Map, scale, Width, Height, Words);
     }
     // Of a label, by its place among those shown.
     const sPixelRect& Box(std::size_t i) const { return Placed.Labels.at(i).Box; }
@@ -38,7 +38,7 @@ struct sFurnished
     sPlotMap Map;
     int Width, Height;
     CPaneText Words;
-    sPaneFurniture Placed;
+    sPaneDecorations Placed;
 };
 
 TEST(PaneLabels, StandOnTheSideOfTheirAnchorAtEveryScale)
@@ -174,18 +174,18 @@ TEST(PaneLabels, HiddenOrWithoutTextOrNowhereAreNotPlaced)
     EXPECT_TRUE(sFurnished(*pane).Placed.Labels.empty());
 }
 
-TEST(PaneFurniture, APaneWithoutPointsHasItsAxesAndLabels)
+TEST(PaneDecorations, APaneWithoutPointsHasItsAxesAndLabels)
 {
     const Pane pane = test::EmptyPane(280, 180);
     AddLabel(*pane, "text", AttachToPixel, AnchorBelowRight);
     ASSERT_EQ(pane->PaneGroups(1).PaneData().PointCount(1), 0);
-    const sPaneFurniture placed = sFurnished(*pane).Placed;
+    const sPaneDecorations placed = sFurnished(*pane).Placed;
     EXPECT_EQ(placed.Labels.size(), 1u);
     EXPECT_GE(placed.AxisTexts.size(), 5u);
     EXPECT_GE(placed.Frame.size(), 4u);
 }
 
-TEST(PaneFurniture, ValueTextsTooLongForTheirMarginKeepEveryDigit)
+TEST(PaneDecorations, ValueTextsTooLongForTheirMarginKeepEveryDigit)
 {
     for (const bool right : {false, true})
         for (const double scale : {1.0, 1.5, 2.0}) {
@@ -212,7 +212,7 @@ TEST(PaneFurniture, ValueTextsTooLongForTheirMarginKeepEveryDigit)
         }
 }
 
-TEST(PaneFurniture, ValueTextsThatFitStandBesideTheAxis)
+TEST(PaneDecorations, ValueTextsThatFitStandBesideTheAxis)
 {
     const Pane pane = test::EmptyPane(280, 180);
     sFurnished furnished(*pane);
@@ -222,13 +222,13 @@ TEST(PaneFurniture, ValueTextsThatFitStandBesideTheAxis)
         }
 }
 
-TEST(PaneFurniture, GridLinesRunThroughTheLabels)
+TEST(PaneDecorations, GridLinesRunThroughTheLabels)
 {
     const Pane pane = test::EmptyPane(280, 180); // 0 to 100, labels at 0, 25, 50, 75, 100; points 1 to 10.5
     CPaneAxes& axes = pane->PaneArea().PaneAxes();
     axes.X().AxisGrid().SetSpacing(2);
     axes.Y().AxisGrid().SetSpacing(25);
-    const sPaneFurniture placed = sFurnished(*pane).Placed;
+    const sPaneDecorations placed = sFurnished(*pane).Placed;
     std::vector<int> uprights, acrosses;
     for (const sRuledLine& line : placed.Grid)
         (line.Upright ? uprights : acrosses).push_back(line.Upright ? line.Rect.Left : line.Rect.Top);
@@ -249,14 +249,14 @@ TEST(PaneFurniture, GridLinesRunThroughTheLabels)
     EXPECT_TRUE(sFurnished(*pane).Placed.Grid.empty()) << "a spacing of 0 hides the grid";
 }
 
-TEST(PaneFurniture, TheMarkerStandsOnItsPoint)
+TEST(PaneDecorations, TheMarkerStandsOnItsPoint)
 {
     const Pane pane = test::LinePane(280, 180, std::vector<double>(10, 33.0));
     CPaneMarker& marker = pane->PaneArea().PaneMarkers("x");
     marker.SetShown(true);
     EXPECT_TRUE(sFurnished(*pane).Placed.Marker.empty()) << "no point";
     marker.SetPoint(4);
-    const sPaneFurniture placed = sFurnished(*pane).Placed;
+    const sPaneDecorations placed = sFurnished(*pane).Placed;
     int x = 0, y = 0;
     pane->PaneGroups(1).PointToPixel(1, 4, x, y);
     ASSERT_EQ(placed.Marker.size(), 1u);
@@ -269,7 +269,7 @@ TEST(PaneFurniture, TheMarkerStandsOnItsPoint)
 }
 
 // The left end of a text of the x axis, nothing where it was left out.
-std::optional<int> LeftOf(const sPaneFurniture& placed, std::string_view text)
+std::optional<int> LeftOf(const sPaneDecorations& placed, std::string_view text)
 {
     for (const sPlacedText& there : placed.AxisTexts)
         if (there.Text == text)
@@ -277,7 +277,7 @@ std::optional<int> LeftOf(const sPaneFurniture& placed, std::string_view text)
     return std::nullopt;
 }
 
-TEST(PaneFurniture, TheFirstTimeTextGivesWayToTheLeft)
+TEST(PaneDecorations, TheFirstTimeTextGivesWayToTheLeft)
 {
     const std::string first = "2024/06/05 16:00:00", second = "2024/06/06 14:45:00";
     CPaneText words(Family);
@@ -290,7 +290,7 @@ TEST(PaneFurniture, TheFirstTimeTextGivesWayToTheLeft)
     x.TickLabels().RemoveAll();
     x.TickLabels().Add(advance / 2 - 58 + 15, first); // from 15 on
     x.TickLabels().Add(15 + advance + other / 2 - 58, second);
-    const sPaneFurniture placed = sFurnished(*pane).Placed;
+    const sPaneDecorations placed = sFurnished(*pane).Placed;
     EXPECT_EQ(LeftOf(placed, second), 15 + advance);
     EXPECT_EQ(LeftOf(placed, first), 10) << "five pixels stay between them";
     // With no room left of the first text the second is left out.
@@ -302,7 +302,7 @@ TEST(PaneFurniture, TheFirstTimeTextGivesWayToTheLeft)
     EXPECT_FALSE(LeftOf(sFurnished(*pane).Placed, second));
 }
 
-TEST(PaneFurniture, ATimeTextThatWouldMeetTheOneBeforeIsLeftOut)
+TEST(PaneDecorations, ATimeTextThatWouldMeetTheOneBeforeIsLeftOut)
 {
     const Pane pane = test::EmptyPane(58 + 200 + 23, 180);
     CPaneAxis& x = pane->PaneArea().PaneAxes().X();
@@ -313,14 +313,14 @@ TEST(PaneFurniture, ATimeTextThatWouldMeetTheOneBeforeIsLeftOut)
     x.TickLabels().Add(100, "10:30");
     x.TickLabels().Add(110, "10:40");
     x.TickLabels().Add(160, "11:30");
-    const sPaneFurniture placed = sFurnished(*pane).Placed;
+    const sPaneDecorations placed = sFurnished(*pane).Placed;
     EXPECT_TRUE(LeftOf(placed, "10:30"));
     EXPECT_FALSE(LeftOf(placed, "10:40"));
     EXPECT_TRUE(LeftOf(placed, "11:30"));
 }
 
 // The time of the last point was left out where a rounder one stood before it.
-TEST(PaneFurniture, TheLastTimeTextDrivesOutTheOneBefore)
+TEST(PaneDecorations, TheLastTimeTextDrivesOutTheOneBefore)
 {
     const Pane pane = test::EmptyPane(58 + 200 + 23, 180);
     CPaneAxis& x = pane->PaneArea().PaneAxes().X();
@@ -332,20 +332,20 @@ TEST(PaneFurniture, TheLastTimeTextDrivesOutTheOneBefore)
     x.TickLabels().Add(160, "11:30");
     x.TickLabels().Add(170, "11:41");
     x.TickLabels().Add(300, "13:00"); // out of sight
-    const sPaneFurniture placed = sFurnished(*pane).Placed;
+    const sPaneDecorations placed = sFurnished(*pane).Placed;
     EXPECT_TRUE(LeftOf(placed, "09:30"));
     EXPECT_TRUE(LeftOf(placed, "10:30"));
     EXPECT_FALSE(LeftOf(placed, "11:30"));
     EXPECT_TRUE(LeftOf(placed, "11:41"));
     x.TickLabels().Add(160, "as wide as two of them"); // meets both
-    const sPaneFurniture wide = sFurnished(*pane).Placed;
+    const sPaneDecorations wide = sFurnished(*pane).Placed;
     EXPECT_FALSE(LeftOf(wide, "11:30"));
     EXPECT_FALSE(LeftOf(wide, "11:41"));
     EXPECT_TRUE(LeftOf(wide, "as wide as two of them"));
 }
 
 // The frame's line between two digits read as a 1.
-TEST(PaneFurniture, NothingCrossesAValueTextThatLiesOverTheFrame)
+TEST(PaneDecorations, NothingCrossesAValueTextThatLiesOverTheFrame)
 {
     for (const bool right : {false, true})
         for (const double scale : {1.0, 1.5, 2.0}) {
@@ -387,7 +387,7 @@ TEST(PaneFurniture, NothingCrossesAValueTextThatLiesOverTheFrame)
         }
 }
 
-TEST(PaneFurniture, AValueTextThatFitsItsMarginHasNoGround)
+TEST(PaneDecorations, AValueTextThatFitsItsMarginHasNoGround)
 {
     EXPECT_TRUE(sFurnished(*test::EmptyPane(280, 180)).Placed.Grounds.empty());
 }
@@ -409,12 +409,12 @@ TEST(PaneLabels, OneWhoseRepaintIsSuspendedIsPaintedAsItWas)
     EXPECT_FALSE(painter.Picture(1.0) == before);
 }
 
-TEST(PaneFurniture, AHiddenAxisHasNeitherTextsNorTickMarks)
+TEST(PaneDecorations, AHiddenAxisHasNeitherTextsNorTickMarks)
 {
     const Pane pane = test::EmptyPane(280, 180);
     pane->PaneArea().PaneAxes().Y().SetShown(false);
     pane->PaneArea().PaneAxes().X().SetShown(false);
-    const sPaneFurniture placed = sFurnished(*pane).Placed;
+    const sPaneDecorations placed = sFurnished(*pane).Placed;
     EXPECT_TRUE(placed.AxisTexts.empty());
     EXPECT_EQ(placed.Frame.size(), 4u) << "the four edges of the plot";
 }

@@ -10,11 +10,11 @@
 
 namespace zantroq {
 
-class CBarInk
+class CWideBars
 {
 public:
     // Rectangles are added to `rects`; all three outlive this object.
-    CBarInk(const sBarSource& source, const sPlotMap& map, std::vector<sInkRect>& rects)
+    CWideBars(const sBarSource& source, const sPlotMap& map, std::vector<sInkRect>& rects)
         : m_source(source), m_map(map), m_rects(rects)
     {
     }

@@ -1,4 +1,4 @@
-#include "ink/BarInk.h"
+#include "ink/WideBars.h"
 
 #include "ink/InkStyle.h"
 
@@ -6,7 +6,7 @@
 
 namespace zantroq {
 
-void CBarInk::Draw(std::size_t i, int column)
+void CWideBars::Draw(std::size_t i, int column)
 {
     if (IsBarType(m_source.Type))
         return DrawBar(i, column);
@@ -18,7 +18,7 @@ void CBarInk::Draw(std::size_t i, int column)
         DrawPriceBar(i, column);
 }
 
-void CBarInk::Emit(int left, int top, int right, int bottom, ColorValue color)
+void CWideBars::Emit(int left, int top, int right, int bottom, ColorValue color)
 {
     left = std::max(left, m_map.Plot.Left);
     right = std::min(right, m_map.Plot.Right);
@@ -28,7 +28,7 @@ void CBarInk::Emit(int left, int top, int right, int bottom, ColorValue color)
         m_rects.push_back({left, top, right, bottom, color});
 }
 
-void CBarInk::DrawBar(std::size_t i, int column)
+void CWideBars::DrawBar(std::size_t i, int column)
 {
     if (!IsDrawn(m_source.High[i]))
         return;
@@ -37,7 +37,7 @@ void CBarInk::DrawBar(std::size_t i, int column)
     Emit(left, rows.Top, left + m_source.Width, rows.Bottom, m_source.Up);
 }
 
-void CBarInk::DrawPriceBar(std::size_t i, int column)
+void CWideBars::DrawPriceBar(std::size_t i, int column)
 {
     const sRowSpan rows(m_map.Y, m_source.High[i], m_source.Low[i]);
     const int left = column - m_source.Width / 2, right = left + m_source.Width;
@@ -52,7 +52,7 @@ void CBarInk::DrawPriceBar(std::size_t i, int column)
         tick(m_source.Close[i], right, right + m_source.Tick);
 }
 
-void CBarInk::DrawCandle(std::size_t i, int column)
+void CWideBars::DrawCandle(std::size_t i, int column)
 {
     const ColorValue color = m_source.IsUp(i) ? m_source.Up : m_source.Down;
     const sRowSpan whole(m_map.Y, m_source.High[i], m_source.Low[i]);

@@ -7,7 +7,7 @@
 
 namespace zantroq {
 
-class CCountedRun
+class CConsecutiveRun
 {
 public:
     // Whether all of so many numbers count up.

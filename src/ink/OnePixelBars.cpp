@@ -1,4 +1,4 @@
-#include "ink/ThinBarInk.h"
+#include "ink/OnePixelBars.h"
 
 #include "ink/InkStyle.h"
 #include "platform/Prefetch.h"
@@ -9,8 +9,8 @@
 
 namespace zantroq {
 
-CThinBarInk::CThinBarInk(const sBarSource& source, const sPlotMap& map, std::vector<sInkRect>& rects,
-                         CInkColumns& columns)
+COnePixelBars::COnePixelBars(const sBarSource& source, const sPlotMap& map, std::vector<sInkRect>& rects,
+                             CInkColumns& columns)
     : m_source(source),
       m_map(map),
       m_rects(rects),
@@ -23,14 +23,14 @@ CThinBarInk::CThinBarInk(const sBarSource& source, const sPlotMap& map, std::vec
         m_columns.SetColors(source.Up, source.Down);
 }
 
-void CThinBarInk::ExamineAll()
+void COnePixelBars::ExamineAll()
 {
     m_examineAll = true;
     m_parts.ExamineAll();
 }
 
 // Columns are walked backwards, which the processor does not foresee.
-void CThinBarInk::Foresee(std::size_t first, std::size_t count) const
+void COnePixelBars::Foresee(std::size_t first, std::size_t count) const
 {
     const std::size_t end = std::min(first + count, m_source.High.size());
     if (first >= end || m_source.Bars.Blocks() > 0)
@@ -40,7 +40,7 @@ void CThinBarInk::Foresee(std::size_t first, std::size_t count) const
         Prefetch(m_source.Low.data() + first, end - first);
 }
 
-void CThinBarInk::Draw(std::size_t first, std::size_t last, int column)
+void COnePixelBars::Draw(std::size_t first, std::size_t last, int column)
 {
     std::swap(m_found, m_before);
     std::swap(m_column, m_columnBefore);
@@ -61,9 +61,9 @@ void CThinBarInk::Draw(std::size_t first, std::size_t last, int column)
 }
 
 // The points found become a column of pixels, or a piece where there is one color only.
-void CThinBarInk::DrawSeen(std::size_t first, int column)
+void COnePixelBars::DrawSeen(std::size_t first, int column)
 {
-    const CSeenPoints::sFound found = m_seen.Found();
+    const CVisibleStrokes::sFound found = m_seen.Found();
     const double *const open = m_source.Open.data() + first, *const close = m_source.Close.data() + first;
     for (std::size_t k = 0; k < found.Count; ++k) {
         Prefetch(open + found.Point[k]);
@@ -105,7 +105,7 @@ void CThinBarInk::DrawSeen(std::size_t first, int column)
     m_columns.Add(column, m_map.Plot.Top + top, m_map.Plot.Top + bottom, shades + top);
 }
 
-bool CThinBarInk::Finish()
+bool COnePixelBars::Finish()
 {
     Emit(m_found, m_column);
     m_found.clear();
@@ -113,7 +113,7 @@ bool CThinBarInk::Finish()
 }
 
 // What was found becomes rectangles, neighbours of one color together.
-void CThinBarInk::Emit(const std::vector<sSeenPart>& parts, int column)
+void COnePixelBars::Emit(const std::vector<sSeenPart>& parts, int column)
 {
     const bool candles = m_source.Type == ChartCandles;
     const std::size_t begin = m_rects.size();

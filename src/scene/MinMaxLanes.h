@@ -1,7 +1,7 @@
 // Gathers the least and greatest of several stretches of numbers, four at a time where the processor can.
 #pragma once
 
-#include "scene/LeastGreatest.h"
+#include "scene/MinMax.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -14,7 +14,7 @@
 
 namespace zantroq {
 
-class CExtremeLanes
+class CMinMaxLanes
 {
 public:
     void Take(std::span<const double> values)
@@ -47,7 +47,7 @@ public:
 
     // False when there was nothing, or a not-a-number, an infinity or a number from `hole` on, which is
     // finite.
-    bool Finish(double hole, sLeastGreatest& found) const
+    bool Finish(double hole, sMinMax& found) const
     {
 #ifdef __SSE2__
         const auto low = [](__m128d two) { return _mm_cvtsd_f64(two); };
