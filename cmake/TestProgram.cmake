@@ -2,10 +2,15 @@
 #
 # A GoogleTest program whose tests each become a ctest test. Tests labelled "threaded" also run under ThreadSanitizer.
 # Every program is linked with TestEnvironment.cpp, which keeps it away from the user's settings and from any display.
+add_library(test_environment OBJECT ${CMAKE_SOURCE_DIR}/tests/support/TestEnvironment.cpp)
+target_link_libraries(test_environment PRIVATE zantroq_settings)
+target_compile_definitions(test_environment PRIVATE
+    ZANTROQ_TEST_FOLDER="${CMAKE_BINARY_DIR}"
+    ZANTROQ_TEST_FONTS="${CMAKE_SOURCE_DIR}/tests/support/fonts.conf")
+
 function(zantroq_test_program name)
     cmake_parse_arguments(arg "" "" "SOURCES;LABELS;LIBRARIES" ${ARGN})
-    add_executable(${name} ${arg_SOURCES} ${CMAKE_SOURCE_DIR}/tests/support/TestEnvironment.cpp)
-    target_compile_definitions(${name} PRIVATE ZANTROQ_TEST_FOLDER="${CMAKE_BINARY_DIR}")
+    add_executable(${name} ${arg_SOURCES} $<TARGET_OBJECTS:test_environment>)
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
     target_link_libraries(${name} PRIVATE chartcore ${arg_LIBRARIES} GTest::gmock GTest::gtest_main)
     # An empty value would shift the properties behind it.

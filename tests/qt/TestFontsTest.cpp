@@ -1,0 +1,33 @@
+// The fonts that golden pictures are compared with: those of two packages, and no other that is installed.
+#include "qt/output/PageJob.h"
+#include "qt/paint/PaneText.h"
+
+#include <QFontDatabase>
+#include <QFontInfo>
+
+#include <gtest/gtest.h>
+
+namespace zantroq::test {
+
+TEST(TestFonts, OnlyTheFontsOfTheListAreSeen)
+{
+    // The last three stand for whatever fits best.
+    EXPECT_EQ(QFontDatabase::families().join(", ").toStdString(),
+              "DejaVu Sans, DejaVu Serif, Liberation Mono, Liberation Sans, Liberation Serif, "
+              "Monospace, Sans Serif, Serif")
+        << "these are the files of fonts-liberation and fonts-dejavu-core that tests/support/fonts.conf "
+           "names";
+}
+
+TEST(TestFonts, PanesAreWrittenInTheFontTheyAskForFirst)
+{
+    const QFont font = CPaneText().Font();
+    EXPECT_EQ(QFontInfo(font).family(), font.families().value(0));
+}
+
+TEST(TestFonts, PrintedHeadingsAreWrittenInLiberationSerif)
+{
+    EXPECT_EQ(QFontInfo(CHeadingFont({}).Font()).family(), "Liberation Serif");
+}
+
+} // namespace zantroq::test
