@@ -14,9 +14,7 @@ if [[ "${1:-}" == "--help" || "${1:-}" == "-h" ]]; then
 fi
 
 packaging/install-packages.sh build run
-cmake --preset release >build-configure.log 2>&1 || { cat build-configure.log >&2; rm -f build-configure.log; exit 1; }
-rm -f build-configure.log
-cmake --build --preset release --target zantroq-chart zantroq-feed zantroq-settings
+packaging/build-release.sh zantroq-chart zantroq-feed zantroq-settings
 
 programs=build/release/bin
 if [[ "${1:-}" == "--build-only" ]]; then

@@ -3,6 +3,5 @@
 set -euo pipefail
 cd "$(dirname "$0")"
 packaging/install-packages.sh build run test
-cmake --preset release -DZANTROQ_WERROR=ON
-cmake --build --preset release
-ctest --preset release --output-on-failure "$@"
+packaging/build-release.sh --tests
+ctest --preset release "$@"
