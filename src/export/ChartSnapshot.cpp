@@ -1,5 +1,6 @@
 #include "export/ChartSnapshot.h"
 
+#include "export/DialogJson.h"
 #include "scene/PaneFile.h"
 #include "window/ChartDlg.h"
 #include "window/ChartsResizer.h"
@@ -157,6 +158,8 @@ std::string ChartSnapshotText(const CChartDlg& window)
         trends.push_back(TrendToJson(trend));
     json["trends"] = std::move(trends);
     json["trendState"] = window.Trends().State();
+    const IDialogDriver* const dialog = window.OpenDialog();
+    json["dialog"] = dialog != nullptr ? DialogToJson(dialog->Describe()) : Json();
     json["panes"] = PanesToJson(window);
     // Texts from outside may be no UTF-8; they must not keep the rest from being written.
     return json.dump(1, ' ', false, Json::error_handler_t::replace) + "\n";

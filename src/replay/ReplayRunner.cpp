@@ -49,6 +49,32 @@ std::string PickFromMenu(CChartDlg& window, int command)
     return "";
 }
 
+// Empty, or why nothing was done.
+std::string RunDialogStep(const sReplayStep& step, CChartDlg& window)
+{
+    IDialogDriver* const dialog = window.OpenDialog();
+    if (dialog == nullptr)
+        return "dialog: no dialog is open; open one by command 774 or 775";
+    const std::string id = std::to_string(step.Number);
+    const auto told = [](const std::string& words, const std::string& why) {
+        return why.empty() ? "" : "dialog " + words + ": " + why;
+    };
+    switch (step.Action) {
+    case ReplayAction::DialogPage:
+        return told("page \"" + step.Text + "\"", dialog->TurnToPage(step.Text));
+    case ReplayAction::DialogSet:
+        return told("set " + id, dialog->Set(step.Number, step.Text));
+    case ReplayAction::DialogPress:
+        return told("press " + id, dialog->Press(step.Number));
+    case ReplayAction::DialogDouble:
+        return told("double " + id, dialog->DoubleClick(step.Number, step.X));
+    case ReplayAction::DialogOk:
+        return told("ok", dialog->Ok());
+    default:
+        return told("cancel", dialog->Cancel());
+    }
+}
+
 sReplayResult RunStep(const sReplayStep& step, CChartDlg& window, CReplayMessageBox& boxes, IReplayHost& host)
 {
     std::string wrong;
@@ -112,6 +138,15 @@ sReplayResult RunStep(const sReplayStep& step, CChartDlg& window, CReplayMessage
         if (!window.ApplySetting(step.Name, step.Text, wrong))
             return Failed(2, step, "set \"" + step.Name + "\": " + wrong);
         break;
+    case ReplayAction::DialogPage:
+    case ReplayAction::DialogSet:
+    case ReplayAction::DialogPress:
+    case ReplayAction::DialogDouble:
+    case ReplayAction::DialogOk:
+    case ReplayAction::DialogCancel:
+        if (wrong = RunDialogStep(step, window); !wrong.empty())
+            host.Warn(Failed(0, step, wrong).Message);
+        break;
     case ReplayAction::Print:
     case ReplayAction::Snapshot:
         return RunFileStep(step, host);
@@ -124,12 +159,15 @@ sReplayResult RunStep(const sReplayStep& step, CChartDlg& window, CReplayMessage
 sReplayResult RunReplay(const sReplayScript& script, CChartDlg& window, CReplayMessageBox& boxes,
                         IReplayHost& host)
 {
+    sReplayResult result;
     for (const sReplayStep& step : script.Steps) {
-        sReplayResult result = RunStep(step, window, boxes, host);
+        result = RunStep(step, window, boxes, host);
         if (result.ExitCode != 0)
-            return result;
+            break;
     }
-    return {};
+    if (IDialogDriver* const dialog = window.OpenDialog())
+        dialog->Cancel();
+    return result;
 }
 
 } // namespace zantroq

@@ -275,6 +275,31 @@ void ReadSet(CWordReader& words, sReplayStep& step)
         throw sScriptError{"set: " + Quoted(step.Name) + ": " + wrong};
 }
 
+int TakeControl(CWordReader& words)
+{
+    return words.TakeInt("the control", 1, 65535);
+}
+
+void ReadDialog(CWordReader& words, sReplayStep& step)
+{
+    static constexpr std::array<const char*, 6> Names{"page", "set", "press", "double", "ok", "cancel"};
+    static constexpr std::array<ReplayAction, 6> Actions{
+        ReplayAction::DialogPage,   ReplayAction::DialogSet, ReplayAction::DialogPress,
+        ReplayAction::DialogDouble, ReplayAction::DialogOk,  ReplayAction::DialogCancel};
+    step.Action = Actions[static_cast<std::size_t>(words.TakeChoice("the action", Names))];
+    if (step.Action == ReplayAction::DialogPage) {
+        step.Text = words.Take("the title of the page");
+        return;
+    }
+    if (step.Action == ReplayAction::DialogOk || step.Action == ReplayAction::DialogCancel)
+        return;
+    step.Number = TakeControl(words);
+    if (step.Action == ReplayAction::DialogSet)
+        step.Text = words.Take("the value");
+    else if (step.Action == ReplayAction::DialogDouble)
+        step.X = words.TakeInt("the row", 0, 2000000000);
+}
+
 void ReadPrint(CWordReader& words, sReplayStep& step)
 {
     step.Action = ReplayAction::Print;
@@ -302,7 +327,7 @@ struct sStepReader
     void (*Read)(CWordReader& words, sReplayStep& step);
 };
 
-constexpr std::array<sStepReader, 15> Readers{
+constexpr std::array<sStepReader, 16> Readers{
     {{"symbol", "symbol TEXT", ReadSymbol},
      {"draw", "draw alone", ReadDraw},
      {"command", "command ID", ReadCommand},
@@ -316,6 +341,10 @@ constexpr std::array<sStepReader, 15> Readers{
      {"answer", "answer yes|no|ok|cancel", ReadAnswer},
      {"wait", "wait MS or wait complete [S]", ReadWait},
      {"set", "set NAME VALUE, a word with blanks in double quotes", ReadSet},
+     {"dialog",
+      "dialog page TITLE, dialog set ID VALUE, dialog press ID, dialog double ID ROW, dialog ok or dialog "
+      "cancel",
+      ReadDialog},
      {"print", "print FILE", ReadPrint},
      {"snapshot", "snapshot FILE", ReadSnapshot}}};
 

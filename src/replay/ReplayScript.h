@@ -33,7 +33,13 @@ enum class ReplayAction
     Wait,         // Milliseconds
     Set,          // Name, Text
     Print,        // Text: a file
-    Snapshot      // Text: a file
+    DialogPage,   // Text: the title of a page
+    DialogSet,    // Number: a control, Text: its value
+    DialogPress,  // Number: a button
+    DialogDouble, // Number: a list, X: its row
+    DialogOk,
+    DialogCancel,
+    Snapshot // Text: a file
 };
 
 struct sReplayStep

@@ -346,4 +346,9 @@ const std::vector<sAskedBox>& CChartDlg::AskedBoxes() const
     return m_parts->Recorder.Boxes();
 }
 
+IDialogDriver* CChartDlg::OpenDialog() const
+{
+    return m_parts->Dialogs != nullptr ? m_parts->Dialogs->OpenDialog() : nullptr;
+}
+
 } // namespace zantroq

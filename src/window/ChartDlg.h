@@ -126,6 +126,7 @@ public:
     const std::optional<sContextMenu>& OpenMenu() const;
     sContextMenu MenuOf(int pane) const; // what a pane's context menu would hold now
     const std::vector<sAskedBox>& AskedBoxes() const;
+    IDialogDriver* OpenDialog() const; // null: no dialog is open
 
 private:
     std::array<CChart2D, PaneControls> m_panes; // there before the parts, which take them by number

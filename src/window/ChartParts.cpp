@@ -161,11 +161,17 @@ void sChartParts::RunSearch()
         Unavailable("Symbol Search");
         return;
     }
-    const auto symbol = Dialogs->RunSymbolSearch();
-    if (!symbol || symbol->empty())
+    if (Dialogs->OpenDialog() != nullptr)
+        return;
+    Dialogs->OpenSymbolSearch([this](const std::string& symbol) { TakeFoundSymbol(symbol); });
+}
+
+void sChartParts::TakeFoundSymbol(const std::string& symbol)
+{
+    if (symbol.empty())
         return;
     Services.Symbol.Select(-1);
-    Services.Symbol.SetText(*symbol);
+    Services.Symbol.SetText(symbol);
     Services.Commands.Enable(CommandDrawChart, true);
 }
 
@@ -175,8 +181,10 @@ void sChartParts::RunSettings()
         Unavailable("Settings");
         return;
     }
-    if (const auto edit = Dialogs->RunSettingsSheet(Settings))
-        Window.ApplySettings(*edit);
+    if (Dialogs->OpenDialog() != nullptr)
+        return;
+    Dialogs->OpenSettingsSheet({Settings, Key, Services.Box},
+                               [this](const sSettingsEdit& edit) { Window.ApplySettings(edit); });
 }
 
 void sChartParts::RunPrint()

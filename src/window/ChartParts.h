@@ -89,6 +89,7 @@ struct sChartParts : ILifecycleEvents, ISettingsTarget
 private:
     void Unavailable(const char* feature);
     void RunSearch();
+    void TakeFoundSymbol(const std::string& symbol);
     void RunSettings();
     void RunPrint();
     void FlipGrid();

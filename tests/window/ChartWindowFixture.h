@@ -66,7 +66,11 @@ struct sChartFixture
     {
         std::optional<std::string> Symbol;
         bool HasSymbolSearch() const override { return true; }
-        std::optional<std::string> RunSymbolSearch() override { return Symbol; }
+        void OpenSymbolSearch(SymbolChosen done) override
+        {
+            if (Symbol)
+                done(*Symbol);
+        }
     };
 
     sFakeDesktop Desktop;

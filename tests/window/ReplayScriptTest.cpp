@@ -30,9 +30,11 @@ TEST(ReplayScript, ReadsEveryStep)
                           "key 341 0x41\nscroll page-left\nscroll thumb 12\nscroll track -3\n"
                           "resize 800 600\nmenu 32793\nmenu none\nanswer cancel\n"
                           "wait complete\nwait complete 2.5\nwait 250\nset GRID 0\n"
-                          "print page.pdf\nsnapshot a.json\n");
+                          "print page.pdf\nsnapshot a.json\n"
+                          "dialog page \"Upper Studies\"\ndialog set 308 Right\ndialog press 248\n"
+                          "dialog double 329 2\ndialog ok\ndialog cancel\n");
     ASSERT_EQ(script.Error, "");
-    ASSERT_EQ(script.Steps.size(), 22u);
+    ASSERT_EQ(script.Steps.size(), 28u);
     EXPECT_EQ(script.Steps[0].Text, "MSFT");
     EXPECT_EQ(script.Steps[2].Number, 777);
     EXPECT_EQ(script.Steps[3].Number, 1);
@@ -56,6 +58,13 @@ TEST(ReplayScript, ReadsEveryStep)
     EXPECT_EQ(script.Steps[19].Name, "GRID");
     EXPECT_EQ(script.Steps[20].Action, ReplayAction::Print);
     EXPECT_EQ(script.Steps[21].Line, 22);
+    EXPECT_EQ(script.Steps[22].Text, "Upper Studies");
+    EXPECT_EQ(script.Steps[23].Number, 308);
+    EXPECT_EQ(script.Steps[23].Text, "Right");
+    EXPECT_EQ(script.Steps[24].Action, ReplayAction::DialogPress);
+    EXPECT_EQ(script.Steps[25].X, 2);
+    EXPECT_EQ(script.Steps[26].Action, ReplayAction::DialogOk);
+    EXPECT_EQ(script.Steps[27].Action, ReplayAction::DialogCancel);
 }
 
 TEST(ReplayScript, QuotesHoldBlanksAndHashesAndCommentsEndALine)

@@ -546,6 +546,17 @@ TEST(Replay, DrivesTheWindowLikeAPerson)
     EXPECT_EQ(chart->Desktop.Symbol.Edit, "A");
 }
 
+TEST(Replay, ADialogStepWithoutADialogWarnsAndTheScriptGoesOn)
+{
+    sChartFixture chart;
+    Log warnings;
+    const sReplayResult result = Play(chart, "dialog set 308 Right\ndialog ok\nsymbol X", true, &warnings);
+    EXPECT_EQ(result.ExitCode, 0);
+    const std::string why = "dialog: no dialog is open; open one by command 774 or 775";
+    EXPECT_EQ(warnings, (Log{"line 1: " + why, "line 2: " + why}));
+    EXPECT_EQ(chart.Desktop.Symbol.Edit, "X");
+}
+
 TEST(Replay, AThumbDrawsWhereItIsLetGo)
 {
     auto chart = ChartOf(DailyData);

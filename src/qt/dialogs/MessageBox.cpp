@@ -3,6 +3,7 @@
 #include "qt/widgets/CommandIcons.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QMessageBox>
 
 namespace zantroq {
@@ -18,6 +19,16 @@ void ShowPicture(QMessageBox& box, BoxIcon icon)
     box.setIconPixmap(picture.pixmap(QSize(PictureSize, PictureSize), box.devicePixelRatioF()));
 }
 
+// The dialog that is open over the window, so that the box does not come up behind it, else the window.
+QWidget& Over(QWidget& inside)
+{
+    QWidget* const window = inside.window();
+    for (QWidget* over = QApplication::activeModalWidget(); over != nullptr; over = over->parentWidget())
+        if (over->parentWidget() != nullptr && over->parentWidget()->window() == window)
+            return *over;
+    return *window;
+}
+
 // Words alone: a desktop without an icon theme would put discs before them.
 void ShowPlainButtons(QMessageBox& box)
 {
@@ -30,7 +41,7 @@ void ShowPlainButtons(QMessageBox& box)
 BoxAnswer CMessageBox::Ask(const std::string& text, const std::string& caption, BoxButtons buttons,
                            BoxIcon icon)
 {
-    QMessageBox box(m_parent.window());
+    QMessageBox box(&Over(m_parent));
     ShowPicture(box, icon);
     // Without a caption the title stays blank; the desktop would put the program's name there.
     box.setWindowTitle(caption.empty() ? QString(" ") : QString::fromStdString(caption));

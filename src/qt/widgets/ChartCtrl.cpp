@@ -3,13 +3,13 @@
 #include "market/ManagerThreadHolder.h"
 #include "qt/dialogs/MessageBox.h"
 #include "qt/dialogs/PictureDialog.h"
+#include "qt/dialogs/WindowDialogs.h"
 #include "qt/output/ChartPicture.h"
 #include "qt/output/ChartPrinter.h"
 #include "qt/widgets/ChartView.h"
 #include "studies/StudyFactory.h"
 #include "window/ChartDlg.h"
 #include "window/ManagerThreadFeed.h"
-#include "window/WindowDialogs.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -26,23 +26,14 @@ public:
     void Open(const sContextMenu&, int, int) override {}
 };
 
-class CDialogs : public IWindowDialogs
-{
-public:
-    bool HasPrint() const override { return true; }
-    void RunPrint() override { Print(); }
-
-    std::function<void()> Print = [] {};
-};
-
 } // namespace
 
 struct CChartCtrl::sServices
 {
-    explicit sServices(QWidget& parent) : Box(parent), Feed(ManagerThreadHolder()) {}
+    explicit sServices(QWidget& parent) : Box(parent), Dialogs(parent), Feed(ManagerThreadHolder()) {}
 
     CMessageBox Box;
-    CDialogs Dialogs;
+    CWindowDialogs Dialogs;
     CMenuAsData Menu;
     CManagerThreadFeed Feed;
     CStudyFactory Studies;
@@ -87,6 +78,7 @@ CChartCtrl::CChartCtrl(QWidget* parent, const sChartCtrlSetup& setup)
 
 CChartCtrl::~CChartCtrl()
 {
+    m_services->Dialogs.Drop();
     m_view->Detach();
     m_window->Destroy();
     ManagerThreadHolder().RemoveControl(nullptr); // Destroy has unwatched the series

@@ -1,0 +1,37 @@
+// The dialogs of one chart window: at most one is open. Chart window's thread.
+#pragma once
+
+#include "qt/dialogs/FormDialogDriver.h"
+#include "window/WindowDialogs.h"
+
+#include <QPointer>
+
+#include <functional>
+#include <memory>
+
+namespace zantroq {
+
+class CWindowDialogs : public IWindowDialogs
+{
+public:
+    explicit CWindowDialogs(QWidget& over) : m_over(over) {} // a widget inside the chart's window
+    ~CWindowDialogs() override { Drop(); }
+
+    // Closes an open dialog as if it had never been there.
+    void Drop();
+
+    bool HasPrint() const override { return true; }
+    void RunPrint() override { Print(); }
+    IDialogDriver* OpenDialog() override;
+
+    std::function<void()> Print = [] {};
+
+private:
+    void Open(CFormDialog& dialog);
+
+    QWidget& m_over;
+    QPointer<CFormDialog> m_dialog;
+    std::unique_ptr<CFormDialogDriver> m_driver; // of m_dialog while it is open
+};
+
+} // namespace zantroq
