@@ -43,8 +43,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         if (!points)
             continue;
         CHistoryReply reply(std::move(points), command);
+        CWorkSlice slice = CWorkSlice::Unlimited();
         CTextBlock block;
-        while (reply.Write(block, 1000))
+        while (reply.Write(block, 1000, slice) != WorkProgress::Ended)
             block.Clear();
     }
     return 0;

@@ -61,7 +61,8 @@ protected:
         BeginReply(m_request);
         EachLine(HistoryRequestText(m_request), [&](std::string_view line) { m_lookup.OnLine(line); });
         CTextBlock block;
-        m_lookup.Write(block, 1'000'000);
+        CWorkSlice slice = CWorkSlice::Unlimited();
+        m_lookup.Write(block, 1'000'000, slice);
         EachLine(block.Text(), [&](std::string_view line) { m_reply.OnLine(line); });
         return m_request.GetCount(FieldTime);
     }
@@ -70,14 +71,17 @@ protected:
     void Say(std::string_view lines)
     {
         std::string text;
-        EachLine(lines, [&](std::string_view line) { m_live.OnLine(line, m_now, text); });
+        CWorkSlice slice = CWorkSlice::Unlimited();
+        EachLine(lines, [&](std::string_view line) { m_live.OnLine(line); });
+        m_live.AnswerLines(m_now, 1'000'000, slice, text);
         EachLine(text, [&](std::string_view line) { m_stream.OnLine(line); });
     }
     void Trade(CLevel1Session::TClock::duration wait)
     {
         std::string text;
         m_now += wait;
-        m_live.WriteDue(m_now, 1'000'000, text);
+        CWorkSlice slice = CWorkSlice::Unlimited();
+        m_live.WriteDue(m_now, 1'000'000, slice, text);
         EachLine(text, [&](std::string_view line) { m_stream.OnLine(line); });
     }
 

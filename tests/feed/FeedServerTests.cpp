@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <list>
 #include <thread>
 
 namespace zantroq::feed {
@@ -220,6 +221,33 @@ TEST(FeedServer, ToldOfBadRowsInsideStart)
     ASSERT_TRUE(server.Start(error));
     ASSERT_EQ(notices.size(), 2u);
     EXPECT_NE(notices[0].find("X.daily.csv:3: "), std::string::npos);
+}
+
+// Eight clients whose requests yield no line, or that ask for ever new simulated symbols, once kept the feed
+// from everybody else for more than a minute, even after they had left.
+TEST(FeedServer, HeavyWorkOfOthersHoldsUpNobody)
+{
+    CFeedServer server(Options());
+    std::string error;
+    ASSERT_TRUE(server.Start(error));
+    CFeedClient client(server.LookupPort());
+    std::list<CFeedClient> attackers;
+    for (int i = 0; i < 8; ++i) {
+        CFeedClient& lookup = attackers.emplace_back(server.LookupPort());
+        for (int line = 0; line < 50; ++line)
+            lookup.Send(i % 2 == 0 ? "HID,SIM.BIG,7,9999999,,030000,030001,1,Z" + std::to_string(line) + "\n"
+                                   : "HTX,SIM.K" + std::to_string(50 * i + line) + ",1,1,q\n");
+        CFeedClient& live = attackers.emplace_back(server.Level1Port());
+        for (int line = 0; line < 50; ++line)
+            live.Send("wSIM.L" + std::to_string(50 * i + line) + "\n");
+    }
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(CountLines(client.Ask("HIX,SIM.CALM,60,100,1,31")), 101u);
+    for (CFeedClient& attacker : attackers)
+        attacker.Close();
+    EXPECT_EQ(CountLines(client.Ask("HIX,SIM.CALM,60,100,1,31")), 101u);
+    server.Stop();
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
 }
 
 } // namespace zantroq::feed

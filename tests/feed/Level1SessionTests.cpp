@@ -64,7 +64,9 @@ protected:
     std::string Say(CLevel1Session& session, std::string_view line)
     {
         std::string text;
-        session.OnLine(line, m_now, text);
+        CWorkSlice slice = CWorkSlice::Unlimited();
+        session.OnLine(line);
+        session.AnswerLines(m_now, 10'000'000, slice, text);
         return text;
     }
 
@@ -72,7 +74,8 @@ protected:
     {
         std::string text;
         m_now += wait;
-        session.WriteDue(m_now, 10'000'000, text);
+        CWorkSlice slice = CWorkSlice::Unlimited();
+        session.WriteDue(m_now, 10'000'000, slice, text);
         return Lines(text);
     }
 
@@ -300,7 +303,8 @@ TEST_F(Level1Session, TheSlowestSpeedWaitsForEver)
         CLevel1Session session(m_catalog, {.SimulateAll = true, .Speed = speed});
         Say(session, "wMN");
         std::string text;
-        session.WriteDue(m_now + 24h, 100'000, text);
+        CWorkSlice slice = CWorkSlice::Unlimited();
+        session.WriteDue(m_now + 24h, 100'000, slice, text);
         EXPECT_TRUE(text.empty()) << speed;
         CLevel1Session::TClock::time_point due;
         ASSERT_TRUE(session.NextDue(due));
@@ -316,8 +320,9 @@ TEST_F(Level1Session, TheBlockLimitLosesNoTrade)
             Say(*session, symbol);
     const auto expected = Trades(whole, 60s);
     std::string text;
+    CWorkSlice slice = CWorkSlice::Unlimited();
     for (int i = 0; i < 10'000; ++i)
-        pieces.WriteDue(m_now, 1, text);
+        pieces.WriteDue(m_now, 1, slice, text);
     EXPECT_EQ(Lines(text), expected);
 }
 
@@ -526,6 +531,30 @@ TEST_F(Level1Session, SimulatedTradesOfOnePriceForEverNeverMove)
     Say(session, "wSIM.FLAT");
     for (const auto& line : Trades(session, 60s))
         EXPECT_EQ(line, "Q,SIM.FLAT,20.00,");
+}
+
+// A block of 3,000 watches of new simulated symbols once kept the feed from everybody else until all were
+// done.
+TEST_F(Level1Session, LinesAreAnsweredInSlices)
+{
+    CLevel1Session whole(m_catalog, {}), pieces(m_catalog, {});
+    std::string expected, text;
+    for (const char* line : {"wSIM.N1", "wNIX", "wDY", "rDY", "wSIM.GAPS", "x"})
+        expected += Say(whole, line);
+    for (const char* line : {"wSIM.N2", "wNIX", "wDY", "rDY", "wSIM.GAPS", "x"})
+        pieces.OnLine(line);
+    CWorkSlice first = CWorkSlice::OfSteps(10);
+    EXPECT_EQ(pieces.AnswerLines(m_now, 10'000'000, first, text), WorkProgress::More);
+    EXPECT_EQ(text, "") << "the market is not made yet";
+    EXPECT_EQ(pieces.PendingLines(), 6u);
+    std::size_t slices = 0;
+    for (WorkProgress progress = WorkProgress::More; progress == WorkProgress::More; ++slices) {
+        CWorkSlice slice = CWorkSlice::OfSteps(100);
+        progress = pieces.AnswerLines(m_now, 10'000'000, slice, text);
+    }
+    EXPECT_GT(slices, 20u);
+    EXPECT_EQ(Lines(text).size(), Lines(expected).size());
+    EXPECT_EQ(pieces.PendingLines(), 0u);
 }
 
 } // namespace zantroq::feed

@@ -33,6 +33,12 @@ constexpr std::string_view Days = "date,open,high,low,close,volume,open_interest
                                   "2014-01-02,3,4,0.5,4,30,9\n" // Thursday of the same week
                                   "2014-01-06,4,8,4,7,40,1\n";  // Monday
 
+void WriteAll(CLookupSession& session, CTextBlock& block, std::size_t limit)
+{
+    CWorkSlice slice = CWorkSlice::Unlimited();
+    session.Write(block, limit, slice);
+}
+
 } // namespace
 
 class LookupSession : public testing::Test
@@ -54,7 +60,7 @@ protected:
         CLookupSession session(m_catalog);
         session.OnLine(line);
         CTextBlock block;
-        session.Write(block, 1'000'000);
+        WriteAll(session, block, 1'000'000);
         EXPECT_EQ(session.PendingReplies(), 0u);
         return std::string(block.Text());
     }
@@ -351,14 +357,61 @@ TEST_F(LookupSession, RepliesKeepTheOrderOfTheirCommandsWhateverTheBlockSize)
         for (const char* line : {"HTX,TK,0,1,01", "bad", "HWX,DY,0,0,82", "HTD,TK,0,,,,0,13"})
             session->OnLine(line);
     CTextBlock block;
-    whole.Write(block, 1'000'000);
+    WriteAll(whole, block, 1'000'000);
     std::string joined;
     while (pieces.PendingReplies() > 0) {
         CTextBlock piece;
-        pieces.Write(piece, 1);
+        WriteAll(pieces, piece, 1);
         joined += piece.Text();
     }
     EXPECT_EQ(joined, block.Text());
+}
+
+// A reply without a line never gave the feed's thread up, so one client's request stopped all others.
+TEST_F(LookupSession, ASliceAlsoEndsAReplyThatYieldsNoLine)
+{
+    CLookupSession session(m_catalog);
+    session.OnLine("HID,SIM.GAPS,7,9999999,,030000,030001,1,1");
+    CTextBlock block;
+    std::size_t slices = 0;
+    for (WorkProgress progress = WorkProgress::More; progress == WorkProgress::More; ++slices) {
+        ASSERT_EQ(block.Size(), 0u);
+        CWorkSlice slice = CWorkSlice::OfSteps(100);
+        progress = session.Write(block, 1'000'000, slice);
+    }
+    EXPECT_EQ(block.Text(), "1,!ENDMSG!,\r\n");
+    EXPECT_GT(slices, 50u) << "making the market, building and passing over the bars are all cut";
+}
+
+TEST_F(LookupSession, RepliesAreTheSameHoweverOftenTheyAreCut)
+{
+    for (const char* line :
+         {"HTX,TK,4,1,01", "HTX,TK,5,0,01", "HIX,TK,60,3,1,31", "HIX,MN,300,3,0,31", "HID,TK,1,2,,,,1,4",
+          "HIT,TK,60,20140102 093100,20140106 155900,,,,1,5", "HDX,DY,3,1,6", "HWX,DY,0,1,8", "HMX,DY,1,1,9",
+          "HWX,SIM.GAPS,300,1,8", "HDX,NIX,1,1,6", "HTX,DY,1,1,0"}) {
+        CLookupSession session(m_catalog);
+        session.OnLine(line);
+        std::string text;
+        while (session.PendingReplies() > 0) {
+            CTextBlock piece;
+            CWorkSlice slice = CWorkSlice::OfSteps(1);
+            session.Write(piece, 1'000'000, slice);
+            text += piece.Text();
+        }
+        EXPECT_EQ(text, Ask(line)) << line;
+    }
+}
+
+TEST_F(LookupSession, DroppedRepliesAreForgotten)
+{
+    CLookupSession session(m_catalog);
+    session.OnLine("HTX,TK,0,1,01");
+    session.OnLine("HTX,TK,0,1,02");
+    session.DropReplies();
+    CTextBlock block;
+    WriteAll(session, block, 1'000'000);
+    EXPECT_EQ(block.Size(), 0u);
+    EXPECT_EQ(session.PendingReplies(), 0u);
 }
 
 TEST_F(LookupSession, SimulatedHistoryIsToldOnce)
@@ -400,12 +453,12 @@ TEST_F(LookupSession, AReplyKeepsItsMarketUntilItsEnd)
     CLookupSession session(m_catalog);
     session.OnLine("HTX,SIM.Q0,5000,1,0");
     CTextBlock piece;
-    session.Write(piece, 1);
+    WriteAll(session, piece, 1);
     std::string text(piece.Text());
     for (std::size_t i = 0; i <= CMarketCatalog::MaxUnlisted; ++i)
         ASSERT_TRUE(m_catalog.Find("SIM.N" + std::to_string(i)));
     piece.Clear();
-    session.Write(piece, 10'000'000);
+    WriteAll(session, piece, 10'000'000);
     EXPECT_EQ(text.append(piece.Text()), whole);
 }
 

@@ -71,7 +71,7 @@ TEST(BarBuilder, IntervalsOfTicksAreThoseOfThePlainModel)
     for (const int seconds : {1, 7, 60, 300, 420, 3600, 7200, 50'000, 86'400}) {
         const auto ticks = RandomTicks(static_cast<std::uint64_t>(seconds), 500);
         std::vector<sFEED_BAR> bars;
-        BuildIntervalsFromTicks(ticks, seconds, bars);
+        CTickBarBuilder(seconds).Add(ticks, bars);
         const auto plain = PlainBars(ticks, seconds);
         ASSERT_EQ(bars.size(), plain.size()) << seconds;
         auto expected = plain.begin();
@@ -91,10 +91,10 @@ TEST(BarBuilder, MinutesBuildTheSameBarsAsTheirTicks)
 {
     const auto ticks = RandomTicks(99, 2000);
     std::vector<sFEED_BAR> minutes;
-    BuildIntervalsFromTicks(ticks, 60, minutes);
+    CTickBarBuilder(60).Add(ticks, minutes);
     for (const int seconds : {60, 120, 420, 3600, 86'400}) {
         std::vector<sFEED_BAR> fromTicks, fromMinutes;
-        BuildIntervalsFromTicks(ticks, seconds, fromTicks);
+        CTickBarBuilder(seconds).Add(ticks, fromTicks);
         BuildIntervalsFromMinutes(minutes, seconds, fromMinutes);
         ASSERT_EQ(fromTicks.size(), fromMinutes.size());
         for (std::size_t i = 0; i < fromTicks.size(); ++i)
@@ -109,7 +109,7 @@ TEST(BarBuilder, QuotesAreNoTrades)
     ticks[1].Last = MakePrice(900, 0);
     ticks[1].Basis = 'b';
     std::vector<sFEED_BAR> bars;
-    BuildIntervalsFromTicks(ticks, 60, bars);
+    CTickBarBuilder(60).Add(ticks, bars);
     ASSERT_EQ(bars.size(), 1u);
     EXPECT_EQ(PriceValue(bars[0].High), 5);
 }
@@ -117,6 +117,22 @@ TEST(BarBuilder, QuotesAreNoTrades)
 class SimulatedMarkets : public testing::TestWithParam<std::string>
 {
 };
+
+TEST_P(SimulatedMarkets, IsTheSameWhenItIsMadeInSlices)
+{
+    const CSimulatedMarket whole(GetParam(), 3), pieces(GetParam(), 3);
+    std::size_t slices = 1;
+    for (CWorkSlice slice = CWorkSlice::OfSteps(97); !pieces.Prepare(slice); ++slices)
+        slice = CWorkSlice::OfSteps(97);
+    EXPECT_GT(slices, 50u);
+    const auto a = whole.Daily(), b = pieces.Daily();
+    ASSERT_EQ(a.size(), b.size());
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        ASSERT_EQ(a[i].Stamp, b[i].Stamp);
+        ASSERT_EQ(PriceValue(a[i].Close), PriceValue(b[i].Close));
+        ASSERT_EQ(a[i].Volume, b[i].Volume);
+    }
+}
 
 TEST_P(SimulatedMarkets, MinutesAddUpToTheirDay)
 {
@@ -148,7 +164,7 @@ TEST_P(SimulatedMarkets, TicksAddUpToTheirMinutes)
     EXPECT_TRUE(std::is_sorted(ticks.begin(), ticks.end(), [](auto& a, auto& b) { return a.Time < b.Time; }));
     for (const sFEED_TICK& tick : ticks)
         ASSERT_GT(tick.Size, 0u);
-    BuildIntervalsFromTicks(ticks, 60, built);
+    CTickBarBuilder(60).Add(ticks, built);
     const auto minutes = market.Minutes(market.MinuteDays().size() - 1, scratch);
     ASSERT_EQ(built.size(), minutes.size());
     for (std::size_t i = 0; i < built.size(); ++i) {

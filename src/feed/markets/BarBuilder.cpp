@@ -17,18 +17,14 @@ void Grow(sFEED_BAR& bar, const sFEED_BAR& next)
     bar.OpenInterest = next.OpenInterest;
 }
 
-template<class TSameBar> std::vector<sFEED_BAR> JoinDays(std::span<const sFEED_BAR> daily, TSameBar sameBar)
+template<class TSameBar> void JoinDay(const sFEED_BAR& day, std::vector<sFEED_BAR>& bars, TSameBar sameBar)
 {
-    std::vector<sFEED_BAR> bars;
-    for (const sFEED_BAR& day : daily) {
-        if (bars.empty() || !sameBar(DayOf(bars.back().Stamp), DayOf(day.Stamp)))
-            bars.push_back(day);
-        else {
-            Grow(bars.back(), day);
-            bars.back().Stamp = day.Stamp;
-        }
+    if (bars.empty() || !sameBar(DayOf(bars.back().Stamp), DayOf(day.Stamp))) {
+        bars.push_back(day);
+        return;
     }
-    return bars;
+    Grow(bars.back(), day);
+    bars.back().Stamp = day.Stamp;
 }
 
 // One bar of everything that one day's bars hold.
@@ -52,21 +48,18 @@ TFeedTime IntervalEnd(TFeedTime timeOfDay, int intervalSeconds)
     return std::min((timeOfDay / interval + 1) * interval, MsPerDay);
 }
 
-void BuildIntervalsFromTicks(std::span<const sFEED_TICK> ticks, int intervalSeconds,
-                             std::vector<sFEED_BAR>& bars)
+void CTickBarBuilder::Add(std::span<const sFEED_TICK> ticks, std::vector<sFEED_BAR>& bars)
 {
-    const std::size_t first = bars.size();
-    std::int64_t summed = 0;
     for (const sFEED_TICK& tick : ticks) {
         if (!IsTrade(tick))
             continue;
-        summed += tick.Size;
+        m_summed += tick.Size;
         sFEED_BAR trade;
-        trade.Stamp = StartOfDay(DayOf(tick.Time)) + IntervalEnd(TimeOfDay(tick.Time), intervalSeconds);
+        trade.Stamp = StartOfDay(DayOf(tick.Time)) + IntervalEnd(TimeOfDay(tick.Time), m_seconds);
         trade.Open = trade.High = trade.Low = trade.Close = tick.Last;
         trade.Volume = tick.Size;
-        trade.TotalVolume = tick.TotalVolume > 0 ? tick.TotalVolume : summed;
-        if (bars.size() > first && bars.back().Stamp == trade.Stamp)
+        trade.TotalVolume = tick.TotalVolume > 0 ? tick.TotalVolume : m_summed;
+        if (!bars.empty() && bars.back().Stamp == trade.Stamp)
             Grow(bars.back(), trade);
         else
             bars.push_back(trade);
@@ -99,21 +92,21 @@ std::vector<sFEED_BAR> BuildDaily(const IMarketSource& source)
     const auto tickDays = source.TickDays();
     for (std::size_t i = 0; i < tickDays.size(); ++i) {
         intervals.clear();
-        BuildIntervalsFromTicks(source.Ticks(i, tickScratch), static_cast<int>(MsPerDay / MsPerSecond),
-                                intervals);
+        CTickBarBuilder(static_cast<int>(MsPerDay / MsPerSecond))
+            .Add(source.Ticks(i, tickScratch), intervals);
         AppendDay(tickDays[i], intervals, bars);
     }
     return bars;
 }
 
-std::vector<sFEED_BAR> BuildWeekly(std::span<const sFEED_BAR> daily)
+void AddDayToWeekly(const sFEED_BAR& day, std::vector<sFEED_BAR>& bars)
 {
-    return JoinDays(daily, [](TFeedDay a, TFeedDay b) { return a - WeekdayOf(a) == b - WeekdayOf(b); });
+    JoinDay(day, bars, [](TFeedDay a, TFeedDay b) { return a - WeekdayOf(a) == b - WeekdayOf(b); });
 }
 
-std::vector<sFEED_BAR> BuildMonthly(std::span<const sFEED_BAR> daily)
+void AddDayToMonthly(const sFEED_BAR& day, std::vector<sFEED_BAR>& bars)
 {
-    return JoinDays(daily, [](TFeedDay a, TFeedDay b) {
+    JoinDay(day, bars, [](TFeedDay a, TFeedDay b) {
         const sDATE first = DateOfDay(a), second = DateOfDay(b);
         return first.Year == second.Year && first.Month == second.Month;
     });

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "feed/markets/FeedRecords.h"
+#include "feed/markets/WorkSlice.h"
 
 #include <span>
 #include <string>
@@ -11,13 +12,16 @@
 
 namespace zantroq::feed {
 
-// Constant after construction and safe to read from any thread. Days are ascending and each has at least one
-// record; records of a day are ordered by time. Positions count from 0, the oldest day. The spans live as
-// long as the source and the scratch.
+// Days are ascending and each has at least one record; records of a day are ordered by time. Positions count
+// from 0, the oldest day. The spans live as long as the source and the scratch. Used on one thread at a time.
 class IMarketSource
 {
 public:
     virtual ~IMarketSource() = default;
+
+    // Makes what the functions below read; true once all of it is there. They do the rest of that work
+    // themselves when they are called before, in one go.
+    virtual bool Prepare(CWorkSlice&) const { return true; }
 
     virtual bool IsSimulated() const = 0;
     // Decimals of the symbol's prices, and the code with which an exchange would show them: 10 and above

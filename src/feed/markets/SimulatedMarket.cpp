@@ -90,7 +90,10 @@ const sSIMULATION& SimulationOf(std::string_view symbol)
 }
 
 CSimulatedMarket::CSimulatedMarket(std::string_view symbol, std::uint64_t seed)
-    : m_rules(SimulationOf(symbol)), m_key(HashText(symbol, seed))
+    : m_rules(SimulationOf(symbol)),
+      m_key(HashText(symbol, seed)),
+      m_nextDay(LastDay()),
+      m_close(m_rules.BasePrice)
 {
 }
 
@@ -99,43 +102,71 @@ std::uint64_t CSimulatedMarket::Key(TFeedDay day, std::uint64_t what) const
     return MixBits(m_key ^ MixBits(static_cast<std::uint64_t>(static_cast<std::uint32_t>(day)) * 8 + what));
 }
 
-void CSimulatedMarket::MakeDays() const
+bool CSimulatedMarket::Prepare(CWorkSlice& slice) const
 {
-    std::call_once(m_made, [this] {
-        for (TFeedDay day = LastDay(); static_cast<int>(m_days.size()) < m_rules.Days; --day) {
-            const bool missing =
-                day != LastDay() && m_rules.MissingPerMille > 0 &&
-                CRandomNumbers(Key(day, ForMissingDay)).Below(4000) < m_rules.MissingPerMille;
-            if (WeekdayOf(day) <= 4 && !missing)
-                m_days.push_back(day);
-        }
+    const auto dayCount = static_cast<std::size_t>(m_rules.Days);
+    while (m_days.size() < dayCount) {
+        AddOlderDay();
+        if (slice.IsOver())
+            return false;
+    }
+    if (!m_daysAscend) {
         std::reverse(m_days.begin(), m_days.end());
+        m_daysAscend = true;
+        m_daily.reserve(dayCount);
+    }
+    while (m_daily.size() < dayCount) {
+        AddDailyBar(m_days[m_daily.size()]);
+        if (slice.IsOver() && m_daily.size() < dayCount)
+            return false;
+    }
+    return true;
+}
 
-        std::int64_t close = m_rules.BasePrice;
-        std::vector<int> minutes;
-        for (const TFeedDay day : m_days) {
-            CRandomNumbers random(Key(day, ForDay));
-            // A weak pull towards the base keeps a walk of centuries from running to zero or out of sight.
-            const std::int64_t pull = (m_rules.BasePrice - close) / 200;
-            const std::int64_t open = std::max<std::int64_t>(1, close + random.Around(m_rules.NightMove));
-            close = std::max<std::int64_t>(1, open + random.Around(m_rules.DayMove) + pull);
-            const std::int64_t high =
-                std::max(open, close) + random.Below(static_cast<std::uint64_t>(m_rules.DayMove) / 2 + 1);
-            const std::int64_t low = std::max<std::int64_t>(
-                1, std::min(open, close) - random.Below(static_cast<std::uint64_t>(m_rules.DayMove) / 2 + 1));
-            TradedMinutes(day, minutes);
-            const std::int64_t volume = static_cast<std::int64_t>(minutes.size()) *
-                                        (m_rules.MinuteVolume / 2 + random.Below(m_rules.MinuteVolume));
-            sFEED_BAR bar;
-            bar.Stamp = StartOfDay(day);
-            bar.Open = Price(open);
-            bar.High = Price(high);
-            bar.Low = Price(low);
-            bar.Close = Price(close);
-            bar.Volume = bar.TotalVolume = volume;
-            m_daily.push_back(bar);
-        }
-    });
+void CSimulatedMarket::MakeAll() const
+{
+    CWorkSlice slice = CWorkSlice::Unlimited();
+    Prepare(slice);
+}
+
+void CSimulatedMarket::AddOlderDay() const
+{
+    const TFeedDay day = m_nextDay--;
+    const bool missing = day != LastDay() && m_rules.MissingPerMille > 0 &&
+                         CRandomNumbers(Key(day, ForMissingDay)).Below(4000) < m_rules.MissingPerMille;
+    if (WeekdayOf(day) <= 4 && !missing)
+        m_days.push_back(day);
+}
+
+void CSimulatedMarket::AddDailyBar(TFeedDay day) const
+{
+    CRandomNumbers random(Key(day, ForDay));
+    // A weak pull towards the base keeps a walk of centuries from running to zero or out of sight.
+    const std::int64_t pull = (m_rules.BasePrice - m_close) / 200;
+    const std::int64_t open = std::max<std::int64_t>(1, m_close + random.Around(m_rules.NightMove));
+    m_close = std::max<std::int64_t>(1, open + random.Around(m_rules.DayMove) + pull);
+    const auto reach = static_cast<std::uint64_t>(m_rules.DayMove) / 2 + 1;
+    const std::int64_t high = std::max(open, m_close) + random.Below(reach);
+    const std::int64_t low = std::max<std::int64_t>(1, std::min(open, m_close) - random.Below(reach));
+    const std::int64_t volume = static_cast<std::int64_t>(TradedMinuteCount(day)) *
+                                (m_rules.MinuteVolume / 2 + random.Below(m_rules.MinuteVolume));
+    sFEED_BAR bar;
+    bar.Stamp = StartOfDay(day);
+    bar.Open = Price(open);
+    bar.High = Price(high);
+    bar.Low = Price(low);
+    bar.Close = Price(m_close);
+    bar.Volume = bar.TotalVolume = volume;
+    m_daily.push_back(bar);
+}
+
+std::size_t CSimulatedMarket::TradedMinuteCount(TFeedDay day) const
+{
+    if (m_rules.MissingPerMille == 0)
+        return static_cast<std::size_t>(day == LastDay() ? LastDayMinutes : SessionMinutes);
+    std::vector<int> minutes;
+    TradedMinutes(day, minutes);
+    return minutes.size();
 }
 
 void CSimulatedMarket::TradedMinutes(TFeedDay day, std::vector<int>& minutes) const
@@ -152,19 +183,19 @@ void CSimulatedMarket::TradedMinutes(TFeedDay day, std::vector<int>& minutes) co
 
 std::span<const sFEED_BAR> CSimulatedMarket::Daily() const
 {
-    MakeDays();
+    MakeAll();
     return m_daily;
 }
 
 std::span<const TFeedDay> CSimulatedMarket::MinuteDays() const
 {
-    MakeDays();
+    MakeAll();
     return std::span(m_days).last(static_cast<std::size_t>(m_rules.MinuteDays));
 }
 
 std::span<const TFeedDay> CSimulatedMarket::TickDays() const
 {
-    MakeDays();
+    MakeAll();
     return std::span(m_days).last(static_cast<std::size_t>(m_rules.TickDays));
 }
 
@@ -224,10 +255,7 @@ std::span<const sFEED_BAR> CSimulatedMarket::Minutes(std::size_t position,
 
 std::size_t CSimulatedMarket::TickCount(std::size_t position) const
 {
-    const TFeedDay day = TickDays()[position];
-    std::vector<int> minutes;
-    TradedMinutes(day, minutes);
-    return minutes.size() * m_rules.TicksPerMinute;
+    return TradedMinuteCount(TickDays()[position]) * m_rules.TicksPerMinute;
 }
 
 std::span<const sFEED_TICK> CSimulatedMarket::Ticks(std::size_t position,

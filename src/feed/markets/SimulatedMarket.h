@@ -1,5 +1,5 @@
 // An invented market for a symbol whose name begins with "SIM.". Nothing is stored: days are a random walk
-// made once at first use; the minutes of a day and the ticks of a minute are made on demand, from the top
+// made once, in steps; the minutes of a day and the ticks of a minute are made on demand, from the top
 // down, so that the ticks of a minute add up to its bar and the minutes of a day to its bar, exactly. The
 // same seed and name give the same market everywhere.
 //
@@ -10,7 +10,6 @@
 #include "feed/markets/MarketSource.h"
 
 #include <cstdint>
-#include <mutex>
 #include <string_view>
 
 namespace zantroq::feed {
@@ -46,6 +45,7 @@ class CSimulatedMarket : public IMarketSource
 public:
     CSimulatedMarket(std::string_view symbol, std::uint64_t seed);
 
+    bool Prepare(CWorkSlice& slice) const override;
     bool IsSimulated() const override { return true; }
     unsigned Decimals() const override { return m_rules.Decimals; }
     int DisplayCode() const override { return m_rules.DisplayCode; }
@@ -58,19 +58,27 @@ public:
     std::span<const sFEED_BAR> Daily() const override;
 
 private:
-    void MakeDays() const;
+    void MakeAll() const;
+    // The day before the oldest one made so far, unless the market was closed on it.
+    void AddOlderDay() const;
+    void AddDailyBar(TFeedDay day) const;
     sPRICE Price(std::int64_t steps) const { return MakePrice(steps * m_rules.Step, m_rules.Decimals); }
     std::int64_t Steps(sPRICE price) const { return price.Mantissa / m_rules.Step; }
     // The minutes of a day that have trades, counted from 09:30.
     void TradedMinutes(TFeedDay day, std::vector<int>& minutes) const;
+    std::size_t TradedMinuteCount(TFeedDay day) const;
     std::uint64_t Key(TFeedDay day, std::uint64_t what) const;
     void MakeTicks(const sFEED_BAR& minute, std::uint32_t firstId, std::vector<sFEED_TICK>& ticks) const;
 
     const sSIMULATION& m_rules;
     const std::uint64_t m_key;
-    mutable std::once_flag m_made;
-    mutable std::vector<TFeedDay> m_days; // constant once made
+    // Constant once all are made: the days, found from the newest to the oldest and then turned round, and a
+    // bar for each of them.
+    mutable std::vector<TFeedDay> m_days;
     mutable std::vector<sFEED_BAR> m_daily;
+    mutable TFeedDay m_nextDay;
+    mutable bool m_daysAscend = false;
+    mutable std::int64_t m_close; // of the newest bar made so far, in price steps
 };
 
 } // namespace zantroq::feed

@@ -1,6 +1,9 @@
-// Replies in the making. A reply writes itself in blocks as the reader takes them, so that two million lines
-// to a slow reader cost one block of memory. Used on the feed's thread.
+// Replies that are written piece by piece: in blocks, so that two million lines to a slow reader cost one
+// block of memory, and in slices of time, so that no client waits for another one's reply. Used on the feed's
+// thread.
 #pragma once
+
+#include "feed/markets/WorkSlice.h"
 
 #include <cstddef>
 #include <memory>
@@ -31,20 +34,20 @@ class IFeedReply
 {
 public:
     virtual ~IFeedReply() = default;
-    // Appends lines until the block holds at least `limit` characters or the reply ends; true while there is
-    // more.
-    virtual bool Write(CTextBlock& block, std::size_t limit) = 0;
+    // Appends lines until the block holds at least `limit` characters, the slice is over or the reply ends.
+    // Asks the slice after each line, and after each step of work that yields none.
+    virtual WorkProgress Write(CTextBlock& block, std::size_t limit, CWorkSlice& slice) = 0;
 };
 
-// Text that is there already.
+// A reply whose text is known beforehand.
 class CTextReply : public IFeedReply
 {
 public:
     explicit CTextReply(std::string text) : m_text(std::move(text)) {}
-    bool Write(CTextBlock& block, std::size_t) override
+    WorkProgress Write(CTextBlock& block, std::size_t, CWorkSlice&) override
     {
         block.Append(m_text);
-        return false;
+        return WorkProgress::Ended;
     }
 
 private:

@@ -3,6 +3,8 @@
 #include "feed/markets/BarBuilder.h"
 #include "feed/markets/TextWriter.h"
 
+#include <algorithm>
+
 namespace zantroq::feed {
 namespace {
 
@@ -39,13 +41,18 @@ public:
     explicit CTickPoints(const IMarketSource& market) : m_market(market), m_days(market.TickDays()) {}
     std::size_t DayCount() const override { return m_days.size(); }
     TFeedDay Day(std::size_t position) const override { return m_days[position]; }
-    std::size_t CountOfDay(std::size_t position) override { return m_market.TickCount(position); }
-    void Load(std::size_t position) override
+    bool CountDay(std::size_t position, CWorkSlice&, std::size_t& count) override
+    {
+        count = m_market.TickCount(position);
+        return true;
+    }
+    bool Load(std::size_t position, CWorkSlice&) override
     {
         m_ticks = m_market.Ticks(position, m_scratch);
         WriteDay(m_date, m_days[position]);
         m_date[10] = ' ';
         m_midnight = StartOfDay(m_days[position]);
+        return true;
     }
     std::size_t Count() const override { return m_ticks.size(); }
     TFeedTime Stamp(std::size_t point) const override { return m_ticks[point].Time; }
@@ -81,30 +88,26 @@ public:
         : m_market(market),
           m_seconds(intervalSeconds),
           m_fromMinutes(fromMinutes),
-          m_days(fromMinutes ? market.MinuteDays() : market.TickDays())
+          m_days(fromMinutes ? market.MinuteDays() : market.TickDays()),
+          m_builder(intervalSeconds)
     {
     }
     std::size_t DayCount() const override { return m_days.size(); }
     TFeedDay Day(std::size_t position) const override { return m_days[position]; }
-    std::size_t CountOfDay(std::size_t position) override
+    bool CountDay(std::size_t position, CWorkSlice& slice, std::size_t& count) override
     {
-        Load(position);
-        return m_bars.size();
+        if (!Load(position, slice))
+            return false;
+        count = m_bars.size();
+        return true;
     }
-    void Load(std::size_t position) override
+    bool Load(std::size_t position, CWorkSlice& slice) override
     {
-        if (m_loaded && m_position == position)
-            return;
-        m_bars.clear();
-        if (!m_fromMinutes)
-            BuildIntervalsFromTicks(m_market.Ticks(position, m_ticks), m_seconds, m_bars);
-        else if (m_seconds == 60) {
-            const auto minutes = m_market.Minutes(position, m_minutes);
-            m_bars.assign(minutes.begin(), minutes.end());
-        } else
-            BuildIntervalsFromMinutes(m_market.Minutes(position, m_minutes), m_seconds, m_bars);
-        m_loaded = true;
-        m_position = position;
+        if (m_position != position) {
+            m_position = position;
+            Begin();
+        }
+        return BuildOn(slice);
     }
     std::size_t Count() const override { return m_bars.size(); }
     TFeedTime Stamp(std::size_t point) const override { return m_bars[point].Stamp; }
@@ -122,31 +125,77 @@ public:
     }
 
 private:
+    static constexpr std::size_t NoPosition = static_cast<std::size_t>(-1);
+    // A fraction of a millisecond's work.
+    static constexpr std::size_t TicksPerStep = 4096;
+
+    void Begin()
+    {
+        m_bars.clear();
+        m_ticksLeft = {};
+        if (!m_fromMinutes) {
+            m_ticksLeft = m_market.Ticks(m_position, m_ticks);
+            m_builder = CTickBarBuilder(m_seconds);
+            return;
+        }
+        const auto minutes = m_market.Minutes(m_position, m_minutes);
+        if (m_seconds == 60)
+            m_bars.assign(minutes.begin(), minutes.end());
+        else
+            BuildIntervalsFromMinutes(minutes, m_seconds, m_bars);
+    }
+    bool BuildOn(CWorkSlice& slice)
+    {
+        while (!m_ticksLeft.empty()) {
+            const std::size_t count = std::min(m_ticksLeft.size(), TicksPerStep);
+            m_builder.Add(m_ticksLeft.first(count), m_bars);
+            m_ticksLeft = m_ticksLeft.subspan(count);
+            if (slice.IsOver(CWorkSlice::LargeStep) && !m_ticksLeft.empty())
+                return false;
+        }
+        return true;
+    }
+
     const IMarketSource& m_market;
     const int m_seconds;
     const bool m_fromMinutes;
     const std::span<const TFeedDay> m_days;
-    std::vector<sFEED_TICK> m_ticks;
+    CTickBarBuilder m_builder;
+    std::size_t m_position = NoPosition; // of the current day
+    std::vector<sFEED_TICK> m_ticks;     // scratch
+    std::span<const sFEED_TICK> m_ticksLeft;
     std::vector<sFEED_BAR> m_minutes, m_bars;
-    bool m_loaded = false;
-    std::size_t m_position = 0;
 };
 
-// Daily bars as they are, or weekly or monthly ones held here.
+// Recorded daily bars, or weekly or monthly ones that are built from them and held here.
 class CDayBarPoints : public IHistoryPoints
 {
 public:
-    CDayBarPoints(std::span<const sFEED_BAR> daily, HistoryData data) : m_bars(daily)
+    CDayBarPoints(std::span<const sFEED_BAR> daily, HistoryData data)
+        : m_data(data), m_daysLeft(data == HistoryData::Daily ? daily.last(0) : daily), m_bars(daily)
     {
-        if (data == HistoryData::Daily)
-            return;
-        m_built = data == HistoryData::Weekly ? BuildWeekly(daily) : BuildMonthly(daily);
+    }
+    bool Prepare(CWorkSlice& slice) override
+    {
+        if (m_data == HistoryData::Daily)
+            return true;
+        while (!m_daysLeft.empty()) {
+            (m_data == HistoryData::Weekly ? AddDayToWeekly : AddDayToMonthly)(m_daysLeft.front(), m_built);
+            m_daysLeft = m_daysLeft.subspan(1);
+            if (slice.IsOver() && !m_daysLeft.empty())
+                return false;
+        }
         m_bars = m_built;
+        return true;
     }
     std::size_t DayCount() const override { return 1; }
     TFeedDay Day(std::size_t) const override { return DayOf(m_bars.back().Stamp); }
-    std::size_t CountOfDay(std::size_t) override { return m_bars.size(); }
-    void Load(std::size_t) override {}
+    bool CountDay(std::size_t, CWorkSlice&, std::size_t& count) override
+    {
+        count = m_bars.size();
+        return true;
+    }
+    bool Load(std::size_t, CWorkSlice&) override { return true; }
     std::size_t Count() const override { return m_bars.size(); }
     TFeedTime Stamp(std::size_t point) const override { return m_bars[point].Stamp; }
     char* Write(char* at, std::size_t point) const override
@@ -161,6 +210,8 @@ public:
     }
 
 private:
+    const HistoryData m_data;
+    std::span<const sFEED_BAR> m_daysLeft; // to be built from
     std::vector<sFEED_BAR> m_built;
     std::span<const sFEED_BAR> m_bars;
 };

@@ -10,45 +10,75 @@ CHistoryReply::CHistoryReply(std::unique_ptr<IHistoryPoints> points, const sHIST
       m_points(std::move(points)),
       m_command(command),
       m_prefix(command.Id + ','),
-      m_filtered(command.Begin || command.End || command.FilterBegin > 0 || command.FilterEnd < MsPerDay - 1)
+      m_filtered(command.Begin || command.End || command.FilterBegin > 0 || command.FilterEnd < MsPerDay - 1),
+      m_wanted(static_cast<std::uint64_t>(command.Datapoints))
 {
-    ChooseDays();
 }
 
-void CHistoryReply::ChooseDays()
+bool CHistoryReply::ChooseDays(CWorkSlice& slice)
 {
-    m_dayEnd = m_points->DayCount();
-    if (m_command.Days > 0 && m_dayEnd > 0) {
-        const std::int64_t oldest = m_points->Day(m_dayEnd - 1) - m_command.Days + 1;
-        for (m_dayBegin = m_dayEnd; m_dayBegin > 0 && m_points->Day(m_dayBegin - 1) >= oldest;)
-            --m_dayBegin;
-    }
+    if (m_chosen)
+        return true;
+    if (!m_points->Prepare(slice))
+        return false;
+    if (m_dayEnd == 0)
+        m_dayBegin = m_dayEnd = m_points->DayCount();
     if (m_command.Datapoints > 0) {
-        auto wanted = static_cast<std::uint64_t>(m_command.Datapoints);
-        for (m_dayBegin = m_dayEnd; m_dayBegin > 0 && wanted > 0;) {
-            const std::size_t count = m_points->CountOfDay(--m_dayBegin);
-            m_skip = count > wanted ? count - wanted : 0;
-            wanted -= count - m_skip;
-        }
-        m_skipDay = m_dayBegin;
+        if (!ChooseByCount(slice))
+            return false;
+    } else
+        ChooseByDays();
+    DropDaysOutsideRange();
+    m_chosen = true;
+    return true;
+}
+
+bool CHistoryReply::ChooseByCount(CWorkSlice& slice)
+{
+    while (m_dayBegin > 0 && m_wanted > 0) {
+        std::size_t count = 0;
+        if (!m_points->CountDay(m_dayBegin - 1, slice, count))
+            return false;
+        m_skipDay = --m_dayBegin;
+        m_skip = count > m_wanted ? count - m_wanted : 0;
+        m_wanted -= count - m_skip;
+        if (slice.IsOver(CWorkSlice::LargeStep))
+            return false;
     }
-    // Days that lie outside a range altogether need not be made. A bar stamped midnight belongs to the day
-    // before.
-    const bool byDay = m_points->DayCount() > 1;
-    while (byDay && m_command.Begin && m_dayBegin < m_dayEnd &&
+    return true;
+}
+
+void CHistoryReply::ChooseByDays()
+{
+    m_dayBegin = 0;
+    if (m_command.Days == 0 || m_dayEnd == 0)
+        return;
+    const std::int64_t oldest = m_points->Day(m_dayEnd - 1) - m_command.Days + 1;
+    for (m_dayBegin = m_dayEnd; m_dayBegin > 0 && m_points->Day(m_dayBegin - 1) >= oldest;)
+        --m_dayBegin;
+}
+
+void CHistoryReply::DropDaysOutsideRange()
+{
+    // A bar stamped midnight belongs to the day before. Longer bars are all in one load.
+    if (m_points->DayCount() <= 1)
+        return;
+    while (m_command.Begin && m_dayBegin < m_dayEnd &&
            m_points->Day(m_dayBegin) + 1 < DayOf(*m_command.Begin))
         ++m_dayBegin;
-    while (byDay && m_command.End && m_dayBegin < m_dayEnd &&
-           m_points->Day(m_dayEnd - 1) > DayOf(*m_command.End))
+    while (m_command.End && m_dayBegin < m_dayEnd && m_points->Day(m_dayEnd - 1) > DayOf(*m_command.End))
         --m_dayEnd;
 }
 
-bool CHistoryReply::LoadNextDay()
+bool CHistoryReply::LoadNextDay(CWorkSlice& slice)
 {
-    if (m_dayBegin == m_dayEnd)
+    const std::size_t position = m_command.OldestFirst ? m_dayBegin : m_dayEnd - 1;
+    if (!m_points->Load(position, slice))
         return false;
-    const std::size_t position = m_command.OldestFirst ? m_dayBegin++ : --m_dayEnd;
-    m_points->Load(position);
+    if (m_command.OldestFirst)
+        ++m_dayBegin;
+    else
+        --m_dayEnd;
     m_first = position == m_skipDay ? m_skip : 0;
     m_last = m_points->Count();
     return true;
@@ -62,23 +92,42 @@ bool CHistoryReply::IsWanted(TFeedTime stamp) const
     return timeOfDay >= m_command.FilterBegin && timeOfDay <= m_command.FilterEnd;
 }
 
-bool CHistoryReply::Write(CTextBlock& block, std::size_t limit)
+WorkProgress CHistoryReply::Write(CTextBlock& block, std::size_t limit, CWorkSlice& slice)
 {
+    if (!ChooseDays(slice))
+        return WorkProgress::More;
     while (block.Size() < limit) {
-        if (m_first == m_last) {
-            if (LoadNextDay())
-                continue;
-            block.Append(m_prefix);
-            block.Append("!ENDMSG!,\r\n");
-            return false;
-        }
-        const std::size_t point = m_command.OldestFirst ? m_first++ : --m_last;
-        if (m_filtered && !IsWanted(m_points->Stamp(point)))
-            continue;
-        char* at = WriteText(block.Reserve(m_prefix.size() + MaxPointLine), m_prefix);
-        block.Commit(m_points->Write(at, point));
+        if (!WriteStep(block, slice))
+            return WorkProgress::Ended;
+        if (slice.IsOver())
+            break;
     }
-    return true;
+    return WorkProgress::More;
+}
+
+bool CHistoryReply::WriteStep(CTextBlock& block, CWorkSlice& slice)
+{
+    if (m_first != m_last) {
+        WritePoint(block);
+        return true;
+    }
+    if (m_dayBegin != m_dayEnd) {
+        if (LoadNextDay(slice))
+            slice.IsOver(CWorkSlice::LargeStep);
+        return true;
+    }
+    block.Append(m_prefix);
+    block.Append("!ENDMSG!,\r\n");
+    return false;
+}
+
+void CHistoryReply::WritePoint(CTextBlock& block)
+{
+    const std::size_t point = m_command.OldestFirst ? m_first++ : --m_last;
+    if (m_filtered && !IsWanted(m_points->Stamp(point)))
+        return;
+    char* const at = WriteText(block.Reserve(m_prefix.size() + MaxPointLine), m_prefix);
+    block.Commit(m_points->Write(at, point));
 }
 
 } // namespace zantroq::feed

@@ -16,13 +16,37 @@ constexpr double LongestWait = 1e12;
 
 } // namespace
 
-void CLevel1Session::OnLine(std::string_view line, TClock::time_point now, std::string& text)
+void CLevel1Session::OnLine(std::string_view line)
 {
-    if (line.empty())
-        return;
+    if (!line.empty())
+        m_lines.emplace_back(line);
+}
+
+void CLevel1Session::OnBadLine()
+{
+    // A line of one blank is no command.
+    m_lines.emplace_back(" ");
+}
+
+WorkProgress CLevel1Session::AnswerLines(TClock::time_point now, std::size_t limit, CWorkSlice& slice,
+                                         std::string& text)
+{
+    while (!m_lines.empty() && text.size() < limit) {
+        if (!AnswerLine(m_lines.front(), now, slice, text))
+            return WorkProgress::More;
+        m_lines.pop_front();
+        if (slice.IsOver())
+            break;
+    }
+    return m_lines.empty() ? WorkProgress::Ended : WorkProgress::More;
+}
+
+bool CLevel1Session::AnswerLine(std::string_view line, TClock::time_point now, CWorkSlice& slice,
+                                std::string& text)
+{
     if (const std::string reply = ProtocolReply(line); !reply.empty()) {
         text += reply;
-        return;
+        return true;
     }
     constexpr std::string_view select = "S,SELECT UPDATE FIELDS,";
     if (line.starts_with(select)) {
@@ -30,18 +54,39 @@ void CLevel1Session::OnLine(std::string_view line, TClock::time_point now, std::
             text += "S,CURRENT UPDATE FIELDNAMES" + FieldNamesText(m_selection) + "\r\n";
         else
             text += SyntaxError;
-        return;
+        return true;
     }
     const std::string_view symbol = TrimBlanks(line.substr(1));
     const bool isSymbol =
         !symbol.empty() && symbol.size() <= MaxSymbolLength && symbol.find(',') == std::string_view::npos;
     if (line[0] == 'w' && isSymbol)
-        Watch(symbol, now, text);
-    else if (line[0] == 'r' && !symbol.empty()) {
+        return AnswerWatch(symbol, now, slice, text);
+    if (line[0] == 'r' && !symbol.empty()) {
         if (const auto watch = m_watches.find(symbol); watch != m_watches.end())
             m_watches.erase(watch);
     } else
         text += SyntaxError;
+    return true;
+}
+
+bool CLevel1Session::AnswerWatch(std::string_view symbol, TClock::time_point now, CWorkSlice& slice,
+                                 std::string& text)
+{
+    if (!m_preparing)
+        m_preparing = m_catalog.Share(symbol);
+    if (!m_preparing) {
+        text += "N,";
+        text += symbol;
+        text += ",Unknown symbol\r\n";
+        return true;
+    }
+    if (!m_preparing->Prepare(slice))
+        return false;
+    Watch(symbol, *m_preparing, now, text);
+    m_preparing.reset();
+    // The newest day of ticks was made or looked at.
+    slice.IsOver(CWorkSlice::LargeStep);
+    return true;
 }
 
 LiveManner CLevel1Session::MannerOf(const IMarketSource& market) const
@@ -51,46 +96,44 @@ LiveManner CLevel1Session::MannerOf(const IMarketSource& market) const
     return m_options.ReplayTicks && !market.TickDays().empty() ? LiveManner::Replayed : LiveManner::Silent;
 }
 
-void CLevel1Session::Watch(std::string_view symbol, TClock::time_point now, std::string& text)
+void CLevel1Session::Watch(std::string_view symbol, const IMarketSource& market, TClock::time_point now,
+                           std::string& text)
 {
-    const IMarketSource* const market = m_catalog.Find(symbol);
-    if (!market) {
-        text += "N,";
-        text += symbol;
-        text += ",Unknown symbol\r\n";
-        return;
-    }
-    auto watch = m_watches.find(symbol);
-    if (watch == m_watches.end() && m_watches.size() >= MaxWatches) {
+    const auto known = m_watches.find(symbol);
+    if (known == m_watches.end() && m_watches.size() >= MaxWatches) {
         text += "N,";
         text += symbol;
         text += ",Too many symbols are watched\r\n";
         return;
     }
-    if (watch == m_watches.end()) {
-        const LiveManner manner = MannerOf(*market);
-        CLiveTrades trades(*market, UpperCase(symbol), m_catalog.Seed(), manner);
-        watch = m_watches.try_emplace(std::string(symbol), sWATCH{std::move(trades), 0, {}}).first;
-        sWATCH& made = watch->second;
-        made.Start = now;
-        // The first trade comes a moment after the watch, however long the market was closed.
-        if (TFeedTime first = 0; made.Trades.NextTime(first))
-            made.MarketStart = first - 250;
-        if (manner != LiveManner::Silent) {
-            m_catalog.NotifySimulated(symbol, manner == LiveManner::Invented
-                                                  ? "live trades"
-                                                  : "live trades replayed from a recording");
-            text += "S,SIMULATED,";
-            text += symbol;
-            text += "\r\n";
-        }
-    }
+    const sWATCH& watch = known == m_watches.end() ? AddWatch(symbol, market, now, text) : known->second;
     const auto& listed = m_catalog.Listed();
     const auto row = listed.contains(std::string(symbol)) ? listed.find(std::string(symbol))
                                                           : listed.find(UpperCase(symbol));
-    const sLIVE_QUOTE& quote = watch->second.Trades.Quote();
+    const sLIVE_QUOTE& quote = watch.Trades.Quote();
     AppendFundamentalLine(symbol, quote, row == listed.end() ? nullptr : &row->second, text);
     AppendQuoteLine('P', symbol, quote, m_selection, text);
+}
+
+CLevel1Session::sWATCH& CLevel1Session::AddWatch(std::string_view symbol, const IMarketSource& market,
+                                                 TClock::time_point now, std::string& text)
+{
+    const LiveManner manner = MannerOf(market);
+    CLiveTrades trades(market, UpperCase(symbol), m_catalog.Seed(), manner);
+    sWATCH& watch =
+        m_watches.try_emplace(std::string(symbol), sWATCH{std::move(trades), 0, {}}).first->second;
+    watch.Start = now;
+    // The first trade comes a moment after the watch, however long the market was closed.
+    if (TFeedTime first = 0; watch.Trades.NextTime(first))
+        watch.MarketStart = first - 250;
+    if (manner != LiveManner::Silent) {
+        m_catalog.NotifySimulated(
+            symbol, manner == LiveManner::Invented ? "live trades" : "live trades replayed from a recording");
+        text += "S,SIMULATED,";
+        text += symbol;
+        text += "\r\n";
+    }
+    return watch;
 }
 
 bool CLevel1Session::DueOf(const sWATCH& watch, TClock::time_point& due) const
@@ -117,7 +160,8 @@ bool CLevel1Session::NextDue(TClock::time_point& due) const
     return any;
 }
 
-void CLevel1Session::WriteDue(TClock::time_point now, std::size_t limit, std::string& text)
+WorkProgress CLevel1Session::WriteDue(TClock::time_point now, std::size_t limit, CWorkSlice& slice,
+                                      std::string& text)
 {
     const std::size_t start = text.size();
     while (text.size() - start < limit) {
@@ -131,10 +175,14 @@ void CLevel1Session::WriteDue(TClock::time_point now, std::size_t limit, std::st
             }
         }
         if (!next)
-            return;
+            return WorkProgress::Ended;
         next->second.Trades.Advance();
         AppendQuoteLine('Q', next->first, next->second.Trades.Quote(), m_selection, text);
+        // Finding the next trade looks at every watch.
+        if (slice.IsOver(1 + static_cast<std::uint32_t>(m_watches.size() / 64)))
+            break;
     }
+    return WorkProgress::More;
 }
 
 } // namespace zantroq::feed

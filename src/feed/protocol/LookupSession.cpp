@@ -2,7 +2,7 @@
 
 #include "feed/markets/CsvLine.h"
 #include "feed/markets/ReferenceTables.h"
-#include "feed/protocol/HistoryReply.h"
+#include "feed/protocol/HistoryAnswer.h"
 
 namespace zantroq::feed {
 
@@ -32,7 +32,7 @@ void CLookupSession::OnLine(std::string_view line)
     const CommandReading reading = ReadHistoryCommand(fields, command);
     std::string found;
     if (reading == CommandReading::Command)
-        OnHistoryCommand(command);
+        m_replies.push_back(std::make_unique<CHistoryAnswer>(m_catalog, command));
     else if (reading == CommandReading::Malformed)
         OnBadLine();
     else if (fields[0] == "FIND" && FindReply(m_catalog.Listed(), fields, found))
@@ -47,27 +47,17 @@ void CLookupSession::OnLine(std::string_view line)
         OnBadLine();
 }
 
-void CLookupSession::OnHistoryCommand(const sHISTORY_COMMAND& command)
+WorkProgress CLookupSession::Write(CTextBlock& block, std::size_t limit, CWorkSlice& slice)
 {
-    const bool isSymbol = command.Symbol.size() <= MaxSymbolLength;
-    const auto market = isSymbol ? m_catalog.Share(command.Symbol) : nullptr;
-    std::string reason = isSymbol ? "Unknown symbol " + command.Symbol
-                                  : "The symbol is longer than " + std::to_string(MaxSymbolLength) + " bytes";
-    auto points = market ? MakeHistoryPoints(*market, command, reason) : nullptr;
-    if (!points) {
-        Reply(command.Id + ",E," + reason + ",\r\n");
-        return;
+    while (!m_replies.empty()) {
+        const WorkProgress progress = m_replies.front()->Write(block, limit, slice);
+        if (progress != WorkProgress::Ended)
+            return progress;
+        m_replies.pop_front();
+        if (block.Size() >= limit || slice.IsOver())
+            break;
     }
-    if (market->IsSimulated())
-        m_catalog.NotifySimulated(command.Symbol, "history");
-    m_replies.push_back(std::make_unique<CHistoryReply>(std::move(points), command, market));
-}
-
-void CLookupSession::Write(CTextBlock& block, std::size_t limit)
-{
-    while (!m_replies.empty() && block.Size() < limit)
-        if (!m_replies.front()->Write(block, limit))
-            m_replies.pop_front();
+    return m_replies.empty() ? WorkProgress::Ended : WorkProgress::More;
 }
 
 } // namespace zantroq::feed

@@ -1,6 +1,7 @@
 #include "feed/server/FeedServer.h"
 
-#include "feed/server/FeedConnections.h"
+#include "feed/server/Level1Connection.h"
+#include "feed/server/LookupConnection.h"
 
 #include <chrono>
 #include <functional>
@@ -116,12 +117,14 @@ private:
     // Behind the catalog, so that connections still held by the context's handlers go before what they refer
     // to.
     asio::io_context m_context{1};
+    CWorkTurns m_turns{m_context};
     sDoor m_lookup{tcp::acceptor(m_context), asio::steady_timer(m_context), [this](tcp::socket socket) {
-                       std::make_shared<CLookupConnection>(std::move(socket), m_catalog)->Start();
+                       std::make_shared<CLookupConnection>(std::move(socket), m_catalog, m_turns)->Start();
                    }};
-    sDoor m_level1{tcp::acceptor(m_context), asio::steady_timer(m_context), [this](tcp::socket socket) {
-                       std::make_shared<CLevel1Connection>(std::move(socket), m_catalog, m_live)->Start();
-                   }};
+    sDoor m_level1{
+        tcp::acceptor(m_context), asio::steady_timer(m_context), [this](tcp::socket socket) {
+            std::make_shared<CLevel1Connection>(std::move(socket), m_catalog, m_live, m_turns)->Start();
+        }};
     std::thread m_thread;
 };
 

@@ -1,0 +1,48 @@
+// One connection of the lookup port. Keeps itself alive while something is under way on it; runs on the
+// feed's thread.
+#pragma once
+
+#include "feed/protocol/LineCutter.h"
+#include "feed/protocol/LookupSession.h"
+#include "feed/server/PeerWatch.h"
+#include "feed/server/WorkTurns.h"
+
+#include <asio.hpp>
+
+#include <array>
+#include <memory>
+
+namespace zantroq::feed {
+
+class CLookupConnection : public CWorker, public std::enable_shared_from_this<CLookupConnection>
+{
+public:
+    // Catalog and turns must outlive the connection.
+    CLookupConnection(asio::ip::tcp::socket socket, CMarketCatalog& catalog, CWorkTurns& turns);
+    void Start() { Read(); }
+    WorkProgress Work(CWorkSlice& slice) override;
+
+private:
+    void Read();
+    void OnRead(std::error_code error, std::size_t count);
+    void ReadOn(); // unless too much is pending or the client has nothing more to say
+    void SendBlock();
+    void OnSent(std::error_code error);
+    void Drop();
+
+    // Enough for a client that asks ahead. A client with more replies pending is not read from until some of
+    // them have been taken.
+    static constexpr std::size_t MaxPendingReplies = 256;
+    static constexpr std::size_t BlockSize = 256 * 1024;
+
+    asio::ip::tcp::socket m_socket;
+    CPeerWatch m_peer{m_socket};
+    CWorkTurns& m_turns;
+    CLookupSession m_session;
+    CLineCutter m_cutter;
+    CTextBlock m_block;
+    std::array<char, 8192> m_received;
+    bool m_reading = false, m_sending = false, m_ended = false;
+};
+
+} // namespace zantroq::feed
