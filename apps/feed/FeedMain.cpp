@@ -1,5 +1,5 @@
-// zantroq-feed: the local feed as a program. Results on standard output, messages on standard error. Exit 0
-// after an interrupt or a termination signal, 2 for wrong usage, a port that cannot be had included, 4 when
+// zantroq-feed: the local feed as a program. Results on standard output, messages on standard error. Exits 0
+// after an interrupt, hang-up or termination signal, 2 for wrong usage or a port that cannot be had, 4 when
 // standard output cannot be written.
 #include "feed/server/FeedServer.h"
 
@@ -119,7 +119,7 @@ int main(int argc, char** argv)
     // The pipe that the output goes to may have lost its reader; that is an exit code here.
     std::signal(SIGPIPE, SIG_IGN);
     asio::io_context context;
-    asio::signal_set signals(context, SIGINT, SIGTERM);
+    asio::signal_set signals(context, SIGINT, SIGTERM, SIGHUP);
     signals.async_wait([](std::error_code, int) {});
 
     CFeedServer server(options);

@@ -125,7 +125,7 @@ int LinesOf(const std::string& text)
 
 TEST(FeedProgram, ServesAndEndsCleanlyOnASignal)
 {
-    for (const int number : {SIGTERM, SIGINT}) {
+    for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
         CFeedProgram program({"--lookup-port", "0", "--level1-port", "0"});
         std::uint16_t lookup = 0, level1 = 0;
         ASSERT_TRUE(program.Listens(lookup, level1));
@@ -249,8 +249,10 @@ TEST(FeedProgram, WithoutADescriptorForTheNextClientItWaits)
     ASSERT_TRUE(program.Listens(lookup, level1));
     {
         std::vector<std::unique_ptr<CFeedClient>> clients;
-        for (int i = 0; i < 40; ++i)
+        for (int i = 0; i < 40; ++i) {
             clients.push_back(std::make_unique<CFeedClient>(i % 2 == 0 ? lookup : level1));
+            clients.back()->Send("S,SET PROTOCOL,5.0\n");
+        }
         std::this_thread::sleep_for(std::chrono::seconds(2));
     }
     EXPECT_TRUE(CFeedClient(lookup).Ask("HDX,GOOG,1,1,6").starts_with("6,2008-10-14,"));
@@ -258,6 +260,22 @@ TEST(FeedProgram, WithoutADescriptorForTheNextClientItWaits)
     double seconds = 0;
     EXPECT_EQ(program.Wait(seconds), 0);
     EXPECT_LT(seconds, 0.6);
+}
+
+// With 1,024 descriptors and 1,500 silent clients a new one was refused.
+TEST(FeedProgram, SilentClientsGiveTheirDescriptorsToANewOne)
+{
+    CFeedProgram program({"--lookup-port", "0", "--level1-port", "0"}, nullptr, 64);
+    std::uint16_t lookup = 0, level1 = 0;
+    ASSERT_TRUE(program.Listens(lookup, level1));
+    CFeedClient first(lookup);
+    EXPECT_TRUE(first.Ask("HDX,GOOG,1,1,6").starts_with("6,2008-10-14,"));
+    std::vector<std::unique_ptr<CFeedClient>> silent;
+    for (int i = 0; i < 150; ++i)
+        silent.push_back(std::make_unique<CFeedClient>(i % 2 == 0 ? lookup : level1));
+    EXPECT_TRUE(CFeedClient(lookup).Ask("HDX,GOOG,1,1,6").starts_with("6,2008-10-14,"));
+    EXPECT_TRUE(first.Ask("HDX,GOOG,1,1,6").starts_with("6,2008-10-14,"));
+    EXPECT_EQ(silent[0]->ReadTo("anything"), "") << "the oldest goes first";
 }
 
 TEST(FeedProgram, AnOutputThatCannotBeWrittenIsExitFourAndOneSentence)

@@ -250,4 +250,21 @@ TEST(FeedServer, HeavyWorkOfOthersHoldsUpNobody)
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
 }
 
+// Idle connections were kept for ever.
+TEST(FeedServer, ASilentClientIsClosedAfterAWhileAndOneThatSpokeIsNot)
+{
+    sFEED_OPTIONS options = Options();
+    options.SilentLimit = std::chrono::milliseconds(100);
+    CFeedServer server(options);
+    std::string error;
+    ASSERT_TRUE(server.Start(error));
+    CFeedClient speaking(server.LookupPort());
+    EXPECT_EQ(CountLines(speaking.Ask("HDX,SIM.CALM,5,1,61")), 6u);
+    CFeedClient lookup(server.LookupPort()), live(server.Level1Port());
+    lookup.Send("half a line is none");
+    EXPECT_EQ(lookup.ReadTo("anything"), "");
+    EXPECT_EQ(live.ReadTo("anything"), "");
+    EXPECT_EQ(CountLines(speaking.Ask("HDX,SIM.CALM,5,1,61")), 6u);
+}
+
 } // namespace zantroq::feed

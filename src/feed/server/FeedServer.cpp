@@ -2,9 +2,11 @@
 
 #include "feed/server/Level1Connection.h"
 #include "feed/server/LookupConnection.h"
+#include "feed/server/SilentClients.h"
 
 #include <chrono>
 #include <functional>
+#include <sys/resource.h>
 #include <thread>
 
 namespace zantroq::feed {
@@ -16,7 +18,8 @@ class CFeedServer::CRunning
 public:
     explicit CRunning(const sFEED_OPTIONS& options)
         : m_catalog(options.Seed, options.OnNotice),
-          m_live{options.SimulateAll, options.ReplayTicks, options.Speed}
+          m_live{options.SimulateAll, options.ReplayTicks, options.Speed},
+          m_silent(m_context, options.SilentLimit)
     {
         if (options.ServeShipped)
             m_catalog.AddFolder(ShippedDataFolder());
@@ -55,7 +58,7 @@ private:
     {
         tcp::acceptor Acceptor;
         asio::steady_timer Pause;
-        std::function<void(tcp::socket)> Start;
+        std::function<std::shared_ptr<IFeedConnection>(tcp::socket)> Start;
         std::uint16_t Port = 0;
     };
 
@@ -87,16 +90,22 @@ private:
             if (error == asio::error::operation_aborted)
                 return;
             if (error) {
-                AcceptLater(door);
+                // Most likely no descriptor is left.
+                if (m_silent.CloseOldest())
+                    Accept(door);
+                else
+                    AcceptLater(door);
                 return;
             }
             SendAtOnce(socket);
-            door.Start(std::move(socket));
+            if (IsLastButFew(socket))
+                m_silent.CloseOldest();
+            m_silent.Add(door.Start(std::move(socket)));
             Accept(door);
         });
     }
 
-    // Most likely no descriptor is left, and asking at once would give the same answer until a client goes.
+    // Asking at once would give the same answer until a client goes.
     void AcceptLater(sDoor& door)
     {
         door.Pause.expires_after(std::chrono::milliseconds(100));
@@ -104,6 +113,22 @@ private:
             if (!error)
                 Accept(door);
         });
+    }
+
+    // Whether the socket's descriptor is one of the last that the process may have. Descriptors are given out
+    // from the lowest free one on; a few are left for files that have to be opened.
+    static bool IsLastButFew(tcp::socket& socket)
+    {
+        constexpr rlim_t kept = 16;
+        rlimit limit{};
+        return getrlimit(RLIMIT_NOFILE, &limit) == 0 && limit.rlim_cur != RLIM_INFINITY &&
+               static_cast<rlim_t>(socket.native_handle()) + kept >= limit.rlim_cur;
+    }
+
+    template<class TConnection> static std::shared_ptr<TConnection> Started(std::shared_ptr<TConnection> made)
+    {
+        made->Start();
+        return made;
     }
 
     static void SendAtOnce(tcp::socket& socket)
@@ -118,13 +143,15 @@ private:
     // to.
     asio::io_context m_context{1};
     CWorkTurns m_turns{m_context};
+    CSilentClients m_silent;
     sDoor m_lookup{tcp::acceptor(m_context), asio::steady_timer(m_context), [this](tcp::socket socket) {
-                       std::make_shared<CLookupConnection>(std::move(socket), m_catalog, m_turns)->Start();
+                       return Started(
+                           std::make_shared<CLookupConnection>(std::move(socket), m_catalog, m_turns));
                    }};
-    sDoor m_level1{
-        tcp::acceptor(m_context), asio::steady_timer(m_context), [this](tcp::socket socket) {
-            std::make_shared<CLevel1Connection>(std::move(socket), m_catalog, m_live, m_turns)->Start();
-        }};
+    sDoor m_level1{tcp::acceptor(m_context), asio::steady_timer(m_context), [this](tcp::socket socket) {
+                       return Started(std::make_shared<CLevel1Connection>(std::move(socket), m_catalog,
+                                                                          m_live, m_turns));
+                   }};
     std::thread m_thread;
 };
 

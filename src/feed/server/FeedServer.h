@@ -5,6 +5,7 @@
 
 #include "feed/protocol/Level1Session.h"
 
+#include <chrono>
 #include <cstdint>
 #include <filesystem>
 #include <functional>
@@ -26,6 +27,9 @@ struct sFEED_OPTIONS
     bool ReplayTicks = false;
     double Speed = 1; // above 0
     std::uint64_t Seed = 1;
+    // A client that has sent no line for so long after it connected is closed; earlier, the oldest first,
+    // when descriptors run short.
+    std::chrono::milliseconds SilentLimit = std::chrono::seconds(60);
     // Whole sentences for the user: bad rows, simulated data being served. Called inside Start and then on
     // the feed's thread.
     std::function<void(const std::string&)> OnNotice;

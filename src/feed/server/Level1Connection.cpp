@@ -26,11 +26,15 @@ void CLevel1Connection::Read()
 void CLevel1Connection::OnRead(std::error_code error, std::size_t count)
 {
     if (error) {
-        Drop();
+        Close();
         return;
     }
     m_cutter.Take(
-        {m_received.data(), count}, [&](std::string_view line) { m_session.OnLine(line); },
+        {m_received.data(), count},
+        [&](std::string_view line) {
+            m_hasSentLine = true;
+            m_session.OnLine(line);
+        },
         [&] { m_session.OnBadLine(); });
     if (m_session.HasPendingLines())
         m_turns.Add(shared_from_this());
@@ -49,7 +53,7 @@ WorkProgress CLevel1Connection::Work(CWorkSlice& slice)
     if (m_closed || m_sending)
         return WorkProgress::Ended;
     if (m_peer.HasLeft()) {
-        Drop();
+        Close();
         return WorkProgress::Ended;
     }
     const auto now = CLevel1Session::TClock::now();
@@ -81,7 +85,7 @@ void CLevel1Connection::SendPending()
 void CLevel1Connection::OnSent(std::error_code error)
 {
     if (error) {
-        Drop();
+        Close();
         return;
     }
     ReadOn();
@@ -102,7 +106,7 @@ void CLevel1Connection::WaitForTrade()
     });
 }
 
-void CLevel1Connection::Drop()
+void CLevel1Connection::Close()
 {
     m_closed = true;
     m_timer.cancel();

@@ -5,6 +5,7 @@
 #include "feed/protocol/Level1Session.h"
 #include "feed/protocol/LineCutter.h"
 #include "feed/server/PeerWatch.h"
+#include "feed/server/SilentClients.h"
 #include "feed/server/WorkTurns.h"
 
 #include <asio.hpp>
@@ -15,7 +16,9 @@
 
 namespace zantroq::feed {
 
-class CLevel1Connection : public CWorker, public std::enable_shared_from_this<CLevel1Connection>
+class CLevel1Connection : public CWorker,
+                          public IFeedConnection,
+                          public std::enable_shared_from_this<CLevel1Connection>
 {
 public:
     // Catalog and turns must outlive the connection.
@@ -23,6 +26,8 @@ public:
                       CWorkTurns& turns);
     void Start() { Read(); }
     WorkProgress Work(CWorkSlice& slice) override;
+    bool HasSentLine() const override { return m_hasSentLine; }
+    void Close() override;
 
 private:
     void Read();
@@ -31,7 +36,6 @@ private:
     void SendPending();
     void OnSent(std::error_code error);
     void WaitForTrade();
-    void Drop();
 
     // A client that does not read loses no trade; its market waits. At most so much is ever held for it.
     static constexpr std::size_t MaxPendingText = 256 * 1024;
@@ -46,7 +50,7 @@ private:
     CLineCutter m_cutter;
     std::string m_pending, m_underWay; // to be sent next, being sent
     std::array<char, 4096> m_received;
-    bool m_sending = false, m_reading = false, m_closed = false;
+    bool m_hasSentLine = false, m_sending = false, m_reading = false, m_closed = false;
 };
 
 } // namespace zantroq::feed

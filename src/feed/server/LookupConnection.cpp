@@ -27,7 +27,11 @@ void CLookupConnection::OnRead(std::error_code error, std::size_t count)
         return;
     }
     m_cutter.Take(
-        {m_received.data(), count}, [&](std::string_view line) { m_session.OnLine(line); },
+        {m_received.data(), count},
+        [&](std::string_view line) {
+            m_hasSentLine = true;
+            m_session.OnLine(line);
+        },
         [&] { m_session.OnBadLine(); });
     if (m_session.PendingReplies() > 0)
         m_turns.Add(shared_from_this());
@@ -46,7 +50,7 @@ WorkProgress CLookupConnection::Work(CWorkSlice& slice)
     if (m_sending)
         return WorkProgress::Ended;
     if (m_peer.HasLeft()) {
-        Drop();
+        Close();
         return WorkProgress::Ended;
     }
     m_block.Clear();
@@ -71,12 +75,12 @@ void CLookupConnection::SendBlock()
 void CLookupConnection::OnSent(std::error_code error)
 {
     if (error)
-        Drop();
+        Close();
     else if (m_session.PendingReplies() > 0)
         m_turns.Add(shared_from_this());
 }
 
-void CLookupConnection::Drop()
+void CLookupConnection::Close()
 {
     m_ended = true;
     m_session.DropReplies();

@@ -5,6 +5,7 @@
 #include "feed/protocol/LineCutter.h"
 #include "feed/protocol/LookupSession.h"
 #include "feed/server/PeerWatch.h"
+#include "feed/server/SilentClients.h"
 #include "feed/server/WorkTurns.h"
 
 #include <asio.hpp>
@@ -14,13 +15,17 @@
 
 namespace zantroq::feed {
 
-class CLookupConnection : public CWorker, public std::enable_shared_from_this<CLookupConnection>
+class CLookupConnection : public CWorker,
+                          public IFeedConnection,
+                          public std::enable_shared_from_this<CLookupConnection>
 {
 public:
     // Catalog and turns must outlive the connection.
     CLookupConnection(asio::ip::tcp::socket socket, CMarketCatalog& catalog, CWorkTurns& turns);
     void Start() { Read(); }
     WorkProgress Work(CWorkSlice& slice) override;
+    bool HasSentLine() const override { return m_hasSentLine; }
+    void Close() override;
 
 private:
     void Read();
@@ -28,7 +33,6 @@ private:
     void ReadOn(); // unless too much is pending or the client has nothing more to say
     void SendBlock();
     void OnSent(std::error_code error);
-    void Drop();
 
     // Enough for a client that asks ahead. A client with more replies pending is not read from until some of
     // them have been taken.
@@ -42,7 +46,7 @@ private:
     CLineCutter m_cutter;
     CTextBlock m_block;
     std::array<char, 8192> m_received;
-    bool m_reading = false, m_sending = false, m_ended = false;
+    bool m_hasSentLine = false, m_reading = false, m_sending = false, m_ended = false;
 };
 
 } // namespace zantroq::feed
