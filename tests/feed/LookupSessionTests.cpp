@@ -348,6 +348,70 @@ TEST_F(LookupSession, AWrongFindIsAnErrorUnderItsIdentifier)
     EXPECT_TRUE(Ask("FIND,7,x,a,,").starts_with("7,E,"));
     EXPECT_TRUE(Ask("FIND,7,s,a,q,1").starts_with("7,E,"));
     EXPECT_TRUE(Ask("FIND,7,s,,,").starts_with("7,E,"));
+    EXPECT_TRUE(Ask("FIND,7,s,a,e,2;3").starts_with("7,E,"));
+    EXPECT_EQ(Ask("FIND,,s,a,,"), "E,!SYNTAX_ERROR!,,\r\n");
+}
+
+TEST_F(LookupSession, FindKnowsTheCaseOfAllLetters)
+{
+    CTemporaryFolder second;
+    second.Write("symbols.csv", "symbol,market_id,security_type_id,description\n"
+                                "ENERGO,2,1,Энергосбыт\nBRAU,2,1,Straßenbrauerei\n");
+    m_catalog.AddFolder(second.Path());
+    EXPECT_EQ(Ask("FIND,7,d,ЭНЕРГО,,"), "7,ENERGO,2,1,Энергосбыт\r\n7,!ENDMSG!,\r\n");
+    EXPECT_EQ(Ask("FIND,7,d,STRASSEN,,"), "7,BRAU,2,1,Straßenbrauerei\r\n7,!ENDMSG!,\r\n");
+}
+
+TEST_F(LookupSession, FindHasThousandsOfSimulatedSymbols)
+{
+    const std::string reply = Ask("FIND,7,d,(SIMULATED),,");
+    EXPECT_GT(std::count(reply.begin(), reply.end(), '\n'), 5'000);
+    EXPECT_NE(reply.find("\r\n7,SIM.ALDC,"), std::string::npos);
+    ASSERT_TRUE(m_catalog.Find("SIM.ALDC"));
+    EXPECT_TRUE(m_catalog.Find("SIM.ALDC")->IsSimulated());
+}
+
+TEST_F(LookupSession, TheRowOfALaterFolderHolds)
+{
+    CTemporaryFolder second;
+    second.Write("symbols.csv", "symbol,market_id,security_type_id,description\nTK,1,1,First\nTK,1,1,Tock\n");
+    second.Write("DY.daily.csv", "date,open,high,low,close\n2020-01-01,1,1,1,1\n");
+    m_catalog.AddFolder(second.Path());
+    EXPECT_EQ(Ask("FIND,7,s,TK,,"), "7,TK,1,1,Tock\r\n7,!ENDMSG!,\r\n");
+    EXPECT_EQ(Ask("FIND,7,s,DY,,"), "7,DY,2,1,Daily  Inc.\r\n7,!ENDMSG!,\r\n")
+        << "a recording renames nothing";
+}
+
+// However little of a reply fits, and however often it is asked for more.
+TEST_F(LookupSession, FindIsTheSameInPieces)
+{
+    const std::string whole = Ask("FIND,7,d,brewing,e,10 11");
+    ASSERT_GT(whole.size(), 1'000u);
+    CLookupSession session(m_catalog);
+    session.OnLine("FIND,7,d,brewing,e,10 11");
+    std::string joined;
+    while (session.PendingReplies() > 0) {
+        CTextBlock piece;
+        WriteAll(session, piece, 1);
+        joined += piece.Text();
+    }
+    EXPECT_EQ(joined, whole);
+}
+
+// A search that finds nothing still gives the feed's thread up while it looks.
+TEST_F(LookupSession, ASliceAlsoEndsASearchThatFindsNothing)
+{
+    CLookupSession session(m_catalog);
+    session.OnLine("FIND,7,d,no such thing,,");
+    CTextBlock block;
+    std::size_t slices = 0;
+    for (WorkProgress progress = WorkProgress::More; progress == WorkProgress::More; ++slices) {
+        ASSERT_EQ(block.Size(), 0u);
+        CWorkSlice slice = CWorkSlice::OfSteps(1);
+        progress = session.Write(block, 1'000'000, slice);
+    }
+    EXPECT_EQ(block.Text(), "7,!ENDMSG!,\r\n");
+    EXPECT_GT(slices, 5u) << "5,208 symbols in steps of 1,024";
 }
 
 TEST_F(LookupSession, RepliesKeepTheOrderOfTheirCommandsWhateverTheBlockSize)
@@ -388,7 +452,7 @@ TEST_F(LookupSession, RepliesAreTheSameHoweverOftenTheyAreCut)
     for (const char* line :
          {"HTX,TK,4,1,01", "HTX,TK,5,0,01", "HIX,TK,60,3,1,31", "HIX,MN,300,3,0,31", "HID,TK,1,2,,,,1,4",
           "HIT,TK,60,20140102 093100,20140106 155900,,,,1,5", "HDX,DY,3,1,6", "HWX,DY,0,1,8", "HMX,DY,1,1,9",
-          "HWX,SIM.GAPS,300,1,8", "HDX,NIX,1,1,6", "HTX,DY,1,1,0"}) {
+          "HWX,SIM.GAPS,300,1,8", "HDX,NIX,1,1,6", "HTX,DY,1,1,0", "FIND,7,d,brewing,e,10 11"}) {
         CLookupSession session(m_catalog);
         session.OnLine(line);
         std::string text;
@@ -432,7 +496,7 @@ TEST_F(LookupSession, UnlistedSimulatedMarketsAreKeptInABoundedNumber)
     const auto inUse = m_catalog.Share("SIM.Q2");
     const std::weak_ptr<const IMarketSource> listed = m_catalog.Share("SIM.WILD"),
                                              recorded = m_catalog.Share("DY");
-    for (std::size_t i = 0; i < 2 * CMarketCatalog::MaxUnlisted; ++i) {
+    for (std::size_t i = 0; i < 2 * CMarketCatalog::MaxUnnamed; ++i) {
         ASSERT_TRUE(m_catalog.Find("SIM.N" + std::to_string(i)));
         ASSERT_TRUE(m_catalog.Find("sim.q1"));
     }
@@ -455,7 +519,7 @@ TEST_F(LookupSession, AReplyKeepsItsMarketUntilItsEnd)
     CTextBlock piece;
     WriteAll(session, piece, 1);
     std::string text(piece.Text());
-    for (std::size_t i = 0; i <= CMarketCatalog::MaxUnlisted; ++i)
+    for (std::size_t i = 0; i <= CMarketCatalog::MaxUnnamed; ++i)
         ASSERT_TRUE(m_catalog.Find("SIM.N" + std::to_string(i)));
     piece.Clear();
     WriteAll(session, piece, 10'000'000);

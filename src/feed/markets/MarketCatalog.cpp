@@ -5,6 +5,7 @@
 #include "feed/markets/Recording.h"
 #include "feed/markets/ReferenceTables.h"
 #include "feed/markets/SimulatedMarket.h"
+#include "feed/markets/SimulatedSymbols.h"
 
 #include <algorithm>
 
@@ -31,12 +32,23 @@ void Tell(const CMarketCatalog::TNotice& notice, const std::string& file, const 
                (report.SkippedRows == 1 ? " row" : " rows") + " skipped");
 }
 
+bool IsNamedSimulation(std::string_view symbol)
+{
+    const auto named = NamedSimulations();
+    return std::any_of(named.begin(), named.end(),
+                       [&](const sSIMULATION& simulation) { return simulation.Name == symbol; });
+}
+
 } // namespace
 
 CMarketCatalog::CMarketCatalog(std::uint64_t seed, TNotice notice)
     : m_seed(seed), m_notice(notice ? std::move(notice) : [](const std::string&) {})
 {
-    MakeList();
+    std::vector<sLISTED_SYMBOL> simulated = SimulatedSymbols();
+    for (const sSIMULATION& simulation : NamedSimulations())
+        simulated.push_back({std::string(simulation.Name), SimulatedMarketId, SimulatedSecurityTypeId,
+                             std::string(simulation.Description)});
+    List(std::move(simulated), ListRank::Simulated);
 }
 
 void CMarketCatalog::AddFolder(const std::filesystem::path& folder)
@@ -49,25 +61,22 @@ void CMarketCatalog::AddFolder(const std::filesystem::path& folder)
         m_notice(folder.string() + ": cannot be read: " + error.message());
     // The order in which a folder lists its files is nobody's promise.
     std::sort(files.begin(), files.end());
+    std::vector<sLISTED_SYMBOL> recorded;
     for (const auto& file : files)
-        AddRecording(file);
+        if (std::string symbol = AddRecording(file); !symbol.empty())
+            recorded.push_back({symbol, UnknownMarketId, UnknownSecurityTypeId, symbol});
+    if (!recorded.empty())
+        List(std::move(recorded), ListRank::Recorded);
     if (std::filesystem::exists(folder / "symbols.csv", error))
         AddSymbols(folder / "symbols.csv");
-    MakeList();
 }
 
-void CMarketCatalog::MakeList()
+void CMarketCatalog::List(std::vector<sLISTED_SYMBOL> rows, ListRank rank)
 {
-    for (const sSIMULATION& simulation : NamedSimulations())
-        List({std::string(simulation.Name), SimulatedMarketId, SimulatedSecurityTypeId,
-              std::string(simulation.Description)});
-    for (const std::string& symbol : m_recorded)
-        List({symbol, UnknownMarketId, UnknownSecurityTypeId, symbol});
-    for (const auto& [symbol, named] : m_named)
-        List(named);
+    m_listed = std::make_shared<const CSymbolIndex>(*m_listed, std::move(rows), rank);
 }
 
-void CMarketCatalog::AddRecording(const std::filesystem::path& path)
+std::string CMarketCatalog::AddRecording(const std::filesystem::path& path)
 {
     const std::string name = path.filename().string();
     for (const sENDING& ending : Endings) {
@@ -78,21 +87,21 @@ void CMarketCatalog::AddRecording(const std::filesystem::path& path)
         if (symbol.starts_with(SimulatedPrefix)) {
             m_notice(file +
                      ": names that begin with \"SIM.\" are for simulated symbols; the file is not used");
-            return;
+            return {};
         }
         if (symbol.find(',') != std::string::npos) {
             m_notice(file + ": a symbol with a comma cannot be asked for; the file is not used");
-            return;
+            return {};
         }
         if (symbol.size() > MaxSymbolLength) {
             m_notice(file + ": a symbol of more than " + std::to_string(MaxSymbolLength) +
                      " bytes cannot be asked for; the file is not used");
-            return;
+            return {};
         }
         std::string text;
         if (!ReadWholeFile(path, text)) {
             m_notice(file + ": cannot be read; the file is not used");
-            return;
+            return {};
         }
         sRECORDING_REPORT report;
         sRECORDS read;
@@ -106,9 +115,8 @@ void CMarketCatalog::AddRecording(const std::filesystem::path& path)
             if (report.Unusable.empty())
                 m_notice(file + (report.SkippedRows > 0 ? ": no usable rows" : ": no rows") +
                          "; the file is not used");
-            return;
+            return {};
         }
-        m_recorded.insert(symbol);
         sRECORDS& records = m_records[symbol];
         if (ending.Kind == RecordingKind::Ticks)
             records.Ticks = std::move(read.Ticks);
@@ -116,7 +124,9 @@ void CMarketCatalog::AddRecording(const std::filesystem::path& path)
             records.Minutes = std::move(read.Minutes);
         else
             records.Daily = std::move(read.Daily);
+        return symbol;
     }
+    return {};
 }
 
 void CMarketCatalog::AddSymbols(const std::filesystem::path& path)
@@ -127,8 +137,7 @@ void CMarketCatalog::AddSymbols(const std::filesystem::path& path)
         return;
     }
     sRECORDING_REPORT report;
-    for (const sLISTED_SYMBOL& listed : ReadSymbols(text, path.string(), report))
-        m_named[listed.Symbol] = listed;
+    List(ReadSymbols(text, path.string(), report), ListRank::Named);
     Tell(m_notice, path.string(), report);
 }
 
@@ -136,9 +145,9 @@ std::shared_ptr<const IMarketSource> CMarketCatalog::Share(std::string_view symb
 {
     if (const auto made = m_markets.find(symbol); made != m_markets.end()) {
         const auto market = made->second;
-        const auto used = std::find(m_unlisted.begin(), m_unlisted.end(), symbol);
-        if (used != m_unlisted.end())
-            m_unlisted.splice(m_unlisted.begin(), m_unlisted, used);
+        const auto used = std::find(m_unnamed.begin(), m_unnamed.end(), symbol);
+        if (used != m_unnamed.end())
+            m_unnamed.splice(m_unnamed.begin(), m_unnamed, used);
         return market;
     }
     if (const auto read = m_records.find(symbol); read != m_records.end()) {
@@ -157,19 +166,31 @@ std::shared_ptr<const IMarketSource> CMarketCatalog::Share(std::string_view symb
         return nullptr;
     const auto market = std::make_shared<const CSimulatedMarket>(symbol, m_seed);
     m_markets[upper] = market;
-    if (!m_listed.contains(upper)) {
-        m_unlisted.push_front(upper);
-        DropUnlisted();
+    if (!IsNamedSimulation(upper)) {
+        m_unnamed.push_front(upper);
+        DropUnnamed();
     }
     return market;
 }
 
-void CMarketCatalog::DropUnlisted()
+std::optional<sLISTED_SYMBOL> CMarketCatalog::ListedRow(std::string_view symbol) const
 {
-    while (m_unlisted.size() > MaxUnlisted) {
-        m_markets.erase(m_unlisted.back());
-        m_notified.erase(m_unlisted.back());
-        m_unlisted.pop_back();
+    auto row = m_listed->Find(symbol);
+    if (!row)
+        row = m_listed->Find(UpperCase(symbol));
+    if (!row)
+        return std::nullopt;
+    const CSymbolIndex::sROW listed = m_listed->Row(*row);
+    return sLISTED_SYMBOL{std::string(listed.Symbol), listed.MarketId, listed.SecurityTypeId,
+                          std::string(listed.Description)};
+}
+
+void CMarketCatalog::DropUnnamed()
+{
+    while (m_unnamed.size() > MaxUnnamed) {
+        m_markets.erase(m_unnamed.back());
+        m_notified.erase(m_unnamed.back());
+        m_unnamed.pop_back();
     }
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "feed/markets/MarketSource.h"
+#include "feed/markets/SymbolIndex.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -10,6 +11,7 @@
 #include <list>
 #include <map>
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -34,16 +36,18 @@ public:
     void AddFolder(const std::filesystem::path& folder);
 
     // The market of a symbol, or null. The exact name first, then the name in capitals. Every name that
-    // begins with "SIM." is a market, so those that have no line in the list are kept only while they are
-    // among the MaxUnlisted used last; made anew, such a market is the same as before.
+    // begins with "SIM." is a market, so all but the named simulations are kept only while they are among
+    // the MaxUnnamed used last; made anew, such a market is the same as before.
     std::shared_ptr<const IMarketSource> Share(std::string_view symbol);
     // The same for a short look: good until the next Find or Share.
     const IMarketSource* Find(std::string_view symbol) { return Share(symbol).get(); }
-    static constexpr std::size_t MaxUnlisted = 64;
+    static constexpr std::size_t MaxUnnamed = 64;
 
-    // What the search finds, by symbol, in order: the symbols with records, simulated ones, and whatever a
-    // symbols.csv names.
-    const std::map<std::string, sLISTED_SYMBOL>& Listed() const { return m_listed; }
+    // What the search finds: the symbols with records, simulated ones, and whatever a symbols.csv names. The
+    // index stays as it is when a folder is added; the catalog then has a new one.
+    const std::shared_ptr<const CSymbolIndex>& Listed() const { return m_listed; }
+    // The list's row of a symbol: the exact name first, then the name in capitals.
+    std::optional<sLISTED_SYMBOL> ListedRow(std::string_view symbol) const;
     std::uint64_t Seed() const { return m_seed; }
     void Notify(const std::string& sentence) const { m_notice(sentence); }
     // Says once for each symbol and kind of thing ("history", "live trades", ...) that it is not genuine; of
@@ -57,20 +61,19 @@ private:
         std::vector<sFEED_BAR> Minutes, Daily;
         bool IsEmpty() const { return Ticks.empty() && Minutes.empty() && Daily.empty(); }
     };
-    void AddRecording(const std::filesystem::path& path);
+    // The symbol of the recording; empty when the file is none that can be used.
+    std::string AddRecording(const std::filesystem::path& path);
     void AddSymbols(const std::filesystem::path& path);
-    void DropUnlisted();
-    void MakeList();
-    void List(const sLISTED_SYMBOL& listed) { m_listed[listed.Symbol] = listed; }
+    void DropUnnamed();
+    void List(std::vector<sLISTED_SYMBOL> rows, ListRank rank);
 
     const std::uint64_t m_seed;
     const TNotice m_notice;
     std::map<std::string, sRECORDS, std::less<>> m_records; // read and not yet asked for
     std::map<std::string, std::shared_ptr<const IMarketSource>, std::less<>> m_markets;
-    std::list<std::string> m_unlisted; // simulated markets outside the list, the one used last in front
-    std::set<std::string, std::less<>> m_recorded;  // symbols with records
-    std::map<std::string, sLISTED_SYMBOL> m_named;  // by a symbols.csv, with records or not
-    std::map<std::string, sLISTED_SYMBOL> m_listed; // all of them
+    std::list<std::string>
+        m_unnamed; // simulated markets without a name of their own, the one used last in front
+    std::shared_ptr<const CSymbolIndex> m_listed = std::make_shared<const CSymbolIndex>();
     std::map<std::string, std::set<std::string, std::less<>>, std::less<>> m_notified; // by symbol
 };
 

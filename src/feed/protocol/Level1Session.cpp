@@ -107,11 +107,9 @@ void CLevel1Session::Watch(std::string_view symbol, const IMarketSource& market,
         return;
     }
     const sWATCH& watch = known == m_watches.end() ? AddWatch(symbol, market, now, text) : known->second;
-    const auto& listed = m_catalog.Listed();
-    const auto row = listed.contains(std::string(symbol)) ? listed.find(std::string(symbol))
-                                                          : listed.find(UpperCase(symbol));
+    const auto listed = m_catalog.ListedRow(symbol);
     const sLIVE_QUOTE& quote = watch.Trades.Quote();
-    AppendFundamentalLine(symbol, quote, row == listed.end() ? nullptr : &row->second, text);
+    AppendFundamentalLine(symbol, quote, listed ? &*listed : nullptr, text);
     AppendQuoteLine('P', symbol, quote, m_selection, text);
 }
 

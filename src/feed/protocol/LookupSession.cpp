@@ -2,6 +2,7 @@
 
 #include "feed/markets/CsvLine.h"
 #include "feed/markets/ReferenceTables.h"
+#include "feed/protocol/FindAnswer.h"
 #include "feed/protocol/HistoryAnswer.h"
 
 namespace zantroq::feed {
@@ -30,19 +31,26 @@ void CLookupSession::OnLine(std::string_view line)
     SplitAtCommas(line, fields);
     sHISTORY_COMMAND command;
     const CommandReading reading = ReadHistoryCommand(fields, command);
-    std::string found;
     if (reading == CommandReading::Command)
         m_replies.push_back(std::make_unique<CHistoryAnswer>(m_catalog, command));
     else if (reading == CommandReading::Malformed)
         OnBadLine();
-    else if (fields[0] == "FIND" && FindReply(m_catalog.Listed(), fields, found))
-        Reply(std::move(found));
+    else if (fields[0] == "FIND")
+        OnFind(fields);
     else if (TrimBlanks(line) == "SLM" || line.starts_with("SLM,"))
         Reply(ListedMarketsReply());
     else if (TrimBlanks(line) == "SST" || line.starts_with("SST,"))
         Reply(SecurityTypesReply());
     else if (line.starts_with("S,SELECT UPDATE FIELDS"))
         Reply("S,UPDATE FIELDS ARE SELECTED ON THE LEVEL 1 PORT\r\n");
+    else
+        OnBadLine();
+}
+
+void CLookupSession::OnFind(const std::vector<std::string_view>& fields)
+{
+    if (auto answer = AnswerFind(m_catalog.Listed(), fields))
+        m_replies.push_back(std::move(answer));
     else
         OnBadLine();
 }

@@ -8,6 +8,7 @@
 #include <deque>
 #include <memory>
 #include <string_view>
+#include <vector>
 
 namespace zantroq::feed {
 
@@ -32,6 +33,7 @@ public:
 
 private:
     void Reply(std::string text) { m_replies.push_back(std::make_unique<CTextReply>(std::move(text))); }
+    void OnFind(const std::vector<std::string_view>& fields);
 
     CMarketCatalog& m_catalog;
     std::deque<std::unique_ptr<IFeedReply>> m_replies;
