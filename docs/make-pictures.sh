@@ -1,8 +1,8 @@
 #!/bin/sh
 # Remakes the pictures of the documents: docs/images/studies/<name>.png, one for each study, and all.png with all ten;
 # docs/images/trends/<name>.png, one for each kind of trendline, drawn with the mouse of a replay script;
-# docs/images/window.png and window-dark.png, the real window on a display of its own (packages xvfb, xdotool and
-# imagemagick; left as they are where one is missing).
+# docs/images/window.png and window-dark.png, the real window, and docs/images/settings/<page>.png, the pages of the
+# settings sheet, on a display of their own (packages xvfb, xdotool and imagemagick; left as they are where one is missing).
 # Usage: docs/make-pictures.sh [FOLDER OF THE BUILT PROGRAMS]     (default: build/release/bin)
 # Works on a settings file of its own; needs no display of yours and no feed.
 set -eu
@@ -105,11 +105,39 @@ window() {
     rm "$work/display"
 }
 
+# sheet NAME PAGE: a page of the settings sheet.
+sheet() {
+    mkdir -p "$root/docs/images/settings"
+    "$bin/zantroq-settings" reset --yes
+    printf 'type daily\nsymbol GOOG\ndraw\nwait complete\ncommand 775\ndialog page "%s"\nwait 5000\ndialog cancel\n' \
+        "$2" >"$work/script.txt"
+    Xvfb -displayfd 3 -screen 0 1280x800x24 3>"$work/display" 2>/dev/null &
+    server=$!
+    while [ ! -s "$work/display" ]; do sleep 0.1; done
+    DISPLAY=:$(cat "$work/display")
+    export DISPLAY
+    env -u QT_QPA_PLATFORM QT_QPA_PLATFORMTHEME= ZANTROQ_LOOK=light "$bin/zantroq-chart" --feed embedded \
+        --replay "$work/script.txt" --show 2>/dev/null &
+    chart=$!
+    id=$(xdotool search --sync --onlyvisible --name "^Settings$" | tail -n 1)
+    sleep 1
+    import -window "$id" -strip "$root/docs/images/settings/$1.png"
+    wait "$chart" || true
+    kill "$server"
+    wait "$server" 2>/dev/null || true
+    rm "$work/display"
+}
+
 for tool in Xvfb xdotool import; do
-    command -v "$tool" >/dev/null || { echo "window.png stays as it is: $tool is missing" >&2; exit 0; }
+    command -v "$tool" >/dev/null || { echo "the pictures of windows stay as they are: $tool is missing" >&2; exit 0; }
 done
 "$bin/zantroq-settings" reset --yes
 set_value "MAs SHOW" 1
 window window light
 "$bin/zantroq-settings" import "$root/docs/dark-chart.json"
 window window-dark dark
+sheet colors Colors
+sheet general General
+sheet data Data
+sheet upper-studies "Upper Studies"
+sheet lower-studies "Lower Studies"

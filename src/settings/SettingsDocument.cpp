@@ -5,6 +5,7 @@
 #include "settings/SettingText.h"
 #include "settings/SettingsLoader.h"
 #include "settings/SettingsTable.h"
+#include "settings/SheetDocument.h"
 #include "settings/StoredNumber.h"
 
 #include <algorithm>
@@ -262,7 +263,7 @@ std::string SettingsDocument()
     text += Encodings;
     for (const sSettingRow* row : rows)
         text += Line(*row);
-    return text + Rules;
+    return text + Rules + SheetDocument();
 }
 
 } // namespace zantroq

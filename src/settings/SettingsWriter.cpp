@@ -45,15 +45,6 @@ void StoreChangedEntries(CRetryingKey& key, const sSettingRow& row, const sChart
     });
 }
 
-void StoreChange(CRetryingKey& key, const sSettingPlace& place, const sChartSettings& before,
-                 const sChartSettings& after)
-{
-    if (place.Row->IsList())
-        StoreChangedEntries(key, *place.Row, before, after);
-    else
-        StorePlace(key, after, place);
-}
-
 // The numbers of an indexed row that are in use with so many studies.
 int LastInUse(const sSettingRow& row, int studyCount)
 {
@@ -143,6 +134,15 @@ std::vector<sSettingPlace> ChangedSettings(const sChartSettings& before, const s
         }
     }
     return changed;
+}
+
+void StoreChange(CRetryingKey& key, const sSettingPlace& place, const sChartSettings& before,
+                 const sChartSettings& after)
+{
+    if (place.Row->IsList())
+        StoreChangedEntries(key, *place.Row, before, after);
+    else
+        StorePlace(key, after, place);
 }
 
 unsigned StoreChanges(CRetryingKey& key, const sChartSettings& before, const sChartSettings& after)

@@ -26,6 +26,10 @@ void ClearRequestSettings(ISettingsKey& key);
 // panes only those in use in either record are compared.
 std::vector<sSettingPlace> ChangedSettings(const sChartSettings& before, const sChartSettings& after);
 
+// Writes one value that differs; of a list only the entries that do.
+void StoreChange(CRetryingKey& key, const sSettingPlace& place, const sChartSettings& before,
+                 const sChartSettings& after);
+
 // Writes what differs and nothing else; the entries of a list that do not differ stay as they are stored. The
 // answer is the effects of all changes together.
 unsigned StoreChanges(CRetryingKey& key, const sChartSettings& before, const sChartSettings& after);

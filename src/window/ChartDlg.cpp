@@ -2,6 +2,7 @@
 
 #include "settings/SettingsLoader.h"
 #include "settings/SettingsWriter.h"
+#include "settings/pages/SheetChanges.h"
 #include "window/ChartParts.h"
 #include "window/WindowTexts.h"
 
@@ -155,8 +156,11 @@ bool CChartDlg::ApplySetting(const std::string& name, const std::string& value, 
 
 void CChartDlg::ApplySettings(const sSettingsEdit& edit)
 {
-    const unsigned effects = StoreChanges(m_parts->Key, m_parts->Settings, edit.Settings);
+    const unsigned effects =
+        StoreSheetChanges(m_parts->Key, m_parts->Settings, edit.Settings,
+                          edit.SaveRequestSettings ? RequestKeeping::AsDefault : RequestKeeping::ThisChart);
     m_parts->Apply(edit.Settings, effects, edit.ResetScaleNow);
+    m_parts->SayWhetherKept();
 }
 
 const sChartSettings& CChartDlg::Settings() const

@@ -3,6 +3,7 @@
 #include "drawing/PaneSetup.h"
 #include "settings/SettingsLoader.h"
 #include "settings/SettingsTable.h"
+#include "settings/pages/SheetChanges.h"
 #include "window/WindowDialogs.h"
 #include "window/WindowTexts.h"
 
@@ -86,6 +87,14 @@ void sChartParts::RetryChanges()
         return;
     m_ticksToRetry = TicksBetweenTries;
     Key.Retry();
+    if (!Key.IsWaiting())
+        Status.SetNotice("");
+}
+
+void sChartParts::SayWhetherKept()
+{
+    Status.SetNotice(Key.IsWaiting() ? "Settings could not be kept: the settings file cannot be written."
+                                     : "");
 }
 
 void sChartParts::SetSymbol(const std::string& text)
@@ -183,6 +192,7 @@ void sChartParts::RunSettings()
     }
     if (Dialogs->OpenDialog() != nullptr)
         return;
+    LoadSheetSettings(Key, Settings);
     Dialogs->OpenSettingsSheet({Settings, Key, Services.Box},
                                [this](const sSettingsEdit& edit) { Window.ApplySettings(edit); });
 }
@@ -325,6 +335,16 @@ void sChartParts::Apply(const sChartSettings& wanted, unsigned effects, bool res
         Settings.Panes = panes;
     Resizer.SetUp();
     ApplyEffects(*this, effects, Settings, wanted.Panes, resetScaleNow);
+    if (effects != EffectNone && Drawing.Count() == 0 && !Lifecycle.Loading())
+        ShowEmptyPanes();
+}
+
+// Without a chart nothing is drawn, but the panes take their colors.
+void sChartParts::ShowEmptyPanes()
+{
+    const CBatch batch(Window);
+    Drawing.ClearPanes();
+    ShowMarkers();
 }
 
 void sChartParts::PointsChanged()

@@ -85,6 +85,8 @@ struct sChartParts : ILifecycleEvents, ISettingsTarget
 
     // Every tick of the progress timer; tries again what could not be stored.
     void RetryChanges();
+    // After an OK on the settings sheet: the chart takes what the store refuses, and the status bar says so.
+    void SayWhetherKept();
 
 private:
     void Unavailable(const char* feature);
@@ -95,6 +97,7 @@ private:
     void FlipGrid();
     void FlipPriceBar();
     void ShowMarkers();
+    void ShowEmptyPanes();
     void RestorePoints(int command);
 
     int m_ticksToRetry = 0;

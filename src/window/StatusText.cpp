@@ -8,7 +8,16 @@ void CStatusText::Message(const std::string& text)
 {
     if (m_trends != nullptr && m_trends->State() != 0)
         return;
-    SetPart(0, text);
+    m_message = text;
+    SetPart(0, m_notice.empty() ? text : text + "  " + m_notice);
+}
+
+void CStatusText::SetNotice(const std::string& notice)
+{
+    if (notice == m_notice)
+        return;
+    m_notice = notice;
+    Message(m_message);
 }
 
 void CStatusText::SetPart(int part, const std::string& text)

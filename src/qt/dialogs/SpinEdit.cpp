@@ -17,6 +17,7 @@ constexpr int LongestText = 32;
 
 CSpinEdit::CSpinEdit(QWidget* parent) : QAbstractSpinBox(parent)
 {
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     lineEdit()->setMaxLength(LongestText);
     connect(lineEdit(), &QLineEdit::textChanged, this, &CSpinEdit::TextChanged);
 }

@@ -1,5 +1,7 @@
 #include "qt/dialogs/WindowDialogs.h"
 
+#include "qt/dialogs/SettingSheetDialog.h"
+
 namespace zantroq {
 
 void CWindowDialogs::Open(CFormDialog& dialog)
@@ -7,6 +9,16 @@ void CWindowDialogs::Open(CFormDialog& dialog)
     m_dialog = &dialog;
     m_driver = std::make_unique<CFormDialogDriver>(dialog);
     dialog.Open();
+}
+
+void CWindowDialogs::OpenSettingsSheet(const sSheetSubject& subject, SettingsAccepted done)
+{
+    auto* const sheet = new CSettingSheetDialog(m_over, subject);
+    sheet->OnClosed = [sheet, done = std::move(done)](DialogEnd end) {
+        if (end == DialogEnd::Ok)
+            done(sheet->Edit());
+    };
+    Open(*sheet);
 }
 
 void CWindowDialogs::Drop()

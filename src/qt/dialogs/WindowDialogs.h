@@ -20,6 +20,8 @@ public:
     // Closes an open dialog as if it had never been there.
     void Drop();
 
+    bool HasSettingsSheet() const override { return true; }
+    void OpenSettingsSheet(const sSheetSubject& subject, SettingsAccepted done) override;
     bool HasPrint() const override { return true; }
     void RunPrint() override { Print(); }
     IDialogDriver* OpenDialog() override;

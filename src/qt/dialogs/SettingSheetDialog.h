@@ -1,0 +1,48 @@
+// The settings sheet as a window: five pages made from .ui files, with the rules of settings/pages behind
+// them. Chart window's thread.
+#pragma once
+
+#include "qt/dialogs/FormDialog.h"
+#include "settings/pages/SettingSheet.h"
+#include "window/WindowDialogs.h"
+
+#include <array>
+#include <memory>
+
+class QDialogButtonBox;
+class QTabWidget;
+
+namespace zantroq {
+
+class CCandlePreview;
+
+class CSettingSheetDialog : public CFormDialog, private ISheetFace
+{
+public:
+    CSettingSheetDialog(QWidget& over, const sSheetSubject& subject);
+    ~CSettingSheetDialog() override;
+
+    // Of an accepted sheet: the chart's settings with what the pages changed.
+    sSettingsEdit Edit() const;
+
+    CQtForm& FormOnShow() override;
+    QStringList PageTitles() const override;
+    int PageOnShow() const override;
+    void TurnTo(int page) override;
+    QAbstractButton* OkButton() override;
+    QAbstractButton* CancelButton() override;
+
+private:
+    IForm& Form(int page) override;
+    QWidget& AddPage();
+    void MakePages();
+    void FollowColors(CCandlePreview& preview);
+
+    const sSheetSubject m_subject;
+    QTabWidget* m_tabs;
+    QDialogButtonBox* m_buttons;
+    std::array<std::unique_ptr<CQtForm>, SheetPages> m_forms;
+    std::unique_ptr<CSettingSheet> m_sheet;
+};
+
+} // namespace zantroq

@@ -1,0 +1,74 @@
+// The settings sheet without its widgets: five pages in their order, an OK that closes it only when every
+// page has accepted, and what came of it. Chart window's thread.
+#pragma once
+
+#include "settings/pages/ColorPage.h"
+#include "settings/pages/DataPage.h"
+#include "settings/pages/GeneralPage.h"
+#include "settings/pages/LowerStudiesPage.h"
+#include "settings/pages/UpperStudiesPage.h"
+
+#include <functional>
+
+namespace zantroq {
+
+inline constexpr int SheetPages = 5;
+
+// The forms of the pages, in order, and what the sheet needs of the window around them.
+class ISheetFace
+{
+public:
+    virtual ~ISheetFace() = default;
+    virtual IForm& Form(int page) = 0; // 0 to 4
+    virtual void TurnTo(int page) = 0;
+};
+
+class CSettingSheet
+{
+public:
+    static constexpr const char* Title = "Settings";
+
+    // All three outlive the sheet. clear removes the stored request settings.
+    CSettingSheet(ISheetFace& face, IMessageBox& box, std::function<void()> clear);
+    CSettingSheet(const CSettingSheet&) = delete;
+    CSettingSheet& operator=(const CSettingSheet&) = delete;
+
+    // Copies the chart's settings into the pages.
+    void Start(const sChartSettings& settings);
+    ISettingPage& Page(int page) { return *m_pages.at(static_cast<std::size_t>(page)); }
+
+    // The OK of the sheet. False: a page has refused, with its message; that page is on show then, and the
+    // field that the message names has the keyboard.
+    bool Accept();
+
+    // Of an accepted sheet: puts what the pages edit into the record.
+    void CopyTo(sChartSettings& settings) const;
+    bool ResetScaleNow() const { return m_general.ResetScaleNow(); }
+    bool SavesRequestSettings() const { return m_data.SavesAsDefault(); }
+
+private:
+    // A message of the data page comes up over that page.
+    class CPageBox : public IMessageBox
+    {
+    public:
+        CPageBox(CSettingSheet& sheet, int page) : m_sheet(sheet), m_page(page) {}
+        BoxAnswer Ask(const std::string& text, const std::string& caption, BoxButtons buttons,
+                      BoxIcon icon) override;
+
+    private:
+        CSettingSheet& m_sheet;
+        int m_page;
+    };
+
+    ISheetFace& m_face;
+    IMessageBox& m_box;
+    CPageBox m_dataBox;
+    CColorPage m_colors;
+    CSettingPage m_general;
+    CDataSettingPage m_data;
+    CUpperStudiesSettingPage m_upper;
+    CLowerStudiesSettingPage m_lower;
+    std::array<ISettingPage*, SheetPages> m_pages;
+};
+
+} // namespace zantroq
