@@ -1,5 +1,7 @@
 #include "market/ManagerThreadHolder.h"
 
+#include "market/RequestTable.h"
+
 #include <utility>
 
 namespace zantroq {
@@ -34,6 +36,7 @@ void CManagerThreadHolder::StopManagerThread()
         return;
     ManagerThread->Stop();
     ManagerThread.reset();
+    FreeGivenUpRequests();
 }
 
 void CManagerThreadHolder::SendHistoryRequest(CChartHistRequest& request)

@@ -2,6 +2,7 @@
 
 #include <unordered_map>
 #include <utility>
+#include <vector>
 
 namespace zantroq {
 
@@ -72,6 +73,19 @@ public:
         return true;
     }
 
+    // Returns what is to be let go outside the lock.
+    std::vector<RequestPtr> TakeGivenUp()
+    {
+        CLockGuard guard(m_lock);
+        std::vector<RequestPtr> taken;
+        std::erase_if(m_entries, [&taken](const auto& item) {
+            if (*item.second.Given)
+                taken.push_back(item.second.Request);
+            return *item.second.Given;
+        });
+        return taken;
+    }
+
     RequestPtr Forget(std::int32_t handle)
     {
         CLockGuard guard(m_lock);
@@ -135,6 +149,11 @@ void GiveUpRequest(std::unique_ptr<CChartHistRequest> request)
 void BeginReply(CChartHistRequest& request)
 {
     Table().Begin(request);
+}
+
+void FreeGivenUpRequests()
+{
+    Table().TakeGivenUp();
 }
 
 bool EndReply(CChartHistRequest& request)

@@ -22,8 +22,12 @@ RequestPtr FindRequest(std::int32_t handle);
 
 // The window's last act on its request: marks it dead and lets go of it. A request that is complete, or that
 // was never sent, is freed at once, or when the worker is done with the line in hand; one that still loads
-// stays until its "!ENDMSG!" comes, which may be never. Unwatch its symbol first.
+// stays until its "!ENDMSG!" comes, or until the worker has stopped. Unwatch its symbol
+// first.
 void GiveUpRequest(std::unique_ptr<CChartHistRequest> request);
+
+// Frees all requests that were given up: the worker has stopped, and no reply can end any more.
+void FreeGivenUpRequests();
 
 // A command that names the request is about to go out: enters it and clears Complete.
 void BeginReply(CChartHistRequest& request);

@@ -82,6 +82,22 @@ TEST(ThreadedLoad, TwoMillionLinesAndLiveTradesTogether)
     holder.StopManagerThread();
 }
 
+TEST(ThreadedLoad, ARequestGivenUpInTheMiddleOfItsReplyIsFreedWhenTheWorkerStops)
+{
+    CScriptedFeed feed; // never answers
+    const int before = CountRequests();
+    CManagerThreadHolder holder;
+    holder.StartManagerThread(feed.Key());
+    auto request = std::make_unique<CChartHistRequest>();
+    request->SetSymbol("SYM");
+    request->SetRequestKind(TicksByDatapoints);
+    holder.SendHistoryRequest(*request);
+    GiveUpRequest(std::move(request));
+    EXPECT_EQ(CountRequests(), before + 1) << "its reply may still end";
+    holder.StopManagerThread();
+    EXPECT_EQ(CountRequests(), before);
+}
+
 TEST(ThreadedLoad, WindowsComeAndGoWhileTheirRepliesArrive)
 {
     CScriptedFeed feed;
