@@ -12,6 +12,12 @@ sWindowRect FromRect(const QRect& rect)
     return {rect.left(), rect.top(), rect.left() + rect.width(), rect.top() + rect.height()};
 }
 
+// On Wayland a window neither chooses nor knows where it stands.
+bool WindowsHavePlaces()
+{
+    return !QGuiApplication::platformName().startsWith("wayland");
+}
+
 } // namespace
 
 // The toolkit takes "[*]" for its mark of changed documents, and two of them for the text.
@@ -32,7 +38,10 @@ sWindowRect CTopLevelWindow::NormalRect() const
     const QWidget& window = *m_inside.window();
     const QRect normal = window.normalGeometry();
     const bool restored = !window.isMaximized() && !window.isFullScreen() && !window.isMinimized();
-    return FromRect(restored || normal.isEmpty() ? window.geometry() : normal);
+    QRect rect = restored || normal.isEmpty() ? window.geometry() : normal;
+    if (!WindowsHavePlaces())
+        rect.moveTopLeft(m_place);
+    return FromRect(rect);
 }
 
 bool CTopLevelWindow::Maximized() const
@@ -42,7 +51,12 @@ bool CTopLevelWindow::Maximized() const
 
 void CTopLevelWindow::MoveTo(const sWindowRect& rect)
 {
-    m_inside.window()->setGeometry(rect.Left, rect.Top, rect.Right - rect.Left, rect.Bottom - rect.Top);
+    m_place = {rect.Left, rect.Top};
+    const QSize size(rect.Right - rect.Left, rect.Bottom - rect.Top);
+    if (WindowsHavePlaces())
+        m_inside.window()->setGeometry(QRect(m_place, size));
+    else
+        m_inside.window()->resize(size);
 }
 
 void CTopLevelWindow::Maximize()

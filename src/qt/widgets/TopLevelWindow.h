@@ -3,6 +3,8 @@
 
 #include "platform/WindowServices.h"
 
+#include <QPoint>
+
 class QWidget;
 
 namespace zantroq {
@@ -26,6 +28,7 @@ public:
 private:
     QWidget& m_inside;
     std::string m_caption;
+    QPoint m_place; // what MoveTo asked for last; where windows have no place, it stands for theirs
 };
 
 } // namespace zantroq
