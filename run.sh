@@ -3,7 +3,7 @@
 # says where.
 #
 #   ./run.sh                 build and start; further words go to zantroq-chart
-#   ./run.sh --build-only    build; the programs are then in build/release/bin/
+#   ./run.sh --build-only    build; the programs are then in build/release/bin/, and cmake --install build/release --prefix PREFIX works
 #   ./run.sh --help
 set -euo pipefail
 cd "$(dirname "$0")"
@@ -14,7 +14,7 @@ if [[ "${1:-}" == "--help" || "${1:-}" == "-h" ]]; then
 fi
 
 packaging/install-packages.sh build run
-packaging/build-release.sh zantroq-chart zantroq-feed zantroq-settings
+packaging/build-release.sh installed
 
 programs=build/release/bin
 if [[ "${1:-}" == "--build-only" ]]; then

@@ -5,9 +5,9 @@
 //   taken, moved by ten pixels and let go: layout, whole draw, painting MarkerStep   the mouse moves from bar
 //   to bar: markers, titles and study headers Yardstick    one picture of the window's size is cleared and
 //   copied
+#include "control/ChartBody.h"
 #include "feed/server/FeedServer.h"
 #include "market/ZantroPorts.h"
-#include "qt/widgets/ChartCtrl.h"
 #include "qt/widgets/ChartView.h"
 #include "window/ChartDlg.h"
 #include "window/ChartsResizer.h"
@@ -58,8 +58,8 @@ public:
         setup.ChartKey = key;
         setup.FeedKey = MakePortKey(m_feed->LookupPort(), m_feed->Level1Port());
         setup.Popups = false;
-        Chart = std::make_unique<CChartCtrl>(nullptr, setup);
-        Chart->SetClientSize({Width, Height});
+        Chart = CChartBody::MakeControl(nullptr, setup);
+        CChartBody::Of(*Chart).SetClientSize({Width, Height});
         Chart->show();
         Chart->SetStockSymbol("WAVE");
         QElapsedTimer clock;
@@ -74,7 +74,7 @@ public:
         Settle();
     }
 
-    CChartDlg& Window() const { return Chart->Window(); }
+    CChartDlg& Window() const { return CChartBody::Of(*Chart).Window(); }
     int Border() const { return Window().Resizer().PaneRect(0).Height; }
     // Everything that was asked for is painted.
     static void Settle()

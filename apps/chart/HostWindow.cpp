@@ -14,7 +14,7 @@ constexpr int NoticeHeight = 22, Indent = 8;
 } // namespace
 
 CHostWindow::CHostWindow(const sChartCtrlSetup& setup)
-    : m_strip(new QLabel(this)), m_chart(new CChartCtrl(this, setup))
+    : m_strip(new QLabel(this)), m_control(CChartBody::MakeControl(this, setup).release())
 {
     setWindowTitle("Zantroq Chart");
     setWindowIcon(QIcon(":/zantroq/icons/zantroq-chart.svg"));
@@ -23,7 +23,7 @@ CHostWindow::CHostWindow(const sChartCtrlSetup& setup)
     m_strip->setAccessibleName("Notice");
     m_strip->setStyleSheet("QLabel { background: #8a4b00; color: #ffffff; }");
     m_strip->hide();
-    setFocusProxy(m_chart);
+    setFocusProxy(m_control);
 }
 
 int CHostWindow::StripHeight() const
@@ -39,13 +39,13 @@ void CHostWindow::SetClientSize(const QSize& size)
 
 void CHostWindow::ShowNotice(const QString& text)
 {
-    m_chart->SetNotice(text);
+    Chart().SetNotice(text);
     m_notice = text;
     m_strip->setToolTip(text);
     const bool show = !text.isEmpty();
     if (show == !m_strip->isHidden())
         return LayOut();
-    const QSize chart = m_chart->size();
+    const QSize chart = m_control->size();
     m_strip->setVisible(show);
     if (!isMaximized() && !isFullScreen())
         SetClientSize(chart);
@@ -62,8 +62,8 @@ void CHostWindow::LayOut()
     const int strip = StripHeight();
     m_strip->setGeometry(0, 0, width(), strip);
     m_strip->setText(m_strip->fontMetrics().elidedText(m_notice, Qt::ElideRight, width() - 2 * Indent));
-    m_chart->move(0, strip);
-    m_chart->SetClientSize(QSize(width(), height() - strip));
+    m_control->move(0, strip);
+    Chart().SetClientSize(QSize(width(), height() - strip));
 }
 
 } // namespace zantroq

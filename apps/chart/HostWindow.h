@@ -2,7 +2,7 @@
 // is not a genuine one.
 #pragma once
 
-#include "qt/widgets/ChartCtrl.h"
+#include "control/ChartBody.h"
 
 #include <QWidget>
 
@@ -15,7 +15,8 @@ class CHostWindow : public QWidget
 public:
     explicit CHostWindow(const sChartCtrlSetup& setup);
 
-    CChartCtrl& Chart() { return *m_chart; }
+    CChartCtrl& Control() { return *m_control; }
+    CChartBody& Chart() { return CChartBody::Of(*m_control); }
     // Sizes the window so that the chart window gets this client size, shown or not.
     void SetClientSize(const QSize& size);
     // Shows the strip; the chart keeps its size where the window can grow. Also in pictures of the chart.
@@ -30,7 +31,7 @@ private:
 
     QLabel* m_strip;
     QString m_notice;
-    CChartCtrl* m_chart;
+    CChartCtrl* m_control;
 };
 
 } // namespace zantroq

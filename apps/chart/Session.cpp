@@ -84,7 +84,7 @@ void CSession::MakeWindow()
     if (m_line.NeedsDisplay())
         m_window->show();
     if (!m_line.Symbol.empty())
-        m_window->Chart().SetStockSymbol(QString::fromStdString(m_line.Symbol));
+        m_window->Control().SetStockSymbol(QString::fromStdString(m_line.Symbol));
 }
 
 void CSession::ApplyOptions()

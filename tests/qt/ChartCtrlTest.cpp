@@ -69,7 +69,7 @@ TEST_F(CChartCtrlTest, BarsAndPanesFillTheClientArea)
     EXPECT_EQ(View().Scroll().geometry(), QRect(0, 465, 700, 15));
     EXPECT_EQ(View().Pane(0)->geometry().top(), 34);
     EXPECT_EQ(View().Pane(0)->width(), 700);
-    m_chart->SetClientSize({500, 400});
+    Body().SetClientSize({500, 400});
     EXPECT_EQ(View().Status().geometry(), QRect(0, 380, 500, 20));
     EXPECT_EQ(View().Pane(0)->geometry().top(), 66) << "two rows of bars";
 }
@@ -124,7 +124,7 @@ TEST_F(CChartCtrlTest, ControlWithPlusMinusOrTheWheelZooms)
 TEST_F(CChartCtrlTest, AHostCanSwitchTheConveniencesOff)
 {
     Draw();
-    m_chart->SetConveniences(false);
+    Body().SetConveniences(false);
     const int first = First();
     Key(Qt::Key_Left);
     Wheel(120);
@@ -252,7 +252,7 @@ TEST_F(CChartCtrlTest, AMenuClosedWithoutAPickIsForgotten)
 TEST_F(CChartCtrlTest, TheMenuOfAHostWithoutConveniencesHasNoPictureItems)
 {
     Draw();
-    m_chart->SetConveniences(false);
+    Body().SetConveniences(false);
     Show();
     Window().OpenPaneMenu(0, 10, 10);
     QMenu* menu = OpenPopup();
@@ -300,13 +300,13 @@ TEST_F(CChartCtrlTest, PrintsOntoAFileAndNamesOneThatCannotBeWritten)
 {
     Draw();
     const QString path = m_folder.filePath("page.pdf");
-    EXPECT_EQ(m_chart->PrintToFile(path), "");
+    EXPECT_EQ(Body().PrintToFile(path), "");
     QFile page(path);
     ASSERT_TRUE(page.open(QIODevice::ReadOnly));
     EXPECT_TRUE(page.readAll().startsWith("%PDF-"));
     EXPECT_EQ(View().Status().Part(0), "Ready");
     const QString nowhere = m_folder.filePath("no/such/page.pdf");
-    EXPECT_TRUE(m_chart->PrintToFile(nowhere).startsWith(nowhere + ": cannot be written ("));
+    EXPECT_TRUE(Body().PrintToFile(nowhere).startsWith(nowhere + ": cannot be written ("));
 }
 
 TEST_F(CChartCtrlTest, SavePictureTakesItsKindFromTheDialogAndSaysWhatCannotBeWritten)

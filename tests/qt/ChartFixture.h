@@ -2,9 +2,9 @@
 // which day n (from 1) has open n, high n + 2, low n - 1, close n + 1 and volume 1000 n.
 #pragma once
 
+#include "control/ChartBody.h"
 #include "feed/server/FeedServer.h"
 #include "market/ZantroPorts.h"
-#include "qt/widgets/ChartCtrl.h"
 #include "qt/widgets/ChartView.h"
 #include "replay/ReplayMessageBox.h"
 #include "window/ChartDlg.h"
@@ -55,8 +55,8 @@ protected:
         setup.FeedKey = MakePortKey(m_feed->LookupPort(), m_feed->Level1Port());
         setup.Box = &m_boxes;
         setup.Popups = m_popups;
-        m_chart = std::make_unique<CChartCtrl>(nullptr, setup);
-        m_chart->SetClientSize({700, 500});
+        m_chart = CChartBody::MakeControl(nullptr, setup);
+        Body().SetClientSize({700, 500});
     }
 
     // Draws daily bars of the recording, 30 points a window, with the bar at its limit: 71, where the last
@@ -74,8 +74,9 @@ protected:
         ASSERT_EQ(Window().Range().last, Days - 1);
     }
 
-    CChartDlg& Window() { return m_chart->Window(); }
-    CChartView& View() { return m_chart->View(); }
+    CChartBody& Body() { return CChartBody::Of(*m_chart); }
+    CChartDlg& Window() { return Body().Window(); }
+    CChartView& View() { return Body().View(); }
 
     QTemporaryDir m_folder;
     std::unique_ptr<feed::CFeedServer> m_feed;

@@ -27,7 +27,7 @@ protected:
     {
         Set("RequestDataType", "2");
         MakeChart();
-        m_chart->SetClientSize(size);
+        Body().SetClientSize(size);
         m_chart->SetStockSymbol("WAVE");
         ASSERT_TRUE(PumpUntil([this] { return Window().CompleteAndDrawn(); }));
         QImage picture = DrawChartPicture({Window(), View().size(), {}}, scale);

@@ -23,7 +23,7 @@ protected:
     QByteArray Saved(const QString& name)
     {
         const QString path = m_folder.filePath(name);
-        EXPECT_EQ(m_chart->SavePicture(path), "");
+        EXPECT_EQ(Body().SavePicture(path), "");
         QFile file(path);
         EXPECT_TRUE(file.open(QIODevice::ReadOnly));
         return file.readAll();
@@ -173,9 +173,9 @@ TEST_F(CChartPictureTest, WhatCannotBeWrittenIsNamed)
 {
     Draw();
     const QString path = m_folder.filePath("no/such/a.png");
-    EXPECT_TRUE(m_chart->SavePicture(path).startsWith(path + ": cannot be written"))
-        << m_chart->SavePicture(path).toStdString();
-    EXPECT_TRUE(m_chart->SavePicture("a.bmp").contains("use .png, .svg, .pdf, .json or .csv"));
+    EXPECT_TRUE(Body().SavePicture(path).startsWith(path + ": cannot be written"))
+        << Body().SavePicture(path).toStdString();
+    EXPECT_TRUE(Body().SavePicture("a.bmp").contains("use .png, .svg, .pdf, .json or .csv"));
 }
 
 TEST(PictureFile, APipeTakesTheBytesAndStaysAPipe)

@@ -1,0 +1,13 @@
+// Marks what libzantroq-chart exports; everything else in it stays hidden. Compiles as C and as C++.
+#ifndef ZANTROQ_EXPORT_H
+#define ZANTROQ_EXPORT_H
+
+#if defined(__GNUC__)
+/** Visible outside the library. */
+#define ZANTROQ_CHART_EXPORT __attribute__((visibility("default")))
+#else
+/** Visible outside the library. */
+#define ZANTROQ_CHART_EXPORT
+#endif
+
+#endif

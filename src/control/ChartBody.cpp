@@ -1,0 +1,216 @@
+#include "control/ChartBody.h"
+
+#include "market/ManagerThreadHolder.h"
+#include "qt/dialogs/MessageBox.h"
+#include "qt/dialogs/PictureDialog.h"
+#include "qt/dialogs/WindowDialogs.h"
+#include "qt/output/ChartPicture.h"
+#include "qt/output/ChartPrinter.h"
+#include "qt/widgets/ChartView.h"
+#include "studies/StudyFactory.h"
+#include "window/ChartDlg.h"
+#include "window/ManagerThreadFeed.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+
+#include <algorithm>
+#include <functional>
+#include <utility>
+
+namespace zantroq {
+namespace {
+
+// Context menus that nobody sees: the chart window keeps them as data.
+class CMenuAsData : public IContextMenu
+{
+public:
+    void Open(const sContextMenu&, int, int) override {}
+};
+
+} // namespace
+
+struct CChartBody::sServices
+{
+    explicit sServices(QWidget& parent) : Box(parent), Dialogs(parent), Feed(ManagerThreadHolder()) {}
+
+    CMessageBox Box;
+    CWindowDialogs Dialogs;
+    CMenuAsData Menu;
+    CManagerThreadFeed Feed;
+    CStudyFactory Studies;
+};
+
+CChartBody::CChartBody(const sChartCtrlSetup& setup) : m_setup(setup) {}
+
+CChartBody::~CChartBody()
+{
+    if (m_window == nullptr)
+        return;
+    m_services->Dialogs.Drop();
+    m_view->Detach();
+    m_window->Destroy();
+    ManagerThreadHolder().RemoveControl(nullptr); // Destroy has unwatched the series
+}
+
+std::unique_ptr<CChartCtrl> CChartBody::MakeControl(QWidget* parent, const sChartCtrlSetup& setup)
+{
+    return std::unique_ptr<CChartCtrl>(new CChartCtrl(parent, std::make_unique<CChartBody>(setup)));
+}
+
+void CChartBody::Create(CChartCtrl& control)
+{
+    m_control = &control;
+    m_enabled = control.isEnabled(); // not in a parent that is disabled
+    m_view = new CChartView(&control);
+    m_services = std::make_unique<sServices>(control);
+    control.setFocusProxy(m_view);
+    control.setMinimumSize(120, 90);
+    if (m_setup.ChartKey == nullptr)
+        m_setup.ChartKey = OpenSettingsKey(ChartSettingsKey);
+    if (m_setup.FeedKey == nullptr)
+        m_setup.FeedKey = OpenSettingsKey(FeedSettingsKey);
+    ManagerThreadHolder().AddControl(m_setup.FeedKey);
+    CreateWindow();
+    LayOut();
+}
+
+void CChartBody::CreateWindow()
+{
+    IMessageBox& box = m_setup.Box != nullptr ? *m_setup.Box : m_services->Box;
+    IContextMenu& menu = m_setup.Popups ? static_cast<IContextMenu&>(m_view->Menu()) : m_services->Menu;
+    m_window = std::make_unique<CChartDlg>(sChartDlgSetup{.Services = m_view->Services(box, menu),
+                                                          .Key = *m_setup.ChartKey,
+                                                          .Feed = m_services->Feed,
+                                                          .Studies = &m_services->Studies,
+                                                          .Dialogs = &m_services->Dialogs});
+    // Where nobody sees a dialog, nobody can close it: it counts as cancelled.
+    if (m_setup.Popups)
+        m_services->Dialogs.Print = [this] { PrintWithDialog(*m_window, m_control); };
+    m_view->Attach(*m_window);
+    m_view->Menu().Extend = [this](QMenu& popup) {
+        if (!Conveniences())
+            return;
+        popup.addSeparator();
+        popup.addAction("Copy picture", m_control, [this] { CopyPicture(); });
+        popup.addAction("Save picture...", m_control, [this] { AskForPicture(); });
+        QAction* const print =
+            popup.addAction("Print...", m_control, [this] { m_view->RunCommand(CommandPrint); });
+        print->setEnabled(m_view->MayRun(CommandPrint));
+    };
+    m_window->Initialise();
+}
+
+bool CChartBody::SetStockSymbol(const QString& symbol)
+{
+    const bool changed = symbol != m_symbol;
+    m_symbol = symbol;
+    m_window->SetSymbol(symbol.toStdString());
+    return changed;
+}
+
+bool CChartBody::ResizeParentWindow() const
+{
+    return m_window->ResizeParentWindow();
+}
+
+bool CChartBody::SetResizeParentWindow(bool resize)
+{
+    const bool changed = resize != m_window->ResizeParentWindow();
+    m_window->SetResizeParentWindow(resize);
+    return changed;
+}
+
+bool CChartBody::SetAppearance(int appearance)
+{
+    if (appearance == m_frame.Appearance || !sControlFrame::IsAppearance(appearance))
+        return false;
+    m_frame.Appearance = appearance;
+    LayOut();
+    return true;
+}
+
+bool CChartBody::SetBorderStyle(int borderStyle)
+{
+    if (borderStyle == m_frame.BorderStyle || !sControlFrame::IsBorderStyle(borderStyle))
+        return false;
+    m_frame.BorderStyle = borderStyle;
+    LayOut();
+    return true;
+}
+
+// A widget that is disabled with its parent is told twice where both were asked for.
+bool CChartBody::NoteEnabled(bool enabled)
+{
+    return std::exchange(m_enabled, enabled) != enabled;
+}
+
+void CChartBody::LayOut()
+{
+    const int frame = m_frame.Width();
+    m_view->move(frame, frame);
+    m_view->SetClientSize(std::max(0, m_control->width() - 2 * frame),
+                          std::max(0, m_control->height() - 2 * frame));
+    m_control->update();
+}
+
+bool CChartBody::Conveniences() const
+{
+    return m_view->Conveniences();
+}
+
+void CChartBody::SetConveniences(bool on)
+{
+    m_view->SetConveniences(on);
+}
+
+void CChartBody::SetClientSize(const QSize& size)
+{
+    const int frame = m_frame.Width();
+    m_control->resize(size + QSize(2 * frame, 2 * frame));
+    m_view->SetClientSize(size.width(), size.height());
+}
+
+QImage CChartBody::Picture() const
+{
+    return DrawChartPicture({*m_window, m_view->size(), m_notice}, m_view->devicePixelRatioF());
+}
+
+QString CChartBody::SavePicture(const QString& path) const
+{
+    return SaveChartPicture({*m_window, m_view->size(), m_notice}, path, m_view->devicePixelRatioF());
+}
+
+QString CChartBody::PrintToFile(const QString& path)
+{
+    return PrintToPdf(*m_window, path);
+}
+
+void CChartBody::CopyPicture()
+{
+    const QImage picture = Picture();
+    if (picture.isNull()) {
+        Tell("Copy picture", QString("A picture of %1 x %2 pixels cannot be made; make the window smaller")
+                                 .arg(m_view->width() * m_view->devicePixelRatioF())
+                                 .arg(m_view->height() * m_view->devicePixelRatioF()));
+        return;
+    }
+    QGuiApplication::clipboard()->setImage(picture);
+}
+
+void CChartBody::AskForPicture()
+{
+    const QString path =
+        AskPicturePath(m_control, QString::fromStdString(m_window->CurrentSymbol()), m_pictureFolder);
+    if (path.isEmpty())
+        return;
+    if (const QString wrong = SavePicture(path); !wrong.isEmpty())
+        Tell("Save picture", wrong);
+}
+
+void CChartBody::Tell(const std::string& caption, const QString& sentence)
+{
+    m_window->Services().Box.Ask(sentence.toStdString(), caption, BoxButtons::Ok, BoxIcon::Error);
+}
+
+} // namespace zantroq
