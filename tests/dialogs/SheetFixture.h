@@ -1,7 +1,7 @@
 // A chart control with a settings sheet, settings in memory and a feed that the test scripts.
 #pragma once
 
-#include "qt/widgets/ChartCtrl.h"
+#include "control/ChartBody.h"
 #include "settings/SettingText.h"
 #include "settings/SettingsLoader.h"
 #include "settings/SettingsWriter.h"
@@ -61,11 +61,11 @@ protected:
         setup.FeedKey = m_feed.Key();
         setup.Box = &m_box;
         setup.Popups = false;
-        m_chart = std::make_unique<CChartCtrl>(nullptr, setup);
-        m_chart->SetClientSize({700, 500});
+        m_chart = CChartBody::MakeControl(nullptr, setup);
+        CChartBody::Of(*m_chart).SetClientSize({700, 500});
     }
 
-    CChartDlg& Window() { return m_chart->Window(); }
+    CChartDlg& Window() { return CChartBody::Of(*m_chart).Window(); }
     IDialogDriver& Sheet()
     {
         if (Window().OpenDialog() == nullptr)
