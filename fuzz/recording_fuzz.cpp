@@ -14,19 +14,20 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (size == 0)
         return 0;
     const std::string_view text(reinterpret_cast<const char*>(data) + 1, size - 1);
+    CTextLines lines(text), listLines(text);
     sRECORDING_REPORT report;
     std::vector<sFEED_TICK> ticks;
     std::vector<sFEED_BAR> minutes, daily;
     if (data[0] % 3 == 0)
-        ticks = ReadTicks(text, "fuzz", report);
+        ticks = ReadTicks(lines, "fuzz", report);
     else
         (data[0] % 3 == 1 ? minutes : daily) =
-            ReadBars(data[0] % 3 == 1 ? RecordingKind::Minutes : RecordingKind::Daily, text, "fuzz", report);
+            ReadBars(data[0] % 3 == 1 ? RecordingKind::Minutes : RecordingKind::Daily, lines, "fuzz", report);
     if (report.Problems.size() > report.SkippedRows ||
         report.Problems.size() > sRECORDING_REPORT::MaxProblems)
         std::abort();
     sRECORDING_REPORT listReport;
-    for (const sLISTED_SYMBOL& listed : ReadSymbols(text, "fuzz", listReport))
+    for (const sLISTED_SYMBOL& listed : ReadSymbols(listLines, "fuzz", listReport))
         if (listed.Symbol.empty() || listed.MarketId < 0 || listed.MarketId > 255 ||
             (listed.Symbol + listed.Description).find(',') != std::string::npos)
             std::abort();

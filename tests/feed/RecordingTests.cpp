@@ -2,7 +2,11 @@
 
 #include "feed/markets/DecimalPrice.h"
 
+#include "TemporaryFolder.h"
+
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 namespace zantroq::feed {
 namespace {
@@ -15,7 +19,31 @@ std::string Text(sPRICE price)
 
 std::vector<sFEED_BAR> Daily(std::string_view text, sRECORDING_REPORT& report)
 {
-    return ReadBars(RecordingKind::Daily, text, "x.daily.csv", report);
+    CTextLines lines(text);
+    return ReadBars(RecordingKind::Daily, lines, "x.daily.csv", report);
+}
+
+std::vector<sFEED_TICK> ReadTicks(std::string_view text, const std::string& file, sRECORDING_REPORT& report)
+{
+    CTextLines lines(text);
+    return ReadTicks(lines, file, report);
+}
+
+std::vector<sLISTED_SYMBOL> ReadSymbols(std::string_view text, const std::string& file,
+                                        sRECORDING_REPORT& report)
+{
+    CTextLines lines(text);
+    return ReadSymbols(lines, file, report);
+}
+
+std::vector<std::string> FileLines(const std::filesystem::path& path)
+{
+    CFileLines file;
+    std::vector<std::string> lines;
+    EXPECT_TRUE(file.Open(path));
+    for (std::string_view line; file.Next(line);)
+        lines.emplace_back(line);
+    return lines;
 }
 
 constexpr std::string_view DailyHeader = "date,open,high,low,close,volume,open_interest\n";
@@ -135,7 +163,7 @@ TEST(Recordings, ABadRowNamesFileAndLineAndCostsThatRowAlone)
     ASSERT_EQ(report.Problems.size(), 5u);
     EXPECT_EQ(report.Problems[0], "x.daily.csv:3: high is not a price: \"12x\"");
     EXPECT_EQ(report.Problems[2], "x.daily.csv:5: high is below low");
-    EXPECT_TRUE(report.Problems[3].starts_with("x.daily.csv:6: low is not a price"));
+    EXPECT_EQ(report.Problems[3], "x.daily.csv:6: the row has fewer fields than the header line");
 }
 
 TEST(Recordings, ABasisIsOneLetter)
@@ -225,6 +253,97 @@ TEST(Recordings, RowsOutOfOrderAreSortedAndEqualTimesKeepTheirOrder)
     EXPECT_EQ(Text(ticks[2].Last), "3");
     EXPECT_EQ(ticks[0].Basis, 'C');
     EXPECT_EQ(Text(ticks[0].Bid), "1");
+}
+
+TEST(Recordings, ManyRowsOutOfOrderAreSortedStably)
+{
+    // Times fall back again and again, and each stands for 50 rows.
+    std::string text = "time,last,tick_id\n";
+    for (int i = 0; i < 3000; ++i) {
+        const int second = i * 37 % 60;
+        text += "2014-01-02 10:00:" + std::string(second < 10 ? "0" : "") + std::to_string(second) + ",1," +
+                std::to_string(i) + "\n";
+    }
+    sRECORDING_REPORT report;
+    const auto ticks = ReadTicks(text, "x", report);
+    ASSERT_EQ(ticks.size(), 3000u);
+    for (std::size_t i = 1; i < ticks.size(); ++i) {
+        ASSERT_LE(ticks[i - 1].Time, ticks[i].Time);
+        ASSERT_TRUE(ticks[i - 1].Time < ticks[i].Time || ticks[i - 1].TickId < ticks[i].TickId);
+    }
+}
+
+// The last line of a file that was cut off while it was written lost its last fields, which counted as 0.
+TEST(Recordings, ARowWithFewerFieldsThanTheHeaderIsABadRow)
+{
+    sRECORDING_REPORT report;
+    const auto ticks = ReadTicks("time,last,size,total_volume\n2014-01-02 09:30:00,1,5,5\n"
+                                 "2014-01-02 09:30:01,2,,\n2014-01-02 09:30:02,3,7",
+                                 "x", report);
+    ASSERT_EQ(ticks.size(), 2u);
+    EXPECT_EQ(report.Problems,
+              std::vector<std::string>{"x:4: the row has fewer fields than the header line"});
+    EXPECT_EQ(Daily(std::string(DailyHeader) + "2014-01-02,1,1,1,1", report).size(), 0u);
+}
+
+TEST(Recordings, ALineTooLongIsABadRow)
+{
+    const std::string longest = "2014-01-02,1,1,1,1,5," + std::string(65'536 - 22, ' ') + "0";
+    sRECORDING_REPORT report;
+    const auto bars =
+        Daily(std::string(DailyHeader) + longest + "\n" + longest + "0\n2014-01-03,1,1,1,1,5,0\n", report);
+    ASSERT_EQ(bars.size(), 2u);
+    EXPECT_EQ(report.Problems,
+              std::vector<std::string>{"x.daily.csv:3: the line is longer than 65536 bytes"});
+}
+
+TEST(FileLines, AreTheSameAsThoseOfTheTextWhereverABlockEnds)
+{
+    // Lines of every length around, so that their ends of two bytes fall on every side of a block's end.
+    std::string text;
+    for (std::size_t i = 0; text.size() < 1'500'000; ++i)
+        text += std::string(i % 701, 'x') + std::to_string(i) +
+                (i % 3 == 0   ? "\r\n"
+                 : i % 3 == 1 ? "\n"
+                              : "\r");
+    text += "no end";
+    CTemporaryFolder folder;
+    folder.Write("lines", text);
+    std::vector<std::string> expected;
+    CTextLines lines(text);
+    for (std::string_view line; lines.Next(line);)
+        expected.emplace_back(line);
+    EXPECT_EQ(FileLines(folder.Path() / "lines"), expected);
+    CFileLines file;
+    ASSERT_TRUE(file.Open(folder.Path() / "lines"));
+    const auto enough = [](const std::string& line) { return line.size() >= 100; };
+    EXPECT_EQ(file.CountLines(100),
+              static_cast<std::size_t>(std::count_if(expected.begin(), expected.end(), enough)));
+    std::string_view first;
+    ASSERT_TRUE(file.Next(first));
+    EXPECT_EQ(first, expected[0]);
+}
+
+TEST(FileLines, OfALongLineTheStartAloneIsHandedOut)
+{
+    CTemporaryFolder folder;
+    folder.Write("lines",
+                 "before\n" + std::string(65'536, 'a') + "\n" + std::string(900'000, 'b') + "\r\nbehind");
+    const auto lines = FileLines(folder.Path() / "lines");
+    ASSERT_EQ(lines.size(), 4u);
+    EXPECT_EQ(lines[1], std::string(65'536, 'a'));
+    EXPECT_EQ(lines[2], std::string(65'537, 'b'));
+    EXPECT_EQ(lines[3], "behind");
+}
+
+TEST(FileLines, APipeOrAFolderIsNotOpened)
+{
+    CTemporaryFolder folder;
+    const auto pipe = folder.Path() / "pipe";
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    CFileLines file, other;
+    EXPECT_FALSE(file.Open(pipe));
+    EXPECT_FALSE(other.Open(folder.Path()));
 }
 
 TEST(SymbolList, ColumnsAreFoundByNameAndADescriptionMayBeMissing)

@@ -98,18 +98,18 @@ std::string CMarketCatalog::AddRecording(const std::filesystem::path& path)
                      " bytes cannot be asked for; the file is not used");
             return {};
         }
-        std::string text;
-        if (!ReadWholeFile(path, text)) {
+        CFileLines lines;
+        if (!lines.Open(path)) {
             m_notice(file + ": cannot be read; the file is not used");
             return {};
         }
         sRECORDING_REPORT report;
         sRECORDS read;
         if (ending.Kind == RecordingKind::Ticks)
-            read.Ticks = ReadTicks(text, file, report);
+            read.Ticks = ReadTicks(lines, file, report);
         else
             (ending.Kind == RecordingKind::Minutes ? read.Minutes : read.Daily) =
-                ReadBars(ending.Kind, text, file, report);
+                ReadBars(ending.Kind, lines, file, report);
         Tell(m_notice, file, report);
         if (read.IsEmpty()) {
             if (report.Unusable.empty())
@@ -131,13 +131,13 @@ std::string CMarketCatalog::AddRecording(const std::filesystem::path& path)
 
 void CMarketCatalog::AddSymbols(const std::filesystem::path& path)
 {
-    std::string text;
-    if (!ReadWholeFile(path, text)) {
+    CFileLines lines;
+    if (!lines.Open(path)) {
         m_notice(path.string() + ": cannot be read; the file is not used");
         return;
     }
     sRECORDING_REPORT report;
-    List(ReadSymbols(text, path.string(), report), ListRank::Named);
+    List(ReadSymbols(lines, path.string(), report), ListRank::Named);
     Tell(m_notice, path.string(), report);
 }
 

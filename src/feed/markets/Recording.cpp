@@ -4,8 +4,8 @@
 
 #include <algorithm>
 #include <charconv>
-#include <fstream>
 #include <limits>
+#include <numeric>
 #include <system_error>
 
 namespace zantroq::feed {
@@ -16,17 +16,17 @@ constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::int64_t LargestCount = 5'000'000'000'000;
 // Level 1 lines carry it, and their readers take no more than some 4,000 bytes a line.
 constexpr std::size_t LongestDescription = 1000;
+// Bytes of the shortest rows: a date of eight digits and a price; the same and three prices more.
+constexpr std::size_t ShortestTick = 10, ShortestBar = 16;
 constexpr std::size_t NoColumn = static_cast<std::size_t>(-1);
 
 // Walks the rows of a file below its header and keeps the columns by name.
 class CCsvRows
 {
 public:
-    CCsvRows(std::string_view text, const std::string& file, sRECORDING_REPORT& report)
-        : m_text(text), m_file(file), m_report(report)
+    CCsvRows(ILineSource& lines, const std::string& file, sRECORDING_REPORT& report)
+        : m_lines(lines), m_file(file), m_report(report)
     {
-        if (m_text.starts_with(ByteOrderMark))
-            m_text.remove_prefix(ByteOrderMark.size());
         m_readable = NextLine();
         if (!m_readable)
             m_report.Unusable = m_file + ": the file is empty and not used";
@@ -49,6 +49,16 @@ public:
     }
 
     bool Next() { return m_readable && NextLine(); }
+    // The next row that has a field for each column; others are skipped.
+    bool NextWhole()
+    {
+        while (Next()) {
+            if (m_fields.size() >= m_columns.size())
+                return true;
+            Skip("the row has fewer fields than the header line");
+        }
+        return false;
+    }
     std::string_view Field(std::size_t column) const
     {
         return column < m_fields.size() ? m_fields[column] : std::string_view();
@@ -59,17 +69,24 @@ private:
     bool NextLine()
     {
         std::string_view line;
-        while (TakeLine(m_text, line)) {
-            ++m_line;
+        while (m_lines.Next(line)) {
+            if (++m_line == 1 && line.starts_with(ByteOrderMark))
+                line.remove_prefix(ByteOrderMark.size());
+            if (line.size() > LongestLine) {
+                Skip("the line is longer than " + std::to_string(LongestLine) + " bytes");
+                continue;
+            }
             if (TrimBlanks(line).empty())
                 continue;
             SplitCsvLine(line, m_fields);
             return true;
         }
+        if (m_lines.HasFailed())
+            Skip("the file cannot be read from here on");
         return false;
     }
 
-    std::string_view m_text;
+    ILineSource& m_lines;
     const std::string& m_file;
     sRECORDING_REPORT& m_report;
     std::vector<std::string> m_columns;
@@ -147,11 +164,31 @@ bool ReadListId(CCsvRows& rows, std::size_t column, std::string_view name, int& 
     return false;
 }
 
+// Moves each record to its place in time; those of one time keep their order. A stable sort of the records
+// themselves would take half as much memory again as they do.
 template<class TRecord, class TTime> void SortByTime(std::vector<TRecord>& records, TTime time)
 {
     const auto earlier = [time](const TRecord& a, const TRecord& b) { return a.*time < b.*time; };
-    if (!std::is_sorted(records.begin(), records.end(), earlier))
-        std::stable_sort(records.begin(), records.end(), earlier);
+    if (std::is_sorted(records.begin(), records.end(), earlier))
+        return;
+    std::vector<std::uint32_t> from(records.size());
+    std::iota(from.begin(), from.end(), 0u);
+    std::sort(from.begin(), from.end(), [&](std::uint32_t a, std::uint32_t b) {
+        return records[a].*time != records[b].*time ? records[a].*time < records[b].*time : a < b;
+    });
+    // Each cycle of places is followed once, with one record held aside.
+    for (std::uint32_t start = 0; start < from.size(); ++start) {
+        const TRecord held = records[start];
+        std::uint32_t place = start;
+        while (from[place] != start) {
+            const std::uint32_t next = from[place];
+            records[place] = records[next];
+            from[place] = place;
+            place = next;
+        }
+        records[place] = held;
+        from[place] = place;
+    }
 }
 
 } // namespace
@@ -163,16 +200,18 @@ void sRECORDING_REPORT::Skip(const std::string& file, std::size_t line, std::str
         Problems.push_back(file + ":" + std::to_string(line) + ": " + std::string(why));
 }
 
-std::vector<sFEED_TICK> ReadTicks(std::string_view text, const std::string& file, sRECORDING_REPORT& report)
+std::vector<sFEED_TICK> ReadTicks(ILineSource& lines, const std::string& file, sRECORDING_REPORT& report)
 {
-    CCsvRows rows(text, file, report);
+    // Counted first: a vector that grows by itself holds up to three times what it needs.
+    std::vector<sFEED_TICK> ticks;
+    ticks.reserve(lines.CountLines(ShortestTick));
+    CCsvRows rows(lines, file, report);
     const std::size_t time = rows.Column("time", true), last = rows.Column("last", true);
     const std::size_t size = rows.Column("size", false);
     const std::size_t total = rows.Column("total_volume", false), bid = rows.Column("bid", false);
     const std::size_t ask = rows.Column("ask", false), id = rows.Column("tick_id", false);
     const std::size_t basis = rows.Column("basis", false);
-    std::vector<sFEED_TICK> ticks;
-    while (rows.Next()) {
+    while (rows.NextWhole()) {
         sFEED_TICK tick;
         if (!ReadTime(rows, time, "time", tick.Time) || !ReadPrice(rows, last, "last", tick.Last) ||
             !ReadOptionalCount(rows, size, "size", tick.Size) ||
@@ -197,19 +236,20 @@ std::vector<sFEED_TICK> ReadTicks(std::string_view text, const std::string& file
     return ticks;
 }
 
-std::vector<sFEED_BAR> ReadBars(RecordingKind kind, std::string_view text, const std::string& file,
+std::vector<sFEED_BAR> ReadBars(RecordingKind kind, ILineSource& lines, const std::string& file,
                                 sRECORDING_REPORT& report)
 {
     const bool daily = kind == RecordingKind::Daily;
-    CCsvRows rows(text, file, report);
+    std::vector<sFEED_BAR> bars;
+    bars.reserve(lines.CountLines(ShortestBar));
+    CCsvRows rows(lines, file, report);
     const std::string_view stampName = daily ? "date" : "time";
     const std::size_t stamp = rows.Column(stampName, true);
     const std::size_t open = rows.Column("open", true), high = rows.Column("high", true);
     const std::size_t low = rows.Column("low", true), close = rows.Column("close", true);
     const std::size_t volume = rows.Column("volume", false);
     const std::size_t interest = daily ? rows.Column("open_interest", false) : NoColumn;
-    std::vector<sFEED_BAR> bars;
-    while (rows.Next()) {
+    while (rows.NextWhole()) {
         sFEED_BAR bar;
         if (!ReadTime(rows, stamp, stampName, bar.Stamp) || !ReadPrice(rows, open, "open", bar.Open) ||
             !ReadPrice(rows, high, "high", bar.High) || !ReadPrice(rows, low, "low", bar.Low) ||
@@ -229,10 +269,10 @@ std::vector<sFEED_BAR> ReadBars(RecordingKind kind, std::string_view text, const
     return bars;
 }
 
-std::vector<sLISTED_SYMBOL> ReadSymbols(std::string_view text, const std::string& file,
+std::vector<sLISTED_SYMBOL> ReadSymbols(ILineSource& lines, const std::string& file,
                                         sRECORDING_REPORT& report)
 {
-    CCsvRows rows(text, file, report);
+    CCsvRows rows(lines, file, report);
     const std::size_t symbol = rows.Column("symbol", true), market = rows.Column("market_id", true);
     const std::size_t type = rows.Column("security_type_id", true);
     const std::size_t description = rows.Column("description", false);
@@ -254,23 +294,6 @@ std::vector<sLISTED_SYMBOL> ReadSymbols(std::string_view text, const std::string
         symbols.push_back(std::move(listed));
     }
     return symbols;
-}
-
-bool ReadWholeFile(const std::filesystem::path& path, std::string& text)
-{
-    // Opening a pipe waits for a writer, and the size of a folder is whatever the system makes of it.
-    std::error_code error;
-    if (!std::filesystem::is_regular_file(path, error))
-        return false;
-    std::ifstream file(path, std::ios::binary | std::ios::ate);
-    if (!file)
-        return false;
-    const std::streamoff size = file.tellg();
-    if (size < 0)
-        return false;
-    text.resize(static_cast<std::size_t>(size));
-    file.seekg(0);
-    return static_cast<bool>(file.read(text.data(), size));
 }
 
 } // namespace zantroq::feed

@@ -3,8 +3,8 @@
 #pragma once
 
 #include "feed/markets/FeedRecords.h"
+#include "feed/markets/LineSource.h"
 
-#include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -32,17 +32,16 @@ struct sRECORDING_REPORT
 
 // Rows in time order (a file in another order is sorted; rows of one time keep the file's order). `file`
 // names the text in problems. Without a header line that holds the needed columns nothing is read and the
-// report says so.
-std::vector<sFEED_TICK> ReadTicks(std::string_view text, const std::string& file, sRECORDING_REPORT& report);
-std::vector<sFEED_BAR> ReadBars(RecordingKind kind, std::string_view text, const std::string& file,
+// report says so. A row of fewer fields than the header line has is a bad row, and so is a line longer than
+// LongestLine. Memory beyond the records themselves: a block of the file, and where rows have to be sorted
+// four bytes for each.
+std::vector<sFEED_TICK> ReadTicks(ILineSource& lines, const std::string& file, sRECORDING_REPORT& report);
+std::vector<sFEED_BAR> ReadBars(RecordingKind kind, ILineSource& lines, const std::string& file,
                                 sRECORDING_REPORT& report);
 
 // The symbols that a symbols.csv names, in the file's order. Commas in a description become blanks, and the
 // symbol stands for one that is empty. Without the needed columns nothing is read and the report says so.
-std::vector<sLISTED_SYMBOL> ReadSymbols(std::string_view text, const std::string& file,
+std::vector<sLISTED_SYMBOL> ReadSymbols(ILineSource& lines, const std::string& file,
                                         sRECORDING_REPORT& report);
-
-// The whole file; false when it cannot be read or is no plain file.
-bool ReadWholeFile(const std::filesystem::path& path, std::string& text);
 
 } // namespace zantroq::feed
