@@ -26,12 +26,22 @@ struct sScriptError
 
 using Words = std::vector<std::string>;
 
+// Where a color is due (dialog set ID), its mark is no comment: there would be no value otherwise.
+bool IsColorHere(const Words& words, std::string_view rest)
+{
+    constexpr std::size_t Length = 7;
+    return words.size() == 3 && words[0] == "dialog" && words[1] == "set" && rest.size() >= Length &&
+           rest.substr(1, Length - 1).find_first_not_of("0123456789abcdefABCDEF") == std::string_view::npos &&
+           (rest.size() == Length || rest[Length] == ' ' || rest[Length] == '\t');
+}
+
 Words SplitWords(std::string_view line)
 {
     Words words;
     std::string word;
     bool inWord = false, quoted = false;
-    for (const char c : line) {
+    for (std::size_t at = 0; at < line.size(); ++at) {
+        const char c = line[at];
         if (c == '\0')
             throw sScriptError{"a NUL byte stands in it; a script is plain text, take the byte out"};
         if (quoted) {
@@ -41,7 +51,7 @@ Words SplitWords(std::string_view line)
                 word += c;
         } else if (c == '"') {
             quoted = inWord = true;
-        } else if (c == '#') {
+        } else if (c == '#' && (inWord || !IsColorHere(words, line.substr(at)))) {
             break;
         } else if (c == ' ' || c == '\t') {
             if (inWord)

@@ -75,6 +75,18 @@ TEST(ReplayScript, QuotesHoldBlanksAndHashesAndCommentsEndALine)
     EXPECT_EQ(Only("set \"BB AVG PERIOD\" 30").Name, "BB AVG PERIOD");
 }
 
+TEST(ReplayScript, AColorIsNoCommentWhereADialogTakesIt)
+{
+    EXPECT_EQ(Only("dialog set 251 #0aB1c2").Text, "#0aB1c2");
+    EXPECT_EQ(Only("dialog set 251 #0aB1c2 # with a comment").Text, "#0aB1c2");
+    EXPECT_EQ(Only("dialog set 251 \"#0aB1c2\"").Text, "#0aB1c2");
+    EXPECT_EQ(Only("dialog set 317 5 #0aB1c2").Text, "5");
+    for (const char* text : {"dialog set 251 #0ab1c", "dialog set 251 #0ab1c2d", "dialog set 251 # 0ab1c2"})
+        EXPECT_NE(Wrong(text).find("the value is missing"), std::string::npos) << text;
+    EXPECT_NE(Wrong("dialog set #0aB1c2").find("the control is missing"), std::string::npos);
+    EXPECT_NE(Wrong("symbol #0aB1c2").find("the symbol is missing"), std::string::npos);
+}
+
 TEST(ReplayScript, AnEmptyScriptHasNoSteps)
 {
     const sReplayScript script = ParseReplayScript("");
