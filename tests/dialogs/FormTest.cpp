@@ -6,6 +6,7 @@
 #include "qt/dialogs/SpinEdit.h"
 
 #include <QCheckBox>
+#include <QColorDialog>
 #include <QComboBox>
 #include <QDateEdit>
 #include <QGroupBox>
@@ -74,7 +75,7 @@ public:
     {
         setWindowTitle("Everything");
         auto* const layout = new QVBoxLayout(this);
-        const auto add = [this, layout](int id, QWidget* widget) {
+        const auto add = [layout](int id, QWidget* widget) {
             widget->setProperty("control", id);
             layout->addWidget(widget);
             return widget;
@@ -275,6 +276,27 @@ TEST_F(CFormTest, AColorTakesSixDigits)
     for (const char* text : {"ff8001", "#ff800", "#ff80011", "red", "#gggggg", ""})
         EXPECT_NE(m_driver.Set(Color, text), "") << text;
     EXPECT_EQ(m_driver.Press(Color), "control 20 is not a button; give it a value with dialog set");
+    EXPECT_EQ(Events(), Strings{"changed 20"});
+}
+
+TEST_F(CFormTest, PressingAColorButtonOpensTheColorDialogOnItsColor)
+{
+    auto& button = As<CButtonForColor>(Color);
+    Form().SetColor(Color, 0x0000FF);
+    const auto open = [&]() -> QColorDialog* {
+        button.click();
+        return button.findChildren<QColorDialog*>().last();
+    };
+    QColorDialog* dialog = open();
+    EXPECT_EQ(dialog->currentColor(), QColor(255, 0, 0));
+    dialog->setCurrentColor(QColor(1, 2, 3));
+    dialog->reject();
+    EXPECT_EQ(Form().Color(Color), 0x0000FFu);
+    EXPECT_EQ(Events(), Strings());
+    dialog = open();
+    dialog->setCurrentColor(QColor(1, 2, 3));
+    dialog->accept();
+    EXPECT_EQ(Form().Color(Color), 0x030201u);
     EXPECT_EQ(Events(), Strings{"changed 20"});
 }
 

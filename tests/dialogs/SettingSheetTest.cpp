@@ -523,6 +523,38 @@ TEST_F(CSheetTest, EveryControlHasANameForScreenReaders)
     Sheet().Cancel();
 }
 
+TEST_F(CSheetTest, NoTextIsClippedWithAFontOfTwiceTheSize)
+{
+    const QFont usual = QApplication::font();
+    for (const int factor : {1, 2}) {
+        QFont font = usual;
+        font.setPointSizeF(usual.pointSizeF() * factor);
+        QApplication::setFont(font);
+        m_chart->show();
+        int texts = 0;
+        for (const char* page : {Colors, General, "Data", Upper, Lower}) {
+            Sheet().TurnToPage(page);
+            QApplication::processEvents();
+            for (const QWidget* widget : Dialog().findChildren<QWidget*>()) {
+                const bool text = qobject_cast<const QLabel*>(widget) != nullptr ||
+                                  qobject_cast<const QAbstractButton*>(widget) != nullptr ||
+                                  qobject_cast<const QComboBox*>(widget) != nullptr;
+                if (!text || !widget->isVisible())
+                    continue;
+                ++texts;
+                EXPECT_GE(widget->width(), widget->sizeHint().width())
+                    << page << " " << widget->objectName().toStdString();
+                EXPECT_GE(widget->height(), widget->sizeHint().height())
+                    << page << " " << widget->objectName().toStdString();
+            }
+        }
+        EXPECT_GT(texts, 60);
+        Sheet().TurnToPage(Colors);
+        Sheet().Cancel();
+    }
+    QApplication::setFont(usual);
+}
+
 TEST_F(CSheetTest, EnterAcceptsAndEscapeCancels)
 {
     m_chart->show();

@@ -298,11 +298,11 @@ protected:
 TEST_F(CWalk, MemoryAndStoreFollowThousandsOfSteps)
 {
     StartModel();
-    for (int step = 0; step < 3000; ++step) {
+    for (int step = 0; step < 2500; ++step) {
         Step();
         if (HasFailure())
             FAIL() << "at step " << step;
-        const int end = Pick(25);
+        const int end = Pick(50);
         if (end > 2)
             continue;
         if (end == 0)
