@@ -1,10 +1,14 @@
 // The rules of the settings sheet's pages, without a window.
 #include "support/FakeForm.h"
+#include "support/UnreliableKey.h"
 
+#include "settings/SettingText.h"
 #include "settings/SettingsLoader.h"
 #include "settings/SettingsWriter.h"
+#include "settings/TypedSetting.h"
 #include "settings/pages/PageSettings.h"
 #include "settings/pages/SettingSheet.h"
+#include "settings/pages/SheetChanges.h"
 
 #include <gtest/gtest.h>
 
@@ -156,6 +160,122 @@ TEST_F(CSheetTest, EverySettingIsOnOnePageOrHasAReasonToBeOnNone)
     for (const sSettingRow& row : SettingsTable())
         EXPECT_EQ(placed.count(row.Id), 1u) << row.Id << " " << row.Name;
     EXPECT_EQ(placed.size(), SettingsTable().size());
+}
+
+// Every setting of a page, through the page, the store and another start
+
+namespace {
+
+// Another value than the present one, as its text.
+std::string AnotherNumber(const sSettingRow& row, const std::string& now)
+{
+    const int value = std::stoi(now);
+    if (row.Form == SettingForm::Unnamed)
+        return "42"; // in the range of both scroll amounts
+    if (row.HasRange())
+        return std::to_string(static_cast<int>(value == static_cast<int>(row.High) ? row.Low : row.High));
+    if (value == 0 || value == 1)
+        return value == 0 ? "1" : "0"; // a switch or a choice
+    return std::to_string(value + 3);
+}
+
+std::string AnotherText(const sSettingRow& row, const std::string& now)
+{
+    switch (row.Type) {
+    case SettingType::Color:
+        return std::to_string(std::stoi(now) ^ 0x123456);
+    case SettingType::Double:
+        return "3.5";
+    case SettingType::Date:
+        return "20200101,20200102,20200103,20200104,20200105";
+    case SettingType::Time:
+        return "010101,020202,030303,040404,050505";
+    case SettingType::Bool:
+        return row.IsList() ? "1,0,1,0,1" : (now == "1" ? "0" : "1");
+    default:
+        break;
+    }
+    if (row.Form == SettingForm::PeriodList)
+        return "31,32,33,34,35,36,37,38,39,40";
+    if (row.Name == "RequestRecentType")
+        return "2,4,7,8,9";
+    if (row.Form == SettingForm::DataTypeList)
+        return "11,12,13,14,15";
+    return AnotherNumber(row, now);
+}
+
+} // namespace
+
+TEST_F(CSheetTest, EachSettingOfAPageReachesTheStoreAndComesBackAtTheNextStart)
+{
+    int settings = 0;
+    for (int page = 0; page < SheetPages; ++page)
+        for (const int id : SettingsOfPage(page)) {
+            const sSettingRow& row = *FindSetting(id);
+            const int last = id == 32883 ? 0 : row.LastNumber; // of the types the one pane that is displayed
+            for (int number = row.FirstNumber; number <= last; ++number) {
+                const sSettingPlace place{&row, number};
+                SCOPED_TRACE(SettingName(row, number));
+                sUnreliableKey key;
+                const sChartSettings before = LoadChartSettings(key, "20260101");
+                const std::string wanted = AnotherText(row, SettingText(before, place));
+                m_settings = before;
+                ASSERT_EQ(TakeTypedText(m_settings, place, wanted), "");
+                ASSERT_NE(SettingText(m_settings, place), SettingText(before, place));
+                Open();
+                ASSERT_TRUE(m_sheet->Accept());
+                sChartSettings after = before;
+                m_sheet->Page(page).CopyTo(after);
+                EXPECT_EQ(SettingText(after, place), SettingText(m_settings, place)) << "through the page";
+                CRetryingKey retrying(key);
+                StoreSheetChanges(retrying, before, after, RequestKeeping::AsDefault);
+                if ((row.Effects & EffectStudyList) != 0)
+                    StorePaneStack(retrying, after.Panes); // as the layout does for a new list
+                sChartSettings next = LoadChartSettings(key, "20260101");
+                LoadSheetSettings(key, next);
+                EXPECT_EQ(SettingText(next, place), SettingText(m_settings, place)) << "after a restart";
+                ++settings;
+            }
+        }
+    EXPECT_GT(settings, 130);
+    EXPECT_EQ(m_box.Said, Texts());
+}
+
+namespace {
+
+struct sWriteLog : ISettingsKey
+{
+    std::unique_ptr<ISettingsKey> Memory = MakeMemorySettingsKey();
+    Texts Written;
+    CSettingRead Read(std::string_view name) override { return Memory->Read(name); }
+    bool Write(std::string_view name, const SettingValue& value) override
+    {
+        Written.emplace_back(name);
+        return Memory->Write(name, value);
+    }
+    bool Delete(std::string_view name) override { return Memory->Delete(name); }
+    std::vector<std::pair<std::string, SettingValue>> List() override { return Memory->List(); }
+};
+
+} // namespace
+
+TEST_F(CSheetTest, ChangesAreWrittenInTheOrderOfThePages)
+{
+    sChartSettings after = m_settings;
+    after.Studies.StoFast = 1;            // lower studies
+    after.Overlays.ShowBands = 1;         // upper studies
+    after.Request.IntervalIndex = 4;      // data
+    after.Request.DatapointCounts[0] = 5; // data, of this chart only
+    after.AxisOnRight = true;             // general
+    after.PriceBarColor = 1;              // colors
+    after.Studies.LabelColors[3] = 2;     // colors
+    sWriteLog key;
+    CRetryingKey retrying(key);
+    const unsigned effects = StoreSheetChanges(retrying, m_settings, after, RequestKeeping::ThisChart);
+    EXPECT_EQ(key.Written, (Texts{"Price Bar Color", "Study Label Color 3", "Y Axis Orientation",
+                                  "RequestIntervalIndex", "RequestDataType", "BB STUDY SHOW", "STO Fast"}));
+    EXPECT_EQ(effects, static_cast<unsigned>(EffectPriceBar | EffectStudies | EffectAxisSide | EffectRequest |
+                                             EffectOverlays));
 }
 
 // Colors
