@@ -1,18 +1,42 @@
+# What all test programs share: that file and the precompiled headers, once without Qt and once with it. The precompiled headers ask for
+# the same options in every program, hence position independent code and the least optimisation that keeps the slow models bearable,
+# and for no definition that a program lacks, hence those of that one file.
+set_source_files_properties(${CMAKE_SOURCE_DIR}/tests/support/TestEnvironment.cpp PROPERTIES COMPILE_DEFINITIONS
+    "ZANTROQ_TEST_FOLDER=\"${CMAKE_BINARY_DIR}\";ZANTROQ_TEST_FONTS=\"${CMAKE_SOURCE_DIR}/tests/support/fonts.conf\"")
+function(zantroq_test_environment name headers)
+    add_library(${name} OBJECT ${CMAKE_SOURCE_DIR}/tests/support/TestEnvironment.cpp)
+    target_link_libraries(${name} PRIVATE zantroq_test_options ${ARGN})
+    zantroq_precompile(${name} ${${headers}})
+endfunction()
+
+add_library(zantroq_test_options INTERFACE)
+target_link_libraries(zantroq_test_options INTERFACE zantroq_settings Threads::Threads GTest::gmock nlohmann_json::nlohmann_json)
+target_compile_options(zantroq_test_options INTERFACE -fPIC $<$<CONFIG:Release>:-O1>)
+zantroq_test_environment(test_environment ZANTROQ_TEST_HEADERS)
+if(ZANTROQ_QT)
+    set(ZANTROQ_QT_TEST_HEADERS ${ZANTROQ_TEST_HEADERS} ${ZANTROQ_QT_HEADERS})
+    find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets Svg PrintSupport)
+    zantroq_test_environment(test_environment_qt ZANTROQ_QT_TEST_HEADERS Qt6::Widgets Qt6::Svg Qt6::PrintSupport)
+endif()
+
 # zantroq_test_program(NAME SOURCES... [LABELS label...] [LIBRARIES lib...])
 #
-# A GoogleTest program whose tests each become a ctest test. Tests labelled "threaded" also run under ThreadSanitizer.
+# A GoogleTest program whose tests each become a ctest test; with ZANTROQ_TEST_PER_PROGRAM, which suits builds whose programs start
+# slowly, whole programs in three parts. Tests labelled "threaded" also run under ThreadSanitizer.
 # Every program is linked with TestEnvironment.cpp, which keeps it away from the user's settings and from any display.
-add_library(test_environment OBJECT ${CMAKE_SOURCE_DIR}/tests/support/TestEnvironment.cpp)
-target_link_libraries(test_environment PRIVATE zantroq_settings)
-target_compile_definitions(test_environment PRIVATE
-    ZANTROQ_TEST_FOLDER="${CMAKE_BINARY_DIR}"
-    ZANTROQ_TEST_FONTS="${CMAKE_SOURCE_DIR}/tests/support/fonts.conf")
-
 function(zantroq_test_program name)
     cmake_parse_arguments(arg "" "" "SOURCES;LABELS;LIBRARIES" ${ARGN})
-    add_executable(${name} ${arg_SOURCES} $<TARGET_OBJECTS:test_environment>)
+    set(environment test_environment)
+    if("${arg_LIBRARIES}" MATCHES "Qt6|chartqt")
+        set(environment test_environment_qt)
+        list(APPEND arg_LIBRARIES Qt6::Widgets Qt6::Svg Qt6::PrintSupport)
+    endif()
+    add_executable(${name} ${arg_SOURCES} $<TARGET_OBJECTS:${environment}>)
+    if(ZANTROQ_PCH)
+        target_precompile_headers(${name} REUSE_FROM ${environment})
+    endif()
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
-    target_link_libraries(${name} PRIVATE chartcore ${arg_LIBRARIES} GTest::gmock GTest::gtest_main)
+    target_link_libraries(${name} PRIVATE zantroq_test_options chartcore ${arg_LIBRARIES} GTest::gmock GTest::gtest_main)
     # An empty value would shift the properties behind it.
     if(NOT arg_LABELS)
         set(arg_LABELS unit)
@@ -23,5 +47,14 @@ function(zantroq_test_program name)
         endif()
         add_dependencies(threaded_tests ${name})
     endif()
-    gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES LABELS ${arg_LABELS} TIMEOUT 300)
+    if(ZANTROQ_TEST_PER_PROGRAM)
+        # In three parts, so that a long program does not keep the other cores waiting at the end.
+        foreach(part 0 1 2)
+            add_test(NAME ${name}.${part} COMMAND ${name} --gtest_brief=1)
+            set_tests_properties(${name}.${part} PROPERTIES LABELS "${arg_LABELS}" TIMEOUT 1800
+                ENVIRONMENT "GTEST_TOTAL_SHARDS=3;GTEST_SHARD_INDEX=${part}")
+        endforeach()
+        return()
+    endif()
+    gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES LABELS "${arg_LABELS}" TIMEOUT 300)
 endfunction()

@@ -63,8 +63,8 @@ make_root() {
     while read -r line; do options+=("--aptopt=$line"); done < <(apt_options)
     sources=$(debian_sources)
     grep -q ' https:' <<<"$sources" && include=(--include=ca-certificates)
-    mmdebstrap --mode="$mode" --variant=minbase "${include[@]}" "${options[@]}" "$suite" "$root" ${sources:+-} <<<"$sources"
-    "${as[@]}" cp -L /etc/resolv.conf /etc/hosts "$root/etc/"
+    mmdebstrap --mode="$mode" --variant=minbase "${include[@]}" "${options[@]}" "$suite" "$root" ${sources:+-} <<<"$sources" &&
+        "${as[@]}" cp -L /etc/resolv.conf /etc/hosts "$root/etc/"
 }
 
 if [[ "${1:-}" == "--in" ]]; then

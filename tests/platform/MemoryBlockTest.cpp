@@ -12,6 +12,16 @@
 #include <sys/mman.h>
 #endif
 
+// The two compilers name their sanitizers in two ways.
+#if defined(__has_feature)
+#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
+#define ZANTROQ_PLAIN_BLOCKS 1
+#endif
+#endif
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#define ZANTROQ_PLAIN_BLOCKS 1
+#endif
+
 using namespace zantroq;
 
 TEST(MemoryBlock, ContentsSurviveEveryGrowth)
@@ -35,7 +45,7 @@ TEST(MemoryBlock, ContentsSurviveEveryGrowth)
     EXPECT_EQ(block.Bytes, 0u);
 }
 
-#if defined(__linux__) && !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
+#if defined(__linux__) && !defined(ZANTROQ_PLAIN_BLOCKS)
 constexpr std::size_t MegaByte = 1024 * 1024;
 
 // Whether the system knows the whole of a block as one mapping.
@@ -89,7 +99,7 @@ TEST(MemoryBlock, OneThatTheSystemWillNotMoveGrowsAllTheSame)
 
 TEST(MemoryBlock, WhatCannotBeHadLeavesTheBlockAsItWas)
 {
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#ifdef ZANTROQ_PLAIN_BLOCKS
     GTEST_SKIP() << "the sanitizers end the program where the system's allocator says no";
 #else
     sMemoryBlock block;
