@@ -36,7 +36,7 @@ public:
 protected:
     std::vector<sStudyLine> Lines() const override;
     void Compute(std::int64_t index, int count, std::span<double* const> out) override;
-    std::optional<sValueRange> RangeStart() const override { return sValueRange{0, 100}; }
+    std::optional<sValueRange> RangeStart() const override { return sValueRange{0, 100, true}; }
     void FitDrawnAxis(const sValueRange& range) override;
     std::string HeadText() const override;
     std::string MarkedText(int point) const override;

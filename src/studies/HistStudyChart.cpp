@@ -7,7 +7,6 @@
 #include "studies/StudyArrays.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace zantroq {
 
@@ -45,7 +44,9 @@ void sValueRange::Widen(const sBlockedValues& values, std::size_t first, std::si
 {
     sMinMax found;
     // Of a 0 and a -0 the earlier one counts, which the quick search does not tell.
-    if (FindMinMax(values, first, end, found) && found.Least != 0 && found.Greatest != 0) {
+    const bool isFound = FindMinMax(values, first, end, found) && found.Least != 0 && found.Greatest != 0;
+    const bool isTaken = !FiniteAlone || (std::isfinite(found.Least) && std::isfinite(found.Greatest));
+    if (isFound && isTaken) {
         Widen(found.Least);
         Widen(found.Greatest);
         return;

@@ -10,6 +10,7 @@
 #include "scene/BlockMinMax.h"
 #include "studies/StudyAxis.h"
 
+#include <cmath>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -30,9 +31,10 @@ struct sStudyLine
 struct sValueRange
 {
     double Max, Min;
+    bool FiniteAlone = false; // infinities widen nothing either
     void Widen(double value)
     {
-        if (value == CPaneData::HoleValue())
+        if (value == CPaneData::HoleValue() || (FiniteAlone && std::isinf(value)))
             return;
         if (value > Max)
             Max = value;

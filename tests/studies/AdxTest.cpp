@@ -156,6 +156,41 @@ TEST(Adx, LivePointsNeverChangeTheAxisAndKeepTheCurve)
     EXPECT_EQ(pane.Values(1), live);
 }
 
+// One bar without a true range gave the pane no axis at all.
+TEST(Adx, AnInfinityDoesNotWidenTheAxis)
+{
+    CAdxPane pane(1, 30);
+    const double close = pane.Series.Close(29);
+    pane.Series.Add(close, close, close, close, 100);
+    pane.Add(29);
+    pane.Draw(0, 60);
+    ASSERT_TRUE(std::isinf(pane.Y(2, 31)) || std::isinf(pane.Y(3, 31)));
+    double greatest = 0, least = 100;
+    for (const int series : {1, 2, 3})
+        for (const double value : pane.Values(series))
+            if (std::isfinite(value) && value != Hole) {
+                greatest = std::max(greatest, value);
+                least = std::min(least, value);
+            }
+    ASSERT_LT(least, greatest);
+    EXPECT_GE(pane.YAxis().ViewHigh().Value(), greatest);
+    EXPECT_LE(pane.YAxis().ViewLow().Value(), least);
+    EXPECT_LT(pane.YAxis().ViewHigh().Value(), 10 * greatest);
+}
+
+TEST(Adx, OnlyInfinitiesInViewLeaveTheAxisAsItWasSetUp)
+{
+    CAdxPane pane(1, 30), empty(1, 0);
+    const double close = pane.Series.Close(29);
+    pane.Series.Add(close, close, close, close, 100);
+    pane.Draw(30, 1);
+    for (int i = 0; i < 3; ++i)
+        empty.Series.Add(close, close, close, close, 100);
+    empty.Draw(0, 1); // nothing but holes
+    EXPECT_EQ(pane.YAxis().ViewHigh().Value(), empty.YAxis().ViewHigh().Value());
+    EXPECT_EQ(pane.YAxis().ViewLow().Value(), empty.YAxis().ViewLow().Value());
+}
+
 TEST(Adx, GridSpacingIsTwentyFiveWhateverTheAxisTook)
 {
     CAdxPane pane(5, 100);

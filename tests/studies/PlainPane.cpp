@@ -287,9 +287,11 @@ void sPane::Draw(int kind, const CBarSeries& series, const sChartSettings& setti
     default:
         max = 0;
         min = 100;
+        // ADX: an infinity says nothing of the range that the other points need.
         for (std::size_t k = 0; k < x.size(); ++k)
             for (const auto& line : lines)
-                look(line[k]);
+                if (!std::isinf(line[k]))
+                    look(line[k]);
     }
     StudyAxis(max, min);
 }
