@@ -143,4 +143,22 @@ TEST_F(SettingsFileRefusal, AFolderOrAPipeIsNoSettingsFile)
     EXPECT_EQ(ProblemOfReading(), SettingsProblem::Unreadable);
 }
 
+// Both programs waited for ever for somebody to write into the pipe.
+TEST_F(SettingsFileRefusal, APipeInThePlaceOfASideFileIsRefusedAtOnce)
+{
+    for (const bool withFile : {true, false})
+        for (const char* const ending : {"-journal", "-wal", "-shm"}) {
+            std::filesystem::remove(Path);
+            if (withFile)
+                CSettingsFile(Path).Write("K", "a", 1u);
+            ASSERT_EQ(::mkfifo((Path + ending).c_str(), 0600), 0);
+            CSettingsFile file(Path);
+            EXPECT_THROW(file.Write("K", "a", 2u), CSettingsFileError) << ending;
+            if (withFile) {
+                EXPECT_EQ(ProblemOfReading(), SettingsProblem::Unreadable) << ending;
+            }
+            std::filesystem::remove(Path + ending);
+        }
+}
+
 } // namespace zantroq

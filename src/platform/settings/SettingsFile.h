@@ -91,6 +91,7 @@ private:
     void OpenHandle(Access access, bool exists);
     void OpenDoor(Door door, const std::string& path, Access access);
     void OpenCopy(const std::string& followed);
+    void RefuseSideFiles(const std::string& followed);
     void RefuseByLook(const std::string& followed);
     void CheckContents(Access access);
     void CreateContents();

@@ -86,6 +86,7 @@ bool CSettingsFile::Open(Access access)
 void CSettingsFile::OpenHandle(Access access, bool exists)
 {
     const std::string followed = FollowedPath(m_path);
+    RefuseSideFiles(followed);
     if (exists)
         RefuseByLook(followed);
     // A file that cannot be written is read without locks and without the two side files, which could not be
@@ -157,6 +158,21 @@ void CSettingsFile::OpenCopy(const std::string& followed)
                                           "it; allow reading both, and writing to their folder");
     OpenDoor(Door::Ordinary, copy.Path(), Access::Read);
     m_frozen = true;
+}
+
+// Opening a pipe or a device in the place of a log or journal would wait for ever.
+void CSettingsFile::RefuseSideFiles(const std::string& followed)
+{
+    for (const char* const ending : {"-journal", "-wal", "-shm"}) {
+        struct stat about
+        {
+        };
+        if (::stat((followed + ending).c_str(), &about) == 0 && !S_ISREG(about.st_mode))
+            throw CSettingsFileError(SettingsProblem::Unreadable,
+                                     followed + ending +
+                                         ": not a plain file, so the settings file beside it is not opened; "
+                                         "move it away");
+    }
 }
 
 // Refuses by its first bytes what must not even be opened.
