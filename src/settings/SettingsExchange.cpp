@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <nlohmann/json.hpp>
-#include <set>
+#include <unordered_set>
 
 namespace zantroq {
 namespace {
@@ -11,7 +11,7 @@ namespace {
 using Json = nlohmann::json;
 
 constexpr char HexDigits[] = "0123456789abcdef";
-constexpr int DeepestLevel = 3; // key, name, value
+constexpr std::size_t DeepestLevel = 3; // key, name, value
 
 std::string Place(const std::string& key, const std::string& name)
 {
@@ -74,31 +74,63 @@ SettingValue ValueOf(const Json& entry)
     throw CSettingsFormatError("its type must be \"sz\", \"dword\" or \"binary\"");
 }
 
-Json ParseShallow(std::string_view text)
+// Goes through a text and refuses what is not JSON, nested too deeply, or named twice, before anything of it
+// is kept. The parser's own filter would look through all values again at each value's end.
+class CShapeCheck : public nlohmann::json_sax<Json>
 {
-    std::vector<std::set<std::string>> names; // of the objects that are open
-    const auto refuse = [&](int depth, Json::parse_event_t event, Json& parsed) {
-        using Event = Json::parse_event_t;
-        if ((event == Event::object_start || event == Event::array_start) && depth >= DeepestLevel)
-            throw CSettingsFormatError(
-                "too deeply nested: values stand in names and names in keys, nothing deeper");
-        if (event == Event::object_start)
-            names.emplace_back();
-        else if (event == Event::object_end)
-            names.pop_back();
-        else if (event == Event::key && !names.back().insert(parsed.get<std::string>()).second)
-            throw CSettingsFormatError("\"" + parsed.get<std::string>() + "\" stands twice in one object");
+public:
+    explicit CShapeCheck(std::string_view text) : m_text(text) {}
+
+    bool null() override { return true; }
+    bool boolean(bool) override { return true; }
+    bool number_integer(number_integer_t) override { return true; }
+    bool number_unsigned(number_unsigned_t) override { return true; }
+    bool number_float(number_float_t, const string_t&) override { return true; }
+    bool string(string_t&) override { return true; }
+    bool binary(binary_t&) override { return true; }
+    bool start_object(std::size_t) override { return Descend(); }
+    bool start_array(std::size_t) override { return Descend(); }
+    bool end_object() override { return Ascend(); }
+    bool end_array() override { return Ascend(); }
+    bool key(string_t& name) override
+    {
+        if (!m_names.back().insert(name).second)
+            throw CSettingsFormatError("\"" + name + "\" stands twice in one object");
         return true;
-    };
-    try {
-        return Json::parse(text.begin(), text.end(), refuse);
-    } catch (const Json::parse_error& error) {
-        const auto before = text.substr(0, error.byte == 0 ? 0 : error.byte - 1);
+    }
+    bool parse_error(std::size_t byte, const std::string&, const Json::exception& error) override
+    {
+        if (dynamic_cast<const Json::out_of_range*>(&error))
+            throw CSettingsFormatError("it holds a number that is too large for any value");
+        const auto before = m_text.substr(0, byte == 0 ? 0 : byte - 1);
         throw CSettingsFormatError("not JSON at line " +
                                    std::to_string(1 + std::ranges::count(before, '\n')));
-    } catch (const Json::out_of_range&) {
-        throw CSettingsFormatError("it holds a number that is too large for any value");
     }
+
+private:
+    bool Descend()
+    {
+        if (m_names.size() >= DeepestLevel)
+            throw CSettingsFormatError(
+                "too deeply nested: values stand in names and names in keys, nothing deeper");
+        m_names.emplace_back();
+        return true;
+    }
+    bool Ascend()
+    {
+        m_names.pop_back();
+        return true;
+    }
+
+    const std::string_view m_text;
+    std::vector<std::unordered_set<std::string>> m_names; // of the objects and lists that are open
+};
+
+Json ParseShallow(std::string_view text)
+{
+    CShapeCheck check(text);
+    Json::sax_parse(text.begin(), text.end(), &check);
+    return Json::parse(text.begin(), text.end());
 }
 
 void RequireUtf8(const std::string& text, const std::string& what)

@@ -65,6 +65,18 @@ TEST(SettingsExchange, ANameThatStandsTwiceIsRefused)
     EXPECT_EQ(ErrorOf(R"({"K":{"a":{"type":"sz","value":"1"}},"L":{"a":{"type":"sz","value":"2"}}})"), "");
 }
 
+// Reading took a time that grew with the square of the number of values: minutes for this many.
+TEST(SettingsExchange, AHundredThousandValuesAreRead)
+{
+    std::string text = "{\"K\":{";
+    for (int i = 0; i < 100'000; ++i)
+        text += (i == 0 ? "\"n" : ",\"n") + std::to_string(i) +
+                "\":{\"type\":\"dword\",\"value\":" + std::to_string(i) + "}";
+    const SettingsTree tree = ParseSettings(text + "}}");
+    ASSERT_EQ(tree.at("K").size(), 100'000u);
+    EXPECT_EQ(tree.at("K").find("n99999")->second, SettingValue(99'999u));
+}
+
 // The JSON library reports such a number by an error of its own kind, which went past the handler.
 TEST(SettingsExchange, ANumberBeyondAllRangesIsAFormatError)
 {
