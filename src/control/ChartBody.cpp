@@ -94,9 +94,13 @@ void CChartBody::CreateWindow()
         popup.addSeparator();
         popup.addAction("Copy picture", m_control, [this] { CopyPicture(); });
         popup.addAction("Save picture...", m_control, [this] { AskForPicture(); });
-        QAction* const print =
-            popup.addAction("Print...", m_control, [this] { m_view->RunCommand(CommandPrint); });
-        print->setEnabled(m_view->MayRun(CommandPrint));
+        for (const sToolbarCommand& row : ToolbarCommands) {
+            if (*row.MenuText == '\0')
+                continue;
+            QAction* const item = popup.addAction(
+                row.MenuText, m_control, [this, command = row.Command] { m_view->RunCommand(command); });
+            item->setEnabled(m_view->MayRun(row.Command));
+        }
     };
     m_window->Initialise();
 }

@@ -1,6 +1,6 @@
 #include "trends/TrendPrompts.h"
 
-#include <array>
+#include <algorithm>
 
 namespace zantroq {
 
@@ -44,24 +44,6 @@ constexpr std::array<sTrendStateRow, TrendStates> StateTable{{
     {TrendStep::Delete, TrendHorizontal, DeleteTrend, PromptDelete},
 }};
 
-constexpr std::array<sTrendCommandRow, 8> CommandTable{{
-    {DrawHorizontal, "Horizontal", HorizontalStart,
-     "Click on the beginning point of the new horizontal trendline (Right click to cancel)"},
-    {DrawSloping, "Sloping", SlopingStart,
-     "Click on the beginning point of the new sloping trendline (Right click to cancel)"},
-    {DrawParallel, "Parallel", ParallelStart,
-     "Click on the beginning point of the new parallel trendline (Right click to cancel)"},
-    {DrawPitchfork, "Andrew's Pitchfork", PitchforkFirst,
-     "Click on the 1st point of the new Andrew's pitchfork trendline (Right click to cancel)"},
-    {DrawSpeedResistance, "Speed Resistance", SpeedStart,
-     "Click on the 1st point of the new speed resistance trendline (Right click to cancel)"},
-    {DrawFan, "Fibonacci Fan", FanStart,
-     "Click on the 1st point of the new Fibonacci Fan trendline (Right click to cancel)"},
-    {DrawRetracements, "Fibonacci Retracements", RetracementsStart,
-     "Click on the beginning point of the new Fibonacci Retracements trendline (Right click to cancel)"},
-    {AskDeleteTrend, "Delete Trendline..", DeleteTrend, PromptDelete},
-}};
-
 } // namespace
 
 const sTrendStateRow& TrendRow(int state)
@@ -71,11 +53,10 @@ const sTrendStateRow& TrendRow(int state)
 
 const sTrendCommandRow* FindTrendCommand(int command)
 {
-    for (const sTrendCommandRow& row : CommandTable) {
-        if (row.Command == command)
-            return &row;
-    }
-    return nullptr;
+    const auto* const row =
+        std::find_if(TrendCommands.begin(), TrendCommands.end(),
+                     [command](const sTrendCommandRow& candidate) { return candidate.Command == command; });
+    return row != TrendCommands.end() ? row : nullptr;
 }
 
 } // namespace zantroq

@@ -3,6 +3,8 @@
 
 #include "settings/ChartSettings.h"
 
+#include <array>
+
 namespace zantroq {
 
 enum TrendState : int
@@ -63,17 +65,37 @@ struct sTrendStateRow
 // Row of a state, 0 to 17.
 const sTrendStateRow& TrendRow(int state);
 
+inline constexpr const char* PromptDelete = "Click on a trendline to delete (Right click to cancel)";
+
 struct sTrendCommandRow
 {
     int Command;
     const char* MenuText;
-    TrendState State;
+    TrendState State; // the mode that the command arms; TrendIdle: it arms none
     const char* Prompt;
 };
 
-// Row of a command that arms a mode; null for any other command.
-const sTrendCommandRow* FindTrendCommand(int command);
+// All trendline commands: those that draw, in the order of their menu, then those that delete.
+inline constexpr std::array<sTrendCommandRow, 9> TrendCommands{{
+    {DrawHorizontal, "Horizontal", HorizontalStart,
+     "Click on the beginning point of the new horizontal trendline (Right click to cancel)"},
+    {DrawSloping, "Sloping", SlopingStart,
+     "Click on the beginning point of the new sloping trendline (Right click to cancel)"},
+    {DrawParallel, "Parallel", ParallelStart,
+     "Click on the beginning point of the new parallel trendline (Right click to cancel)"},
+    {DrawPitchfork, "Andrew's Pitchfork", PitchforkFirst,
+     "Click on the 1st point of the new Andrew's pitchfork trendline (Right click to cancel)"},
+    {DrawSpeedResistance, "Speed Resistance", SpeedStart,
+     "Click on the 1st point of the new speed resistance trendline (Right click to cancel)"},
+    {DrawFan, "Fibonacci Fan", FanStart,
+     "Click on the 1st point of the new Fibonacci Fan trendline (Right click to cancel)"},
+    {DrawRetracements, "Fibonacci Retracements", RetracementsStart,
+     "Click on the beginning point of the new Fibonacci Retracements trendline (Right click to cancel)"},
+    {AskDeleteTrend, "Delete Trendline..", DeleteTrend, PromptDelete},
+    {AskDeleteAllTrends, "Delete All Trendlines", TrendIdle, ""},
+}};
 
-inline constexpr const char* PromptDelete = "Click on a trendline to delete (Right click to cancel)";
+// Row of a trendline command; null for any other command.
+const sTrendCommandRow* FindTrendCommand(int command);
 
 } // namespace zantroq

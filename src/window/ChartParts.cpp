@@ -112,7 +112,7 @@ void sChartParts::SetSymbol(const std::string& text)
 
 void sChartParts::OnCommand(int command)
 {
-    if (IsTrendCommand(command)) {
+    if (FindTrendCommand(command) != nullptr) {
         Trends.OnCommand(command);
         return;
     }

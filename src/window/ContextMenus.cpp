@@ -7,12 +7,23 @@ namespace zantroq {
 
 namespace {
 
-sMenuItem Item(int command, const char* text, bool enabled = true)
+enum class Offered : bool
+{
+    No,
+    Yes
+};
+
+Offered OfferedIf(bool condition)
+{
+    return condition ? Offered::Yes : Offered::No;
+}
+
+sMenuItem Item(int command, const char* text, Offered offered = Offered::Yes)
 {
     sMenuItem item;
     item.Command = command;
     item.Text = text;
-    item.Enabled = enabled;
+    item.Enabled = offered == Offered::Yes;
     return item;
 }
 
@@ -26,36 +37,38 @@ sMenuItem Separator()
 sMenuItem TrendlinesSubmenu()
 {
     sMenuItem menu = Item(0, "Draw Trendlines");
-    menu.Items = {Item(CommandHorizontalTrend, "Horizontal"),
-                  Item(CommandSlopingTrend, "Sloping"),
-                  Item(CommandParallelTrend, "Parallel"),
-                  Item(CommandPitchfork, "Andrew's Pitchfork"),
-                  Item(CommandSpeedResistance, "Speed Resistance"),
-                  Item(CommandFibonacciFan, "Fibonacci Fan"),
-                  Item(CommandFibonacciRetracements, "Fibonacci Retracements")};
+    for (const sTrendCommandRow& row : TrendCommands)
+        if (row.State != TrendIdle && row.State != DeleteTrend)
+            menu.Items.push_back(Item(row.Command, row.MenuText));
     return menu;
+}
+
+sMenuItem TrendItem(int command, Offered offered)
+{
+    return Item(command, FindTrendCommand(command)->MenuText, offered);
 }
 
 void AddPaneItems(sContextMenu& menu, const sPaneStack& stack)
 {
     const sPaneCommands offered = OfferedCommands(stack, menu.Pane);
-    menu.Items.push_back(Item(CommandMaximizePane, "Maximize", offered.Maximize));
-    menu.Items.push_back(Item(CommandMinimizePane, "Minimize", offered.Minimize));
-    menu.Items.push_back(Item(CommandRestorePane, "Restore", offered.Restore));
+    menu.Items.push_back(Item(CommandMaximizePane, "Maximize", OfferedIf(offered.Maximize)));
+    menu.Items.push_back(Item(CommandMinimizePane, "Minimize", OfferedIf(offered.Minimize)));
+    menu.Items.push_back(Item(CommandRestorePane, "Restore", OfferedIf(offered.Restore)));
 }
 
 } // namespace
 
 sContextMenu BuildPriceMenu(const sPaneStack& stack, const sMenuState& state)
 {
+    const Offered deletable = OfferedIf(state.TrendCount != 0);
     sContextMenu menu;
     menu.Number = 129;
     menu.Items = {TrendlinesSubmenu(),
-                  Item(CommandDeleteTrend, "Delete Trendline..", state.TrendCount != 0),
-                  Item(CommandDeleteAllTrends, "Delete All Trendlines", state.TrendCount != 0),
+                  TrendItem(AskDeleteTrend, deletable),
+                  TrendItem(AskDeleteAllTrends, deletable),
                   Separator(),
-                  Item(CommandRestoreTicks, "Restore Ticks", state.SeriesEdited && state.TickData),
-                  Item(CommandRestoreBars, "Restore Bars", state.SeriesEdited && !state.TickData),
+                  Item(CommandRestoreTicks, "Restore Ticks", OfferedIf(state.SeriesEdited && state.TickData)),
+                  Item(CommandRestoreBars, "Restore Bars", OfferedIf(state.SeriesEdited && !state.TickData)),
                   Separator()};
     AddPaneItems(menu, stack);
     return menu;

@@ -2,10 +2,14 @@
 // use them.
 #pragma once
 
+#include "trends/TrendPrompts.h"
+
+#include <algorithm>
 #include <array>
 
 namespace zantroq {
 
+// The numbers of the commands that are not about trendlines; those are in TrendPrompts.h.
 enum WindowCommand : int
 {
     CommandSymbolSearch = 774,
@@ -15,33 +19,69 @@ enum WindowCommand : int
     CommandZoomOut = 778,
     CommandGrid = 779,
     CommandRestoreTicks = 32777,
-    CommandHorizontalTrend = 32779,
     CommandDrawChart = 32780,
-    CommandDeleteTrend = 32782,
-    CommandDeleteAllTrends = 32783,
-    CommandSlopingTrend = 32784,
-    CommandParallelTrend = 32785,
-    CommandPitchfork = 32786,
     CommandRestoreBars = 32787,
-    CommandSpeedResistance = 32788,
-    CommandFibonacciFan = 32789,
-    CommandFibonacciRetracements = 32790,
     CommandRestorePane = 32791,
     CommandMinimizePane = 32792,
     CommandMaximizePane = 32793,
     CommandPriceBar = 32794
 };
 
-constexpr bool IsTrendCommand(int command)
+enum class ButtonKind
 {
-    return command == CommandHorizontalTrend ||
-           (command >= CommandDeleteTrend && command <= CommandPitchfork) ||
-           (command >= CommandSpeedResistance && command <= CommandFibonacciRetracements);
-}
+    Push,
+    Check // stays down while what it switches is on
+};
 
-inline constexpr std::array<int, 22> AllCommands{774,   775,   776,   777,   778,   779,   32777, 32779,
-                                                 32780, 32782, 32783, 32784, 32785, 32786, 32787, 32788,
-                                                 32789, 32790, 32791, 32792, 32793, 32794};
+enum class GapBefore
+{
+    No,
+    Separator
+};
+
+// A button of the toolbar, from left to right. The toolbar takes its width, the icons, tooltips and shortcuts
+// from these rows.
+struct sToolbarCommand
+{
+    int Command;
+    GapBefore Gap;
+    ButtonKind Kind;
+    const char* Name;     // accessible name and, without blanks at its end, the tooltip
+    const char* Icon;     // src/resources/icons/NAME.svg, listed in icons.qrc
+    const char* CtrlKeys; // each of these keys, pressed with Ctrl, runs the command
+    const char* MenuText; // of the item in the panes' context menu; empty: none
+};
+
+inline constexpr std::array<sToolbarCommand, 8> ToolbarCommands{{
+    {CommandSymbolSearch, GapBefore::No, ButtonKind::Push, "Symbol Search", "symbol-search", "", ""},
+    {CommandDrawChart, GapBefore::Separator, ButtonKind::Push, "Draw Chart", "draw-chart", "", ""},
+    {CommandSettings, GapBefore::No, ButtonKind::Push, "Settings", "settings", "", ""},
+    {CommandPrint, GapBefore::Separator, ButtonKind::Push, "Print", "print", "P", "Print..."},
+    // On many keyboards the plus key is the equals key with Shift.
+    {CommandZoomIn, GapBefore::Separator, ButtonKind::Push, "Zoom In ", "zoom-in", "+=", ""},
+    {CommandZoomOut, GapBefore::No, ButtonKind::Push, "Zoom Out", "zoom-out", "-", ""},
+    {CommandGrid, GapBefore::No, ButtonKind::Check, "Grid Settings", "grid", "", ""},
+    {CommandPriceBar, GapBefore::No, ButtonKind::Check, "Price Bar Show/Hide", "price-bar", "", ""},
+}};
+
+// The commands of the context menus that are not about trendlines.
+inline constexpr std::array<int, 5> MenuCommands{CommandRestoreTicks, CommandRestoreBars, CommandRestorePane,
+                                                 CommandMinimizePane, CommandMaximizePane};
+
+inline constexpr std::size_t CommandCount =
+    ToolbarCommands.size() + MenuCommands.size() + TrendCommands.size();
+
+// Every command once, in ascending order of the numbers.
+inline constexpr std::array<int, CommandCount> AllCommands = [] {
+    std::array<int, CommandCount> all{};
+    auto next = std::copy(MenuCommands.begin(), MenuCommands.end(), all.begin());
+    for (const sToolbarCommand& row : ToolbarCommands)
+        *next++ = row.Command;
+    for (const sTrendCommandRow& row : TrendCommands)
+        *next++ = row.Command;
+    std::sort(all.begin(), all.end());
+    return all;
+}();
 
 inline constexpr int FirstPaneControl = 341; // the price pane; 342 to 351 the studies in display order
 inline constexpr int PaneControls = 11;

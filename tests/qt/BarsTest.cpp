@@ -63,7 +63,7 @@ TEST_F(CBarsTest, ButtonsStandInTheirOrderWithTheirTexts)
     }
     EXPECT_EQ(texts, QStringList({"Symbol Search", "Draw Chart", "Settings", "Print", "Zoom In ", "Zoom Out",
                                   "Grid Settings", "Price Bar Show/Hide"}));
-    EXPECT_EQ(left + 25, CCommandBar::BarWidth - 2);
+    EXPECT_EQ(left + 25, CCommandBar::ToolbarWidth() - 2);
 }
 
 TEST_F(CBarsTest, APressReportsTheCommandAndLeavesTheCheckToTheWindow)
@@ -201,17 +201,17 @@ TEST_F(CBarsTest, OneRowAtTheUsualWidthTwoInANarrowWindow)
 
 TEST(CommandIcons, EachButtonHasADrawingAtEveryScaleAndAPalerOneAtRest)
 {
-    for (const int command : {774, 32780, 775, 776, 777, 778, 779, 32794}) {
-        const QIcon icon = CommandIcon(command, QApplication::palette());
+    for (const sToolbarCommand& row : ToolbarCommands) {
+        const QIcon icon = NamedIcon(row.Icon, QApplication::palette());
         for (const int size : {18, 27, 36}) {
             const QImage usual = icon.pixmap(QSize(size, size), 1.0).toImage();
             ASSERT_EQ(usual.size(), QSize(size, size));
-            EXPECT_GT(Ink(usual), 10 * size * size) << command;
+            EXPECT_GT(Ink(usual), 10 * size * size) << row.Name;
             EXPECT_LT(Ink(icon.pixmap(QSize(size, size), 1.0, QIcon::Disabled).toImage()), Ink(usual))
-                << command;
+                << row.Name;
         }
     }
-    EXPECT_TRUE(CommandIcon(CommandRestoreBars, QApplication::palette()).isNull());
+    EXPECT_TRUE(NamedIcon("no-such-drawing", QApplication::palette()).isNull());
 }
 
 TEST(StatusLine, PartsEndAtTheirEdges)

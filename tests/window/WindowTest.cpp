@@ -248,14 +248,14 @@ TEST(Bars, ADialogThatIsNotThereIsSaidToBeUnavailable)
 TEST(Menus, OfferTrendlineDeletionOnlyWithLines)
 {
     auto chart = ChartOf(DailyData, true);
-    EXPECT_FALSE(FindMenuItem(chart->Window->MenuOf(0).Items, CommandDeleteAllTrends)->Enabled);
+    EXPECT_FALSE(FindMenuItem(chart->Window->MenuOf(0).Items, AskDeleteAllTrends)->Enabled);
     chart->Trends.Lines = 1;
-    EXPECT_TRUE(FindMenuItem(chart->Window->MenuOf(0).Items, CommandDeleteTrend)->Enabled);
+    EXPECT_TRUE(FindMenuItem(chart->Window->MenuOf(0).Items, AskDeleteTrend)->Enabled);
     chart->Window->OpenPaneMenu(0, 1, 1);
-    chart->Window->OnMenuCommand(CommandSlopingTrend);
-    EXPECT_EQ(chart->Trends.Commands, Ints{CommandSlopingTrend});
+    chart->Window->OnMenuCommand(DrawSloping);
+    EXPECT_EQ(chart->Trends.Commands, Ints{DrawSloping});
     EXPECT_FALSE(chart->Window->OpenMenu());
-    chart->Window->OnMenuCommand(CommandSlopingTrend); // no menu is open
+    chart->Window->OnMenuCommand(DrawSloping); // no menu is open
     EXPECT_EQ(chart->Trends.Commands.size(), 1u);
 }
 

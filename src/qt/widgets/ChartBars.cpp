@@ -27,25 +27,26 @@ CChartBars::CChartBars(QWidget* parent) : QWidget(parent)
 
 int CChartBars::LayOut(int width)
 {
-    constexpr int LeastOneRow = LeastSymbolWidth + CCommandBar::BarWidth + LeastSettingWidth + 4 * BandGap;
-    const bool oneRow = width >= LeastOneRow;
+    const int toolbar = CCommandBar::ToolbarWidth();
+    const int leastOneRow = LeastSymbolWidth + toolbar + LeastSettingWidth + 4 * BandGap;
+    const bool oneRow = width >= leastOneRow;
     const int rows = oneRow ? 1 : 2;
     const int inner = width - 2 * BandGap;
     int left = BandGap;
     if (oneRow) {
-        const int forBoxes = inner - CCommandBar::BarWidth - 2 * BandGap;
+        const int forBoxes = inner - toolbar - 2 * BandGap;
         const int setting = std::clamp(forBoxes - SymbolWidth, LeastSettingWidth, SettingWidth);
         const int symbol = std::min(SymbolWidth, forBoxes - setting);
         m_symbol->setGeometry(left, BoxTop, symbol, BoxHeight);
         left += symbol + BandGap;
-        m_commands->setGeometry(left, 0, CCommandBar::BarWidth, RowHeight);
-        PlaceSettingBand(left + CCommandBar::BarWidth + BandGap, BoxTop, setting);
+        m_commands->setGeometry(left, 0, toolbar, RowHeight);
+        PlaceSettingBand(left + toolbar + BandGap, BoxTop, setting);
     } else {
         const int symbol = std::clamp((inner - BandGap) / 2, 40, SymbolWidth);
         m_symbol->setGeometry(left, BoxTop, symbol, BoxHeight);
         PlaceSettingBand(left + symbol + BandGap, BoxTop,
                          std::clamp(inner - symbol - BandGap, 40, SettingWidth));
-        m_commands->setGeometry(left, RowHeight + RowGap, CCommandBar::BarWidth, RowHeight);
+        m_commands->setGeometry(left, RowHeight + RowGap, toolbar, RowHeight);
     }
     return rows * (RowHeight + RowGap);
 }

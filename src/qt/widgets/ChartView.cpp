@@ -8,6 +8,7 @@
 #include <QWheelEvent>
 
 #include <cstdlib>
+#include <string_view>
 
 namespace zantroq {
 namespace {
@@ -33,6 +34,18 @@ protected:
         painter.fillRect(rect(), QBrush(Qt::black, Qt::Dense4Pattern));
     }
 };
+
+// Key codes below 128 are the characters that the keys are labelled with. 0: the key runs no command.
+int CommandOfKey(const QKeyEvent& event)
+{
+    if (!event.modifiers().testFlag(Qt::ControlModifier))
+        return 0;
+    for (const sToolbarCommand& row : ToolbarCommands)
+        for (const char key : std::string_view(row.CtrlKeys))
+            if (event.key() == key)
+                return row.Command;
+    return 0;
+}
 
 } // namespace
 
@@ -219,7 +232,8 @@ void CChartView::keyPressEvent(QKeyEvent* event)
 {
     if (!m_conveniences || m_window == nullptr)
         return QWidget::keyPressEvent(event);
-    const bool control = event->modifiers().testFlag(Qt::ControlModifier);
+    if (const int command = CommandOfKey(*event); command != 0)
+        return RunCommand(command);
     const auto scroll = [this](ScrollCode code) {
         if (MayScroll())
             m_window->OnHScroll(code, 0);
@@ -240,13 +254,6 @@ void CChartView::keyPressEvent(QKeyEvent* event)
     case Qt::Key_F10:
     case Qt::Key_Menu:
         return OpenMenuByKey();
-    case Qt::Key_Plus:
-    case Qt::Key_Equal: // the plus key of keyboards where plus needs Shift
-        return control ? RunCommand(CommandZoomIn) : event->ignore();
-    case Qt::Key_Minus:
-        return control ? RunCommand(CommandZoomOut) : event->ignore();
-    case Qt::Key_P:
-        return control ? RunCommand(CommandPrint) : event->ignore();
     default:
         QWidget::keyPressEvent(event);
     }

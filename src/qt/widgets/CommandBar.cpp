@@ -2,7 +2,6 @@
 
 #include "qt/widgets/BarFont.h"
 #include "qt/widgets/CommandIcons.h"
-#include "window/WindowCommands.h"
 
 #include <QAction>
 #include <QEvent>
@@ -13,27 +12,12 @@ namespace zantroq {
 namespace {
 
 constexpr int ButtonSize = 25, ButtonTop = 2, SeparatorWidth = 7, IconSize = 18;
+constexpr int ToolbarMargin = 2; // right of the last button
 
-struct sBarPlace
+int GapWidth(const sToolbarCommand& row)
 {
-    int Command; // 0: a separator
-    const char* Text;
-    bool Checkable;
-};
-
-constexpr sBarPlace Places[]{
-    {CommandSymbolSearch, "Symbol Search", false},
-    {0, nullptr, false},
-    {CommandDrawChart, "Draw Chart", false},
-    {CommandSettings, "Settings", false},
-    {0, nullptr, false},
-    {CommandPrint, "Print", false},
-    {0, nullptr, false},
-    {CommandZoomIn, "Zoom In ", false},
-    {CommandZoomOut, "Zoom Out", false},
-    {CommandGrid, "Grid Settings", true},
-    {CommandPriceBar, "Price Bar Show/Hide", true},
-};
+    return row.Gap == GapBefore::Separator ? SeparatorWidth : 0;
+}
 
 class CSeparator : public QWidget
 {
@@ -51,28 +35,35 @@ void CSeparator::paintEvent(QPaintEvent*)
 
 } // namespace
 
+int CCommandBar::ToolbarWidth()
+{
+    int width = ToolbarMargin;
+    for (const sToolbarCommand& row : ToolbarCommands)
+        width += GapWidth(row) + ButtonSize;
+    return width;
+}
+
 CCommandBar::CCommandBar(QWidget* parent) : QWidget(parent)
 {
     setAccessibleName("Tools");
     int left = 0;
-    for (const sBarPlace& place : Places) {
-        if (place.Command == 0) {
-            (new CSeparator(this))->setGeometry(left, ButtonTop, SeparatorWidth, ButtonSize);
-            left += SeparatorWidth;
-            continue;
-        }
-        AddButton(place.Command, place.Text, place.Checkable, left);
+    for (const sToolbarCommand& row : ToolbarCommands) {
+        if (const int gap = GapWidth(row); gap > 0)
+            (new CSeparator(this))->setGeometry(left, ButtonTop, gap, ButtonSize);
+        left += GapWidth(row);
+        AddButton(row, left);
         left += ButtonSize;
     }
     DrawIcons();
 }
 
-void CCommandBar::AddButton(int command, const QString& text, bool checkable, int left)
+void CCommandBar::AddButton(const sToolbarCommand& row, int left)
 {
-    auto* action = new QAction(text, this);
-    action->setToolTip(text.trimmed());
-    action->setCheckable(checkable);
-    connect(action, &QAction::triggered, this, [this, command, action] {
+    const QString name = row.Name;
+    auto* action = new QAction(name, this);
+    action->setToolTip(name.trimmed());
+    action->setCheckable(row.Kind == ButtonKind::Check);
+    connect(action, &QAction::triggered, this, [this, command = row.Command, action] {
         if (action->isCheckable())
             action->setChecked(IsChecked(command));
         OnCommand(command);
@@ -82,15 +73,15 @@ void CCommandBar::AddButton(int command, const QString& text, bool checkable, in
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::TabFocus);
     button->setIconSize({IconSize, IconSize});
-    button->setAccessibleName(text.trimmed());
+    button->setAccessibleName(name.trimmed());
     button->setGeometry(left, ButtonTop, ButtonSize, ButtonSize);
-    m_actions[command] = action;
+    m_actions[row.Command] = action;
 }
 
 void CCommandBar::DrawIcons()
 {
-    for (const auto& [command, action] : m_actions)
-        action->setIcon(CommandIcon(command, palette()));
+    for (const sToolbarCommand& row : ToolbarCommands)
+        m_actions[row.Command]->setIcon(NamedIcon(row.Icon, palette()));
 }
 
 void CCommandBar::changeEvent(QEvent* event)

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/WindowServices.h"
+#include "window/WindowCommands.h"
 
 #include <QWidget>
 
@@ -17,7 +18,8 @@ namespace zantroq {
 class CCommandBar : public QWidget, public ICommandBar
 {
 public:
-    static constexpr int BarWidth = 223;
+    // Of all buttons and separators, in pixels.
+    static int ToolbarWidth();
 
     explicit CCommandBar(QWidget* parent);
 
@@ -35,7 +37,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    void AddButton(int command, const QString& text, bool checkable, int left);
+    void AddButton(const sToolbarCommand& row, int left);
     void DrawIcons();
 
     std::map<int, QAction*> m_actions;

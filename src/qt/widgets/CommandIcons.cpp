@@ -1,7 +1,5 @@
 #include "qt/widgets/CommandIcons.h"
 
-#include "window/WindowCommands.h"
-
 #include <QFile>
 #include <QIconEngine>
 #include <QPainter>
@@ -15,30 +13,6 @@ static void LoadResources()
 
 namespace zantroq {
 namespace {
-
-const char* IconName(int command)
-{
-    switch (command) {
-    case CommandSymbolSearch:
-        return "symbol-search";
-    case CommandDrawChart:
-        return "draw-chart";
-    case CommandSettings:
-        return "settings";
-    case CommandPrint:
-        return "print";
-    case CommandZoomIn:
-        return "zoom-in";
-    case CommandZoomOut:
-        return "zoom-out";
-    case CommandGrid:
-        return "grid";
-    case CommandPriceBar:
-        return "price-bar";
-    default:
-        return nullptr;
-    }
-}
 
 class CDrawingEngine : public QIconEngine
 {
@@ -85,12 +59,6 @@ QIcon NamedIcon(const QString& name, const QPalette& palette)
         return {};
     return QIcon(new CDrawingEngine(file.readAll(), palette.color(QPalette::Active, QPalette::ButtonText),
                                     palette.color(QPalette::Disabled, QPalette::ButtonText)));
-}
-
-QIcon CommandIcon(int command, const QPalette& palette)
-{
-    const char* name = IconName(command);
-    return name == nullptr ? QIcon() : NamedIcon(name, palette);
 }
 
 } // namespace zantroq

@@ -7,10 +7,7 @@
 
 namespace zantroq {
 
-// The icon of a command, empty for a command without one. Later changes of the palette need a new icon.
-QIcon CommandIcon(int command, const QPalette& palette);
-
-// One of the drawings of the resources by its name; empty for another name.
+// The drawing src/resources/icons/NAME.svg, empty for another name. After a change of the palette ask again.
 QIcon NamedIcon(const QString& name, const QPalette& palette);
 
 } // namespace zantroq
