@@ -7,6 +7,7 @@
 #include "drawing/ChartWindow.h"
 #include "settings/ChartSettings.h"
 #include "trends/TrendGeometry.h"
+#include "trends/TrendRecord.h"
 
 #include <vector>
 
@@ -47,6 +48,8 @@ public:
     virtual void SetThirdPoint(int /*index*/, double /*value*/) {}
     virtual int GetFirstLabel() const { return 0; }
     virtual void SetFirstLabel(int) {}
+    // Adds what only this kind has; the members that all kinds share are filled in already.
+    virtual void DescribeKind(sTrendRecord&) const {}
     // Series 2 to 10 of the kind; 0 where it has none.
     int GetSeries(int number) const;
 

@@ -23,6 +23,7 @@ public:
     int HitDistance(int x, int y) const override;
     int GetFirstLabel() const override { return m_firstLabel; }
     void SetFirstLabel(int label) override { m_firstLabel = label; }
+    void DescribeKind(sTrendRecord& record) const override { record.FirstLabel = m_firstLabel; }
 
     // Adds the nine labels, hidden, to the price pane; answers the number of the first.
     static int AddLabels(IChartWindow& window);

@@ -15,6 +15,7 @@ public:
     int HitDistance(int x, int y) const override;
     double GetOffset() const override { return m_offset; }
     void SetOffset(double offset) override { m_offset = offset; }
+    void DescribeKind(sTrendRecord& record) const override { record.Offset = m_offset; }
 
     int m_series2;
     double m_offset =

@@ -18,6 +18,11 @@ public:
     void Draw() override;
     int HitDistance(int x, int y) const override;
     void SetThirdPoint(int index, double value) override;
+    void DescribeKind(sTrendRecord& record) const override
+    {
+        record.ThirdIndex = m_thirdIndex;
+        record.ThirdValue = m_thirdValue;
+    }
 
     int m_series2;
     int m_thirdIndex = 0;

@@ -1,11 +1,9 @@
 #include "trends/TrendInteraction.h"
 
-#include "trends/FibonacciFanTrend.h"
-#include "trends/FibonacciRetracementsTrend.h"
-#include "trends/ParallelTrend.h"
-#include "trends/PitchforkTrend.h"
-#include "trends/SlopingTrend.h"
-#include "trends/SpeedResistanceTrend.h"
+#include "trends/TrendKinds.h"
+
+#include <algorithm>
+#include <vector>
 
 namespace zantroq {
 
@@ -29,7 +27,7 @@ bool CTrendInteraction::OnCommand(int command)
         return true;
     }
     const sTrendCommandRow* const row = FindTrendCommand(command);
-    if (!row)
+    if (row == nullptr)
         return false;
     m_trendState = row->State;
     Prompt(row->Prompt);
@@ -133,44 +131,14 @@ void CTrendInteraction::StartLine(int x, int y)
 
 CBaseTrend* CTrendInteraction::MakeTrend(TrendKind kind, int index, double value)
 {
+    const sTrendKindRow& row = TrendKindRow(kind);
+    std::vector<int> series(static_cast<std::size_t>(row.SeriesCount));
+    for (int& number : series)
+        number = m_trendLists.AllocateSeries();
     const sTrendStyle& style = m_window.Settings().Trends[static_cast<std::size_t>(kind)];
-    const auto series = [this] { return m_trendLists.AllocateSeries(); };
-    const int first = series();
-    std::unique_ptr<CBaseTrend> trend;
-    switch (kind) {
-    case TrendSloping:
-        trend = std::make_unique<CSlopingTrend>(first, index, value, style);
-        break;
-    case TrendParallel:
-        trend = std::make_unique<CParallelTrend>(first, series(), index, value, style);
-        break;
-    case TrendPitchfork: {
-        const int handle = series(), left = series(), right = series();
-        trend = std::make_unique<CPitchforkTrend>(first, handle, left, right, index, value, style);
-        break;
-    }
-    case TrendFibonacciFan: {
-        const int second = series(), third = series(), fourth = series();
-        trend = std::make_unique<CFibonacciFanTrend>(first, second, third, fourth, index, value, style);
-        break;
-    }
-    case TrendFibonacciRetracements: {
-        std::array<int, CFibonacciRetracementsTrend::Levels> levels{};
-        for (int& level : levels)
-            level = series();
-        trend = std::make_unique<CFibonacciRetracementsTrend>(first, levels, index, value, style);
+    std::unique_ptr<CBaseTrend> trend = row.Make(series, index, value, style);
+    if (row.LabelCount > 0)
         trend->SetFirstLabel(m_trendLists.AllocateLabels());
-        break;
-    }
-    case TrendSpeedResistance: {
-        const int second = series(), third = series();
-        trend = std::make_unique<CSpeedResistanceTrend>(first, second, third, index, value, style);
-        break;
-    }
-    default:
-        trend = std::make_unique<CBaseTrend>(first, index, value, style);
-        break;
-    }
     return m_trendLists.List(kind).Add(std::move(trend));
 }
 

@@ -1,21 +1,15 @@
 #include "window/TrendDrawing.h"
 
-#include "trends/PitchforkTrend.h"
-
-#include <array>
+#include "trends/TrendKinds.h"
 
 namespace zantroq {
 
 namespace {
 
-constexpr std::array<const char*, TrendKinds> KindNames{
-    "horizontal",      "sloping", "parallel", "pitchfork", "fibonacci-fan", "fibonacci-retracements",
-    "speed-resistance"};
-
 sTrendRecord RecordOf(const CBaseTrend& trend)
 {
     sTrendRecord record;
-    record.Kind = KindNames[static_cast<std::size_t>(trend.Kind())];
+    record.Kind = TrendKindRow(trend.Kind()).Name;
     record.StartIndex = trend.m_startIndex;
     record.EndIndex = trend.m_endIndex;
     record.Value = trend.m_value;
@@ -24,14 +18,7 @@ sTrendRecord RecordOf(const CBaseTrend& trend)
     record.Color = trend.m_color;
     record.Width = trend.m_width;
     record.Extendable = trend.m_extendable;
-    if (trend.Kind() == TrendParallel)
-        record.Offset = trend.GetOffset();
-    if (const auto* const fork = dynamic_cast<const CPitchforkTrend*>(&trend)) {
-        record.ThirdIndex = fork->m_thirdIndex;
-        record.ThirdValue = fork->m_thirdValue;
-    }
-    if (trend.Kind() == TrendFibonacciRetracements)
-        record.FirstLabel = trend.GetFirstLabel();
+    trend.DescribeKind(record);
     return record;
 }
 

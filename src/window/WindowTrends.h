@@ -2,41 +2,21 @@
 #pragma once
 
 #include "drawing/ChartWindow.h"
+#include "trends/TrendRecord.h"
 
-#include <optional>
-#include <string>
 #include <vector>
 
 namespace zantroq {
-
-// One trendline for the window's snapshot. The optional members exist only for the kinds that have them.
-struct sTrendRecord
-{
-    std::string Kind;   // "horizontal", "sloping", "parallel", "pitchfork", "fibonacci-fan", ...
-    int StartIndex = 0; // data indices, from 0
-    int EndIndex = 0;
-    double Value = 0;
-    double EndValue = 0;
-    std::vector<int> Series; // series numbers in group 2 of the price pane
-    ColorValue Color = 0;
-    int Width = 1;
-    int Extendable = 1;
-    std::optional<double> Offset;
-    std::optional<int> ThirdIndex;
-    std::optional<double> ThirdValue;
-    std::optional<int> FirstLabel;
-};
 
 class IWindowTrends
 {
 public:
     virtual ~IWindowTrends() = default;
-    virtual int State() const = 0; // 0: no mode armed
-    virtual void ResetState() = 0; // state 0, without a prompt
-    virtual void RemoveAll() = 0;  // all lines and the one being drawn
-    virtual int Count() const = 0; // lines in all lists
-    // The trendline commands (32779, 32782 to 32786, 32788 to 32790).
-    virtual void OnCommand(int command) = 0;
+    virtual int State() const = 0;           // 0: no mode armed
+    virtual void ResetState() = 0;           // state 0, without a prompt
+    virtual void RemoveAll() = 0;            // all lines and the one being drawn
+    virtual int Count() const = 0;           // lines in all lists
+    virtual void OnCommand(int command) = 0; // a row of TrendCommands
     // A press or move while a mode is armed (State() not 0); x and y in the control's pixels, button 1 left,
     // 2 right.
     virtual void OnMouseDown(int control, int button, int x, int y) = 0;
