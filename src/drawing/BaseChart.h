@@ -31,7 +31,10 @@ public:
     virtual void DrawStudy() = 0;                     // the whole displayed range
     virtual void UpdateStudy(int newPoints) = 0;      // append live points
     virtual std::string GetStudyInfoText() const = 0; // the pane's header
-    virtual void AdjustStudyBars() {}                 // fits bar widths after a zoom or resize
+    // The study's line of the readout, opening with a newline; empty where its first series has no value at
+    // the displayed point (from 1).
+    virtual std::string ReadoutText(int point) const = 0;
+    virtual void AdjustStudyBars() {} // fits bar widths after a zoom or resize
 
     // Writes GetStudyInfoText into the pane's header, its label 1.
     virtual void RefreshStudyHeader() = 0;

@@ -214,8 +214,7 @@ std::string CHistChartDrawManager::MakeInfoText(int point) const
         text += "\n" + bands;
     for (const auto& study : studies)
         if (study)
-            text += ReadoutStudy(study->kind, study->chart->PaneGroups(1).PaneData(), point,
-                                 settings.Studies.StoFast != 0);
+            text += study->ReadoutText(point);
     return text;
 }
 

@@ -88,39 +88,6 @@ std::string ReadoutBands(const sOverlaySettings& settings, const CPaneData& over
     return text;
 }
 
-std::string ReadoutStudy(int kind, const CPaneData& values, int point, bool fastStochastics)
-{
-    const double first = values.PointY(1, point), second = values.PointY(2, point),
-                 third = values.PointY(3, point);
-    if (first == Hole)
-        return {};
-    switch (kind) {
-    case StudyRSI:
-        return "\nRSI:" + FixedText(first, 1);
-    case StudyMomentum:
-        return "\nMomentum:" + FixedText(first, 2);
-    case StudyROC:
-        return "\nROC:" + FixedText(first, 2);
-    case StudyOBV:
-        return "\nOBV:" + RoundedThousandsText(first);
-    case StudyMACD:
-        return "\nMACD:" + FixedText(first, 3) + (second != Hole ? "Signal:" + FixedText(second, 3) : "");
-    case StudyStochastics:
-        return (fastStochastics ? "\nFastSTO%K:" : "\nSlowSTO%K:") + FixedText(first, 1) +
-               (second != Hole ? "STO%D:" + FixedText(second, 1) : "");
-    case StudyMoneyFlow:
-        return "\nMoney Flow:" + ShortLargeNumberText(first) + ", pos:" + ShortLargeNumberText(second) +
-               ", neg:" + ShortLargeNumberText(third);
-    case StudyMFI:
-        return "\nMFI:" + FixedText(first, 1);
-    case StudyADX:
-        return "\nADX:" + FixedText(first, 1) + ", +DI:" + FixedText(second, 1) +
-               ", -DI:" + FixedText(third, 1);
-    default:
-        return {};
-    }
-}
-
 std::string InfoAverages(const sPriceWords& words, const sOverlaySettings& settings,
                          const CPaneData& overlays, int point)
 {

@@ -1,5 +1,5 @@
 // The texts that tell about one point: the readout under the mouse and the parts of the price pane's title.
-// Averages, bands and studies are read from what the panes show, prices come in as a record. Chart window's
+// Averages and bands are read from what the panes show, prices come in as a record. Chart window's
 // thread.
 #pragma once
 
@@ -30,8 +30,6 @@ std::string ReadoutVolume(std::int64_t volume); // empty for 0 and less
 std::string ReadoutTime(int dataType, const std::string& time);
 std::string ReadoutAverages(const sOverlaySettings& settings, const CPaneData& overlays, int point);
 std::string ReadoutBands(const sOverlaySettings& settings, const CPaneData& overlays, int point);
-// A line that opens with a newline; empty where the study's first series has no value at the point.
-std::string ReadoutStudy(int kind, const CPaneData& values, int point, bool fastStochastics);
 
 // Whether the price pane shows averages: the bands take their place.
 inline bool ShowsAverages(const sOverlaySettings& settings)

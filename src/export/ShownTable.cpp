@@ -1,6 +1,7 @@
 #include "export/ShownTable.h"
 
 #include "market/ChartHistRequest.h"
+#include "studies/StudyTable.h"
 #include "window/ChartDlg.h"
 
 #include <algorithm>
@@ -62,37 +63,11 @@ void AddOverlayColumns(std::vector<sColumn>& columns, const sOverlaySettings& ov
                  average + 1});
 }
 
-void AddStudyColumns(std::vector<sColumn>& columns, int pane, int study)
+void AddStudyColumns(std::vector<sColumn>& columns, int pane, int kind)
 {
-    const auto curves = [&](std::initializer_list<const char*> names) {
-        int series = 0;
-        for (const char* name : names)
-            columns.push_back({name, pane, 1, ++series});
-    };
-    switch (study) {
-    case StudyRSI:
-        return curves({"rsi"});
-    case StudyMomentum:
-        return curves({"momentum"});
-    case StudyROC:
-        return curves({"roc"});
-    case StudyOBV:
-        return curves({"obv"});
-    case StudyMACD:
-        curves({"macd", "macd_signal"});
-        columns.push_back({"macd_histogram", pane, 2, 1});
-        return;
-    case StudyStochastics:
-        return curves({"stochastic_k", "stochastic_d"});
-    case StudyMoneyFlow:
-        return curves({"money_flow", "money_flow_positive", "money_flow_negative"});
-    case StudyMFI:
-        return curves({"mfi"});
-    case StudyADX:
-        return curves({"adx", "plus_di", "minus_di"});
-    default:
-        return;
-    }
+    if (const sStudyRow* const row = FindStudy(kind))
+        for (const sStudyColumn& column : row->Columns)
+            columns.push_back({column.Name, pane, column.Group, column.Series});
 }
 
 void AddMoment(std::string& text, const sTIME_W_MILLISECONDS& time, bool intraday)

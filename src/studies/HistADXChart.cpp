@@ -1,5 +1,6 @@
 #include "studies/HistADXChart.h"
 
+#include "drawing/NumberTexts.h"
 #include "studies/Hole.h"
 
 namespace zantroq {
@@ -47,6 +48,12 @@ std::string CHistADXChart::MarkedText(int point) const
 {
     return ValueText(" ADX: ", 1, point, 4) + ValueText(" +DI: ", 2, point, 4) +
            ValueText(" -DI: ", 3, point, 4);
+}
+
+std::string CHistADXChart::ReadoutValues(int point) const
+{
+    return "ADX:" + FixedText(ValueAt(1, point), 1) + ", +DI:" + FixedText(ValueAt(2, point), 1) +
+           ", -DI:" + FixedText(ValueAt(3, point), 1);
 }
 
 } // namespace zantroq

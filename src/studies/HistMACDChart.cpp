@@ -1,5 +1,6 @@
 #include "studies/HistMACDChart.h"
 
+#include "drawing/NumberTexts.h"
 #include "drawing/XAxis.h"
 #include "studies/Hole.h"
 
@@ -71,6 +72,13 @@ std::string CHistMACDChart::HeadText() const
 std::string CHistMACDChart::MarkedText(int point) const
 {
     return ValueText(" MACD: ", 1, point, 4) + ValueText(" Signal: ", 2, point, 4);
+}
+
+std::string CHistMACDChart::ReadoutValues(int point) const
+{
+    const double signal = ValueAt(2, point);
+    return "MACD:" + FixedText(ValueAt(1, point), 3) +
+           (IsHole(signal) ? std::string() : "Signal:" + FixedText(signal, 3));
 }
 
 } // namespace zantroq

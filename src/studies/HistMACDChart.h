@@ -45,6 +45,7 @@ protected:
     void FitUpdatedAxis(CLineValues values) override { WidenAxis(values); }
     std::string HeadText() const override;
     std::string MarkedText(int point) const override;
+    std::string ReadoutValues(int point) const override;
 
 private:
     sMACDPeriods Periods() const;

@@ -1,5 +1,6 @@
 #include "studies/HistMFChart.h"
 
+#include "drawing/NumberTexts.h"
 #include "studies/Hole.h"
 #include "studies/MoneyFlowArithmetic.h"
 
@@ -49,6 +50,13 @@ std::string CHistMFChart::MarkedText(int point) const
 {
     return ValueText(" MF: ", 1, point, 0) + ValueText(" pos: ", 2, point, 0) +
            ValueText(" neg: ", 3, point, 0);
+}
+
+std::string CHistMFChart::ReadoutValues(int point) const
+{
+    return "Money Flow:" + ShortLargeNumberText(ValueAt(1, point)) +
+           ", pos:" + ShortLargeNumberText(ValueAt(2, point)) +
+           ", neg:" + ShortLargeNumberText(ValueAt(3, point));
 }
 
 } // namespace zantroq

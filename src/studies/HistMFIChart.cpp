@@ -1,5 +1,6 @@
 #include "studies/HistMFIChart.h"
 
+#include "drawing/NumberTexts.h"
 #include "studies/MoneyFlowArithmetic.h"
 
 namespace zantroq {
@@ -39,6 +40,11 @@ std::string CHistMFIChart::HeadText() const
 std::string CHistMFIChart::MarkedText(int point) const
 {
     return ValueText(" MFI: ", 1, point, 4);
+}
+
+std::string CHistMFIChart::ReadoutValues(int point) const
+{
+    return "MFI:" + FixedText(ValueAt(1, point), 1);
 }
 
 } // namespace zantroq

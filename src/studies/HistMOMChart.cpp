@@ -1,5 +1,6 @@
 #include "studies/HistMOMChart.h"
 
+#include "drawing/NumberTexts.h"
 #include "studies/MomentumArithmetic.h"
 
 namespace zantroq {
@@ -36,6 +37,11 @@ std::string CHistMOMChart::HeadText() const
 std::string CHistMOMChart::MarkedText(int point) const
 {
     return ValueText(" MOM - ", 1, point, 4);
+}
+
+std::string CHistMOMChart::ReadoutValues(int point) const
+{
+    return "Momentum:" + FixedText(ValueAt(1, point), 2);
 }
 
 } // namespace zantroq

@@ -1,5 +1,6 @@
 #include "studies/HistOBVChart.h"
 
+#include "drawing/NumberTexts.h"
 #include "studies/VolumeBalance.h"
 
 namespace zantroq {
@@ -34,6 +35,11 @@ std::string CHistOBVChart::HeadText() const
 std::string CHistOBVChart::MarkedText(int point) const
 {
     return ValueText(" OBV: ", 1, point, 0);
+}
+
+std::string CHistOBVChart::ReadoutValues(int point) const
+{
+    return "OBV:" + RoundedThousandsText(ValueAt(1, point));
 }
 
 } // namespace zantroq

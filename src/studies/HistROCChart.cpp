@@ -1,5 +1,6 @@
 #include "studies/HistROCChart.h"
 
+#include "drawing/NumberTexts.h"
 #include "studies/MomentumArithmetic.h"
 
 namespace zantroq {
@@ -29,6 +30,11 @@ std::string CHistROCChart::HeadText() const
 std::string CHistROCChart::MarkedText(int point) const
 {
     return ValueText(" ROC: ", 1, point, 4);
+}
+
+std::string CHistROCChart::ReadoutValues(int point) const
+{
+    return "ROC:" + FixedText(ValueAt(1, point), 2);
 }
 
 } // namespace zantroq

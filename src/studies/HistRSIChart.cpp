@@ -1,5 +1,6 @@
 #include "studies/HistRSIChart.h"
 
+#include "drawing/NumberTexts.h"
 #include "studies/Hole.h"
 
 namespace zantroq {
@@ -48,6 +49,11 @@ std::string CHistRSIChart::HeadText() const
 std::string CHistRSIChart::MarkedText(int point) const
 {
     return ValueText(" RSI: ", 1, point, 4);
+}
+
+std::string CHistRSIChart::ReadoutValues(int point) const
+{
+    return "RSI:" + FixedText(ValueAt(1, point), 1);
 }
 
 } // namespace zantroq

@@ -41,6 +41,7 @@ protected:
     void FitDrawnAxis(const sValueRange& range) override;
     std::string HeadText() const override;
     std::string MarkedText(int point) const override;
+    std::string ReadoutValues(int point) const override;
 };
 
 } // namespace zantroq

@@ -1,5 +1,6 @@
 #include "studies/HistSTOChart.h"
 
+#include "drawing/NumberTexts.h"
 #include "studies/Hole.h"
 #include "studies/StochasticArithmetic.h"
 
@@ -52,6 +53,13 @@ std::string CHistSTOChart::HeadText() const
 std::string CHistSTOChart::MarkedText(int point) const
 {
     return ValueText(" %K: ", 1, point, 4) + ValueText(" %D: ", 2, point, 4);
+}
+
+std::string CHistSTOChart::ReadoutValues(int point) const
+{
+    const double d = ValueAt(2, point);
+    return (StudySettings().StoFast != 0 ? "FastSTO%K:" : "SlowSTO%K:") + FixedText(ValueAt(1, point), 1) +
+           (IsHole(d) ? std::string() : "STO%D:" + FixedText(d, 1));
 }
 
 } // namespace zantroq

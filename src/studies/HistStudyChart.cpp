@@ -250,6 +250,14 @@ std::string CHistStudyChart::GetStudyInfoText() const
     return text;
 }
 
+std::string CHistStudyChart::ReadoutText(int point) const
+{
+    if (IsHole(ValueAt(1, point)))
+        return {};
+    const std::string values = ReadoutValues(point);
+    return values.empty() ? values : "\n" + values;
+}
+
 void CHistStudyChart::RefreshStudyHeader()
 {
     CPaneLabels& labels = chart->PaneLabels();

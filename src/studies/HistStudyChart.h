@@ -63,6 +63,7 @@ public:
 
     // The study's own text, the values at the marked point, " (Minimized)" while collapsed.
     std::string GetStudyInfoText() const override;
+    std::string ReadoutText(int point) const override;
     void RefreshStudyHeader() override;
 
 protected:
@@ -97,6 +98,12 @@ protected:
     virtual std::string HeadText() const = 0;
     // The texts of the values at a marked point, empty where they are holes.
     virtual std::string MarkedText(int point) const = 0;
+    // The study's part of the readout at a point where its first series has a value; empty: it has no part.
+    virtual std::string ReadoutValues(int /*point*/) const { return {}; }
+    double ValueAt(int series, int point) const
+    {
+        return chart->PaneGroups(1).PaneData().PointY(series, point);
+    }
 
     const sStudySettings& StudySettings() const { return dlg->Settings().Studies; }
     std::int32_t Period() const { return StudySettings().Periods[static_cast<std::size_t>(kind)]; }

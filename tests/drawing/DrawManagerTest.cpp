@@ -24,6 +24,10 @@ public:
         m_log.push_back(Name() + " update " + std::to_string(newPoints));
     }
     std::string GetStudyInfoText() const override { return Name(); }
+    std::string ReadoutText(int point) const override
+    {
+        return "\n" + Name() + " at " + std::to_string(point);
+    }
     void RefreshStudyHeader() override { m_log.push_back(Name() + " header"); }
 
 private:
@@ -256,18 +260,17 @@ TEST_F(DrawManager, InfoTextJoinsItsParts)
     chart.window.settings.Overlays.AveragePoints = {2, 35, 3};
     chart.window.settings.Overlays.AverageSelected = {1, 1, 0};
     chart.manager.FullRedraw();
-    CPaneData& rsi = chart.window.Pane(1).PaneGroups(1).PaneData();
-    rsi.SetPointCount(1, 30);
-    rsi.SetPointY(1, 4, 55.5);
-    rsi.SetPointY(1, 5, Hole);
     // Point 4 of a window from index 10 on: index 13.
     EXPECT_EQ(chart.manager.MakeInfoText(4), "Hi: 114.00, Low: 112.00, Open: 113.00, Close: 113.50\n"
                                              "Volume: 1,013  Date: 2014/01/15\n"
                                              "MA1: 113.00  \n"
-                                             "RSI:55.5");
+                                             "0@1 at 4\n"
+                                             "6@2 at 4");
     EXPECT_EQ(chart.manager.MakeInfoText(5), "Hi: 115.00, Low: 113.00, Open: 114.00, Close: 114.50\n"
                                              "Volume: 1,014  Date: 2014/01/16\n"
-                                             "MA1: 114.00  ");
+                                             "MA1: 114.00  \n"
+                                             "0@1 at 5\n"
+                                             "6@2 at 5");
     EXPECT_EQ(chart.manager.MakeInfoText(0), "");
     EXPECT_EQ(chart.manager.MakeInfoText(31), "");
 }

@@ -38,11 +38,6 @@ private:
     CChart2D chart;
 };
 
-std::string Study(int kind, std::vector<double> values, bool fast = false)
-{
-    return ReadoutStudy(kind, CPoint(std::move(values)).Data(), 1, fast);
-}
-
 TEST(InfoText, TickReadsOnePrice)
 {
     EXPECT_EQ(ReadoutPrices(Cents, TickData, Bar(1, 1, 1, 1.5)), "Price: 1.50");
@@ -104,31 +99,6 @@ TEST(InfoText, BandsStandInForTheAverages)
     settings.ShowBands = 0;
     EXPECT_EQ(ReadoutBands(settings, point.Data(), 1), "");
     EXPECT_EQ(InfoBands(Cents, settings, point.Data(), 1), "");
-}
-
-TEST(InfoText, EachStudyHasItsLine)
-{
-    EXPECT_EQ(Study(StudyRSI, {55.55}), "\nRSI:55.5");
-    EXPECT_EQ(Study(StudyMomentum, {-1.5}), "\nMomentum:-1.50");
-    EXPECT_EQ(Study(StudyROC, {101.256}), "\nROC:101.26");
-    EXPECT_EQ(Study(StudyOBV, {-1234567}), "\nOBV:-1,230,000");
-    EXPECT_EQ(Study(StudyMACD, {0.1234, 0.5}), "\nMACD:0.123Signal:0.500");
-    EXPECT_EQ(Study(StudyMACD, {0.1234, Hole}), "\nMACD:0.123");
-    EXPECT_EQ(Study(StudyStochastics, {80, 70}), "\nSlowSTO%K:80.0STO%D:70.0");
-    EXPECT_EQ(Study(StudyStochastics, {80, Hole}, true), "\nFastSTO%K:80.0");
-    EXPECT_EQ(Study(StudyVolume, {1000}), "");
-    EXPECT_EQ(Study(StudyMoneyFlow, {1234567, 1000, 0}), "\nMoney Flow:1.23M, pos:1.00K, neg:");
-    EXPECT_EQ(Study(StudyMFI, {50.04}), "\nMFI:50.0");
-    EXPECT_EQ(Study(StudyADX, {20, 30.25, 10}), "\nADX:20.0, +DI:30.2, -DI:10.0");
-    EXPECT_EQ(Study(99, {1}), "");
-}
-
-TEST(InfoText, StudyWithoutAValueSaysNothing)
-{
-    for (int kind = 0; kind < StudyKinds; ++kind)
-        EXPECT_EQ(Study(kind, {Hole, 1, 2}), "") << kind;
-    CPoint point({1});
-    EXPECT_EQ(ReadoutStudy(StudyRSI, point.Data(), 2, false), "");
 }
 
 } // namespace
