@@ -181,8 +181,8 @@ const Row Rows[] = {
     // General colors.
     ColorOf(32828, "Background Color", MEMBER(BackgroundColor), EffectColors, "Background of all panes"),
     ColorOf(32829, "PriceLabel Color", MEMBER(PriceLabelColor), EffectColors, "Labels of the price pane"),
-    ColorOf(32832, "PriceData Color", MEMBER(PriceDataColor), EffectColors, "Price line, bars and candle outlines"),
-    ColorOf(32836, "Grid Color", MEMBER(GridColor), EffectGrid, "Grid lines"),
+    ColorOf(32832, "PriceData Color", MEMBER(PriceDataColor), EffectColors, "Price line and bars"),
+    ColorOf(32836, "Grid Color", MEMBER(GridColor), EffectGrid, "Grid lines and candle outlines"),
     ColorOf(32855, "Price Up Candle Color", MEMBER(UpCandleColor), EffectColors, "Body of a rising candle"),
     ColorOf(32856, "Price Down Candle Color", MEMBER(DownCandleColor), EffectColors, "Body of a falling candle"),
     ColorOf(32897, "Price Bar Color", MEMBER(PriceBarColor), EffectPriceBar, "The price bar"),
