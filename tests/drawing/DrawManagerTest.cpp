@@ -282,7 +282,9 @@ TEST_F(TickManager, InfoTextOfATickHasMilliseconds)
     chart.window.settings.Overlays.BandPeriod = 2;
     chart.manager.FullRedraw();
     EXPECT_EQ(chart.manager.MakeInfoText(1), "Price: 110.5\nVolume: 1,010  Time: 09:40:00.250\n"
-                                             "Bands: lower: 109.00  middle: 110.00  upper: 111.00");
+                                             "Bands: lower: 109.00  middle: 110.00  upper: 111.00\n"
+                                             "0@1 at 1\n"
+                                             "6@2 at 1");
 }
 
 TEST_F(DrawManager, TitleTellsAboutTheSelectedPoint)
