@@ -1,9 +1,8 @@
 // What many controls cost.
 //
-//   life [SPEED]   creates and destroys a control 1,000 times beside one that follows live trades; prints the
-//   memory
-//          of the process each hundred times
-//   paint  one frame of one control and of ten, all on live data; the median of 30, in processor time
+//   life [SPEED]  creates and destroys a control 1,000 times beside one that follows live trades, at ten
+//                 market seconds a second or SPEED; prints the memory of the process each hundred times
+//   paint         one frame of one control and of ten, all on live data; the median of 30, in processor time
 #include "control/ChartBody.h"
 #include "feed/server/FeedServer.h"
 #include "market/ZantroPorts.h"
