@@ -1,4 +1,4 @@
-#include "qt/paint/PaneDecorations.h"
+#include "paint/PaneDecorations.h"
 #include "qt/PaneScenes.h"
 #include "qt/paint/PanePainter.h"
 
@@ -231,7 +231,8 @@ TEST(PaneDecorations, GridLinesRunThroughTheLabels)
     const sPaneDecorations placed = sFurnished(*pane).Placed;
     std::vector<int> uprights, acrosses;
     for (const sRuledLine& line : placed.Grid)
-        (line.Upright ? uprights : acrosses).push_back(line.Upright ? line.Rect.Left : line.Rect.Top);
+        (line.IsVertical() ? uprights : acrosses)
+            .push_back(line.IsVertical() ? line.Rect.Left : line.Rect.Top);
     std::vector<int> wantedX, wantedY;
     int x = 0, y = 0;
     for (const int point : {2, 4, 6, 8, 10}) {
@@ -371,7 +372,8 @@ TEST(PaneDecorations, NothingCrossesAValueTextThatLiesOverTheFrame)
             const QImage picture = PanePicture(*pane, scale, Family);
             QImage bare(picture.size(), picture.format());
             CRasterCanvas canvas(furnished.Words);
-            canvas.SetPicture(bare);
+            canvas.SetPicture({reinterpret_cast<PixelColor*>(bare.bits()),
+                               static_cast<int>(bare.bytesPerLine() / 4), bare.width(), bare.height()});
             canvas.Fill({0, 0, bare.width(), bare.height()}, furnished.Placed.Background);
             canvas.Fill(furnished.Map.Plot, furnished.Placed.PlotBackground);
             canvas.Text(text->Left, text->Top, digits, text->Color);

@@ -1,5 +1,6 @@
 #include "qt/paint/PainterCanvas.h"
 
+#include "paint/DashPattern.h"
 #include "qt/paint/CutShapes.h"
 
 #include <QPaintEngine>
@@ -16,16 +17,6 @@ QRect Rectangle(const sPixelRect& rect)
     return {rect.Left, rect.Top, rect.Width(), rect.Height()};
 }
 
-// In widths of the line.
-std::optional<sDashes> DashesOf(int pattern)
-{
-    if (pattern == LineLongDashes)
-        return sDashes{8, 4};
-    if (pattern == LineShortDashes)
-        return sDashes{3, 3};
-    return std::nullopt;
-}
-
 } // namespace
 
 CPainterCanvas::CPainterCanvas(QPainter& painter, CPaneText& text, const sPixelRect& pane)
@@ -36,7 +27,7 @@ CPainterCanvas::CPainterCanvas(QPainter& painter, CPaneText& text, const sPixelR
 {
 }
 
-void CPainterCanvas::Fill(const sPixelRect& rect, QRgb color)
+void CPainterCanvas::Fill(const sPixelRect& rect, PixelColor color)
 {
     const QRect cut = Rectangle(rect) & m_pane;
     if (!cut.isEmpty())
@@ -68,9 +59,9 @@ void CPainterCanvas::Line(const sInkLine& line, const sPixelRect& plot)
             path.lineTo(point(vertex.Column, vertex.First) + QPointF(line.Width / 2.0, 0));
         }
     }
-    const QColor color(ScreenColor(line.Color));
+    const QColor color(PixelOf(line.Color));
     QPen pen(color, line.Width, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
-    const std::optional<sDashes> dashes = DashesOf(line.Pattern);
+    const std::optional<sDashPattern> dashes = CurveDashes(line.Pattern);
     const QRect box = Rectangle(plot) & m_pane;
     const double half = line.Width / 2.0;
     if (box.isEmpty())
@@ -79,9 +70,9 @@ void CPainterCanvas::Line(const sInkLine& line, const sPixelRect& plot)
     m_painter.setClipRect(box, Qt::IntersectClip);
     m_painter.setRenderHint(QPainter::Antialiasing);
     if (IsCutByHand(path.controlPointRect().adjusted(-half, -half, half, half), box)) {
-        std::optional<sDashes> units = dashes;
-        if (units)
-            units = sDashes{units->On * line.Width, units->Off * line.Width};
+        std::optional<sDashes> units;
+        if (dashes)
+            units = sDashes{1.0 * dashes->On * line.Width, 1.0 * dashes->Off * line.Width};
         const sCutStroke cut = CutStroke(path, line.Width, units, box);
         if (!cut.Stroked.isEmpty())
             m_painter.strokePath(cut.Stroked, pen);
@@ -89,13 +80,13 @@ void CPainterCanvas::Line(const sInkLine& line, const sPixelRect& plot)
             m_painter.fillPath(cut.Filled, color);
     } else {
         if (dashes)
-            pen.setDashPattern({dashes->On, dashes->Off});
+            pen.setDashPattern({1.0 * dashes->On, 1.0 * dashes->Off});
         m_painter.strokePath(path, pen);
     }
     m_painter.restore();
 }
 
-void CPainterCanvas::Text(int left, int top, std::string_view text, QRgb color)
+void CPainterCanvas::Text(int left, int top, std::string_view text, PixelColor color)
 {
     const QString line = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
     const QPointF base(left, top + m_text.Ascent());

@@ -1,8 +1,8 @@
-// A pane's pixels through QPainter: for vector files and printed pages, where a device pixel is a unit of the
+// Paints a pane through QPainter, for vector files and printed pages. A device pixel is one unit of the
 // painter. Chart window's thread.
 #pragma once
 
-#include "qt/paint/PaneCanvas.h"
+#include "paint/PaneCanvas.h"
 #include "qt/paint/PaneText.h"
 
 #include <QPainter>
@@ -13,12 +13,12 @@ namespace zantroq {
 class CPainterCanvas : public IPaneCanvas
 {
 public:
-    // Nothing is painted outside of `pane`. Neither the painter nor the text is owned.
+    // Paints nothing outside `pane`. Neither the painter nor the text is owned.
     CPainterCanvas(QPainter& painter, CPaneText& text, const sPixelRect& pane);
 
-    void Fill(const sPixelRect& rect, QRgb color) override;
+    void Fill(const sPixelRect& rect, PixelColor color) override;
     void Line(const sInkLine& line, const sPixelRect& plot) override;
-    void Text(int left, int top, std::string_view text, QRgb color) override;
+    void Text(int left, int top, std::string_view text, PixelColor color) override;
 
 private:
     bool IsCutByHand(const QRectF& ink, const QRectF& box) const
@@ -29,7 +29,7 @@ private:
     QPainter& m_painter;
     CPaneText& m_text;
     const QRect m_pane;
-    const bool m_ignoresClips; // as the writer of SVG files does
+    const bool m_ignoresClips; // true for QSvgGenerator: shapes are then cut by arithmetic
 };
 
 } // namespace zantroq

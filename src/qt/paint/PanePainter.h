@@ -1,12 +1,9 @@
-// Paints a pane's scene. The picture of a pane is kept, so that a change costs what it touches: a changed
-// last point its own columns, another change the wiping and drawing of ink, never the clearing of the whole.
-// The look: straight lines on whole device pixels, sans-serif text, at every scale factor. Chart window's
-// thread.
+// Paints a pane's scene: into a kept picture for the screen, or through any QPainter. Straight lines lie on
+// whole device pixels and text is sans-serif, at every scale factor. Chart window's thread.
 #pragma once
 
-#include "ink/PaneInk.h"
-#include "qt/paint/PaneDecorations.h"
-#include "qt/paint/RasterCanvas.h"
+#include "paint/PaneRaster.h"
+#include "qt/paint/PaneText.h"
 
 #include <QImage>
 #include <QRect>
@@ -19,19 +16,20 @@ namespace zantroq {
 class CPanePainter
 {
 public:
-    // Neither is owned. The detail is for comparison with the plain definition.
+    // The chart is not owned. `family` is the font of all texts; empty for the usual one. The detail serves
+    // comparison with the plain definition.
     explicit CPanePainter(const CChart2D& chart, const QString& family = {},
                           InkDetail detail = InkDetail::Reduced);
     CPanePainter(const CPanePainter&) = delete;
     CPanePainter& operator=(const CPanePainter&) = delete;
 
-    // The picture of the scene as it is now, of the size of its AreaBox, with the ratio set on it. Only what
-    // changed since the last call is painted; see Damage. The picture is null for a pane without a size.
+    // The picture of the scene in its present state, sized as its AreaBox, with the ratio set on it. Paints
+    // only what changed since the last call; see Damage. The picture is null for a pane without a size.
     const QImage& Picture(double devicePixelRatio);
-    // What the last Picture() painted, in pane pixels: the part of a widget to repaint.
+    // The part that the last Picture() painted, in pane pixels: the part of a widget to repaint.
     QRect Damage() const;
-    // Forgets the kept picture: the next one is painted from nothing.
-    void Forget() { m_fresh = true; }
+    // Drops the kept picture: the next one is painted from nothing.
+    void Forget() { m_raster.Forget(); }
 
     // Paints the scene into a box of any painter, stretched to fill it, without keeping anything. One unit of
     // the painter is a device pixel: lines and text follow the box's size, so a page of 4,800 units has fine
@@ -39,31 +37,13 @@ public:
     void PaintInto(QPainter& painter, const QRectF& box);
 
 private:
-    struct sKept // what lies under the ink
-    {
-        sPixelRect Plot;
-        QRgb Background = 0, PlotBackground = 0;
-        bool operator==(const sKept& other) const;
-    };
-
-    void Repaint(const sPlotMap& map, double scale);
-    void PaintOverInk(const sPixelRect& whole, const sPlotMap& map);
-    void Wipe(const sPixelRect& ink, const sPixelRect& plot);
-    void PaintColumns(const sPixelRect& clip, const sPlotMap& map);
-    void PaintData(IPaneCanvas& canvas, int left, int right, const sPixelRect& plot);
-    void PaintAbove(IPaneCanvas& canvas, const sPixelRect& within);
-
     const CChart2D& m_chart;
+    const InkDetail m_detail;
     CPaneText m_text;
-    CPaneInk m_ink[2];
-    CRasterCanvas m_canvas;
+    CPaneRaster m_raster;
     QImage m_picture;
-    bool m_fresh = true;
     double m_ratio = 0;
-    std::uint64_t m_revision = 0;
-    sKept m_kept;
-    sPaneDecorations m_furniture;
-    sPixelRect m_damage;
+    sPixelRect m_damage; // device pixels
 };
 
 // A picture of the scene from nothing.

@@ -1,8 +1,9 @@
-// Where ink went on a picture, so that the next painting wipes that and nothing else. Neighbouring pieces are
-// kept as one rectangle as long as that is not much larger than they are. Chart window's thread.
+// The parts of a picture that were painted since it was cleared, so that the next painting wipes only those.
+// Consecutive rectangles are merged where wiping their common rectangle costs no more than wiping both.
+// Chart window's thread.
 #pragma once
 
-#include "scene/PaneObjects.h"
+#include "paint/PixelRects.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -18,8 +19,7 @@ public:
         const std::int64_t cost = Cost(rect);
         if (!m_rects.empty()) {
             const sPixelRect& last = m_rects.back();
-            const sPixelRect both{std::min(last.Left, rect.Left), std::min(last.Top, rect.Top),
-                                  std::max(last.Right, rect.Right), std::max(last.Bottom, rect.Bottom)};
+            const sPixelRect both = Enclosing(last, rect);
             const std::int64_t bothCost = Cost(both);
             if (bothCost <= m_lastCost + cost) {
                 m_rects.back() = both;
@@ -33,12 +33,11 @@ public:
 
     void Clear() { m_rects.clear(); }
 
-    // Forgets the newest ink as far as it lies inside: it is about to be painted over.
+    // Drops the newest rectangles up to the first that reaches out of `inside`, which the caller repaints
+    // from the background up.
     void DropNewest(const sPixelRect& inside)
     {
-        while (!m_rects.empty() && m_rects.back().Left >= inside.Left &&
-               m_rects.back().Right <= inside.Right && m_rects.back().Top >= inside.Top &&
-               m_rects.back().Bottom <= inside.Bottom)
+        while (!m_rects.empty() && LiesInside(m_rects.back(), inside))
             m_rects.pop_back();
         m_lastCost = m_rects.empty() ? 0 : Cost(m_rects.back());
     }
@@ -46,7 +45,8 @@ public:
     const std::vector<sPixelRect>& Rects() const { return m_rects; }
 
 private:
-    // What wiping a rectangle costs, in pixels: a row of a few pixels takes as long as one of a cache line.
+    // The cost of wiping a rectangle, in pixels. A row costs at least a cache line of pixels; a rectangle
+    // by itself costs about 64 pixels more.
     static std::int64_t Cost(const sPixelRect& rect)
     {
         constexpr int cacheLine = 8, perRect = 64;

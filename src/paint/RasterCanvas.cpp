@@ -1,5 +1,6 @@
-#include "qt/paint/RasterCanvas.h"
+#include "paint/RasterCanvas.h"
 
+#include "paint/DashPattern.h"
 #include "platform/Prefetch.h"
 
 #include <algorithm>
@@ -11,15 +12,10 @@ namespace {
 
 constexpr int One = sInkVertex::One;
 
+// The whole pixel row of a height in 1/256 pixels.
 int Row(int height)
 {
     return (height + One / 2) >> 8;
-} // whole pixel of a height in 1/256
-
-sPixelRect Cut(const sPixelRect& a, const sPixelRect& b)
-{
-    return {std::max(a.Left, b.Left), std::max(a.Top, b.Top), std::min(a.Right, b.Right),
-            std::min(a.Bottom, b.Bottom)};
 }
 
 bool LiesInside(const sInkRect& inner, const sInkRect& outer)
@@ -31,14 +27,14 @@ bool LiesInside(const sInkRect& inner, const sInkRect& outer)
 // Dashes go by the pixel's place, so that they stand still while points come and go.
 bool InDash(const sInkLine& line, int place)
 {
-    if (line.Pattern != LineLongDashes && line.Pattern != LineShortDashes)
+    const std::optional<sDashPattern> dashes = CurveDashes(line.Pattern);
+    if (!dashes)
         return true;
-    const int on = (line.Pattern == LineLongDashes ? 8 : 3) * std::max(1, line.Width);
-    const int off = (line.Pattern == LineLongDashes ? 4 : 3) * std::max(1, line.Width);
-    return (place % (on + off) + on + off) % (on + off) < on;
+    const int width = std::max(1, line.Width), period = dashes->Period() * width;
+    return (place % period + period) % period < dashes->On * width;
 }
 
-QRgb BlendPixel(QRgb under, QRgb over, int coverage)
+PixelColor BlendPixel(PixelColor under, PixelColor over, int coverage)
 {
     // Red and blue together, then green: 8 bits each with room between them.
     const std::uint32_t weight = static_cast<std::uint32_t>(coverage + (coverage >> 7));
@@ -50,15 +46,15 @@ QRgb BlendPixel(QRgb under, QRgb over, int coverage)
 
 } // namespace
 
-void CRasterCanvas::SetPicture(QImage& picture)
+void CRasterCanvas::SetPicture(const sRaster& picture)
 {
-    m_pixels = reinterpret_cast<QRgb*>(picture.bits());
-    m_stride = static_cast<int>(picture.bytesPerLine() / 4);
-    if (picture.width() == m_width && picture.height() == m_height)
+    m_pixels = picture.Pixels;
+    m_stride = picture.Stride;
+    if (picture.Width == m_width && picture.Height == m_height)
         return;
-    m_width = picture.width();
-    m_height = picture.height();
-    m_trail.Clear();
+    m_width = picture.Width;
+    m_height = picture.Height;
+    m_record.Clear();
     m_mask.assign(static_cast<std::size_t>(m_width) * static_cast<std::size_t>(m_height), 0);
     m_extents.assign(static_cast<std::size_t>(m_width), {m_height, 0});
     m_solid.assign(static_cast<std::size_t>(m_width), {0, 0});
@@ -67,15 +63,15 @@ void CRasterCanvas::SetPicture(QImage& picture)
 
 void CRasterCanvas::SetClip(const sPixelRect& clip)
 {
-    m_clip = Cut(clip, {0, 0, m_width, m_height});
+    m_clip = CommonPart(clip, {0, 0, m_width, m_height});
 }
 
-void CRasterCanvas::Fill(const sPixelRect& rect, QRgb color)
+void CRasterCanvas::Fill(const sPixelRect& rect, PixelColor color)
 {
-    const sPixelRect cut = Cut(rect, m_clip);
+    const sPixelRect cut = CommonPart(rect, m_clip);
     if (cut.Left >= cut.Right || cut.Top >= cut.Bottom)
         return;
-    QRgb* line = m_pixels + static_cast<std::ptrdiff_t>(cut.Top) * m_stride + cut.Left;
+    PixelColor* line = m_pixels + static_cast<std::ptrdiff_t>(cut.Top) * m_stride + cut.Left;
     if (cut.Width() == 1)
         for (int y = cut.Top; y < cut.Bottom; ++y, line += m_stride)
             *line = color;
@@ -85,7 +81,7 @@ void CRasterCanvas::Fill(const sPixelRect& rect, QRgb color)
                 PrefetchPixel(line + cut.Width()); // what lies beside a narrow piece is wiped next
             std::fill_n(line, cut.Width(), color);
         }
-    Mark(cut);
+    Record(cut);
 }
 
 void CRasterCanvas::Rects(std::span<const sInkRect> rects)
@@ -98,7 +94,7 @@ void CRasterCanvas::Rects(std::span<const sInkRect> rects)
             Framed(rect, rects[i + 1]);
             i += 2;
         } else {
-            Fill({rect.Left, rect.Top, rect.Right, rect.Bottom}, ScreenColor(rect.Color));
+            Fill({rect.Left, rect.Top, rect.Right, rect.Bottom}, PixelOf(rect.Color));
             ++i;
         }
     }
@@ -107,12 +103,12 @@ void CRasterCanvas::Rects(std::span<const sInkRect> rects)
 // A rectangle and one inside of it, each pixel once.
 void CRasterCanvas::Framed(const sInkRect& frame, const sInkRect& inside)
 {
-    const sPixelRect outer = Cut({frame.Left, frame.Top, frame.Right, frame.Bottom}, m_clip);
-    const sPixelRect inner = Cut({inside.Left, inside.Top, inside.Right, inside.Bottom}, m_clip);
+    const sPixelRect outer = CommonPart({frame.Left, frame.Top, frame.Right, frame.Bottom}, m_clip);
+    const sPixelRect inner = CommonPart({inside.Left, inside.Top, inside.Right, inside.Bottom}, m_clip);
     if (inner.Left >= inner.Right || inner.Top >= inner.Bottom)
-        return Fill(outer, ScreenColor(frame.Color));
-    const QRgb edge = ScreenColor(frame.Color), filling = ScreenColor(inside.Color);
-    QRgb* line = m_pixels + static_cast<std::ptrdiff_t>(outer.Top) * m_stride;
+        return Fill(outer, PixelOf(frame.Color));
+    const PixelColor edge = PixelOf(frame.Color), filling = PixelOf(inside.Color);
+    PixelColor* line = m_pixels + static_cast<std::ptrdiff_t>(outer.Top) * m_stride;
     for (int y = outer.Top; y < outer.Bottom; ++y, line += m_stride) {
         if (y < inner.Top || y >= inner.Bottom) {
             std::fill(line + outer.Left, line + outer.Right, edge);
@@ -122,7 +118,7 @@ void CRasterCanvas::Framed(const sInkRect& frame, const sInkRect& inside)
         std::fill(line + inner.Left, line + inner.Right, filling);
         std::fill(line + inner.Right, line + outer.Right, edge);
     }
-    Mark(outer);
+    Record(outer);
 }
 
 // The rectangles from `i` on that stand in one column of a pixel's width. Returns the first behind them.
@@ -135,15 +131,15 @@ std::size_t CRasterCanvas::ThinRects(std::span<const sInkRect> rects, std::size_
         const int top = std::max(rects[i].Top, m_clip.Top), bottom = std::min(rects[i].Bottom, m_clip.Bottom);
         if (!inSight || top >= bottom)
             continue;
-        const QRgb color = ScreenColor(rects[i].Color);
-        QRgb* pixel = m_pixels + static_cast<std::ptrdiff_t>(top) * m_stride + column;
+        const PixelColor color = PixelOf(rects[i].Color);
+        PixelColor* pixel = m_pixels + static_cast<std::ptrdiff_t>(top) * m_stride + column;
         for (int y = top; y < bottom; ++y, pixel += m_stride)
             *pixel = color;
         inked.Top = std::min(inked.Top, top);
         inked.Bottom = std::max(inked.Bottom, bottom);
     }
     if (inked.Top < inked.Bottom)
-        Mark(inked);
+        Record(inked);
     return i;
 }
 
@@ -151,7 +147,7 @@ std::size_t CRasterCanvas::ThinRects(std::span<const sInkRect> rects, std::size_
 void CRasterCanvas::Columns(const CInkColumns& ink, std::span<const sInkColumn> columns)
 {
     constexpr int together = 16;
-    const QRgb colors[] = {ScreenColor(ink.ColorOf(0)), ScreenColor(ink.ColorOf(1))};
+    const PixelColor colors[] = {PixelOf(ink.ColorOf(0)), PixelOf(ink.ColorOf(1))};
     for (std::size_t i = 0; i < columns.size();) {
         const int end = columns[i].Column / together * together + together;
         sPixelRect inked{m_clip.Right, m_clip.Bottom, m_clip.Left, m_clip.Top};
@@ -161,34 +157,34 @@ void CRasterCanvas::Columns(const CInkColumns& ink, std::span<const sInkColumn> 
             if (column.Column < m_clip.Left || column.Column >= m_clip.Right || top >= bottom)
                 continue;
             const std::uint8_t* shade = ink.Shades(column).data() + (top - column.Top);
-            QRgb* pixel = m_pixels + static_cast<std::ptrdiff_t>(top) * m_stride + column.Column;
+            PixelColor* pixel = m_pixels + static_cast<std::ptrdiff_t>(top) * m_stride + column.Column;
             for (int y = top; y < bottom; ++y, pixel += m_stride)
                 *pixel = colors[*shade++];
             inked = {std::min(inked.Left, column.Column), std::min(inked.Top, top), column.Column + 1,
                      std::max(inked.Bottom, bottom)};
         }
         if (inked.Top < inked.Bottom)
-            Mark(inked);
+            Record(inked);
     }
 }
 
-void CRasterCanvas::Text(int left, int top, std::string_view text, QRgb color)
+void CRasterCanvas::Text(int left, int top, std::string_view text, PixelColor color)
 {
     const sTextMask& mask = m_text.Mask(text);
     const sPixelRect box{left + mask.Left, top + mask.Top, left + mask.Left + mask.Width,
                          top + mask.Top + mask.Height};
-    const sPixelRect cut = Cut(box, m_clip);
+    const sPixelRect cut = CommonPart(box, m_clip);
     if (cut.Left >= cut.Right || cut.Top >= cut.Bottom)
         return;
     for (int y = cut.Top; y < cut.Bottom; ++y) {
         const std::uint8_t* coverage =
             mask.Coverage.data() + static_cast<std::ptrdiff_t>(y - box.Top) * mask.Width - box.Left;
-        QRgb* line = m_pixels + static_cast<std::ptrdiff_t>(y) * m_stride;
+        PixelColor* line = m_pixels + static_cast<std::ptrdiff_t>(y) * m_stride;
         for (int x = cut.Left; x < cut.Right; ++x)
             if (coverage[x] != 0)
                 line[x] = coverage[x] == 255 ? color : BlendPixel(line[x], color, coverage[x]);
     }
-    Mark(cut);
+    Record(cut);
 }
 
 // x and y are in the plot.
@@ -253,14 +249,14 @@ void CRasterCanvas::Solid(const sPixelRect& rect)
 {
     if (rect.Left >= rect.Right || rect.Top >= rect.Bottom)
         return;
-    QRgb* line = m_pixels + static_cast<std::ptrdiff_t>(rect.Top) * m_stride + rect.Left;
+    PixelColor* line = m_pixels + static_cast<std::ptrdiff_t>(rect.Top) * m_stride + rect.Left;
     if (rect.Width() == 1)
         for (int y = rect.Top; y < rect.Bottom; ++y, line += m_stride)
             *line = m_color;
     else
         for (int y = rect.Top; y < rect.Bottom; ++y, line += m_stride)
             std::fill_n(line, rect.Width(), m_color);
-    Mark(rect);
+    Record(rect);
 }
 
 void CRasterCanvas::Segment(int column0, int y0, int column1, int y1, const sInkLine& line)
@@ -332,10 +328,10 @@ void CRasterCanvas::Steep(int column0, int y0, int column1, int y1, const sInkLi
 
 void CRasterCanvas::Line(const sInkLine& line, const sPixelRect& plot)
 {
-    m_plot = Cut(plot, m_clip);
+    m_plot = CommonPart(plot, m_clip);
     if (m_plot.Left >= m_plot.Right || m_plot.Top >= m_plot.Bottom)
         return;
-    m_color = ScreenColor(line.Color);
+    m_color = PixelOf(line.Color);
     std::fill(m_solid.begin() + m_plot.Left, m_solid.begin() + m_plot.Right, sExtent{0, 0});
     const std::vector<sInkVertex>& vertices = line.Vertices;
     const int reach = line.Width + 1;
@@ -358,21 +354,21 @@ void CRasterCanvas::Line(const sInkLine& line, const sPixelRect& plot)
     Blend(m_color);
 }
 
-void CRasterCanvas::Blend(QRgb color)
+void CRasterCanvas::Blend(PixelColor color)
 {
     for (int x = m_plot.Left; x < m_plot.Right; ++x) {
         sExtent& extent = m_extents[static_cast<std::size_t>(x)];
         if (extent.Top >= extent.Bottom)
             continue;
         std::uint8_t* mask = MaskAt(x, extent.Top);
-        QRgb* pixel = m_pixels + static_cast<std::ptrdiff_t>(extent.Top) * m_stride + x;
+        PixelColor* pixel = m_pixels + static_cast<std::ptrdiff_t>(extent.Top) * m_stride + x;
         for (int y = extent.Top; y < extent.Bottom; ++y, ++mask, pixel += m_stride) {
             if (*mask == 0)
                 continue;
             *pixel = *mask == 255 ? color : BlendPixel(*pixel, color, *mask);
             *mask = 0;
         }
-        Mark({x, extent.Top, x + 1, extent.Bottom});
+        Record({x, extent.Top, x + 1, extent.Bottom});
         extent = {m_height, 0};
     }
 }

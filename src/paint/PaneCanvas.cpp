@@ -1,6 +1,12 @@
-#include "qt/paint/PaneCanvas.h"
+#include "paint/PaneCanvas.h"
 
 namespace zantroq {
+
+void IPaneCanvas::Rects(std::span<const sInkRect> rects)
+{
+    for (const sInkRect& rect : rects)
+        Fill({rect.Left, rect.Top, rect.Right, rect.Bottom}, PixelOf(rect.Color));
+}
 
 void IPaneCanvas::Columns(const CInkColumns& ink, std::span<const sInkColumn> columns)
 {
@@ -11,7 +17,7 @@ void IPaneCanvas::Columns(const CInkColumns& ink, std::span<const sInkColumn> co
                 ++end;
             Fill({column.Column, column.Top + static_cast<int>(i), column.Column + 1,
                   column.Top + static_cast<int>(end)},
-                 ScreenColor(ink.ColorOf(shades[i])));
+                 PixelOf(ink.ColorOf(shades[i])));
         }
     }
 }
