@@ -4,6 +4,7 @@
 #include "ink/OnePixelBars.h"
 #include "ink/WideBars.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace zantroq {
@@ -46,19 +47,40 @@ bool CPaneInk::HasBars(const CPaneGroup& group) const
     return (IsBarType(group.Type()) && series >= 1) || (IsPriceType(group.Type()) && series >= 4);
 }
 
-CPaneInk::sDamage CPaneInk::Update(const CChart2D& chart, const sPlotMap& map, double scale)
+void CPaneInk::ReadStyle(const CChart2D& chart)
 {
     const CPaneGroup& group = chart.PaneGroups(m_group);
-    const CPaneData& data = group.PaneData();
     const CPaneArea& area = chart.PaneArea();
     const CAxisBound& origin = area.PaneAxes().Y().AxisOrigin();
     m_origin = origin.Automatic() || !IsDrawn(origin.Value()) ? 0.0 : origin.Value();
     m_barWidth = area.BarLook().BarWidth();
     m_filledCandles = area.CandleLook().Filled();
     m_hollow = area.PlotBackground(chart.PaneInterior());
-    m_scale = scale;
     m_hasBars = HasBars(group);
     m_histogram = IsBarType(group.Type());
+}
+
+// Draws the changed points and all after them; nothing when everything has to be drawn.
+std::optional<CPaneInk::sDamage> CPaneInk::DrawChangedPoints(const CPaneGroup& group,
+                                                             const sPointChanges& changes)
+{
+    // One point more on either side: lines lead from the one before and to the one after.
+    const std::span<const double> x = group.PaneData().X();
+    const auto first = static_cast<std::size_t>(changes.First - 1);
+    const std::size_t last = std::min(static_cast<std::size_t>(changes.Last), x.size() - 1);
+    const int reach = m_widest + 1; // of the ink that was there
+    if (!m_points.InOrder() || !DrawTail(group, first))
+        return std::nullopt;
+    return sDamage{false, std::max(m_map.Plot.Left, m_map.X.Pixel(x[first > 0 ? first - 1 : 0]) - reach),
+                   std::min(m_map.Plot.Right, m_map.X.Pixel(x[last]) + reach + 1)};
+}
+
+CPaneInk::sDamage CPaneInk::Update(const CChart2D& chart, const sPlotMap& map, double scale)
+{
+    const CPaneGroup& group = chart.PaneGroups(m_group);
+    const CPaneData& data = group.PaneData();
+    m_scale = scale;
+    ReadStyle(chart);
     sLook look = LookOf(chart, map, scale);
     const sPointChanges changes = data.ChangesSince(m_revision);
     const bool known = m_drawn && look == m_look;
@@ -68,16 +90,9 @@ CPaneInk::sDamage CPaneInk::Update(const CChart2D& chart, const sPlotMap& map, d
     m_map = map;
     m_look = std::move(look);
     m_points = CPointColumns(data, map.X);
-    if (known && !changes.Whole) {
-        const auto first = static_cast<std::size_t>(changes.First - 1);
-        // From the point before to the one behind: lines lead from the one and to the other.
-        const double* x = data.X().data();
-        const std::size_t last = std::min(static_cast<std::size_t>(changes.Last), data.X().size() - 1);
-        const int reach = m_widest + 1;
-        if (m_points.InOrder() && DrawTail(group, first))
-            return {false, std::max(m_map.Plot.Left, m_map.X.Pixel(x[first > 0 ? first - 1 : 0]) - reach),
-                    std::min(m_map.Plot.Right, m_map.X.Pixel(x[last]) + reach + 1)};
-    }
+    if (known && !changes.Whole)
+        if (const std::optional<sDamage> damage = DrawChangedPoints(group, changes))
+            return *damage;
     if (!known || !DrawChangedLines(group, since))
         DrawAll(group);
     m_drawn = true;

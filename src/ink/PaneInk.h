@@ -1,13 +1,11 @@
-// A group of a pane reduced to what its device pixels show: rectangles for bars and candles, lines with at
-// most a few vertices a pixel column. How much there is to paint depends on the pixels, not on the points,
-// and the picture is that of every point painted one after the other:
-// - Bars and candles of one column cover each other, the later ones on top. Walking a column's points
-// backwards, only what no
-//   later point covers is kept.
-// - A line runs through the middle of whole pixel columns. Within a column its parts cover the span from the
-// lowest to the highest
-//   point between two breaks; only its first and last point matter to the columns beside it.
-// Kept from one painting to the next: a changed last point costs its own column. Chart window's thread.
+// One group of a pane, reduced to what its device pixels show: rectangles for bars and candles, lines with at
+// most a few vertices per pixel column. The amount of ink depends on the pixels, not on the points, and the
+// picture is the same as painting every point one after the other:
+// - Bars and candles of one column cover each other, the later ones on top. Walking the points of a column
+//   backwards, only what no later point covers is kept.
+// - A line runs through the middle of whole pixel columns. Within a column it covers the span from the lowest
+//   to the highest point between two gaps; only the first and the last point matter to the columns beside it.
+// Ink is kept from one painting to the next: a changed last point costs its own column. Chart window's thread.
 #pragma once
 
 #include "ink/InkColumns.h"
@@ -16,6 +14,7 @@
 #include "scene/PaneGeometry.h"
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <vector>
 
@@ -99,6 +98,8 @@ private:
     };
 
     sLook LookOf(const CChart2D& chart, const sPlotMap& map, double scale) const;
+    void ReadStyle(const CChart2D& chart);
+    std::optional<sDamage> DrawChangedPoints(const CPaneGroup& group, const sPointChanges& changes);
     void DrawAll(const CPaneGroup& group);
     bool DrawTail(const CPaneGroup& group, std::size_t firstPoint);
     bool DrawBars(const CPaneGroup& group, std::size_t firstPoint);

@@ -90,6 +90,15 @@ bool CVisibleStrokes::Find(std::span<const double> high, std::span<const double>
 
 #ifdef ZANTROQ_SEES_EIGHT
 
+// The walk, one point at a time, from the last point of the column to the first; up and down begin as those
+// of the last point:
+//     for (i = count; i-- > 0;) {
+//         u = clamp(Plot.Bottom - top(i), 0, rows);  d = clamp(bottom(i) - Plot.Top, 0, rows);
+//         if (u + down < rows || d + up < rows) return 0;        // a gap: not for this walk
+//         if (u > up || d > down) { up = max(up, u); down = max(down, d); add {i, up, down}; }
+//     }
+// with top(i) and bottom(i) the pixel rows of the stroke, bottom exclusive.
+//
 // Heights are whole pixel rows in 16 bits: of the upper end, counted from the plot's bottom, in the lower
 // half of a vector, of the lower end, counted from the plot's top, in the upper half. Both grow outwards, and
 // what is covered so far is the greatest of each.

@@ -1,6 +1,6 @@
 #include "paint/PaneDecorations.h"
+#include "paint/PanePixels.h"
 #include "qt/PaneScenes.h"
-#include "qt/paint/PanePainter.h"
 
 #include <gtest/gtest.h>
 
@@ -16,19 +16,16 @@ namespace {
 using test::AddLabel;
 using test::Pane;
 
-const QString Family = "DejaVu Sans";
-
-// The furniture of a pane at a scale, and what it was placed with.
-struct sFurnished
+// The decorations of a pane at a scale, with the map and the font of their placement.
+struct sPlaced
 {
-    explicit sFurnished(const CChart2D& chart, double scale = 1.0)
+    explicit sPlaced(const CChart2D& chart, double scale = 1.0)
         : Scale(scale),
           Map(chart, scale),
           Width(static_cast<int>(std::floor(chart.PixelWidth() * scale + 0.5))),
           Height(static_cast<int>(std::floor(chart.PixelHeight() * scale + 0.5))),
-          Words(Family)
+          Words(scale)
     {
-        Words.SetScale(scale);
         Placed = PlaceDecorations(chart, Map, scale, Width, Height, Words);
     }
     // Of a label, by its place among those shown.
@@ -37,7 +34,7 @@ struct sFurnished
     double Scale;
     sPlotMap Map;
     int Width, Height;
-    CPaneText Words;
+    test::CFixedFont Words;
     sPaneDecorations Placed;
 };
 
@@ -47,17 +44,17 @@ TEST(PaneLabels, StandOnTheSideOfTheirAnchorAtEveryScale)
         const Pane pane = test::EmptyPane(280, 180);
         for (const int side : {0x11, 0x12, 0x21, 0x22})
             AddLabel(*pane, "text", AttachToPixel, side).SetPixelAnchor(140, 90);
-        const sFurnished furnished(*pane, scale);
+        const sPlaced placing(*pane, scale);
         const int x = static_cast<int>(140 * scale), y = static_cast<int>(90 * scale);
-        ASSERT_EQ(furnished.Placed.Labels.size(), 4u);
-        EXPECT_EQ(furnished.Box(0).Left, x) << "0x11: above, to the right";
-        EXPECT_EQ(furnished.Box(0).Bottom, y);
-        EXPECT_EQ(furnished.Box(1).Right, x) << "0x12: above, to the left";
-        EXPECT_EQ(furnished.Box(1).Bottom, y);
-        EXPECT_EQ(furnished.Box(2).Left, x) << "0x21: below, to the right";
-        EXPECT_EQ(furnished.Box(2).Top, y);
-        EXPECT_EQ(furnished.Box(3).Right, x) << "0x22: below, to the left";
-        EXPECT_EQ(furnished.Box(3).Top, y);
+        ASSERT_EQ(placing.Placed.Labels.size(), 4u);
+        EXPECT_EQ(placing.Box(0).Left, x) << "0x11: above, to the right";
+        EXPECT_EQ(placing.Box(0).Bottom, y);
+        EXPECT_EQ(placing.Box(1).Right, x) << "0x12: above, to the left";
+        EXPECT_EQ(placing.Box(1).Bottom, y);
+        EXPECT_EQ(placing.Box(2).Left, x) << "0x21: below, to the right";
+        EXPECT_EQ(placing.Box(2).Top, y);
+        EXPECT_EQ(placing.Box(3).Right, x) << "0x22: below, to the left";
+        EXPECT_EQ(placing.Box(3).Top, y);
     }
 }
 
@@ -67,17 +64,17 @@ TEST(PaneLabels, ABorderIsAPanePixelWideAtEveryScale)
     const Pane pane = test::EmptyPane(280, 180);
     AddLabel(*pane, "text", AttachToPixel, AnchorBelowRight).SetPixelAnchor(100, 50);
     AddLabel(*pane, "text", AttachToPixel, AnchorBelowRight).SetBorder(0);
-    EXPECT_EQ(sFurnished(*pane, 1.0).Placed.Labels.at(0).Edge, 1);
-    EXPECT_EQ(sFurnished(*pane, 1.5).Placed.Labels.at(0).Edge, 2);
-    EXPECT_EQ(sFurnished(*pane, 2.0).Placed.Labels.at(0).Edge, 2);
-    EXPECT_EQ(sFurnished(*pane, 2.0).Placed.Labels.at(1).Edge, 0);
+    EXPECT_EQ(sPlaced(*pane, 1.0).Placed.Labels.at(0).Edge, 1);
+    EXPECT_EQ(sPlaced(*pane, 1.5).Placed.Labels.at(0).Edge, 2);
+    EXPECT_EQ(sPlaced(*pane, 2.0).Placed.Labels.at(0).Edge, 2);
+    EXPECT_EQ(sPlaced(*pane, 2.0).Placed.Labels.at(1).Edge, 0);
     for (const double scale : {1.0, 1.5, 2.0}) {
-        const QImage picture = PanePicture(*pane, scale, "Liberation Sans");
-        const sFurnished furnished(*pane, scale);
-        const int x = furnished.Box(0).Left, y = furnished.Box(0).Top + 6, edge = scale > 1 ? 2 : 1;
-        const QRgb border = picture.pixel(x, y);
-        EXPECT_EQ(picture.pixel(x + edge - 1, y), border) << scale;
-        EXPECT_NE(picture.pixel(x + edge, y), border) << scale;
+        const test::sPixels picture = test::CPaintedPane(*pane, scale).Picture;
+        const sPlaced placing(*pane, scale);
+        const int x = placing.Box(0).Left, y = placing.Box(0).Top + 6, edge = scale > 1 ? 2 : 1;
+        const PixelColor border = picture.At(x, y);
+        EXPECT_EQ(picture.At(x + edge - 1, y), border) << scale;
+        EXPECT_NE(picture.At(x + edge, y), border) << scale;
     }
 }
 
@@ -87,20 +84,20 @@ TEST(PaneLabels, TheTitleHangsFromThePanesTopLeftWhateverItsAnchor)
     CPaneLabel& title = AddLabel(*pane, "Daily Price:", AttachToPaneTopLeft, AnchorBelowRight);
     title.SetPixelAnchor(200, 100);
     title.SetDataAnchor(5, 50);
-    const sFurnished furnished(*pane);
-    EXPECT_LT(furnished.Box(0).Left, 10);
-    EXPECT_LT(furnished.Box(0).Top, 5);
+    const sPlaced placing(*pane);
+    EXPECT_LT(placing.Box(0).Left, 10);
+    EXPECT_LT(placing.Box(0).Top, 5);
 }
 
 TEST(PaneLabels, AttachedToDataFollowThePoint)
 {
     const Pane pane = test::EmptyPane(280, 180);
     AddLabel(*pane, "text", AttachToData, AnchorBelowRight).SetDataAnchor(3, 50);
-    const sFurnished furnished(*pane);
+    const sPlaced placing(*pane);
     int x = 0, y = 0;
     pane->PaneGroups(1).DataToPixel(3, 50, x, y);
-    EXPECT_EQ(furnished.Box(0).Left, x);
-    EXPECT_EQ(furnished.Box(0).Top, y);
+    EXPECT_EQ(placing.Box(0).Left, x);
+    EXPECT_EQ(placing.Box(0).Top, y);
 }
 
 TEST(PaneLabels, AReadoutIsMovedInsideThePane)
@@ -110,9 +107,9 @@ TEST(PaneLabels, AReadoutIsMovedInsideThePane)
         for (const double y : {0.0, 100.0})
             for (const int side : {0x11, 0x12, 0x21, 0x22})
                 AddLabel(*pane, "Hi: 1, Low: 1\nVolume: 1", AttachToData, side).SetDataAnchor(x, y);
-    const sFurnished furnished(*pane);
-    ASSERT_EQ(furnished.Placed.Labels.size(), 16u);
-    for (const sPlacedLabel& label : furnished.Placed.Labels) {
+    const sPlaced placing(*pane);
+    ASSERT_EQ(placing.Placed.Labels.size(), 16u);
+    for (const sPlacedLabel& label : placing.Placed.Labels) {
         EXPECT_GE(label.Box.Left, 0);
         EXPECT_GE(label.Box.Top, 0);
         EXPECT_LE(label.Box.Right, 280);
@@ -124,13 +121,13 @@ TEST(PaneLabels, LinesAreSeparatedByNewlines)
 {
     const Pane pane = test::EmptyPane(280, 180);
     AddLabel(*pane, "one\n\nthree\n", AttachToPixel, AnchorBelowRight).SetPixelAnchor(60, 60);
-    const sFurnished furnished(*pane);
-    const std::vector<sPlacedText>& lines = furnished.Placed.Labels.at(0).Lines;
+    const sPlaced placing(*pane);
+    const std::vector<sPlacedText>& lines = placing.Placed.Labels.at(0).Lines;
     ASSERT_EQ(lines.size(), 3u);
     EXPECT_EQ(lines[0].Text, "one");
     EXPECT_EQ(lines[1].Text, "");
     EXPECT_EQ(lines[2].Text, "three");
-    EXPECT_EQ(lines[2].Top - lines[0].Top, 2 * CPaneText(Family).LineHeight());
+    EXPECT_EQ(lines[2].Top - lines[0].Top, 2 * test::CFixedFont().LineHeight());
 }
 
 TEST(PaneLabels, ATitleWiderThanItsPaneGoesOnInTheNextLine)
@@ -139,13 +136,13 @@ TEST(PaneLabels, ATitleWiderThanItsPaneGoesOnInTheNextLine)
         const Pane pane = test::EmptyPane(280, 180);
         AddLabel(*pane, "Daily Price: Hi: 101.25  Low: 99.50  Open: 100.00  Close: 101.00  2014/01/02",
                  AttachToPaneTopLeft, AnchorBelowRight);
-        const sFurnished furnished(*pane, scale);
-        EXPECT_LE(furnished.Box(0).Right, furnished.Width);
+        const sPlaced placing(*pane, scale);
+        EXPECT_LE(placing.Box(0).Right, placing.Width);
         std::string joined;
-        for (const sPlacedText& line : furnished.Placed.Labels[0].Lines)
+        for (const sPlacedText& line : placing.Placed.Labels[0].Lines)
             joined += (joined.empty() ? "" : "  ") + std::string(line.Text);
         EXPECT_EQ(joined, pane->PaneLabels().Item(1).Text());
-        EXPECT_GE(furnished.Placed.Labels[0].Lines.size(), 2u);
+        EXPECT_GE(placing.Placed.Labels[0].Lines.size(), 2u);
     }
 }
 
@@ -154,14 +151,14 @@ TEST(PaneLabels, ATitleThatFitsOrCannotBeFoldedHasOneLine)
     const Pane pane = test::EmptyPane(280, 180);
     CPaneLabel& title =
         AddLabel(*pane, "Daily Price: Hi: 101.25  Low: 99.50", AttachToPaneTopLeft, AnchorBelowRight);
-    EXPECT_EQ(sFurnished(*pane).Placed.Labels.at(0).Lines.size(), 1u);
+    EXPECT_EQ(sPlaced(*pane).Placed.Labels.at(0).Lines.size(), 1u);
     title.SetText(std::string(100, 'x'));
-    EXPECT_EQ(sFurnished(*pane).Placed.Labels.at(0).Lines.size(), 1u);
+    EXPECT_EQ(sPlaced(*pane).Placed.Labels.at(0).Lines.size(), 1u);
     title.SetText("  " + std::string(100, 'x'));
-    EXPECT_EQ(sFurnished(*pane).Placed.Labels.at(0).Lines.size(), 1u);
+    EXPECT_EQ(sPlaced(*pane).Placed.Labels.at(0).Lines.size(), 1u);
     title.SetText("Daily Price: Hi: 101.25  Low: 99.50  Open: 100.00  Close: 101.00 (Minimized)");
     pane->PaneArea().AreaBox().Height().SetValue(16); // a minimised pane has no room for a second line
-    EXPECT_EQ(sFurnished(*pane).Placed.Labels.at(0).Lines.size(), 1u);
+    EXPECT_EQ(sPlaced(*pane).Placed.Labels.at(0).Lines.size(), 1u);
 }
 
 TEST(PaneLabels, HiddenOrWithoutTextOrNowhereAreNotPlaced)
@@ -171,7 +168,7 @@ TEST(PaneLabels, HiddenOrWithoutTextOrNowhereAreNotPlaced)
     AddLabel(*pane, "", AttachToPixel, AnchorBelowRight);
     AddLabel(*pane, "at a hole", AttachToData, AnchorBelowRight).SetDataAnchor(3, CPaneData::HoleValue());
     AddLabel(*pane, "at no number", AttachToData, AnchorBelowRight).SetDataAnchor(std::nan(""), 3);
-    EXPECT_TRUE(sFurnished(*pane).Placed.Labels.empty());
+    EXPECT_TRUE(sPlaced(*pane).Placed.Labels.empty());
 }
 
 TEST(PaneDecorations, APaneWithoutPointsHasItsAxesAndLabels)
@@ -179,7 +176,7 @@ TEST(PaneDecorations, APaneWithoutPointsHasItsAxesAndLabels)
     const Pane pane = test::EmptyPane(280, 180);
     AddLabel(*pane, "text", AttachToPixel, AnchorBelowRight);
     ASSERT_EQ(pane->PaneGroups(1).PaneData().PointCount(1), 0);
-    const sPaneDecorations placed = sFurnished(*pane).Placed;
+    const sPaneDecorations placed = sPlaced(*pane).Placed;
     EXPECT_EQ(placed.Labels.size(), 1u);
     EXPECT_GE(placed.AxisTexts.size(), 5u);
     EXPECT_GE(placed.Frame.size(), 4u);
@@ -198,14 +195,14 @@ TEST(PaneDecorations, ValueTextsTooLongForTheirMarginKeepEveryDigit)
             CPaneAxis& labelled = right ? axes.Y2() : axes.Y();
             labelled.TickLabels().RemoveAll();
             labelled.TickLabels().Add(50, "-12345 127/128");
-            sFurnished furnished(*pane, scale);
+            sPlaced placing(*pane, scale);
             bool found = false;
-            for (const sPlacedText& text : furnished.Placed.AxisTexts) {
+            for (const sPlacedText& text : placing.Placed.AxisTexts) {
                 if (text.Text != "-12345 127/128")
                     continue;
                 found = true;
                 EXPECT_GE(text.Left, 0) << right << " at " << scale;
-                EXPECT_LE(text.Left + furnished.Words.Advance(text.Text), furnished.Width)
+                EXPECT_LE(text.Left + placing.Words.Advance(text.Text), placing.Width)
                     << right << " at " << scale;
             }
             EXPECT_TRUE(found);
@@ -215,10 +212,10 @@ TEST(PaneDecorations, ValueTextsTooLongForTheirMarginKeepEveryDigit)
 TEST(PaneDecorations, ValueTextsThatFitStandBesideTheAxis)
 {
     const Pane pane = test::EmptyPane(280, 180);
-    sFurnished furnished(*pane);
-    for (const sPlacedText& text : furnished.Placed.AxisTexts)
+    sPlaced placing(*pane);
+    for (const sPlacedText& text : placing.Placed.AxisTexts)
         if (text.Text == "25") { // six pixels and a line from the plot
-            EXPECT_EQ(text.Left + furnished.Words.Advance(text.Text), 58 - 7);
+            EXPECT_EQ(text.Left + placing.Words.Advance(text.Text), 58 - 7);
         }
 }
 
@@ -228,7 +225,7 @@ TEST(PaneDecorations, GridLinesRunThroughTheLabels)
     CPaneAxes& axes = pane->PaneArea().PaneAxes();
     axes.X().AxisGrid().SetSpacing(2);
     axes.Y().AxisGrid().SetSpacing(25);
-    const sPaneDecorations placed = sFurnished(*pane).Placed;
+    const sPaneDecorations placed = sPlaced(*pane).Placed;
     std::vector<int> uprights, acrosses;
     for (const sRuledLine& line : placed.Grid)
         (line.IsVertical() ? uprights : acrosses)
@@ -247,7 +244,7 @@ TEST(PaneDecorations, GridLinesRunThroughTheLabels)
     EXPECT_EQ(acrosses, wantedY);
     axes.X().AxisGrid().SetSpacing(0);
     axes.Y().AxisGrid().SetSpacing(0);
-    EXPECT_TRUE(sFurnished(*pane).Placed.Grid.empty()) << "a spacing of 0 hides the grid";
+    EXPECT_TRUE(sPlaced(*pane).Placed.Grid.empty()) << "a spacing of 0 hides the grid";
 }
 
 TEST(PaneDecorations, TheMarkerStandsOnItsPoint)
@@ -255,9 +252,9 @@ TEST(PaneDecorations, TheMarkerStandsOnItsPoint)
     const Pane pane = test::LinePane(280, 180, std::vector<double>(10, 33.0));
     CPaneMarker& marker = pane->PaneArea().PaneMarkers("x");
     marker.SetShown(true);
-    EXPECT_TRUE(sFurnished(*pane).Placed.Marker.empty()) << "no point";
+    EXPECT_TRUE(sPlaced(*pane).Placed.Marker.empty()) << "no point";
     marker.SetPoint(4);
-    const sPaneDecorations placed = sFurnished(*pane).Placed;
+    const sPaneDecorations placed = sPlaced(*pane).Placed;
     int x = 0, y = 0;
     pane->PaneGroups(1).PointToPixel(1, 4, x, y);
     ASSERT_EQ(placed.Marker.size(), 1u);
@@ -266,7 +263,7 @@ TEST(PaneDecorations, TheMarkerStandsOnItsPoint)
     EXPECT_EQ(placed.Marker[0].Rect.Top, pane->PlotRect().Top);
     EXPECT_EQ(placed.Marker[0].Rect.Bottom, pane->PlotRect().Bottom);
     marker.SetShown(false);
-    EXPECT_TRUE(sFurnished(*pane).Placed.Marker.empty());
+    EXPECT_TRUE(sPlaced(*pane).Placed.Marker.empty());
 }
 
 // The left end of a text of the x axis, nothing where it was left out.
@@ -281,7 +278,7 @@ std::optional<int> LeftOf(const sPaneDecorations& placed, std::string_view text)
 TEST(PaneDecorations, TheFirstTimeTextGivesWayToTheLeft)
 {
     const std::string first = "2024/06/05 16:00:00", second = "2024/06/06 14:45:00";
-    CPaneText words(Family);
+    test::CFixedFont words;
     const int advance = words.Advance(first), other = words.Advance(second);
     // The texts' middles stand so that the second would begin right where the first one ends.
     const Pane pane = test::EmptyPane(58 + 200 + 23, 180);
@@ -291,7 +288,7 @@ TEST(PaneDecorations, TheFirstTimeTextGivesWayToTheLeft)
     x.TickLabels().RemoveAll();
     x.TickLabels().Add(advance / 2 - 58 + 15, first); // from 15 on
     x.TickLabels().Add(15 + advance + other / 2 - 58, second);
-    const sPaneDecorations placed = sFurnished(*pane).Placed;
+    const sPaneDecorations placed = sPlaced(*pane).Placed;
     EXPECT_EQ(LeftOf(placed, second), 15 + advance);
     EXPECT_EQ(LeftOf(placed, first), 10) << "five pixels stay between them";
     // With no room left of the first text the second is left out.
@@ -299,8 +296,8 @@ TEST(PaneDecorations, TheFirstTimeTextGivesWayToTheLeft)
     x.TickLabels().Add(advance / 2 - 58 + 8, first);
     x.TickLabels().Add(8 + advance + other / 2 - 58, second);
     x.TickLabels().Add(190, "1");
-    EXPECT_EQ(LeftOf(sFurnished(*pane).Placed, first), 8);
-    EXPECT_FALSE(LeftOf(sFurnished(*pane).Placed, second));
+    EXPECT_EQ(LeftOf(sPlaced(*pane).Placed, first), 8);
+    EXPECT_FALSE(LeftOf(sPlaced(*pane).Placed, second));
 }
 
 TEST(PaneDecorations, ATimeTextThatWouldMeetTheOneBeforeIsLeftOut)
@@ -314,7 +311,7 @@ TEST(PaneDecorations, ATimeTextThatWouldMeetTheOneBeforeIsLeftOut)
     x.TickLabels().Add(100, "10:30");
     x.TickLabels().Add(110, "10:40");
     x.TickLabels().Add(160, "11:30");
-    const sPaneDecorations placed = sFurnished(*pane).Placed;
+    const sPaneDecorations placed = sPlaced(*pane).Placed;
     EXPECT_TRUE(LeftOf(placed, "10:30"));
     EXPECT_FALSE(LeftOf(placed, "10:40"));
     EXPECT_TRUE(LeftOf(placed, "11:30"));
@@ -333,13 +330,13 @@ TEST(PaneDecorations, TheLastTimeTextDrivesOutTheOneBefore)
     x.TickLabels().Add(160, "11:30");
     x.TickLabels().Add(170, "11:41");
     x.TickLabels().Add(300, "13:00"); // out of sight
-    const sPaneDecorations placed = sFurnished(*pane).Placed;
+    const sPaneDecorations placed = sPlaced(*pane).Placed;
     EXPECT_TRUE(LeftOf(placed, "09:30"));
     EXPECT_TRUE(LeftOf(placed, "10:30"));
     EXPECT_FALSE(LeftOf(placed, "11:30"));
     EXPECT_TRUE(LeftOf(placed, "11:41"));
     x.TickLabels().Add(160, "as wide as two of them"); // meets both
-    const sPaneDecorations wide = sFurnished(*pane).Placed;
+    const sPaneDecorations wide = sPlaced(*pane).Placed;
     EXPECT_FALSE(LeftOf(wide, "11:30"));
     EXPECT_FALSE(LeftOf(wide, "11:41"));
     EXPECT_TRUE(LeftOf(wide, "as wide as two of them"));
@@ -362,28 +359,26 @@ TEST(PaneDecorations, NothingCrossesAValueTextThatLiesOverTheFrame)
             labelled.TickLabels().RemoveAll();
             labelled.TickLabels().Add(50, "1234567.125000");
             axes.Y().AxisGrid().SetSpacing(50);
-            sFurnished furnished(*pane, scale);
+            sPlaced placing(*pane, scale);
             const std::string digits = "1234567.125000";
-            const auto text =
-                std::find_if(furnished.Placed.AxisTexts.begin(), furnished.Placed.AxisTexts.end(),
-                             [&](const sPlacedText& one) { return one.Text == digits; });
-            ASSERT_NE(text, furnished.Placed.AxisTexts.end());
+            const auto text = std::find_if(placing.Placed.AxisTexts.begin(), placing.Placed.AxisTexts.end(),
+                                           [&](const sPlacedText& one) { return one.Text == digits; });
+            ASSERT_NE(text, placing.Placed.AxisTexts.end());
             // The text on nothing but the two backgrounds.
-            const QImage picture = PanePicture(*pane, scale, Family);
-            QImage bare(picture.size(), picture.format());
-            CRasterCanvas canvas(furnished.Words);
-            canvas.SetPicture({reinterpret_cast<PixelColor*>(bare.bits()),
-                               static_cast<int>(bare.bytesPerLine() / 4), bare.width(), bare.height()});
-            canvas.Fill({0, 0, bare.width(), bare.height()}, furnished.Placed.Background);
-            canvas.Fill(furnished.Map.Plot, furnished.Placed.PlotBackground);
+            const test::sPixels picture = test::CPaintedPane(*pane, scale).Picture;
+            test::sPixels bare(picture.Width, picture.Height);
+            CRasterCanvas canvas(placing.Words);
+            canvas.SetPicture(bare.Raster());
+            canvas.Fill({0, 0, bare.Width, bare.Height}, placing.Placed.Background);
+            canvas.Fill(placing.Map.Plot, placing.Placed.PlotBackground);
             canvas.Text(text->Left, text->Top, digits, text->Color);
-            const int advance = furnished.Words.Advance(digits);
+            const int advance = placing.Words.Advance(digits);
             bool reaches = false;
-            for (int y = text->Top; y < text->Top + furnished.Words.LineHeight(); ++y)
+            for (int y = text->Top; y < text->Top + placing.Words.LineHeight(); ++y)
                 for (int x = text->Left; x < text->Left + advance; ++x) {
-                    ASSERT_EQ(picture.pixel(x, y), bare.pixel(x, y))
+                    ASSERT_EQ(picture.At(x, y), bare.At(x, y))
                         << x << ", " << y << " at " << scale << (right ? " right" : " left");
-                    reaches = reaches || furnished.Map.Contains(x, y);
+                    reaches = reaches || placing.Map.Contains(x, y);
                 }
             EXPECT_TRUE(reaches) << "the text lies over the frame";
         }
@@ -391,7 +386,7 @@ TEST(PaneDecorations, NothingCrossesAValueTextThatLiesOverTheFrame)
 
 TEST(PaneDecorations, AValueTextThatFitsItsMarginHasNoGround)
 {
-    EXPECT_TRUE(sFurnished(*test::EmptyPane(280, 180)).Placed.Grounds.empty());
+    EXPECT_TRUE(sPlaced(*test::EmptyPane(280, 180)).Placed.Grounds.empty());
 }
 
 // What was kept of the text was read when it was another one.
@@ -400,15 +395,17 @@ TEST(PaneLabels, OneWhoseRepaintIsSuspendedIsPaintedAsItWas)
     const Pane pane = test::LinePane(280, 180, std::vector<double>(20, 50));
     CPaneLabel& label = test::AddLabel(*pane, std::string(100, 'H'), AttachToPixel, AnchorBelowRight);
     label.SetPixelAnchor(150, 60);
-    CPanePainter painter(*pane, Family);
-    const QImage before = painter.Picture(1.0).copy();
+    test::CPaintedPane painted(*pane);
+    const std::vector<PixelColor> before = painted.Picture.Pixels;
     label.SetRepaintSuspended(true);
-    label.SetText(std::string(100, 'l'));
+    label.SetText(std::string(100, ' '));
     label.Interior().SetBackground(0x00ff00);
     pane->PaneGroups(1).PaneData().SetPointY(1, 19, 50.001);
-    EXPECT_TRUE(painter.Picture(1.0) == before);
+    painted.Paint();
+    EXPECT_TRUE(painted.Picture.Pixels == before);
     label.SetRepaintSuspended(false);
-    EXPECT_FALSE(painter.Picture(1.0) == before);
+    painted.Paint();
+    EXPECT_FALSE(painted.Picture.Pixels == before);
 }
 
 TEST(PaneDecorations, AHiddenAxisHasNeitherTextsNorTickMarks)
@@ -416,7 +413,7 @@ TEST(PaneDecorations, AHiddenAxisHasNeitherTextsNorTickMarks)
     const Pane pane = test::EmptyPane(280, 180);
     pane->PaneArea().PaneAxes().Y().SetShown(false);
     pane->PaneArea().PaneAxes().X().SetShown(false);
-    const sPaneDecorations placed = sFurnished(*pane).Placed;
+    const sPaneDecorations placed = sPlaced(*pane).Placed;
     EXPECT_TRUE(placed.AxisTexts.empty());
     EXPECT_EQ(placed.Frame.size(), 4u) << "the four edges of the plot";
 }
