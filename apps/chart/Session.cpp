@@ -194,6 +194,26 @@ std::string CSession::WaitComplete(int milliseconds)
     return done ? "" : NoReply(milliseconds);
 }
 
+std::string CSession::WaitSearch(int milliseconds)
+{
+    const CChartDlg& chart = m_window->Chart().Window();
+    SearchProgress progress = SearchProgress::NotStarted;
+    const auto isOver = [&] {
+        const IDialogDriver* const dialog = chart.OpenDialog();
+        progress = dialog != nullptr ? dialog->Search() : SearchProgress::NoAnswer;
+        return dialog == nullptr || progress == SearchProgress::Ended || progress == SearchProgress::NoAnswer;
+    };
+    const bool over = Pump(milliseconds, isOver);
+    if (chart.OpenDialog() == nullptr)
+        return "no dialog is open; open the symbol search by command 774";
+    if (over && progress == SearchProgress::NoAnswer)
+        return "the feed ended the search without an answer; check that it is running";
+    const std::string time = QString::number(milliseconds / 1000.0).toStdString() + " s";
+    if (!over && progress == SearchProgress::NotStarted)
+        return "no search was begun, and " + time + " brought none; let dialog press 234 come before";
+    return over ? "" : "the feed gave no answer in time (" + time + "); give the step more";
+}
+
 void CSession::Wait(int milliseconds)
 {
     Pump(milliseconds, [] { return false; });

@@ -32,6 +32,7 @@ private:
     std::string NoReply(int milliseconds) const; // why, and what to do
 
     std::string WaitComplete(int milliseconds) override;
+    std::string WaitSearch(int milliseconds) override;
     void Wait(int milliseconds) override;
     void Resize(int width, int height) override;
     std::string Print(const std::string& file) override;

@@ -32,7 +32,12 @@ public:
 
 struct CChartBody::sServices
 {
-    explicit sServices(QWidget& parent) : Box(parent), Dialogs(parent), Feed(ManagerThreadHolder()) {}
+    sServices(QWidget& parent, const sChartCtrlSetup& setup)
+        : Box(parent),
+          Dialogs(parent, setup.FeedKey, setup.Box != nullptr ? *setup.Box : Box),
+          Feed(ManagerThreadHolder())
+    {
+    }
 
     CMessageBox Box;
     CWindowDialogs Dialogs;
@@ -63,13 +68,13 @@ void CChartBody::Create(CChartCtrl& control)
     m_control = &control;
     m_enabled = control.isEnabled(); // not in a parent that is disabled
     m_view = new CChartView(&control);
-    m_services = std::make_unique<sServices>(control);
     control.setFocusProxy(m_view);
     control.setMinimumSize(120, 90);
     if (m_setup.ChartKey == nullptr)
         m_setup.ChartKey = OpenSettingsKey(ChartSettingsKey);
     if (m_setup.FeedKey == nullptr)
         m_setup.FeedKey = OpenSettingsKey(FeedSettingsKey);
+    m_services = std::make_unique<sServices>(control, m_setup);
     ManagerThreadHolder().AddControl(m_setup.FeedKey);
     CreateWindow();
     LayOut();

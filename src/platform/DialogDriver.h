@@ -46,6 +46,15 @@ struct sDialogState
     std::map<int, sControlState> Controls; // those of the page on show, by number
 };
 
+// How far the newest search of a dialog has come.
+enum class SearchProgress
+{
+    NotStarted, // none, or one without a text; also of a dialog that searches nothing
+    Waiting,
+    Ended,   // its results, or its error row, are in the list
+    NoAnswer // the feed closed the connection or fell silent
+};
+
 // Each action answers with an empty text, or with one clause that says why nothing was done.
 class IDialogDriver
 {
@@ -61,6 +70,7 @@ public:
     // The dialog's own buttons. A dialog that refuses to close has done something, too.
     virtual std::string Ok() = 0;
     virtual std::string Cancel() = 0;
+    virtual SearchProgress Search() const { return SearchProgress::NotStarted; }
 };
 
 } // namespace zantroq

@@ -20,6 +20,8 @@ public:
     virtual void Resize(int width, int height) = 0;
     // Empty, or one sentence that says what is wrong. A wait goes on until the reply is complete and drawn.
     virtual std::string WaitComplete(int milliseconds) = 0;
+    // The same until the search of the open dialog has ended.
+    virtual std::string WaitSearch(int milliseconds) = 0;
     virtual std::string Print(const std::string& file) = 0;
     virtual std::string Snapshot(const std::string& file) = 0;
     // A sentence about a step that did nothing; the script goes on.

@@ -132,6 +132,12 @@ sReplayResult RunAnswer(const sReplayStep& step, const sReplayStage& stage)
     return {};
 }
 
+sReplayResult RunWaitSearch(const sReplayStep& step, const sReplayStage& stage)
+{
+    const std::string wrong = stage.Host.WaitSearch(step.Milliseconds);
+    return wrong.empty() ? sReplayResult() : Failed(3, step, "wait search: " + wrong);
+}
+
 sReplayResult RunWaitComplete(const sReplayStep& step, const sReplayStage& stage)
 {
     const std::string wrong = stage.Host.WaitComplete(step.Milliseconds);
@@ -335,8 +341,9 @@ int TakeSeconds(CWordReader& words)
 
 void ReadWait(CWordReader& words, sReplayStep& step)
 {
-    if (words.TakeIf("complete")) {
-        step.Run = RunWaitComplete;
+    const bool complete = words.TakeIf("complete");
+    if (complete || words.TakeIf("search")) {
+        step.Run = complete ? RunWaitComplete : RunWaitSearch;
         step.Milliseconds = words.More() ? TakeSeconds(words) : DefaultCompleteWait;
         return;
     }
@@ -410,7 +417,7 @@ constexpr std::array<sReplayStepRow, 16> Rows{
      {"resize", "resize W H", ReadResize},
      {"menu", "menu ID or menu none", ReadMenu},
      {"answer", "answer yes|no|ok|cancel", ReadAnswer},
-     {"wait", "wait MS or wait complete [S]", ReadWait},
+     {"wait", "wait MS, wait complete [S] or wait search [S]", ReadWait},
      {"set", "set NAME VALUE, a word with blanks in double quotes", ReadSet},
      {"dialog",
       "dialog page TITLE, dialog set ID VALUE, dialog press ID, dialog double ID ROW, dialog ok or dialog "

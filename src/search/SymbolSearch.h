@@ -2,6 +2,7 @@
 // thread.
 #pragma once
 
+#include "platform/DialogDriver.h"
 #include "platform/Form.h"
 #include "platform/WindowThread.h"
 #include "search/LookupSystemInfo.h"
@@ -30,16 +31,7 @@ enum SearchControl : int
     SearchLimitLabel = 253
 };
 
-// How far the newest search has come.
-enum class SearchProgress
-{
-    NotStarted, // none, or one without a text
-    Waiting,
-    Ended,   // its results, or its error row, are in the list
-    NoAnswer // the feed closed the connection or fell silent
-};
-
-// What the dialog works with. All of it outlives the dialog's rules; the table's setups are handed over.
+// What the dialog works with. All of it outlives the dialog's rules; the tables' setups are handed over.
 struct sSymbolSearchSetup
 {
     sLookupSetup Markets, Types;

@@ -177,7 +177,7 @@ void sChartParts::RunSearch()
 
 void sChartParts::TakeFoundSymbol(const std::string& symbol)
 {
-    if (symbol.empty())
+    if (symbol.empty() || symbol == Services.Symbol.Text())
         return;
     Services.Symbol.Select(-1);
     Services.Symbol.SetText(symbol);

@@ -53,7 +53,7 @@ struct sToolbarCommand
 };
 
 inline constexpr std::array<sToolbarCommand, 8> ToolbarCommands{{
-    {CommandSymbolSearch, GapBefore::No, ButtonKind::Push, "Symbol Search", "symbol-search", "", ""},
+    {CommandSymbolSearch, GapBefore::No, ButtonKind::Push, "Symbol Search", "symbol-search", "F", ""},
     {CommandDrawChart, GapBefore::Separator, ButtonKind::Push, "Draw Chart", "draw-chart", "", ""},
     {CommandSettings, GapBefore::No, ButtonKind::Push, "Settings", "settings", "", ""},
     {CommandPrint, GapBefore::Separator, ButtonKind::Push, "Print", "print", "P", "Print..."},

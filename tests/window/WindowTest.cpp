@@ -489,6 +489,7 @@ TEST(Snapshot, SaysOfEachCommandWhatAClickWouldFind)
 struct sReplayHost : IReplayHost
 {
     explicit sReplayHost(sChartFixture& chart) : Chart(chart) {}
+    std::string WaitSearch(int) override { return ""; }
     std::string WaitComplete(int) override
     {
         if (!Answers)

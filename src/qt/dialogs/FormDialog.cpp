@@ -20,7 +20,8 @@ void CFormDialog::Open()
         return open();
     // Where the chart is drawn without a window nobody sees the dialog, but it has its size all the same.
     ensurePolished();
-    adjustSize();
+    if (!testAttribute(Qt::WA_Resized)) // with no size set by its rules
+        adjustSize();
 }
 
 void CFormDialog::End(DialogEnd end)

@@ -3,6 +3,7 @@
 // window's thread.
 #pragma once
 
+#include "platform/DialogDriver.h"
 #include "platform/Form.h"
 #include "qt/dialogs/QtForm.h"
 
@@ -33,6 +34,8 @@ public:
     virtual QStringList PageTitles() const { return {}; }
     virtual int PageOnShow() const { return -1; }
     virtual void TurnTo(int /*page*/) {}
+    // Of a dialog that searches.
+    virtual SearchProgress Search() const { return SearchProgress::NotStarted; }
     // The buttons that close the dialog: controls 1 and 2 of its form, unless it says otherwise.
     virtual QAbstractButton* OkButton();
     virtual QAbstractButton* CancelButton();

@@ -18,6 +18,7 @@ public:
     std::string DoubleClick(int id, int row) override;
     std::string Ok() override;
     std::string Cancel() override;
+    SearchProgress Search() const override { return m_dialog.Search(); }
 
 private:
     // The control, or null with the reason why a person could not use it.

@@ -1,6 +1,7 @@
 #include "qt/dialogs/WindowDialogs.h"
 
 #include "qt/dialogs/SettingSheetDialog.h"
+#include "qt/dialogs/SymbolSearchDialog.h"
 
 namespace zantroq {
 
@@ -19,6 +20,16 @@ void CWindowDialogs::OpenSettingsSheet(const sSheetSubject& subject, SettingsAcc
             done(sheet->Edit());
     };
     Open(*sheet);
+}
+
+void CWindowDialogs::OpenSymbolSearch(SymbolChosen done)
+{
+    auto* const search = new CSymbolSearchDialog(m_over, m_feedKey, m_box);
+    search->OnClosed = [search, done = std::move(done)](DialogEnd end) {
+        if (end == DialogEnd::Ok)
+            done(search->Result());
+    };
+    Open(*search);
 }
 
 void CWindowDialogs::Drop()

@@ -14,12 +14,18 @@ namespace zantroq {
 class CWindowDialogs : public IWindowDialogs
 {
 public:
-    explicit CWindowDialogs(QWidget& over) : m_over(over) {} // a widget inside the chart's window
+    // A widget inside the chart's window, the feed's ports, and the chart's message box.
+    CWindowDialogs(QWidget& over, std::shared_ptr<ISettingsKey> feedKey, IMessageBox& box)
+        : m_over(over), m_feedKey(std::move(feedKey)), m_box(box)
+    {
+    }
     ~CWindowDialogs() override { Drop(); }
 
     // Closes an open dialog as if it had never been there.
     void Drop();
 
+    bool HasSymbolSearch() const override { return true; }
+    void OpenSymbolSearch(SymbolChosen done) override;
     bool HasSettingsSheet() const override { return true; }
     void OpenSettingsSheet(const sSheetSubject& subject, SettingsAccepted done) override;
     bool HasPrint() const override { return true; }
@@ -32,6 +38,8 @@ private:
     void Open(CFormDialog& dialog);
 
     QWidget& m_over;
+    const std::shared_ptr<ISettingsKey> m_feedKey;
+    IMessageBox& m_box;
     QPointer<CFormDialog> m_dialog;
     std::unique_ptr<CFormDialogDriver> m_driver; // of m_dialog while it is open
 };

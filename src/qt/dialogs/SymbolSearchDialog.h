@@ -1,0 +1,33 @@
+// The symbol search as a window: a form with the rules of search/SymbolSearch.h behind it. Chart window's
+// thread.
+#pragma once
+
+#include "platform/settings/SettingsKey.h"
+#include "qt/dialogs/FormDialog.h"
+#include "qt/dialogs/WindowThread.h"
+#include "search/FindLookup.h"
+#include "search/SymbolSearch.h"
+
+#include <memory>
+
+namespace zantroq {
+
+class CSymbolSearchDialog : public CFormDialog
+{
+public:
+    // `feedKey` holds the feed's ports. Fetches the markets, which waits for the feed.
+    CSymbolSearchDialog(QWidget& over, const std::shared_ptr<ISettingsKey>& feedKey, IMessageBox& box);
+    ~CSymbolSearchDialog() override;
+
+    const std::string& Result() const { return m_rules->Result(); } // of a dialog closed with OK
+    SearchProgress Search() const override { return m_rules->Progress(); }
+    CQtForm& FormOnShow() override { return *m_form; }
+
+private:
+    CWindowThread m_thread;
+    CFindLookupMaker m_lookup;
+    std::unique_ptr<CQtForm> m_form;
+    std::unique_ptr<CSymbolSearch> m_rules; // goes first
+};
+
+} // namespace zantroq
