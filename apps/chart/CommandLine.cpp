@@ -16,8 +16,8 @@ namespace {
 constexpr QSize WindowSize(900, 700), PictureSize(620, 460);
 constexpr int LeastSide = 1, GreatestSide = 16'384;
 
-constexpr std::array SingleOptions{"--data",   "--interval", "--size",  "--feed",
-                                   "--settle", "--timeout",  "--replay"};
+constexpr std::array SingleOptions{"--data",   "--interval", "--size",   "--feed",
+                                   "--settle", "--timeout",  "--replay", "--into"};
 
 struct sWrongUsage
 {
@@ -26,7 +26,7 @@ struct sWrongUsage
 
 struct sTexts
 {
-    std::string Data, Interval, Size, Feed, Settle, Timeout;
+    std::string Data, Interval, Size, Feed, Settle, Timeout, Into;
 };
 
 template<class TNumber> bool ReadWhole(const std::string& text, TNumber& number)
@@ -101,6 +101,21 @@ int ReadMilliseconds(const std::string& option, const std::string& text, double 
     return static_cast<int>(number * unit);
 }
 
+// Decimal, or hexadecimal behind 0x, as the tools of X11 write it.
+std::uint32_t ReadWindowId(const std::string& text)
+{
+    const bool hex = text.starts_with("0x") || text.starts_with("0X");
+    const char* const begin = text.data() + (hex ? 2 : 0);
+    const char* const end = text.data() + text.size();
+    std::uint32_t id = 0;
+    const auto read = std::from_chars(begin, end, id, hex ? 16 : 10);
+    if (begin == end || read.ec != std::errc() || read.ptr != end || id == 0)
+        Refuse("--into", text,
+               "not the number of a window; use decimal digits, or hexadecimal ones behind 0x, as xwininfo "
+               "writes them");
+    return id;
+}
+
 // Of two values nobody can say which one was meant.
 void CheckGivenOnce(const CLI::App& app)
 {
@@ -143,6 +158,10 @@ void CheckTogether(const CLI::App& app, const sCommandLine& line)
     if (!line.Snapshots.empty() && !line.Replay.empty())
         throw sWrongUsage{
             "--snapshot and --replay: cannot be given together; put snapshot steps into the script"};
+    if (line.Into && (!line.Snapshots.empty() || !line.Replay.empty()))
+        throw sWrongUsage{"--into: shows a chart to a person; leave --snapshot and --replay out"};
+    if (line.Into && line.Size)
+        throw sWrongUsage{"--into and --size: the other program's window gives the size; leave --size out"};
     if (line.Show && line.Replay.empty())
         throw sWrongUsage{"--show: goes with --replay FILE alone; without --snapshot a window opens anyway"};
 }
@@ -189,6 +208,9 @@ std::optional<sCommandLine> ReadCommandLine(int argc, char** argv, int& exitCode
                    "With --snapshot: give up after so long without a complete reply (default 30)")
         ->type_name("S");
     app.add_option("--replay", line.Replay, "Run a script of steps instead of a person")->type_name("FILE");
+    app.add_option("--into", texts.Into,
+                   "Show the chart in this window of another program (X11), and end with that window")
+        ->type_name("WINDOW-ID");
     app.add_flag("--show", line.Show, "With --replay: in a window");
     app.set_version_flag("--version", "zantroq-chart " ZANTROQ_VERSION);
     app.footer("Exit codes: 0 done, 2 wrong usage, 3 the feed gave no answer in time, 4 an output could not "
@@ -212,6 +234,8 @@ std::optional<sCommandLine> ReadCommandLine(int argc, char** argv, int& exitCode
             line.SettleMs = ReadMilliseconds("--settle", texts.Settle, 1);
         if (app.count("--timeout") > 0)
             line.TimeoutMs = ReadMilliseconds("--timeout", texts.Timeout, 1000);
+        if (app.count("--into") > 0)
+            line.Into = ReadWindowId(texts.Into);
         CheckTogether(app, line);
         CheckSnapshots(app, line);
     } catch (const CLI::Success& asked) { // --help and --version

@@ -3,6 +3,7 @@
 
 #include <QSize>
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -30,6 +31,7 @@ struct sCommandLine
     int TimeoutMs = 30'000;
     std::string Replay; // a script's file; may be empty
     bool Show = false;
+    std::optional<std::uint32_t> Into; // a window of another program
 
     // Whether a person is to see a window.
     bool NeedsDisplay() const { return (Snapshots.empty() && Replay.empty()) || Show; }

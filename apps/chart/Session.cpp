@@ -41,6 +41,7 @@ CSession::CSession(const sCommandLine& line) : m_line(line) {}
 
 CSession::~CSession()
 {
+    m_foreign.reset();
     m_window.reset();
 }
 
@@ -48,6 +49,8 @@ int CSession::Run()
 {
     if (!m_line.Replay.empty())
         return RunReplay(); // reads its script before anything starts
+    if (m_line.Into && !FindForeignWindow())
+        return ExitUsage;
     if (!StartFeed())
         return ExitNoAnswer;
     MakeWindow();
@@ -82,9 +85,27 @@ void CSession::MakeWindow()
     ApplyOptions();
     QObject::connect(m_window.get(), &QWidget::windowTitleChanged, qApp, [this] { WatchSymbol(); });
     if (m_line.NeedsDisplay())
-        m_window->show();
+        ShowWindow();
     if (!m_line.Symbol.empty())
         m_window->Control().SetStockSymbol(QString::fromStdString(m_line.Symbol));
+}
+
+bool CSession::FindForeignWindow()
+{
+    QString wrong;
+    m_foreign = CForeignWindow::Find(*m_line.Into, wrong);
+    if (m_foreign != nullptr)
+        return true;
+    Complain("--into " + std::to_string(*m_line.Into) + ": " + wrong.toStdString());
+    return false;
+}
+
+void CSession::ShowWindow()
+{
+    if (m_foreign == nullptr)
+        return m_window->show();
+    m_foreign->Gone = [] { QApplication::exit(ExitDone); };
+    m_foreign->Take(*m_window);
 }
 
 void CSession::ApplyOptions()
@@ -128,6 +149,7 @@ void CSession::WatchSymbol()
 
 int CSession::RunWindow()
 {
+    const CChartService service(m_window->Control());
     return QApplication::exec();
 }
 

@@ -1,9 +1,11 @@
 // One run of the program with a chart in it: a window for a person, a picture, or a script.
 #pragma once
 
+#include "ChartService.h"
 #include "CommandLine.h"
 #include "EmbeddedFeed.h"
 #include "HostWindow.h"
+#include "control/ForeignWindow.h"
 #include "replay/ReplayRunner.h"
 
 #include <map>
@@ -26,6 +28,8 @@ private:
     int RunReplay();
     bool StartFeed();
     void MakeWindow();
+    bool FindForeignWindow();
+    void ShowWindow();
     void ApplyOptions(); // data type, interval, size: before the symbol
     void OnNotice(const QString& sentence);
     void WatchSymbol();
@@ -43,7 +47,8 @@ private:
     std::unique_ptr<CEmbeddedFeed> m_feed; // outlives the window
     CReplayMessageBox m_boxes;
     std::unique_ptr<CHostWindow> m_window;
-    std::map<QString, QString> m_notices; // what is simulated, by symbol
+    std::unique_ptr<CForeignWindow> m_foreign; // with the window in it; may be absent
+    std::map<QString, QString> m_notices;      // what is simulated, by symbol
     std::set<QString> m_said;
 };
 

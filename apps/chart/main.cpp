@@ -101,6 +101,10 @@ int RunProgram(int argc, char** argv)
                  ": not a look; use light, dark or system");
         return ExitUsage;
     }
+    // Another program's window is one of X11, also on a desktop that has both.
+    if (line->Into && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") &&
+        !qEnvironmentVariableIsEmpty("DISPLAY"))
+        qputenv("QT_QPA_PLATFORM", "xcb");
     qInstallMessageHandler(OnToolkitMessage);
     if (qEnvironmentVariableIsEmpty("QT_STYLE_OVERRIDE"))
         QApplication::setStyle("Fusion");

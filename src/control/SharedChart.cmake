@@ -13,7 +13,7 @@ target_include_directories(zantroq_chart INTERFACE
     $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}/include> $<INSTALL_INTERFACE:include>)
 target_link_libraries(zantroq_chart
     PUBLIC Qt6::Widgets
-    PRIVATE chartqt)
+    PRIVATE chartqt PkgConfig::xcb)
 # nodelete: Qt keeps pointers into a library that has made widgets (meta objects, icons) after the last of them has gone.
 target_link_options(zantroq_chart PRIVATE
     LINKER:--version-script=${CMAKE_CURRENT_LIST_DIR}/exports.map LINKER:-z,nodelete)

@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QImage>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QRegularExpression>
@@ -134,6 +135,20 @@ protected:
         const sRun built = RunProgram(ZANTROQ_CMAKE, {"--build", folder}, Environment());
         EXPECT_EQ(built.ExitCode, 0) << (built.Out + built.Err).toStdString();
         return folder;
+    }
+
+    // A chart has candles, axes and labels: many colors, none of them on nearly all of the picture.
+    static void ExpectAChart(const QString& file, const QRect& part)
+    {
+        const QImage picture(file);
+        ASSERT_TRUE(picture.rect().contains(part)) << picture.width() << " x " << picture.height();
+        QHash<QRgb, int> colors;
+        for (int y = part.top(); y <= part.bottom(); ++y)
+            for (int x = part.left(); x <= part.right(); ++x)
+                ++colors[picture.pixel(x, y)];
+        EXPECT_GT(colors.size(), 20);
+        for (const int count : colors)
+            EXPECT_LT(count, 0.97 * part.width() * part.height());
     }
 
     QTemporaryDir m_folder;

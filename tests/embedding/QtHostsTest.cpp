@@ -1,28 +1,11 @@
 // The Qt examples, built against the installed copy and run with its feed until their charts are drawn.
 #include "InstalledCopy.h"
 
-#include <QImage>
-#include <QSet>
-
 namespace zantroq::test {
 namespace {
 
 class QtHosts : public CInstalledCopy
 {
-protected:
-    // A chart has candles, axes and labels: many colors, none of them on nearly all of the picture.
-    static void ExpectAChart(const QString& file, const QRect& part)
-    {
-        const QImage picture(file);
-        ASSERT_TRUE(picture.rect().contains(part)) << picture.width() << " x " << picture.height();
-        QHash<QRgb, int> colors;
-        for (int y = part.top(); y <= part.bottom(); ++y)
-            for (int x = part.left(); x <= part.right(); ++x)
-                ++colors[picture.pixel(x, y)];
-        EXPECT_GT(colors.size(), 20);
-        for (const int count : colors)
-            EXPECT_LT(count, 0.97 * part.width() * part.height());
-    }
 };
 
 } // namespace

@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <QWidget>
+#include <QWindow>
 
 namespace zantroq {
 namespace {
@@ -16,6 +17,12 @@ sWindowRect FromRect(const QRect& rect)
 bool WindowsHavePlaces()
 {
     return !QGuiApplication::platformName().startsWith("wayland");
+}
+
+// In a window of another program, which places it.
+bool IsEmbedded(const QWidget& window)
+{
+    return window.windowHandle() != nullptr && window.windowHandle()->parent() != nullptr;
 }
 
 } // namespace
@@ -36,6 +43,8 @@ void CTopLevelWindow::SetTitle(const std::string& title)
 sWindowRect CTopLevelWindow::NormalRect() const
 {
     const QWidget& window = *m_inside.window();
+    if (IsEmbedded(window) && m_size.isValid())
+        return FromRect(QRect(m_place, m_size));
     const QRect normal = window.normalGeometry();
     const bool restored = !window.isMaximized() && !window.isFullScreen() && !window.isMinimized();
     QRect rect = restored || normal.isEmpty() ? window.geometry() : normal;
@@ -53,6 +62,9 @@ void CTopLevelWindow::MoveTo(const sWindowRect& rect)
 {
     m_place = {rect.Left, rect.Top};
     const QSize size(rect.Right - rect.Left, rect.Bottom - rect.Top);
+    m_size = size;
+    if (IsEmbedded(*m_inside.window()))
+        return;
     if (WindowsHavePlaces())
         m_inside.window()->setGeometry(QRect(m_place, size));
     else
@@ -61,6 +73,8 @@ void CTopLevelWindow::MoveTo(const sWindowRect& rect)
 
 void CTopLevelWindow::Maximize()
 {
+    if (IsEmbedded(*m_inside.window()))
+        return;
     m_inside.window()->setWindowState(m_inside.window()->windowState() | Qt::WindowMaximized);
 }
 

@@ -4,6 +4,7 @@
 #include "platform/WindowServices.h"
 
 #include <QPoint>
+#include <QSize>
 
 class QWidget;
 
@@ -28,7 +29,10 @@ public:
 private:
     QWidget& m_inside;
     std::string m_caption;
-    QPoint m_place; // what MoveTo asked for last; where windows have no place, it stands for theirs
+    // What MoveTo asked for last. It stands for the place where windows have none, and for place and size
+    // inside another program's window, which stays as that program has it.
+    QPoint m_place;
+    QSize m_size;
 };
 
 } // namespace zantroq

@@ -1,0 +1,54 @@
+// A window of another program on X11 with a widget in it: the widget fills the window, follows its size, and
+// its owner hears when the window has gone. Thread of the application's widgets.
+#pragma once
+
+#include <QObject>
+#include <QSize>
+#include <QString>
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+
+class QSocketNotifier;
+class QWidget;
+class QWindow;
+struct xcb_connection_t;
+
+namespace zantroq {
+
+class CForeignWindow : public QObject
+{
+public:
+    // Nothing, with one sentence in `wrong`, where the platform is not X11 or has no such window.
+    static std::unique_ptr<CForeignWindow> Find(std::uint32_t id, QString& wrong);
+    // The window must outlive the widget's place in it; the widget is hidden and leaves it.
+    ~CForeignWindow() override;
+
+    // Shows the widget in the window. Once; the widget must outlive this object.
+    void Take(QWidget& widget);
+
+    std::function<void()> Gone; // called once, after the window was destroyed
+
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    explicit CForeignWindow(std::uint32_t id);
+    bool Open(QString& wrong);
+    void ReadEvents();
+    void Fit();
+    void TakeKeyboard();
+    void End();
+
+    const std::uint32_t m_id;
+    // A connection of its own, since the toolkit's reports nothing of windows that are not the toolkit's.
+    xcb_connection_t* m_connection = nullptr;
+    std::unique_ptr<QSocketNotifier> m_notifier;
+    std::unique_ptr<QWindow> m_window;
+    QWidget* m_widget = nullptr; // not owned
+    QSize m_size;                // of the window, in pixels of the screen
+    bool m_gone = false;
+};
+
+} // namespace zantroq
