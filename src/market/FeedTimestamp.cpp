@@ -60,7 +60,7 @@ bool CFeedTimestamp::FindDay(std::string_view text, double& dayNumber)
         return false;
     if (!m_known || std::memcmp(m_date.data(), text.data(), DateLength) != 0) {
         const sTIME_W_MILLISECONDS day = MakeTime(DateParts(text));
-        // Before 1900 the time of day is subtracted; such dates take the plain road.
+        // Before 1900 the time of day is subtracted; such dates take the slow path.
         m_known = day.Status == TimeValid && day.Time >= 0;
         if (!m_known)
             return false;

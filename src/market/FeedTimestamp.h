@@ -27,8 +27,8 @@ private:
     static constexpr std::size_t DateLength = 10, TimeOffset = 11;
 
     void Read(std::string_view text, std::uint16_t milliseconds, sTIME_W_MILLISECONDS& time);
-    // The day number with the time of day of a text of at least 19 characters; false when it takes the plain
-    // road.
+    // The fast path: the day number with the time of day of a text of at least 19 characters. False when the
+    // text needs the slow path.
     bool ReadClock(std::string_view text, double& time);
     bool FindDay(std::string_view text, double& dayNumber);
 

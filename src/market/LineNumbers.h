@@ -15,7 +15,7 @@ template<class Fields> double PriceField(const Fields& fields, int field)
     return TextToDouble(fields.At(field), fields.Before(field));
 }
 
-// A quick look serves a field of digits alone that fits; else the rules themselves.
+// Fast path for a field of digits alone that fits the type; slow path: the full rules.
 template<auto ByTheRules, class Fields> auto WholeField(const Fields& fields, int field)
 {
     using Number = decltype(ByTheRules(std::string_view()));

@@ -44,7 +44,7 @@ void ReadTickNumbers(const HistoryFields& fields, sTickBatch& ticks, std::size_t
     }
     CDigitPair quotes(fields.End(5), fields.End(6)), lastAndVolume(fields.End(2), fields.End(4));
     const CDigitPair sizeAndId(fields.End(3), fields.End(7));
-    // The volume of a busy day has more than eight digits, so it alone takes the plain road.
+    // The volume of a busy day has more than eight digits, so it alone takes the slow path.
     const bool plainVolume = (longFields | (lastAndVolume.MarkNoDigits() & VolumeHalf)) == 0;
     __m128d quotePowers, lastPower;
     if (!quotes.TakePoints(quotePowers) || !lastAndVolume.TakePoints(lastPower) ||

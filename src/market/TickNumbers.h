@@ -9,7 +9,7 @@ namespace zantroq {
 // Fills the prices, sizes and numbers of the tick `at`. REQUIRES: nine fields.
 void ReadTickNumbers(const HistoryFields& fields, sTickBatch& ticks, std::size_t at);
 
-// What ReadTickNumbers does, field by field: the road of all fields that are not short plain numbers.
+// Slow path of ReadTickNumbers, field by field: for every field that is not a short plain number.
 void ReadTickNumbersPlainly(const HistoryFields& fields, sTickBatch& ticks, std::size_t at);
 
 } // namespace zantroq

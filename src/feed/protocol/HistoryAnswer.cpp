@@ -1,6 +1,6 @@
 #include "feed/protocol/HistoryAnswer.h"
 
-#include "feed/protocol/HistoryReply.h"
+#include "feed/protocol/HistoryReplyWriter.h"
 
 namespace zantroq::feed {
 
@@ -34,7 +34,7 @@ void CHistoryAnswer::Begin()
     }
     if (m_market->IsSimulated())
         m_catalog.NotifySimulated(m_command.Symbol, "history");
-    m_reply = std::make_unique<CHistoryReply>(std::move(points), m_command, m_market);
+    m_reply = std::make_unique<CHistoryReplyWriter>(std::move(points), m_command, m_market);
 }
 
 void CHistoryAnswer::Refuse(const std::string& reason)

@@ -5,7 +5,7 @@
 
 #include "feed/markets/MarketCatalog.h"
 #include "feed/protocol/FeedReply.h"
-#include "feed/protocol/HistoryCommand.h"
+#include "feed/protocol/HistoryCommandReader.h"
 
 namespace zantroq::feed {
 

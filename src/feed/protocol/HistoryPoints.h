@@ -3,7 +3,7 @@
 #pragma once
 
 #include "feed/markets/MarketSource.h"
-#include "feed/protocol/HistoryCommand.h"
+#include "feed/protocol/HistoryCommandReader.h"
 
 #include <memory>
 #include <string>

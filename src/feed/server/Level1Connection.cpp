@@ -29,7 +29,7 @@ void CLevel1Connection::OnRead(std::error_code error, std::size_t count)
         Close();
         return;
     }
-    m_cutter.Take(
+    m_lines.Take(
         {m_received.data(), count},
         [&](std::string_view line) {
             m_hasSentLine = true;

@@ -2,8 +2,8 @@
 // feed's thread.
 #pragma once
 
+#include "feed/protocol/ClientLines.h"
 #include "feed/protocol/Level1Session.h"
-#include "feed/protocol/LineCutter.h"
 #include "feed/server/PeerWatch.h"
 #include "feed/server/SilentClients.h"
 #include "feed/server/WorkTurns.h"
@@ -47,7 +47,7 @@ private:
     asio::steady_timer m_timer;
     CWorkTurns& m_turns;
     CLevel1Session m_session;
-    CLineCutter m_cutter;
+    CClientLines m_lines;
     std::string m_pending, m_underWay; // to be sent next, being sent
     std::array<char, 4096> m_received;
     bool m_hasSentLine = false, m_sending = false, m_reading = false, m_closed = false;

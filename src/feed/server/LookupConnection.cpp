@@ -26,7 +26,7 @@ void CLookupConnection::OnRead(std::error_code error, std::size_t count)
         m_ended = true;
         return;
     }
-    m_cutter.Take(
+    m_lines.Take(
         {m_received.data(), count},
         [&](std::string_view line) {
             m_hasSentLine = true;

@@ -2,7 +2,7 @@
 // feed's thread.
 #pragma once
 
-#include "feed/protocol/LineCutter.h"
+#include "feed/protocol/ClientLines.h"
 #include "feed/protocol/LookupSession.h"
 #include "feed/server/PeerWatch.h"
 #include "feed/server/SilentClients.h"
@@ -43,7 +43,7 @@ private:
     CPeerWatch m_peer{m_socket};
     CWorkTurns& m_turns;
     CLookupSession m_session;
-    CLineCutter m_cutter;
+    CClientLines m_lines;
     CTextBlock m_block;
     std::array<char, 8192> m_received;
     bool m_hasSentLine = false, m_reading = false, m_sending = false, m_ended = false;

@@ -81,18 +81,18 @@ private:
     class CStatement;
     class CTransaction;
 
-    enum class Door
+    enum class OpenMode
     {
-        Ordinary,
-        Frozen // without locks and logs
+        Normal,
+        Immutable // without locks and logs
     };
 
     bool Open(Access access); // false: no file, and only reading was asked for
     void OpenHandle(Access access, bool exists);
-    void OpenDoor(Door door, const std::string& path, Access access);
+    void OpenConnection(OpenMode mode, const std::string& path, Access access);
     void OpenCopy(const std::string& followed);
     void RefuseSideFiles(const std::string& followed);
-    void RefuseByLook(const std::string& followed);
+    void RefuseByProbe(const std::string& followed);
     void CheckContents(Access access);
     void CreateContents();
     void Close();
@@ -109,8 +109,8 @@ private:
     std::map<std::string, sqlite3_stmt*, std::less<>>
         m_statements; // by their text, for the life of the connection
     bool m_hasTable = false;
-    bool m_reopen = false; // something failed: look at the file afresh
-    bool m_frozen = false; // opened without locks or as a copy, because it cannot be written where it is
+    bool m_reopen = false;   // something failed: look at the file afresh
+    bool m_readOnly = false; // opened without locks or as a copy, because it cannot be written where it is
     std::uint64_t m_device = 0, m_inode = 0; // which file the connection is on
 };
 

@@ -2,7 +2,7 @@
 // something fails.
 #include "platform/settings/SettingsFile.h"
 
-#include "platform/settings/SettingsFileLook.h"
+#include "platform/settings/SettingsFileProbe.h"
 #include "platform/settings/SettingsStatement.h"
 
 #include <cerrno>
@@ -43,7 +43,7 @@ bool CSettingsFile::Open(Access access)
             SettingsProblem::NoPlace,
             "no place for the settings file: neither ZANTROQ_SETTINGS, XDG_CONFIG_HOME nor "
             "HOME is set; set one of them");
-    if (m_db && (m_reopen || m_frozen || !SameFile()))
+    if (m_db && (m_reopen || m_readOnly || !SameFile()))
         Close();
     if (!m_db) {
         struct stat about
@@ -72,7 +72,7 @@ bool CSettingsFile::Open(Access access)
                                          "a place that can be written");
         OpenHandle(access, exists);
     }
-    if (access == Access::Write && m_frozen)
+    if (access == Access::Write && m_readOnly)
         Fail(SQLITE_READONLY, access);
     if (access == Access::Write && !m_hasTable)
         CreateContents();
@@ -88,39 +88,39 @@ void CSettingsFile::OpenHandle(Access access, bool exists)
     const std::string followed = FollowedPath(m_path);
     RefuseSideFiles(followed);
     if (exists)
-        RefuseByLook(followed);
+        RefuseByProbe(followed);
     // A file that cannot be written is read without locks and without the two side files, which could not be
     // made or would be left behind. Where a log is pending it must be read through the ordinary door, and
     // where that is closed, in a copy.
     const bool hasLog = exists && HasPendingLog(followed);
-    const bool freeze = exists && !hasLog && ::access(m_path.c_str(), W_OK) != 0;
+    const bool immutable = exists && !hasLog && ::access(m_path.c_str(), W_OK) != 0;
     try {
-        OpenDoor(freeze ? Door::Frozen : Door::Ordinary, m_path, access);
+        OpenConnection(immutable ? OpenMode::Immutable : OpenMode::Normal, m_path, access);
         return;
     } catch (const CSettingsFileError& error) {
         Close();
-        const bool closedDoor =
+        const bool noAccess =
             error.Problem == SettingsProblem::Unreadable || error.Problem == SettingsProblem::Unwritable;
-        if (freeze || !exists || access == Access::Write || !closedDoor)
+        if (immutable || !exists || access == Access::Write || !noAccess)
             throw;
     }
     try {
         if (hasLog)
             OpenCopy(followed);
         else
-            OpenDoor(Door::Frozen, m_path, access);
+            OpenConnection(OpenMode::Immutable, m_path, access);
     } catch (...) {
         Close();
         throw;
     }
 }
 
-void CSettingsFile::OpenDoor(Door door, const std::string& path, Access access)
+void CSettingsFile::OpenConnection(OpenMode mode, const std::string& path, Access access)
 {
-    m_frozen = door == Door::Frozen;
-    const int flags = m_frozen ? SQLITE_OPEN_READONLY | SQLITE_OPEN_URI
-                               : SQLITE_OPEN_READWRITE | (access == Access::Write ? SQLITE_OPEN_CREATE : 0);
-    const int code = sqlite3_open_v2((m_frozen ? FrozenAddress(path) : path).c_str(), &m_db,
+    m_readOnly = mode == OpenMode::Immutable;
+    const int flags = m_readOnly ? SQLITE_OPEN_READONLY | SQLITE_OPEN_URI
+                                 : SQLITE_OPEN_READWRITE | (access == Access::Write ? SQLITE_OPEN_CREATE : 0);
+    const int code = sqlite3_open_v2((m_readOnly ? ImmutableUri(path) : path).c_str(), &m_db,
                                      flags | SQLITE_OPEN_NOMUTEX, nullptr);
     if (code != SQLITE_OK) {
         const int detail = m_db ? sqlite3_extended_errcode(m_db) : code;
@@ -156,8 +156,8 @@ void CSettingsFile::OpenCopy(const std::string& followed)
         throw CSettingsFileError(SettingsProblem::Unreadable,
                                  m_path + ": the settings file cannot be read together with the log beside "
                                           "it; allow reading both, and writing to their folder");
-    OpenDoor(Door::Ordinary, copy.Path(), Access::Read);
-    m_frozen = true;
+    OpenConnection(OpenMode::Normal, copy.Path(), Access::Read);
+    m_readOnly = true;
 }
 
 // Opening a pipe or a device in the place of a log or journal would wait for ever.
@@ -176,19 +176,19 @@ void CSettingsFile::RefuseSideFiles(const std::string& followed)
 }
 
 // Refuses by its first bytes what must not even be opened.
-void CSettingsFile::RefuseByLook(const std::string& followed)
+void CSettingsFile::RefuseByProbe(const std::string& followed)
 {
-    switch (LookAtSettings(followed)) {
-    case SettingsLook::Usable:
+    switch (ProbeSettings(followed)) {
+    case SettingsProbe::Usable:
         return;
-    case SettingsLook::Noise:
+    case SettingsProbe::Noise:
         Fail(SQLITE_NOTADB, Access::Read);
-    case SettingsLook::CutOff:
+    case SettingsProbe::CutOff:
         throw CSettingsFileError(SettingsProblem::Damaged,
                                  m_path +
                                      ": the settings file is damaged (it is empty, but a log beside it is "
                                      "not); both were left as they are, move them away or restore a copy");
-    case SettingsLook::Foreign:
+    case SettingsProbe::Foreign:
         FailForeign();
     }
 }

@@ -15,7 +15,7 @@ namespace zantroq {
 
 inline constexpr std::uint32_t SettingsApplicationId = 0x5A545251; // "ZTRQ" in the header of the file
 
-enum class SettingsLook
+enum class SettingsProbe
 {
     Usable,  // nothing speaks against opening it; what is in it is still to be checked
     Noise,   // not a data base
@@ -27,13 +27,13 @@ enum class SettingsLook
 std::string FollowedPath(const std::string& path);
 
 // The path as an address under which SQLite reads the file alone, without locks and logs.
-std::string FrozenAddress(const std::string& path);
+std::string ImmutableUri(const std::string& path);
 
 // Whether a write-ahead log with something in it stands beside the file.
 bool HasPendingLog(const std::string& followedPath);
 
 // A file that cannot be read counts as usable: opening it says why.
-SettingsLook LookAtSettings(const std::string& followedPath);
+SettingsProbe ProbeSettings(const std::string& followedPath);
 
 // A copy of a file and its write-ahead log in a folder that only this user can look into, gone with the
 // object. For a log in a place that cannot be written, where SQLite cannot read it.

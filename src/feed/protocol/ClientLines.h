@@ -6,7 +6,7 @@
 
 namespace zantroq::feed {
 
-class CLineCutter
+class CClientLines
 {
 public:
     // Longer than any command; a longer line is reported once and dropped up to its end.

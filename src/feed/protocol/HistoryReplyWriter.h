@@ -7,12 +7,12 @@
 
 namespace zantroq::feed {
 
-class CHistoryReply : public IFeedReply
+class CHistoryReplyWriter : public IFeedReply
 {
 public:
     // `market` is the source of the points; the reply keeps it alive.
-    CHistoryReply(std::unique_ptr<IHistoryPoints> points, const sHISTORY_COMMAND& command,
-                  std::shared_ptr<const IMarketSource> market = nullptr);
+    CHistoryReplyWriter(std::unique_ptr<IHistoryPoints> points, const sHISTORY_COMMAND& command,
+                        std::shared_ptr<const IMarketSource> market = nullptr);
     WorkProgress Write(CTextBlock& block, std::size_t limit, CWorkSlice& slice) override;
 
 private:

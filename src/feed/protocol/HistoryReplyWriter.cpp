@@ -1,11 +1,12 @@
-#include "feed/protocol/HistoryReply.h"
+#include "feed/protocol/HistoryReplyWriter.h"
 
 #include "feed/markets/TextWriter.h"
 
 namespace zantroq::feed {
 
-CHistoryReply::CHistoryReply(std::unique_ptr<IHistoryPoints> points, const sHISTORY_COMMAND& command,
-                             std::shared_ptr<const IMarketSource> market)
+CHistoryReplyWriter::CHistoryReplyWriter(std::unique_ptr<IHistoryPoints> points,
+                                         const sHISTORY_COMMAND& command,
+                                         std::shared_ptr<const IMarketSource> market)
     : m_market(std::move(market)),
       m_points(std::move(points)),
       m_command(command),
@@ -15,7 +16,7 @@ CHistoryReply::CHistoryReply(std::unique_ptr<IHistoryPoints> points, const sHIST
 {
 }
 
-bool CHistoryReply::ChooseDays(CWorkSlice& slice)
+bool CHistoryReplyWriter::ChooseDays(CWorkSlice& slice)
 {
     if (m_chosen)
         return true;
@@ -33,7 +34,7 @@ bool CHistoryReply::ChooseDays(CWorkSlice& slice)
     return true;
 }
 
-bool CHistoryReply::ChooseByCount(CWorkSlice& slice)
+bool CHistoryReplyWriter::ChooseByCount(CWorkSlice& slice)
 {
     while (m_dayBegin > 0 && m_wanted > 0) {
         std::size_t count = 0;
@@ -48,7 +49,7 @@ bool CHistoryReply::ChooseByCount(CWorkSlice& slice)
     return true;
 }
 
-void CHistoryReply::ChooseByDays()
+void CHistoryReplyWriter::ChooseByDays()
 {
     m_dayBegin = 0;
     if (m_command.Days == 0 || m_dayEnd == 0)
@@ -58,7 +59,7 @@ void CHistoryReply::ChooseByDays()
         --m_dayBegin;
 }
 
-void CHistoryReply::DropDaysOutsideRange()
+void CHistoryReplyWriter::DropDaysOutsideRange()
 {
     // A bar stamped midnight belongs to the day before. Longer bars are all in one load.
     if (m_points->DayCount() <= 1)
@@ -70,7 +71,7 @@ void CHistoryReply::DropDaysOutsideRange()
         --m_dayEnd;
 }
 
-bool CHistoryReply::LoadNextDay(CWorkSlice& slice)
+bool CHistoryReplyWriter::LoadNextDay(CWorkSlice& slice)
 {
     const std::size_t position = m_command.OldestFirst ? m_dayBegin : m_dayEnd - 1;
     if (!m_points->Load(position, slice))
@@ -84,7 +85,7 @@ bool CHistoryReply::LoadNextDay(CWorkSlice& slice)
     return true;
 }
 
-bool CHistoryReply::IsWanted(TFeedTime stamp) const
+bool CHistoryReplyWriter::IsWanted(TFeedTime stamp) const
 {
     if ((m_command.Begin && stamp < *m_command.Begin) || (m_command.End && stamp > *m_command.End))
         return false;
@@ -92,7 +93,7 @@ bool CHistoryReply::IsWanted(TFeedTime stamp) const
     return timeOfDay >= m_command.FilterBegin && timeOfDay <= m_command.FilterEnd;
 }
 
-WorkProgress CHistoryReply::Write(CTextBlock& block, std::size_t limit, CWorkSlice& slice)
+WorkProgress CHistoryReplyWriter::Write(CTextBlock& block, std::size_t limit, CWorkSlice& slice)
 {
     if (!ChooseDays(slice))
         return WorkProgress::More;
@@ -105,7 +106,7 @@ WorkProgress CHistoryReply::Write(CTextBlock& block, std::size_t limit, CWorkSli
     return WorkProgress::More;
 }
 
-bool CHistoryReply::WriteStep(CTextBlock& block, CWorkSlice& slice)
+bool CHistoryReplyWriter::WriteStep(CTextBlock& block, CWorkSlice& slice)
 {
     if (m_first != m_last) {
         WritePoint(block);
@@ -121,7 +122,7 @@ bool CHistoryReply::WriteStep(CTextBlock& block, CWorkSlice& slice)
     return false;
 }
 
-void CHistoryReply::WritePoint(CTextBlock& block)
+void CHistoryReplyWriter::WritePoint(CTextBlock& block)
 {
     const std::size_t point = m_command.OldestFirst ? m_first++ : --m_last;
     if (m_filtered && !IsWanted(m_points->Stamp(point)))

@@ -1,4 +1,4 @@
-#include "feed/protocol/HistoryCommand.h"
+#include "feed/protocol/HistoryCommandReader.h"
 
 #include "feed/markets/CsvLine.h"
 

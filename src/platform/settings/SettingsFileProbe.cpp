@@ -1,4 +1,4 @@
-#include "platform/settings/SettingsFileLook.h"
+#include "platform/settings/SettingsFileProbe.h"
 
 #include "platform/TemporaryFile.h"
 
@@ -34,7 +34,7 @@ class CRawFile
 public:
     explicit CRawFile(const std::string& path)
     {
-        if (sqlite3_open_v2(FrozenAddress(path).c_str(), &m_db,
+        if (sqlite3_open_v2(ImmutableUri(path).c_str(), &m_db,
                             SQLITE_OPEN_READONLY | SQLITE_OPEN_URI | SQLITE_OPEN_NOMUTEX,
                             nullptr) == SQLITE_OK)
             sqlite3_file_control(m_db, "main", SQLITE_FCNTL_FILE_POINTER, &m_file);
@@ -106,7 +106,7 @@ std::string FollowedPath(const std::string& path)
     return error ? path : followed.string();
 }
 
-std::string FrozenAddress(const std::string& path)
+std::string ImmutableUri(const std::string& path)
 {
     static constexpr char Digits[] = "0123456789abcdef";
     std::string address = "file:";
@@ -128,7 +128,7 @@ bool HasPendingLog(const std::string& followedPath)
     return ::stat((followedPath + "-wal").c_str(), &about) == 0 && about.st_size > 0;
 }
 
-SettingsLook LookAtSettings(const std::string& followedPath)
+SettingsProbe ProbeSettings(const std::string& followedPath)
 {
     // The logs first: another process may be making the file just now, and then the file has grown by the
     // time that there is a log.
@@ -136,24 +136,24 @@ SettingsLook LookAtSettings(const std::string& followedPath)
     const sJournal journal = JournalOf(followedPath);
     const CRawFile file(followedPath);
     if (!file.IsOpen())
-        return SettingsLook::Usable;
+        return SettingsProbe::Usable;
     if (file.Size() == 0)
-        return hasLog || (journal.IsHot && !journal.IsOfEmptyFile) ? SettingsLook::CutOff
-                                                                   : SettingsLook::Usable;
+        return hasLog || (journal.IsHot && !journal.IsOfEmptyFile) ? SettingsProbe::CutOff
+                                                                   : SettingsProbe::Usable;
     const auto header = file.Bytes(HeaderSize);
     if (!header)
-        return SettingsLook::Usable;
+        return SettingsProbe::Usable;
     if (header->size() < HeaderSize || !header->starts_with(Magic))
-        return SettingsLook::Noise;
+        return SettingsProbe::Noise;
     const std::uint32_t application = NumberAt(*header, ApplicationIdAt, 4);
     if (application == SettingsApplicationId)
-        return SettingsLook::Usable;
+        return SettingsProbe::Usable;
     if (application != 0)
-        return SettingsLook::Foreign;
+        return SettingsProbe::Foreign;
     // Nobody's by its header. One of ours whose making is still in the log looks like that, too; a journal
     // would be played back before its contents could be checked.
-    return !journal.IsHot || (journal.IsOfEmptyFile && HasNoTables(file)) ? SettingsLook::Usable
-                                                                          : SettingsLook::Foreign;
+    return !journal.IsHot || (journal.IsOfEmptyFile && HasNoTables(file)) ? SettingsProbe::Usable
+                                                                          : SettingsProbe::Foreign;
 }
 
 CSettingsCopy::CSettingsCopy(const std::string& followedPath)
