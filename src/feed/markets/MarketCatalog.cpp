@@ -2,7 +2,6 @@
 
 #include "feed/markets/CsvLine.h"
 #include "feed/markets/RecordedMarket.h"
-#include "feed/markets/Recording.h"
 #include "feed/markets/ReferenceTables.h"
 #include "feed/markets/SimulatedMarket.h"
 #include "feed/markets/SimulatedSymbols.h"
@@ -21,7 +20,8 @@ constexpr sENDING Endings[] = {{".tick.csv", RecordingKind::Ticks},
                                {".minute.csv", RecordingKind::Minutes},
                                {".daily.csv", RecordingKind::Daily}};
 
-void Tell(const CMarketCatalog::TNotice& notice, const std::string& file, const sRECORDING_REPORT& report)
+void NotifyReport(const CMarketCatalog::TNotice& notice, const std::string& file,
+                  const sRECORDING_REPORT& report)
 {
     for (const std::string& problem : report.Problems)
         notice(problem);
@@ -30,6 +30,27 @@ void Tell(const CMarketCatalog::TNotice& notice, const std::string& file, const 
     if (report.SkippedRows > 0)
         notice(file + ": " + std::to_string(report.SkippedRows) +
                (report.SkippedRows == 1 ? " row" : " rows") + " skipped");
+}
+
+// Null if the file name is not that of a recording, or has no symbol.
+const sENDING* EndingOf(std::string_view name)
+{
+    for (const sENDING& ending : Endings)
+        if (name.ends_with(ending.Text) && name.size() > ending.Text.size())
+            return &ending;
+    return nullptr;
+}
+
+// Why a recording of this symbol cannot be used; empty if it can.
+std::string SymbolRefusal(std::string_view symbol)
+{
+    if (symbol.starts_with(SimulatedPrefix))
+        return "names that begin with \"SIM.\" are for simulated symbols";
+    if (symbol.find(',') != std::string_view::npos)
+        return "a symbol with a comma cannot be asked for";
+    if (symbol.size() > MaxSymbolLength)
+        return "a symbol of more than " + std::to_string(MaxSymbolLength) + " bytes cannot be asked for";
+    return {};
 }
 
 bool IsNamedSimulation(std::string_view symbol)
@@ -59,7 +80,7 @@ void CMarketCatalog::AddFolder(const std::filesystem::path& folder)
         files.push_back(i->path());
     if (error)
         m_notice(folder.string() + ": cannot be read: " + error.message());
-    // The order in which a folder lists its files is nobody's promise.
+    // Directory order is unspecified.
     std::sort(files.begin(), files.end());
     std::vector<sLISTED_SYMBOL> recorded;
     for (const auto& file : files)
@@ -79,54 +100,55 @@ void CMarketCatalog::List(std::vector<sLISTED_SYMBOL> rows, ListRank rank)
 std::string CMarketCatalog::AddRecording(const std::filesystem::path& path)
 {
     const std::string name = path.filename().string();
-    for (const sENDING& ending : Endings) {
-        if (!name.ends_with(ending.Text) || name.size() == ending.Text.size())
-            continue;
-        const std::string symbol = name.substr(0, name.size() - ending.Text.size());
-        const std::string file = path.string();
-        if (symbol.starts_with(SimulatedPrefix)) {
-            m_notice(file +
-                     ": names that begin with \"SIM.\" are for simulated symbols; the file is not used");
-            return {};
-        }
-        if (symbol.find(',') != std::string::npos) {
-            m_notice(file + ": a symbol with a comma cannot be asked for; the file is not used");
-            return {};
-        }
-        if (symbol.size() > MaxSymbolLength) {
-            m_notice(file + ": a symbol of more than " + std::to_string(MaxSymbolLength) +
-                     " bytes cannot be asked for; the file is not used");
-            return {};
-        }
-        CFileLines lines;
-        if (!lines.Open(path)) {
-            m_notice(file + ": cannot be read; the file is not used");
-            return {};
-        }
-        sRECORDING_REPORT report;
-        sRECORDS read;
-        if (ending.Kind == RecordingKind::Ticks)
-            read.Ticks = ReadTicks(lines, file, report);
-        else
-            (ending.Kind == RecordingKind::Minutes ? read.Minutes : read.Daily) =
-                ReadBars(ending.Kind, lines, file, report);
-        Tell(m_notice, file, report);
-        if (read.IsEmpty()) {
-            if (report.Unusable.empty())
-                m_notice(file + (report.SkippedRows > 0 ? ": no usable rows" : ": no rows") +
-                         "; the file is not used");
-            return {};
-        }
-        sRECORDS& records = m_records[symbol];
-        if (ending.Kind == RecordingKind::Ticks)
-            records.Ticks = std::move(read.Ticks);
-        else if (ending.Kind == RecordingKind::Minutes)
-            records.Minutes = std::move(read.Minutes);
-        else
-            records.Daily = std::move(read.Daily);
-        return symbol;
+    const sENDING* const ending = EndingOf(name);
+    if (!ending)
+        return {};
+    const std::string symbol = name.substr(0, name.size() - ending->Text.size());
+    if (const std::string refusal = SymbolRefusal(symbol); !refusal.empty()) {
+        m_notice(path.string() + ": " + refusal + "; the file is not used");
+        return {};
     }
-    return {};
+    sRECORDS read;
+    if (!ReadRecords(path, ending->Kind, read))
+        return {};
+    KeepRecords(symbol, ending->Kind, std::move(read));
+    return symbol;
+}
+
+bool CMarketCatalog::ReadRecords(const std::filesystem::path& path, RecordingKind kind, sRECORDS& read) const
+{
+    const std::string file = path.string();
+    CFileLines lines;
+    if (!lines.Open(path)) {
+        m_notice(file + ": cannot be read; the file is not used");
+        return false;
+    }
+    sRECORDING_REPORT report;
+    if (kind == RecordingKind::Ticks)
+        read.Ticks = ReadTicks(lines, file, report);
+    else
+        (kind == RecordingKind::Minutes ? read.Minutes : read.Daily) = ReadBars(kind, lines, file, report);
+    NotifyReport(m_notice, file, report);
+    if (read.IsEmpty() && report.Unusable.empty())
+        m_notice(file + (report.SkippedRows > 0 ? ": no usable rows" : ": no rows") +
+                 "; the file is not used");
+    return !read.IsEmpty();
+}
+
+void CMarketCatalog::KeepRecords(const std::string& symbol, RecordingKind kind, sRECORDS&& read)
+{
+    sRECORDS& records = m_records[symbol];
+    switch (kind) {
+    case RecordingKind::Ticks:
+        records.Ticks = std::move(read.Ticks);
+        return;
+    case RecordingKind::Minutes:
+        records.Minutes = std::move(read.Minutes);
+        return;
+    case RecordingKind::Daily:
+        records.Daily = std::move(read.Daily);
+        return;
+    }
 }
 
 void CMarketCatalog::AddSymbols(const std::filesystem::path& path)
@@ -138,7 +160,7 @@ void CMarketCatalog::AddSymbols(const std::filesystem::path& path)
     }
     sRECORDING_REPORT report;
     List(ReadSymbols(lines, path.string(), report), ListRank::Named);
-    Tell(m_notice, path.string(), report);
+    NotifyReport(m_notice, path.string(), report);
 }
 
 std::shared_ptr<const IMarketSource> CMarketCatalog::Share(std::string_view symbol)

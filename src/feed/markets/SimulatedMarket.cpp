@@ -64,7 +64,7 @@ const std::array<sSIMULATION, 6> Simulations = {{
 
 const sSIMULATION AnyOther = {.Name = "", .Description = "Simulated market", .DayMove = 120, .NightMove = 30};
 
-// What a key is drawn for; each use has numbers of its own.
+// The uses of random numbers. Each has its own sequence for each day.
 enum : std::uint64_t
 {
     ForDay = 1,
@@ -141,7 +141,7 @@ void CSimulatedMarket::AddOlderDay() const
 void CSimulatedMarket::AddDailyBar(TFeedDay day) const
 {
     CRandomNumbers random(Key(day, ForDay));
-    // A weak pull towards the base keeps a walk of centuries from running to zero or out of sight.
+    // A weak pull towards the base price keeps a walk over centuries within a readable range.
     const std::int64_t pull = (m_rules.BasePrice - m_close) / 200;
     const std::int64_t open = std::max<std::int64_t>(1, m_close + random.Around(m_rules.NightMove));
     m_close = std::max<std::int64_t>(1, open + random.Around(m_rules.DayMove) + pull);
@@ -207,50 +207,64 @@ std::span<const sFEED_BAR> CSimulatedMarket::Minutes(std::size_t position,
         m_daily[m_daily.size() - static_cast<std::size_t>(m_rules.MinuteDays) + position];
     std::vector<int> minutes;
     TradedMinutes(day, minutes);
-    const auto count = static_cast<std::int64_t>(minutes.size());
-    const std::int64_t open = Steps(whole.Open), close = Steps(whole.Close);
-    const std::int64_t high = Steps(whole.High), low = Steps(whole.Low);
     const std::int64_t move = m_rules.DayMove / 30;
     CRandomNumbers random(Key(day, ForMinutes));
-
-    // A walk of its own, bent so that it ends at the day's close and held between the day's extremes.
-    std::vector<std::int64_t> walk(minutes.size() + 1);
-    for (std::size_t i = 1; i < walk.size(); ++i)
-        walk[i] = walk[i - 1] + random.Around(move);
-    const auto knot = [&](std::int64_t i) {
-        const std::int64_t bent =
-            open + walk[static_cast<std::size_t>(i)] + (close - open - walk.back()) * i / count;
-        return i == count ? close : std::clamp(bent, low, high);
-    };
-
-    const std::int64_t highAt = random.Below(static_cast<std::uint64_t>(count));
-    const std::int64_t lowAt = random.Below(static_cast<std::uint64_t>(count));
-    const std::int64_t share = whole.Volume / count;
+    const std::vector<std::int64_t> prices = MinutePrices(whole, move, minutes.size(), random);
+    const std::int64_t high = Steps(whole.High), low = Steps(whole.Low);
+    const auto highAt = static_cast<std::size_t>(random.Below(minutes.size()));
+    const auto lowAt = static_cast<std::size_t>(random.Below(minutes.size()));
+    const auto reach = static_cast<std::uint64_t>(move) / 2 + 1;
     std::int64_t total = 0;
     scratch.clear();
-    for (std::int64_t i = 0; i < count; ++i) {
-        const std::int64_t from = knot(i), to = knot(i + 1);
-        const auto reach = static_cast<std::uint64_t>(move) / 2 + 1;
+    for (std::size_t i = 0; i < minutes.size(); ++i) {
+        const std::int64_t from = prices[i], to = prices[i + 1];
         const std::int64_t top = std::min(high, std::max(from, to) + random.Below(reach));
         const std::int64_t bottom = std::max(low, std::min(from, to) - random.Below(reach));
-        // Odd minutes give back what even ones took, so that the sum stays the day's volume.
-        const std::int64_t lean = share / 3;
-        const bool paired = i / 2 * 2 + 1 < count;
-        const std::int64_t lent =
-            paired ? CRandomNumbers(Key(day, ForMinutes) + static_cast<std::uint64_t>(i / 2)).Around(lean)
-                   : 0;
         sFEED_BAR bar;
-        bar.Stamp = StartOfDay(day) + SessionStart + (minutes[static_cast<std::size_t>(i)] + 1) * MsPerMinute;
+        bar.Stamp = StartOfDay(day) + SessionStart + (minutes[i] + 1) * MsPerMinute;
         bar.Open = Price(from);
         bar.Close = Price(to);
         bar.High = Price(i == highAt ? high : top);
         bar.Low = Price(i == lowAt ? low : bottom);
-        bar.Volume =
-            share + (i % 2 == 0 ? lent : -lent) + (i == count - 1 ? whole.Volume - share * count : 0);
+        bar.Volume = VolumeOfMinute(day, whole.Volume, i, minutes.size());
         bar.TotalVolume = total += bar.Volume;
         scratch.push_back(bar);
     }
     return scratch;
+}
+
+std::vector<std::int64_t> CSimulatedMarket::MinutePrices(const sFEED_BAR& whole, std::int64_t move,
+                                                         std::size_t minutes, CRandomNumbers& random) const
+{
+    std::vector<std::int64_t> prices(minutes + 1);
+    for (std::size_t i = 1; i < prices.size(); ++i)
+        prices[i] = prices[i - 1] + random.Around(move);
+    // The random walk is bent so that it ends at the day's close, and clamped to the day's range.
+    const std::int64_t open = Steps(whole.Open), close = Steps(whole.Close);
+    const std::int64_t high = Steps(whole.High), low = Steps(whole.Low);
+    const std::int64_t miss = close - open - prices.back();
+    const auto count = static_cast<std::int64_t>(minutes);
+    for (std::int64_t i = 0; i < count; ++i) {
+        std::int64_t& price = prices[static_cast<std::size_t>(i)];
+        price = std::clamp(open + price + miss * i / count, low, high);
+    }
+    prices.back() = close;
+    return prices;
+}
+
+std::int64_t CSimulatedMarket::VolumeOfMinute(TFeedDay day, std::int64_t dayVolume, std::size_t minute,
+                                              std::size_t minutes) const
+{
+    const std::int64_t share = dayVolume / static_cast<std::int64_t>(minutes);
+    // Each odd minute compensates the deviation of the even minute before it, so that the volumes add up to
+    // the day's volume. A last even minute without a partner does not deviate.
+    const std::size_t pair = minute / 2;
+    std::int64_t deviation = 0;
+    if (pair * 2 + 1 < minutes)
+        deviation = CRandomNumbers(Key(day, ForMinutes) + pair).Around(share / 3);
+    const std::int64_t rest =
+        minute + 1 == minutes ? dayVolume - share * static_cast<std::int64_t>(minutes) : 0;
+    return share + (minute % 2 == 0 ? deviation : -deviation) + rest;
 }
 
 std::size_t CSimulatedMarket::TickCount(std::size_t position) const
@@ -276,8 +290,7 @@ void CSimulatedMarket::MakeTicks(const sFEED_BAR& minute, std::uint32_t firstId,
     const auto count = static_cast<std::int64_t>(m_rules.TicksPerMinute);
     CRandomNumbers random(m_key ^ MixBits(static_cast<std::uint64_t>(minute.Stamp) * 8 + ForTicks));
     const std::int64_t high = Steps(minute.High), low = Steps(minute.Low);
-    // The two ticks that touch the extremes stand next to each other, somewhere behind the first and before
-    // the last.
+    // The two ticks at the extremes are adjacent and lie between the first tick and the last.
     const std::int64_t extremeAt = 1 + random.Below(static_cast<std::uint64_t>(count - 3));
     const bool highFirst = random.Below(2) == 0;
     const std::int64_t slot = MsPerMinute / count;

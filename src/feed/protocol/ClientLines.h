@@ -1,4 +1,4 @@
-// Cuts what a client sends into command lines. CR and LF both end a line. Pure, no thread of its own.
+// Splits the bytes that a client sends into command lines. CR and LF both end a line. One thread at a time.
 #pragma once
 
 #include <string>
@@ -9,9 +9,11 @@ namespace zantroq::feed {
 class CClientLines
 {
 public:
-    // Longer than any command; a longer line is reported once and dropped up to its end.
+    // In bytes, longer than any command. A longer line is reported once and dropped up to its end.
     static constexpr std::size_t MaxLine = 8192;
 
+    // Calls onLine(std::string_view) for each complete line, in order, and onTooLong() for each line that
+    // exceeds MaxLine. The view is valid during the call. An incomplete line is kept for the next Take.
     template<class TOnLine, class TOnTooLong>
     void Take(std::string_view bytes, TOnLine onLine, TOnTooLong onTooLong)
     {

@@ -1,6 +1,6 @@
-// The whole answer to one history command: finds the market, has it prepared, and writes either the points or
-// the line that says why there are none. Nothing of this is done before the first call of Write, so a command
-// that waits for those before it costs next to nothing. Used on the feed's thread.
+// The complete answer to one history command: finds the market, prepares it, and writes either the points or
+// one error line. All work starts at the first call of Write, so a queued command costs little. Feed thread
+// only.
 #pragma once
 
 #include "feed/markets/MarketCatalog.h"
@@ -20,13 +20,13 @@ public:
     WorkProgress Write(CTextBlock& block, std::size_t limit, CWorkSlice& slice) override;
 
 private:
-    // Sets m_reply, to the error line where nothing can be served.
+    // Sets m_reply to the points or, if they cannot be served, to the error line.
     void Begin();
     void Refuse(const std::string& reason);
 
     CMarketCatalog& m_catalog;
     const sHISTORY_COMMAND m_command;
-    std::shared_ptr<const IMarketSource> m_market; // kept while it is prepared, whatever the catalog drops
+    std::shared_ptr<const IMarketSource> m_market; // stays alive even if the catalog drops it
     std::unique_ptr<IFeedReply> m_reply;
 };
 

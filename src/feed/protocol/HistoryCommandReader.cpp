@@ -9,7 +9,7 @@
 namespace zantroq::feed {
 namespace {
 
-// One letter a field behind the command word: s symbol, i interval, n datapoints, d days, b and e range ends
+// One letter for each field after the command word: s symbol, i interval, n datapoints, d days, b and e range ends
 // with times, B and E range ends without, - left empty, f and g filter ends, o direction, # identifier.
 struct sTEMPLATE
 {
@@ -26,7 +26,7 @@ constexpr sTEMPLATE Templates[] = {
     {"HWX", HistoryData::Weekly, "sno#"},        {"HMX", HistoryData::Monthly, "sno#"},
 };
 
-// More than the calendar has.
+// More days than the calendar has, so that larger counts cannot overflow.
 constexpr std::int64_t MostDays = 10'000'000;
 
 bool ReadWhole(std::string_view text, std::int64_t& number)
@@ -37,7 +37,7 @@ bool ReadWhole(std::string_view text, std::int64_t& number)
     return read.ec == std::errc() && read.ptr == text.data() + text.size() && number >= 0;
 }
 
-// A range end: a date, or a date, a blank and a time. Nothing, or blanks alone, leaves the range open.
+// Reads a range end: a date, or a date, a blank and a time. Blanks alone leave the range open.
 bool ReadRangeEnd(std::string_view text, bool isEnd, std::optional<TFeedTime>& bound)
 {
     text = TrimBlanks(text);

@@ -1,4 +1,4 @@
-// The ten history commands of the lookup port, read from their text. Pure function, any thread.
+// Reads the ten history commands of the lookup port from their text. Pure function, any thread.
 #pragma once
 
 #include "feed/markets/FeedTime.h"
@@ -24,13 +24,13 @@ struct sHISTORY_COMMAND
 {
     HistoryData Data = HistoryData::Ticks;
     std::string Symbol;
-    std::string Id;                   // comes back on every line, as it came
-    std::int64_t IntervalSeconds = 0; // intervals; what can be served is 1 to 86,400
-    std::int64_t Datapoints = 0;      // the newest so many; 0 all
-    std::int64_t Days = 0;            // calendar days back from the newest, that day included; 0 all
+    std::string Id;                   // repeated unchanged on every line of the reply
+    std::int64_t IntervalSeconds = 0; // interval commands only; the feed serves 1 to 86,400
+    std::int64_t Datapoints = 0;      // number of newest points; 0: all
+    std::int64_t Days = 0;            // calendar days up to and with the newest; 0: all
     std::optional<TFeedTime> Begin;   // first stamp of the range, milliseconds
-    std::optional<TFeedTime>
-        End;                   // last one, the whole of its second (or, without a time, of its day) included
+    // Last stamp of the range, at the last millisecond of its second or, without a time, of its day.
+    std::optional<TFeedTime> End;
     TFeedTime FilterBegin = 0; // time-of-day filter, both ends included
     TFeedTime FilterEnd = MsPerDay - 1;
     bool OldestFirst = false;
@@ -43,9 +43,9 @@ enum class CommandReading
     Malformed
 };
 
-// `fields` are the line's, cut at its commas; empty ones behind the identifier are allowed. An empty count,
-// range or filter field is an open one, an empty direction means newest first. NotHistory when the first
-// field is none of the ten words.
+// `fields` are the fields of the line between its commas, at least one. Empty fields after the identifier are
+// allowed. An empty count, range or filter field sets no limit; an empty direction means newest first. Returns
+// NotHistory if the first field is none of the ten words; Malformed leaves `command` partly filled.
 CommandReading ReadHistoryCommand(const std::vector<std::string_view>& fields, sHISTORY_COMMAND& command);
 
 } // namespace zantroq::feed

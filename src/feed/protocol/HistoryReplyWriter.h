@@ -1,5 +1,5 @@
-// Writes the reply to one history command: the chosen points in the requested order, each line with the
-// identifier in front, then the end marker. Used on the feed's thread.
+// Writes the reply to one history command: the selected points in the requested order, each line with the
+// identifier first, then the end marker. Feed thread only.
 #pragma once
 
 #include "feed/protocol/FeedReply.h"
@@ -16,14 +16,14 @@ public:
     WorkProgress Write(CTextBlock& block, std::size_t limit, CWorkSlice& slice) override;
 
 private:
-    // Each returns false when the slice was over first and goes on at the next call.
+    // Each returns false if the slice ended before the work did; the next call continues.
     bool ChooseDays(CWorkSlice& slice);
     bool ChooseByCount(CWorkSlice& slice);
     bool LoadNextDay(CWorkSlice& slice);
     void ChooseByDays();
     void DropDaysOutsideRange();
-    // The next point, or the next day's load or the end marker where there is none. False at the end of the
-    // reply.
+    // Writes the next point; without one, loads the next day; without one, writes the end marker and returns
+    // false.
     bool WriteStep(CTextBlock& block, CWorkSlice& slice);
     void WritePoint(CTextBlock& block);
     bool IsWanted(TFeedTime stamp) const;
@@ -32,13 +32,13 @@ private:
     const std::unique_ptr<IHistoryPoints> m_points;
     const sHISTORY_COMMAND m_command;
     const std::string m_prefix;               // identifier and comma
-    const bool m_filtered;                    // points have to be looked at one by one
-    bool m_chosen = false;                    // whether the days below are known
-    std::uint64_t m_wanted = 0;               // points that the days chosen so far still lack
-    std::size_t m_dayBegin = 0, m_dayEnd = 0; // days still to come, by position
-    std::size_t m_skip = 0;                   // oldest points of the first day that a count leaves out
+    const bool m_filtered;                    // each point must be tested on its own
+    bool m_chosen = false;                    // the days below are selected
+    std::uint64_t m_wanted = 0;               // points missing after the days selected so far
+    std::size_t m_dayBegin = 0, m_dayEnd = 0; // positions of the days not written yet
+    std::size_t m_skip = 0;                   // oldest points of day m_skipDay that the count excludes
     std::size_t m_skipDay = 0;
-    std::size_t m_first = 0, m_last = 0; // points of the current day still to come
+    std::size_t m_first = 0, m_last = 0; // points of the current day not written yet
 };
 
 } // namespace zantroq::feed

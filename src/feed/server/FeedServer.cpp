@@ -5,14 +5,27 @@
 #include "feed/server/SilentClients.h"
 
 #include <chrono>
+#include <cstdlib>
 #include <functional>
 #include <sys/resource.h>
 #include <thread>
 
 namespace zantroq::feed {
 
-// Everything that lives from Start to Stop. After construction only the feed's thread touches it, but for
-// Stop's one post.
+std::filesystem::path ShippedDataFolder()
+{
+    if (const char* const given = std::getenv("ZANTROQ_DATA"); given && *given)
+        return given;
+    std::error_code error;
+    const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
+    const auto installed = program.parent_path().parent_path() / "share" / "zantroq-chart" / "data";
+    if (!error && std::filesystem::is_directory(installed, error))
+        return installed;
+    return ZANTROQ_SOURCE_DATA;
+}
+
+// The state of a running feed, from Start to Stop. After construction only the feed thread uses it, except for
+// the one post of Stop.
 class CFeedServer::CRunning
 {
 public:
@@ -53,8 +66,8 @@ public:
 private:
     using tcp = asio::ip::tcp;
 
-    // A port and what becomes of those who come through it.
-    struct sDoor
+    // An open port and the factory of its connections.
+    struct sListener
     {
         tcp::acceptor Acceptor;
         asio::steady_timer Pause;
@@ -62,9 +75,9 @@ private:
         std::uint16_t Port = 0;
     };
 
-    bool Listen(sDoor& door, std::uint16_t port, const std::string& name, std::string& error)
+    bool Listen(sListener& listener, std::uint16_t port, const std::string& name, std::string& error)
     {
-        tcp::acceptor& acceptor = door.Acceptor;
+        tcp::acceptor& acceptor = listener.Acceptor;
         const tcp::endpoint endpoint(asio::ip::address_v4::loopback(), port);
         std::error_code code;
         acceptor.open(endpoint.protocol(), code);
@@ -80,38 +93,38 @@ private:
                     code.message() + "; choose another port, or 0 for a free one";
             return false;
         }
-        door.Port = acceptor.local_endpoint().port();
+        listener.Port = acceptor.local_endpoint().port();
         return true;
     }
 
-    void Accept(sDoor& door)
+    void Accept(sListener& listener)
     {
-        door.Acceptor.async_accept([this, &door](std::error_code error, tcp::socket socket) {
+        listener.Acceptor.async_accept([this, &listener](std::error_code error, tcp::socket socket) {
             if (error == asio::error::operation_aborted)
                 return;
             if (error) {
                 // Most likely no descriptor is left.
                 if (m_silent.CloseOldest())
-                    Accept(door);
+                    Accept(listener);
                 else
-                    AcceptLater(door);
+                    AcceptLater(listener);
                 return;
             }
             SendAtOnce(socket);
             if (IsLastButFew(socket))
                 m_silent.CloseOldest();
-            m_silent.Add(door.Start(std::move(socket)));
-            Accept(door);
+            m_silent.Add(listener.Start(std::move(socket)));
+            Accept(listener);
         });
     }
 
     // Asking at once would give the same answer until a client goes.
-    void AcceptLater(sDoor& door)
+    void AcceptLater(sListener& listener)
     {
-        door.Pause.expires_after(std::chrono::milliseconds(100));
-        door.Pause.async_wait([this, &door](std::error_code error) {
+        listener.Pause.expires_after(std::chrono::milliseconds(100));
+        listener.Pause.async_wait([this, &listener](std::error_code error) {
             if (!error)
-                Accept(door);
+                Accept(listener);
         });
     }
 
@@ -144,14 +157,14 @@ private:
     asio::io_context m_context{1};
     CWorkTurns m_turns{m_context};
     CSilentClients m_silent;
-    sDoor m_lookup{tcp::acceptor(m_context), asio::steady_timer(m_context), [this](tcp::socket socket) {
-                       return Started(
-                           std::make_shared<CLookupConnection>(std::move(socket), m_catalog, m_turns));
-                   }};
-    sDoor m_level1{tcp::acceptor(m_context), asio::steady_timer(m_context), [this](tcp::socket socket) {
-                       return Started(std::make_shared<CLevel1Connection>(std::move(socket), m_catalog,
-                                                                          m_live, m_turns));
-                   }};
+    sListener m_lookup{tcp::acceptor(m_context), asio::steady_timer(m_context), [this](tcp::socket socket) {
+                           return Started(
+                               std::make_shared<CLookupConnection>(std::move(socket), m_catalog, m_turns));
+                       }};
+    sListener m_level1{tcp::acceptor(m_context), asio::steady_timer(m_context), [this](tcp::socket socket) {
+                           return Started(std::make_shared<CLevel1Connection>(std::move(socket), m_catalog,
+                                                                              m_live, m_turns));
+                       }};
     std::thread m_thread;
 };
 

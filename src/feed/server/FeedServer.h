@@ -1,6 +1,5 @@
-// The local feed: serves recorded and simulated markets on two TCP ports of the loopback address, from a
-// thread of its own, to any number of clients at once. The program zantroq-feed is one of these; a chart host
-// can hold one inside its process.
+// The local feed: serves recorded and simulated markets on two TCP ports of the loopback address to any number
+// of clients, on its own thread. The program zantroq-feed runs one; a chart host can run one in its process.
 #pragma once
 
 #include "feed/protocol/Level1Session.h"
@@ -17,9 +16,9 @@ namespace zantroq::feed {
 
 struct sFEED_OPTIONS
 {
-    std::uint16_t LookupPort = 0; // 0 takes a free one
+    std::uint16_t LookupPort = 0; // 0: any free port
     std::uint16_t Level1Port = 0;
-    // Folders with recordings, later ones before earlier ones where both have the same symbol and kind. The
+    // Folders with recordings. A later folder overrides an earlier one for the same symbol and kind. The
     // shipped recordings are the first folder unless ServeShipped is false.
     std::vector<std::filesystem::path> Folders;
     bool ServeShipped = true;
@@ -27,15 +26,15 @@ struct sFEED_OPTIONS
     bool ReplayTicks = false;
     double Speed = 1; // above 0
     std::uint64_t Seed = 1;
-    // A client that has sent no line for so long after it connected is closed; earlier, the oldest first,
-    // when descriptors run short.
+    // The feed disconnects a client that sends no line within this time after it connected. If descriptors
+    // run short it disconnects such clients earlier, the oldest first.
     std::chrono::milliseconds SilentLimit = std::chrono::seconds(60);
-    // Whole sentences for the user: bad rows, simulated data being served. Called inside Start and then on
-    // the feed's thread.
+    // Receives whole sentences for the user: bad rows, simulated data being served. Called within Start, then
+    // on the feed thread.
     std::function<void(const std::string&)> OnNotice;
 };
 
-// Used from one thread, which may be any.
+// One thread at a time.
 class CFeedServer
 {
 public:
@@ -44,13 +43,13 @@ public:
     CFeedServer(const CFeedServer&) = delete;
     CFeedServer& operator=(const CFeedServer&) = delete;
 
-    // Reads the recordings, opens both ports and begins to serve. False and one sentence when a port cannot
-    // be had; may then be called again.
+    // Reads the recordings, opens both ports and starts the thread. Returns false and sets `error` to one
+    // sentence if a port cannot be opened; may be called again then.
     bool Start(std::string& error);
-    // Closes the ports and all connections and ends the thread. Nothing happens when not running.
+    // Closes the ports and all connections and joins the thread. Does nothing if the feed is not running.
     void Stop();
 
-    // The ports in use, 0 when not running.
+    // The open ports, 0 if the feed is not running.
     std::uint16_t LookupPort() const;
     std::uint16_t Level1Port() const;
 
@@ -60,9 +59,9 @@ private:
     std::unique_ptr<CRunning> m_running;
 };
 
-// Where the recordings that come with the program lie: $ZANTROQ_DATA if set, else share/zantroq-chart/data
-// beside the folder of the running program if that exists, else the data folder of the source tree that it
-// was built from.
+// Returns the folder of the shipped recordings: $ZANTROQ_DATA if set, else share/zantroq-chart/data beside the
+// folder of the running program if that exists, else the data folder of the source tree of the build. Any
+// thread that does not change the environment.
 std::filesystem::path ShippedDataFolder();
 
 } // namespace zantroq::feed

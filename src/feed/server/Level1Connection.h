@@ -1,5 +1,4 @@
-// One connection of the level 1 port. Keeps itself alive while something is under way on it; runs on the
-// feed's thread.
+// One connection of the level 1 port. Stays alive while an operation on it is pending. Feed thread only.
 #pragma once
 
 #include "feed/protocol/ClientLines.h"
@@ -31,15 +30,15 @@ public:
 
 private:
     void Read();
-    void ReadOn(); // unless too much is pending
+    void ReadOn(); // reads unless too much is pending
     void OnRead(std::error_code error, std::size_t count);
     void SendPending();
     void OnSent(std::error_code error);
     void WaitForTrade();
 
-    // A client that does not read loses no trade; its market waits. At most so much is ever held for it.
+    // In bytes. If a client does not read, its market pauses at this limit and no trade is lost.
     static constexpr std::size_t MaxPendingText = 256 * 1024;
-    // And at most so many of its lines, or one block of them more, wait to be answered.
+    // At most this many lines of the client, plus those of one received block, wait for an answer.
     static constexpr std::size_t MaxPendingLines = 256;
 
     asio::ip::tcp::socket m_socket;
@@ -48,7 +47,7 @@ private:
     CWorkTurns& m_turns;
     CLevel1Session m_session;
     CClientLines m_lines;
-    std::string m_pending, m_underWay; // to be sent next, being sent
+    std::string m_pending, m_underWay; // not sent yet; passed to the socket
     std::array<char, 4096> m_received;
     bool m_hasSentLine = false, m_sending = false, m_reading = false, m_closed = false;
 };

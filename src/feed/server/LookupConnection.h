@@ -1,5 +1,4 @@
-// One connection of the lookup port. Keeps itself alive while something is under way on it; runs on the
-// feed's thread.
+// One connection of the lookup port. Stays alive while an operation on it is pending. Feed thread only.
 #pragma once
 
 #include "feed/protocol/ClientLines.h"
@@ -30,12 +29,12 @@ public:
 private:
     void Read();
     void OnRead(std::error_code error, std::size_t count);
-    void ReadOn(); // unless too much is pending or the client has nothing more to say
+    void ReadOn(); // reads unless too much is pending or the client closed its side
     void SendBlock();
     void OnSent(std::error_code error);
 
-    // Enough for a client that asks ahead. A client with more replies pending is not read from until some of
-    // them have been taken.
+    // Enough for a client that sends commands ahead. With more replies pending, the connection stops reading
+    // until the client has taken some.
     static constexpr std::size_t MaxPendingReplies = 256;
     static constexpr std::size_t BlockSize = 256 * 1024;
 

@@ -1,12 +1,12 @@
-// The settings file: an SQLite data base of keys, each with named values of three types. This is the door for
-// programs that want to know what went wrong; the chart uses ISettingsKey, which is silent.
+// The settings file: an SQLite data base of keys, each with named values of three types. For programs that
+// report errors; the chart uses ISettingsKey, which reports none.
 //
 // The file is in write-ahead mode. Every write is one short transaction, so several processes may use the
 // file at once and a crash at any moment leaves every finished write readable. Nothing is created before the
-// first write. A file that is damaged, or that is some other program's data base, is never written to.
+// first write. A damaged file and another program's data base are never written to.
 //
-// One thread at a time. The connection stays open between calls; a file that was replaced or removed
-// meanwhile is noticed at the next call.
+// One thread at a time. The connection stays open between calls; the next call detects that the file was
+// replaced or removed.
 #pragma once
 
 #include "platform/settings/SettingsKey.h"
@@ -27,12 +27,12 @@ namespace zantroq {
 
 enum class SettingsProblem
 {
-    NoPlace,     // no path to put the file at
+    NoPlace,     // no path for the file is known
     Unreadable,  // no permission to read, or not a plain file
     Unwritable,  // no permission to write, disk full, folder cannot be made
-    Locked,      // another process held it longer than the patience allows
+    Locked,      // another process held the lock longer than the patience
     Damaged,     // not a data base, or one with broken pages
-    NotSettings, // a sound data base, but not one of ours or of a later format
+    NotSettings, // an intact data base of another program or of a later format
 };
 
 // One sentence that names the file and what is wrong with it.
@@ -58,19 +58,19 @@ public:
     CSettingsFile& operator=(const CSettingsFile&) = delete;
 
     const std::string& Path() const { return m_path; }
-    // False when there is no file yet; every read then finds nothing, which is no error.
+    // False when there is no file yet. Reads of a missing file find nothing and report no error.
     bool Exists() const;
-    // How long a call waits for other processes.
+    // Sets how long a call waits for the locks of other processes.
     void SetPatience(std::chrono::milliseconds patience);
 
     // All of these throw CSettingsFileError.
     std::optional<SettingValue> Read(std::string_view key, std::string_view name);
     void Write(std::string_view key, std::string_view name, const SettingValue& value);
-    bool Delete(std::string_view key, std::string_view name); // whether there was such a value
-    std::size_t DeleteAll(std::string_view key);              // how many there were
+    bool Delete(std::string_view key, std::string_view name); // whether the value existed
+    std::size_t DeleteAll(std::string_view key);              // number of deleted values
     SettingValues List(std::string_view key);
-    SettingsTree ReadAll();                  // all keys as they were at one moment
-    void WriteAll(const SettingsTree& tree); // one transaction: all of it or nothing; other values stay
+    SettingsTree ReadAll();                  // all keys in one consistent snapshot
+    void WriteAll(const SettingsTree& tree); // in one transaction; other values stay
 
 private:
     enum class Access
@@ -87,7 +87,11 @@ private:
         Immutable // without locks and logs
     };
 
-    bool Open(Access access); // false: no file, and only reading was asked for
+    // False when there is nothing to read; never false for Access::Write.
+    bool Open(Access access);
+    bool FindPlainFile(Access access) const; // false: no file. Throws for anything but a plain file.
+    void MakeFolder() const;
+    void FindTable(Access access); // sets m_hasTable; creates the table for Access::Write
     void OpenHandle(Access access, bool exists);
     void OpenConnection(OpenMode mode, const std::string& path, Access access);
     void OpenCopy(const std::string& followed);
@@ -106,12 +110,12 @@ private:
     const std::string m_path;
     std::chrono::milliseconds m_patience;
     sqlite3* m_db = nullptr;
-    std::map<std::string, sqlite3_stmt*, std::less<>>
-        m_statements; // by their text, for the life of the connection
+    // Prepared statements by their text, kept while the connection is open.
+    std::map<std::string, sqlite3_stmt*, std::less<>> m_statements;
     bool m_hasTable = false;
-    bool m_reopen = false;   // something failed: look at the file afresh
-    bool m_readOnly = false; // opened without locks or as a copy, because it cannot be written where it is
-    std::uint64_t m_device = 0, m_inode = 0; // which file the connection is on
+    bool m_reopen = false;                   // a call failed: the next call reopens the file
+    bool m_readOnly = false;                 // opened Immutable or as a copy, because it cannot be written
+    std::uint64_t m_device = 0, m_inode = 0; // identify the open file
 };
 
 } // namespace zantroq

@@ -1,5 +1,4 @@
-// The connection of a settings file: opening, the check of what is in it, creating it, and what is said when
-// something fails.
+// The connection of a settings file: opens the file, checks its contents, creates it and words the errors.
 #include "platform/settings/SettingsFile.h"
 
 #include "platform/settings/SettingsFileProbe.h"
@@ -22,8 +21,7 @@ constexpr const char* TableText =
     "key TEXT NOT NULL, name TEXT NOT NULL, type INTEGER NOT NULL, value NOT NULL, "
     "PRIMARY KEY(key, name)) WITHOUT ROWID";
 
-// Folders of settings are private to their user, so create_directories, which gives no say in the mode, will
-// not do.
+// Settings folders are private to their user; std::filesystem::create_directories cannot set the mode.
 bool MakeFolders(const std::filesystem::path& folder)
 {
     if (folder.empty() || ::mkdir(folder.c_str(), 0700) == 0 || errno == EEXIST)
@@ -35,7 +33,7 @@ bool MakeFolders(const std::filesystem::path& folder)
 
 } // namespace
 
-// After this a read may look for values if the answer is true, and a write may go ahead.
+// Returns true if the values can be read or written now.
 bool CSettingsFile::Open(Access access)
 {
     if (m_path.empty())
@@ -46,41 +44,59 @@ bool CSettingsFile::Open(Access access)
     if (m_db && (m_reopen || m_readOnly || !SameFile()))
         Close();
     if (!m_db) {
-        struct stat about
-        {
-        };
-        const bool exists = ::stat(m_path.c_str(), &about) == 0;
-        if (!exists && errno == ENOTDIR)
-            throw CSettingsFileError(
-                access == Access::Write ? SettingsProblem::Unwritable : SettingsProblem::Unreadable,
-                m_path + ": the settings file cannot be made there, because a part of its path is no folder; "
-                         "set ZANTROQ_SETTINGS to another place");
-        if (!exists && errno != ENOENT)
-            throw CSettingsFileError(SettingsProblem::Unreadable,
-                                     m_path + ": the settings file cannot be reached (" +
-                                         std::strerror(errno) + "); check its permissions");
-        if (exists && !S_ISREG(about.st_mode))
-            throw CSettingsFileError(SettingsProblem::Unreadable,
-                                     m_path + ": not a plain file; set ZANTROQ_SETTINGS to a settings file");
+        const bool exists = FindPlainFile(access);
         if (!exists && access == Access::Read)
             return false;
-        if (!exists && !MakeFolders(std::filesystem::path(m_path).parent_path()))
-            throw CSettingsFileError(SettingsProblem::Unwritable,
-                                     m_path + ": the folder of the settings file cannot be made (" +
-                                         std::strerror(errno) +
-                                         "); set ZANTROQ_SETTINGS to "
-                                         "a place that can be written");
+        if (!exists)
+            MakeFolder();
         OpenHandle(access, exists);
     }
+    FindTable(access);
+    // The file is now known to be a settings file, so closing may move its log into it.
+    if (m_hasTable)
+        sqlite3_db_config(m_db, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 0, nullptr);
+    return m_hasTable;
+}
+
+bool CSettingsFile::FindPlainFile(Access access) const
+{
+    struct stat about
+    {
+    };
+    const bool exists = ::stat(m_path.c_str(), &about) == 0;
+    if (!exists && errno == ENOTDIR)
+        throw CSettingsFileError(
+            access == Access::Write ? SettingsProblem::Unwritable : SettingsProblem::Unreadable,
+            m_path + ": the settings file cannot be made there, because a part of its path is no folder; "
+                     "set ZANTROQ_SETTINGS to another place");
+    if (!exists && errno != ENOENT)
+        throw CSettingsFileError(SettingsProblem::Unreadable,
+                                 m_path + ": the settings file cannot be reached (" + std::strerror(errno) +
+                                     "); check its permissions");
+    if (exists && !S_ISREG(about.st_mode))
+        throw CSettingsFileError(SettingsProblem::Unreadable,
+                                 m_path + ": not a plain file; set ZANTROQ_SETTINGS to a settings file");
+    return exists;
+}
+
+void CSettingsFile::MakeFolder() const
+{
+    if (!MakeFolders(std::filesystem::path(m_path).parent_path()))
+        throw CSettingsFileError(SettingsProblem::Unwritable,
+                                 m_path + ": the folder of the settings file cannot be made (" +
+                                     std::strerror(errno) +
+                                     "); set ZANTROQ_SETTINGS to "
+                                     "a place that can be written");
+}
+
+void CSettingsFile::FindTable(Access access)
+{
     if (access == Access::Write && m_readOnly)
         Fail(SQLITE_READONLY, access);
     if (access == Access::Write && !m_hasTable)
         CreateContents();
-    if (!m_hasTable) // another process may have filled an empty file since
+    if (!m_hasTable) // another process may have filled an empty file since the last check
         CheckContents(access);
-    if (m_hasTable)
-        sqlite3_db_config(m_db, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 0, nullptr);
-    return m_hasTable;
 }
 
 void CSettingsFile::OpenHandle(Access access, bool exists)
@@ -89,9 +105,9 @@ void CSettingsFile::OpenHandle(Access access, bool exists)
     RefuseSideFiles(followed);
     if (exists)
         RefuseByProbe(followed);
-    // A file that cannot be written is read without locks and without the two side files, which could not be
-    // made or would be left behind. Where a log is pending it must be read through the ordinary door, and
-    // where that is closed, in a copy.
+    // A file that cannot be written is read without locks and without the two side files, which SQLite could
+    // not create or would leave in place. A pending log can be read in the normal mode only; if that fails,
+    // a copy of both is read.
     const bool hasLog = exists && HasPendingLog(followed);
     const bool immutable = exists && !hasLog && ::access(m_path.c_str(), W_OK) != 0;
     try {
@@ -129,12 +145,12 @@ void CSettingsFile::OpenConnection(OpenMode mode, const std::string& path, Acces
     }
     sqlite3_extended_result_codes(m_db, 1);
     sqlite3_busy_timeout(m_db, static_cast<int>(m_patience.count()));
-    // The file may come from anywhere; nothing in it may run.
+    // The file may come from an untrusted source: disable everything in it that could run.
     sqlite3_db_config(m_db, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
     sqlite3_db_config(m_db, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
     sqlite3_db_config(m_db, SQLITE_DBCONFIG_ENABLE_TRIGGER, 0, nullptr);
     sqlite3_db_config(m_db, SQLITE_DBCONFIG_ENABLE_VIEW, 0, nullptr);
-    // Until the file is known for one of ours, its log must survive the closing.
+    // Closing must not move the log into the file before the file is known to be a settings file.
     if (HasPendingLog(FollowedPath(path)))
         sqlite3_db_config(m_db, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
     struct stat about
@@ -148,7 +164,7 @@ void CSettingsFile::OpenConnection(OpenMode mode, const std::string& path, Acces
     CheckContents(access);
 }
 
-// The copy is gone from its folder with this call; the connection goes on reading it.
+// The copy is deleted from its folder before this call returns; the open connection can still read it.
 void CSettingsFile::OpenCopy(const std::string& followed)
 {
     const CSettingsCopy copy(followed);
@@ -160,7 +176,7 @@ void CSettingsFile::OpenCopy(const std::string& followed)
     m_readOnly = true;
 }
 
-// Opening a pipe or a device in the place of a log or journal would wait for ever.
+// Opening a pipe or a device that has the name of a log or journal would block.
 void CSettingsFile::RefuseSideFiles(const std::string& followed)
 {
     for (const char* const ending : {"-journal", "-wal", "-shm"}) {
@@ -175,7 +191,7 @@ void CSettingsFile::RefuseSideFiles(const std::string& followed)
     }
 }
 
-// Refuses by its first bytes what must not even be opened.
+// Throws for a file that must not be opened, judged by its first bytes.
 void CSettingsFile::RefuseByProbe(const std::string& followed)
 {
     switch (ProbeSettings(followed)) {
@@ -193,7 +209,7 @@ void CSettingsFile::RefuseByProbe(const std::string& followed)
     }
 }
 
-// Refuses what must not be written to, before anything is.
+// Throws for a file that must not be written to, before the first write.
 void CSettingsFile::CheckContents(Access access)
 {
     if (CStatement check(*this, access, "PRAGMA quick_check(1)"); check.Step() && check.TextAt(0) != "ok")
@@ -220,8 +236,7 @@ void CSettingsFile::CheckContents(Access access)
 
 void CSettingsFile::CreateContents()
 {
-    // Going over to write-ahead mode does not wait for other processes by itself, and two may be creating the
-    // file at once.
+    // The change to write-ahead mode ignores the busy timeout, and two processes may create the file at once.
     const auto deadline = std::chrono::steady_clock::now() + m_patience;
     for (;;) {
         const int code = sqlite3_exec(m_db, "PRAGMA journal_mode=WAL", nullptr, nullptr, nullptr);
@@ -287,8 +302,7 @@ void CSettingsFile::FailForeign()
 
 void CSettingsFile::Fail(int code, Access access)
 {
-    // Whatever went wrong, the next call starts with a fresh look at the file. Not here: statements may be in
-    // use.
+    // The next call reopens the file. Closing it here would finalize statements that are in use.
     m_reopen = true;
     const std::string reason = std::string(" (") + sqlite3_errstr(code) + ")";
     switch (code & 0xFF) {

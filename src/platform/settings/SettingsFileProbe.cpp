@@ -14,7 +14,7 @@
 namespace zantroq {
 namespace {
 
-// Places in the header of a data base and in that of a rollback journal.
+// Byte offsets in the headers of a data base and of a rollback journal.
 constexpr std::string_view Magic("SQLite format 3\0", 16);
 constexpr std::size_t HeaderSize = 100, PageSizeAt = 16, ApplicationIdAt = 68;
 constexpr std::size_t FirstCellCountAt = HeaderSize + 3; // of the table of tables, on the first page
@@ -28,7 +28,7 @@ std::uint32_t NumberAt(std::string_view bytes, std::size_t place, std::size_t co
     return number;
 }
 
-// The bytes of a data base file as they are, through SQLite.
+// Reads the raw bytes of a data base file through SQLite.
 class CRawFile
 {
 public:
@@ -47,7 +47,7 @@ public:
 
     bool IsOpen() const { return m_file && m_file->pMethods; }
     std::int64_t Size() const { return m_size; }
-    // From the start, at most so many. Nothing where they cannot be read.
+    // The first `most` bytes, or all if there are fewer. Empty optional on a read error.
     std::optional<std::string> Bytes(std::int64_t most) const
     {
         std::string bytes(static_cast<std::size_t>(std::min(most, Size())), '\0');
@@ -74,14 +74,14 @@ sJournal JournalOf(const std::string& path)
     std::ifstream file(path + "-journal", std::ios::binary);
     std::string header(JournalHeaderSize, '\0');
     file.read(header.data(), static_cast<std::streamsize>(header.size()));
-    // A journal that is finished has zeroes for a header.
+    // SQLite overwrites the header of a finished journal with zeroes.
     if (file.gcount() == 0 || header[0] == '\0')
         return {};
     return {true, static_cast<std::size_t>(file.gcount()) == header.size() &&
                       NumberAt(header, JournalPagesAt, 4) == 0};
 }
 
-// A file that is being made, or whose making was cut short: its first page, with no table on it yet.
+// True for a file whose creation is in progress or was interrupted: one page without a table.
 bool HasNoTables(const CRawFile& file)
 {
     const auto start = file.Bytes(FirstCellCountAt + 2);
@@ -130,8 +130,7 @@ bool HasPendingLog(const std::string& followedPath)
 
 SettingsProbe ProbeSettings(const std::string& followedPath)
 {
-    // The logs first: another process may be making the file just now, and then the file has grown by the
-    // time that there is a log.
+    // Logs before the file: if another process is creating the file, it has grown before its log exists.
     const bool hasLog = HasPendingLog(followedPath);
     const sJournal journal = JournalOf(followedPath);
     const CRawFile file(followedPath);
@@ -150,8 +149,8 @@ SettingsProbe ProbeSettings(const std::string& followedPath)
         return SettingsProbe::Usable;
     if (application != 0)
         return SettingsProbe::Foreign;
-    // Nobody's by its header. One of ours whose making is still in the log looks like that, too; a journal
-    // would be played back before its contents could be checked.
+    // The header names no application. The header of a settings file whose creation is still in its log
+    // looks the same. A hot journal would be played back before its contents could be checked.
     return !journal.IsHot || (journal.IsOfEmptyFile && HasNoTables(file)) ? SettingsProbe::Usable
                                                                           : SettingsProbe::Foreign;
 }

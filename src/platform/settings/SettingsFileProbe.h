@@ -1,9 +1,8 @@
-// What can be told of a settings file before it is opened as a data base. Opening alone may write: a rollback
-// journal is played back, and closing brings a log into the file. What is not ours must be known before that.
+// Classifies a settings file before SQLite opens it as a data base. Opening may write: SQLite plays back a
+// rollback journal, and closing moves a log into the file. Another program's file must be detected before.
 //
-// Nothing here changes a file, and none of the process's locks on the file is lost: its bytes are read
-// through SQLite, because closing a descriptor of one's own would give up every lock that the process has on
-// it. Any thread.
+// These functions change no file and keep the process's locks: they read through SQLite, because closing
+// another descriptor of the file would release every lock that the process holds on it. Any thread.
 #pragma once
 
 #include <cstdint>
@@ -17,26 +16,26 @@ inline constexpr std::uint32_t SettingsApplicationId = 0x5A545251; // "ZTRQ" in 
 
 enum class SettingsProbe
 {
-    Usable,  // nothing speaks against opening it; what is in it is still to be checked
+    Usable,  // may be opened; its contents are not checked yet
     Noise,   // not a data base
-    CutOff,  // empty, though a log or journal beside it tells of contents
+    CutOff,  // empty, but its log or journal has contents
     Foreign, // another program's data base
 };
 
-// The path of the file itself, links followed: there the logs stand.
+// Resolves symbolic links, because the logs are beside the target. Returns `path` if that fails.
 std::string FollowedPath(const std::string& path);
 
-// The path as an address under which SQLite reads the file alone, without locks and logs.
+// The SQLite URI that opens the file alone, read-only, without locks and logs.
 std::string ImmutableUri(const std::string& path);
 
-// Whether a write-ahead log with something in it stands beside the file.
+// Whether the file has a write-ahead log that is not empty.
 bool HasPendingLog(const std::string& followedPath);
 
-// A file that cannot be read counts as usable: opening it says why.
+// Returns Usable for a file that cannot be read: opening it then reports the cause.
 SettingsProbe ProbeSettings(const std::string& followedPath);
 
-// A copy of a file and its write-ahead log in a folder that only this user can look into, gone with the
-// object. For a log in a place that cannot be written, where SQLite cannot read it.
+// A copy of a file and its write-ahead log in a folder that only this user can read; the destructor deletes
+// it. SQLite cannot read a log in a folder that it cannot write to, but can read the copy.
 class CSettingsCopy
 {
 public:
@@ -45,7 +44,7 @@ public:
     CSettingsCopy(const CSettingsCopy&) = delete;
     CSettingsCopy& operator=(const CSettingsCopy&) = delete;
 
-    const std::string& Path() const { return m_path; } // empty where no copy could be made
+    const std::string& Path() const { return m_path; } // empty if the copy failed
 
 private:
     std::string m_folder, m_path;
