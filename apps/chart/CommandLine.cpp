@@ -213,7 +213,8 @@ std::optional<sCommandLine> ReadCommandLine(int argc, char** argv, int& exitCode
         ->type_name("WINDOW-ID");
     app.add_flag("--show", line.Show, "With --replay: in a window");
     app.set_version_flag("--version", "zantroq-chart " ZANTROQ_VERSION);
-    app.footer("Exit codes: 0 done, 2 wrong usage, 3 the feed gave no answer in time, 4 an output could not "
+    app.footer("Exit codes: 0 done, 2 wrong usage, 3 the feed gave no answer in time or a signal "
+               "ended --snapshot, 4 an output could not "
                "be written.\n--snapshot and --replay need no display.\n"
                "ZANTROQ_LOOK=light, dark or system (default) chooses the look of a window.");
     try {

@@ -14,7 +14,7 @@
 namespace zantroq {
 namespace {
 
-// Runs the event loop until `done`, or for so long.
+// Runs the event loop until `done`, for so long, or until a signal asks for the end.
 bool Pump(int milliseconds, const std::function<bool()>& done)
 {
     QElapsedTimer clock;
@@ -23,7 +23,7 @@ bool Pump(int milliseconds, const std::function<bool()>& done)
     QTimer wake;
     wake.start(5);
     while (!done()) {
-        if (clock.elapsed() >= milliseconds)
+        if (clock.elapsed() >= milliseconds || EndAsked())
             return false;
         QApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
@@ -37,7 +37,10 @@ bool IsSimulatedSymbol(const QString& symbol)
 
 } // namespace
 
-CSession::CSession(const sCommandLine& line) : m_line(line) {}
+CSession::CSession(const sCommandLine& line) : m_line(line)
+{
+    QObject::connect(&m_end, &CEndSignals::Asked, qApp, [this] { OnEndAsked(); });
+}
 
 CSession::~CSession()
 {
@@ -147,15 +150,35 @@ void CSession::WatchSymbol()
     m_window->ShowNotice(notice);
 }
 
+// An open dialog may refuse an ordinary quit; exit leaves its loop as well.
+void CSession::OnEndAsked()
+{
+    if (m_window != nullptr)
+        m_window->close();
+    QApplication::exit(ExitDone);
+}
+
 int CSession::RunWindow()
 {
+    // A signal that came before the loop runs would be lost to exit.
+    if (EndAsked())
+        return ExitDone;
     const CChartService service(m_window->Control());
     return QApplication::exec();
 }
 
 int CSession::RunSnapshot()
 {
-    if (const std::string wrong = WaitComplete(m_line.TimeoutMs); !wrong.empty()) {
+    const auto endedEarly = [this] {
+        if (EndAsked())
+            Complain("--snapshot " + m_line.Snapshots.front() +
+                     ": a signal ended the program before every picture was written; run it again");
+        return EndAsked();
+    };
+    const std::string wrong = WaitComplete(m_line.TimeoutMs);
+    if (endedEarly())
+        return ExitNoAnswer;
+    if (!wrong.empty()) {
         Complain(wrong);
         return ExitNoAnswer;
     }
@@ -163,10 +186,12 @@ int CSession::RunSnapshot()
         Wait(m_line.SettleMs);
     int exitCode = ExitDone;
     for (const std::string& file : m_line.Snapshots) {
-        const std::string wrong = Snapshot(file);
-        if (wrong.empty())
+        if (endedEarly())
+            return ExitNoAnswer;
+        const std::string unwritten = Snapshot(file);
+        if (unwritten.empty())
             continue;
-        Complain("--snapshot " + wrong);
+        Complain("--snapshot " + unwritten);
         exitCode = ExitNotWritten; // the other files are written all the same
     }
     return exitCode;

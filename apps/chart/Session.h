@@ -4,6 +4,7 @@
 #include "ChartService.h"
 #include "CommandLine.h"
 #include "EmbeddedFeed.h"
+#include "EndSignals.h"
 #include "HostWindow.h"
 #include "control/ForeignWindow.h"
 #include "replay/ReplayRunner.h"
@@ -32,6 +33,7 @@ private:
     void ShowWindow();
     void ApplyOptions(); // data type, interval, size: before the symbol
     void OnNotice(const QString& sentence);
+    void OnEndAsked();
     void WatchSymbol();
     std::string NoReply(int milliseconds) const; // why, and what to do
 
@@ -42,8 +44,10 @@ private:
     std::string Print(const std::string& file) override;
     void Warn(const std::string& sentence) override;
     std::string Snapshot(const std::string& file) override;
+    bool IsEnding() const override { return EndAsked(); }
 
     const sCommandLine m_line;
+    CEndSignals m_end;
     std::unique_ptr<CEmbeddedFeed> m_feed; // outlives the window
     CReplayMessageBox m_boxes;
     std::unique_ptr<CHostWindow> m_window;

@@ -1,5 +1,6 @@
 // zantroq-chart: shows a chart in a window, or draws it into files without one.
 #include "CommandLine.h"
+#include "EndSignals.h"
 #include "Session.h"
 
 #include "qt/widgets/DesktopLook.h"
@@ -105,6 +106,7 @@ int RunProgram(int argc, char** argv)
     if (line->Into && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") &&
         !qEnvironmentVariableIsEmpty("DISPLAY"))
         qputenv("QT_QPA_PLATFORM", "xcb");
+    CatchEndSignals();
     qInstallMessageHandler(OnToolkitMessage);
     if (qEnvironmentVariableIsEmpty("QT_STYLE_OVERRIDE"))
         QApplication::setStyle("Fusion");

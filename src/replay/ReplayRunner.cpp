@@ -10,10 +10,16 @@ sReplayResult RunReplay(const sReplayScript& script, CChartDlg& window, CReplayM
     const sReplayStage stage{window, boxes, host};
     sReplayResult result;
     for (const sReplayStep& step : script.Steps) {
+        if (host.IsEnding())
+            break;
         result = step.Run(step, stage);
         if (result.ExitCode != 0)
             break;
     }
+    // A wait that was cut short says nothing about the feed.
+    constexpr int NoAnswer = 3;
+    if (host.IsEnding() && result.ExitCode == NoAnswer)
+        result = {};
     if (IDialogDriver* const dialog = window.OpenDialog())
         dialog->Cancel();
     return result;

@@ -26,6 +26,8 @@ public:
     virtual std::string Snapshot(const std::string& file) = 0;
     // A sentence about a step that did nothing; the script goes on.
     virtual void Warn(const std::string& sentence) = 0;
+    // Whether the program is to end before the script does. Waits then return at once.
+    virtual bool IsEnding() const { return false; }
 };
 
 struct sReplayResult
