@@ -119,8 +119,8 @@ TEST(ReplayScript, AWrongLineIsNamedAndNoStepIsLeft)
     EXPECT_EQ(Wrong("resize 0 5"), "line 1: resize: the width 0 is not within 1 and 16384");
     EXPECT_EQ(Wrong("answer maybe"),
               "line 1: answer: the answer \"maybe\" is not offered; use one of yes, no, ok, cancel");
-    EXPECT_EQ(Wrong("wait"),
-              "line 1: wait: the number of milliseconds is missing; write wait MS or wait complete [S]");
+    EXPECT_EQ(Wrong("wait"), "line 1: wait: the number of milliseconds is missing; write wait MS, wait "
+                             "complete [S] or wait search [S]");
     EXPECT_EQ(Wrong("wait -1").substr(0, 44), "line 1: wait: the number of milliseconds -1 ");
     EXPECT_EQ(Wrong("wait complete soon"),
               "line 1: wait: the time \"soon\" is not a number of seconds from 0 to 86400");
