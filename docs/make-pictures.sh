@@ -2,7 +2,8 @@
 # Remakes the pictures of the documents: docs/images/studies/<name>.png, one for each study, and all.png with all ten;
 # docs/images/trends/<name>.png, one for each kind of trendline, drawn with the mouse of a replay script;
 # docs/images/window.png and window-dark.png, the real window, and docs/images/settings/<page>.png, the pages of the
-# settings sheet, on a display of their own (packages xvfb, xdotool and imagemagick; left as they are where one is missing).
+# settings sheet, and docs/images/symbol-search.png, on a display of their own (packages xvfb, xdotool and imagemagick;
+# left as they are where one is missing).
 # Usage: docs/make-pictures.sh [FOLDER OF THE BUILT PROGRAMS]     (default: build/release/bin)
 # Works on a settings file of its own; needs no display of yours and no feed.
 set -eu
@@ -105,12 +106,8 @@ window() {
     rm "$work/display"
 }
 
-# sheet NAME PAGE: a page of the settings sheet.
-sheet() {
-    mkdir -p "$root/docs/images/settings"
-    "$bin/zantroq-settings" reset --yes
-    printf 'type daily\nsymbol GOOG\ndraw\nwait complete\ncommand 775\ndialog page "%s"\nwait 5000\ndialog cancel\n' \
-        "$2" >"$work/script.txt"
+# dialog TITLE FILE: the open dialog with this title, while the script runs.
+dialog() {
     Xvfb -displayfd 3 -screen 0 1280x800x24 3>"$work/display" 2>/dev/null &
     server=$!
     while [ ! -s "$work/display" ]; do sleep 0.1; done
@@ -119,13 +116,30 @@ sheet() {
     env -u QT_QPA_PLATFORM QT_QPA_PLATFORMTHEME= ZANTROQ_LOOK=light "$bin/zantroq-chart" --feed embedded \
         --replay "$work/script.txt" --show 2>/dev/null &
     chart=$!
-    id=$(xdotool search --sync --onlyvisible --name "^Settings$" | tail -n 1)
-    sleep 1
-    import -window "$id" -strip "$root/docs/images/settings/$1.png"
+    id=$(xdotool search --sync --onlyvisible --name "^$1$" | tail -n 1)
+    sleep 3
+    import -window "$id" -strip "$root/docs/images/$2.png"
     wait "$chart" || true
     kill "$server"
     wait "$server" 2>/dev/null || true
     rm "$work/display"
+}
+
+# sheet NAME PAGE: a page of the settings sheet.
+sheet() {
+    mkdir -p "$root/docs/images/settings"
+    "$bin/zantroq-settings" reset --yes
+    printf 'type daily\nsymbol GOOG\ndraw\nwait complete\ncommand 775\ndialog page "%s"\nwait 8000\ndialog cancel\n' \
+        "$2" >"$work/script.txt"
+    dialog Settings "settings/$1"
+}
+
+# The symbol search with its options open and results.
+search() {
+    "$bin/zantroq-settings" reset --yes
+    printf 'command 774\ndialog press 248\ndialog set 235 google\ndialog press 234\nwait search\nwait 8000\ndialog cancel\n' \
+        >"$work/script.txt"
+    dialog "Search for Company" symbol-search
 }
 
 for tool in Xvfb xdotool import; do
@@ -141,3 +155,4 @@ sheet general General
 sheet data Data
 sheet upper-studies "Upper Studies"
 sheet lower-studies "Lower Studies"
+search
