@@ -54,8 +54,9 @@ TEST_F(InstalledFiles, HeadersIncludeOneAnotherQtAndTheStandardLibraryAlone)
             const QString header = found.next().captured(1);
             EXPECT_TRUE(allowed.match(header).hasMatch())
                 << it.filePath().toStdString() << ": " << header.toStdString();
-            if (header.startsWith("zantroq/"))
+            if (header.startsWith("zantroq/")) {
                 EXPECT_TRUE(QFileInfo::exists(InPrefix("include/" + header))) << header.toStdString();
+            }
         }
     }
     EXPECT_GE(includes, 4);
