@@ -5,8 +5,6 @@
 namespace zantroq {
 namespace {
 
-constexpr double Hole = CPaneData::HoleValue();
-
 // A study that notes what was asked of it.
 class CNotedStudy : public CStudyChart
 {
