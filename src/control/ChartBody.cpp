@@ -54,8 +54,13 @@ CChartBody::~CChartBody()
         return;
     m_services->Dialogs.Drop();
     m_view->Detach();
+    CManagerThreadHolder& holder = ManagerThreadHolder();
+    // A window whose symbol box was emptied does not unwatch its series.
+    CChartHistRequest* const series = m_window->Series();
+    if (series != nullptr && holder.ControlCount() == 1)
+        holder.UnwatchSymbol(*series);
     m_window->Destroy();
-    ManagerThreadHolder().RemoveControl(nullptr); // Destroy has unwatched the series
+    holder.RemoveControl(nullptr); // the series is unwatched and given up by now
 }
 
 std::unique_ptr<CChartCtrl> CChartBody::MakeControl(QWidget* parent, const sChartCtrlSetup& setup)

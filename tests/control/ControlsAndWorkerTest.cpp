@@ -93,6 +93,17 @@ TEST_F(Controls, TheLastOneUnwatchesItsSymbolBeforeTheConnectionsClose)
     EXPECT_TRUE(m_feed.Level1.AwaitReceived("wAAA\r\nrAAA\r\n"));
 }
 
+// The window unwatches its series at its end only where the symbol box holds a text.
+TEST_F(Controls, TheLastOneUnwatchesItsSymbolAlsoFromAnEmptiedBox)
+{
+    auto control = Make();
+    control->SetStockSymbol("AAA");
+    ASSERT_TRUE(AwaitDrawn(*control));
+    control->SetStockSymbol("");
+    control.reset();
+    EXPECT_TRUE(m_feed.Level1.AwaitReceived("wAAA\r\nrAAA\r\n"));
+}
+
 TEST_F(Controls, TenWindowsDrawTheirSymbols)
 {
     std::vector<std::unique_ptr<CChartCtrl>> windows;
