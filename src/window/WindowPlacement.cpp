@@ -1,5 +1,6 @@
 #include "window/WindowPlacement.h"
 
+#include <algorithm>
 #include <cstdint>
 
 namespace zantroq {
@@ -7,11 +8,14 @@ namespace zantroq {
 namespace {
 
 constexpr int LeastExtent = 200;
+constexpr int GreatestExtent =
+    32'767; // pixels that a window system takes; a stored extent may exceed 32 bits
 
 // One direction of the fit, in 64 bits since stored numbers may be anything.
 void FitExtent(std::int32_t& low, std::int32_t& high, std::int32_t screenLow, std::int32_t screenHigh)
 {
     std::int64_t from = low, to = high;
+    to = std::min(to, from + GreatestExtent);
     if (from < screenLow) {
         to += screenLow - from;
         from = screenLow;

@@ -12,6 +12,7 @@
 #include <nlohmann/json.hpp>
 
 #include <gtest/gtest.h>
+#include <limits>
 
 namespace zantroq {
 namespace {
@@ -273,6 +274,12 @@ TEST(Placement, ARectangleIsFittedToTheScreen)
     EXPECT_EQ(FitToScreen({-50, 10, 550, 410}, screen), (sWindowRect{0, 10, 600, 410}));
     EXPECT_EQ(FitToScreen({1500, 900, 2100, 1300}, screen), (sWindowRect{1320, 680, 1920, 1080}));
     EXPECT_EQ(FitToScreen({100, 100, 200, 300}, screen), (sWindowRect{50, 100, 250, 300}));
+}
+
+TEST(Placement, ARectangleWiderThanAnyWindowIsCut)
+{
+    constexpr int least = std::numeric_limits<int>::min(), greatest = std::numeric_limits<int>::max();
+    EXPECT_EQ(FitToScreen({least, 0, greatest, 400}, {0, 0, 800, 800}), (sWindowRect{-31967, 0, 800, 400}));
 }
 
 TEST(Placement, AWindowMovesOnlyWhereTheHostAskedForIt)
