@@ -3,7 +3,7 @@
 #include "feed/markets/BarBuilder.h"
 #include "feed/markets/RecordedMarket.h"
 #include "feed/markets/Recording.h"
-#include "feed/protocol/HistoryReply.h"
+#include "feed/protocol/HistoryReplyWriter.h"
 
 #include <cstdlib>
 
@@ -43,7 +43,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         auto points = MakeHistoryPoints(market, command, reason);
         if (!points)
             continue;
-        CHistoryReply reply(std::move(points), command);
+        CHistoryReplyWriter reply(std::move(points), command);
         CWorkSlice slice = CWorkSlice::Unlimited();
         CTextBlock block;
         while (reply.Write(block, 1000, slice) != WorkProgress::Ended)
