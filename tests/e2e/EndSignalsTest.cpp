@@ -68,7 +68,7 @@ TEST_F(EndSignals, EachOfThemEndsAWindowWithExitZero)
     for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
         m_err.clear();
         Start({"--feed", "embedded", "SIM.A"});
-        WaitForNotice("simulated market");
+        WaitForNotice("simulated history");
         EXPECT_EQ(EndBy(number), 0) << number << m_err.toStdString();
     }
 }
@@ -78,7 +78,7 @@ TEST_F(EndSignals, ASnapshotUnderWayEndsWithThreeAndNoFile)
     for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
         m_err.clear();
         Start({"--feed", "embedded", "--snapshot", "a.png", "--settle", "80000000", "SIM.A"});
-        WaitForNotice("simulated market");
+        WaitForNotice("simulated history");
         EXPECT_EQ(EndBy(number), 3) << number;
         EXPECT_TRUE(m_err.endsWith("zantroq-chart: --snapshot a.png: a signal ended the program before every "
                                    "picture was written; run it again\n"))
