@@ -22,8 +22,15 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_G
     target_compile_options(zantroq_settings INTERFACE -Wno-restrict -Wno-stringop-overflow -Wno-array-bounds)
 endif()
 if(ZANTROQ_WERROR)
-    target_compile_options(zantroq_settings INTERFACE -Werror)
+    target_compile_options(zantroq_settings INTERFACE $<$<NOT:$<BOOL:$<TARGET_PROPERTY:ZANTROQ_WARN_ONLY>>>:-Werror>)
 endif()
+# zantroq_warn_only_under_sanitizers(TARGET...): with the sanitizers g++ sees overflows and uninitialised values in tests and benchmarks
+# where there are none, so that there a warning is shown and does not end the build. clang's warnings do.
+function(zantroq_warn_only_under_sanitizers)
+    if(ZANTROQ_SANITIZE AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+        set_target_properties(${ARGN} PROPERTIES ZANTROQ_WARN_ONLY ON)
+    endif()
+endfunction()
 if(ZANTROQ_SANITIZE)
     target_compile_options(zantroq_settings INTERFACE -fsanitize=${ZANTROQ_SANITIZE} -fno-omit-frame-pointer)
     target_link_options(zantroq_settings INTERFACE -fsanitize=${ZANTROQ_SANITIZE})
