@@ -182,9 +182,11 @@ TEST_F(PanesReplay, AWindowWithoutRoomForAllPanesGoesByTheShares)
 TEST_F(PanesReplay, TheValueAxisStandsOnTheSideThatIsSet)
 {
     Serve(60, DayLine);
-    for (const json& pane : After(DailyX).at("panes"))
+    const json left = After(DailyX); // outlives the loop over a part of it
+    for (const json& pane : left.at("panes"))
         EXPECT_TRUE(pane.at("axes").at("y").at("shown").get<bool>());
-    for (const json& pane : After(DailyX + "set \"Y Axis Orientation\" 1\nwait complete").at("panes")) {
+    const json right = After(DailyX + "set \"Y Axis Orientation\" 1\nwait complete");
+    for (const json& pane : right.at("panes")) {
         EXPECT_FALSE(pane.at("axes").at("y").at("shown").get<bool>());
         EXPECT_TRUE(pane.at("axes").at("y2").at("shown").get<bool>());
         EXPECT_GT(pane.at("plot").at("right"), pane.at("plot").at("left"));
