@@ -153,7 +153,7 @@ bool CChartBody::SetBorderStyle(int borderStyle)
     return true;
 }
 
-// A widget that is disabled with its parent is told twice where both were asked for.
+// Qt reports the change twice when a widget and its parent are both disabled; only a real change counts.
 bool CChartBody::NoteEnabled(bool enabled)
 {
     return std::exchange(m_enabled, enabled) != enabled;
