@@ -11,7 +11,9 @@ target_compile_options(zantroq_settings INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wunused
     # Results must be the same on every build: no fused multiply-add, no reordering of floating-point terms.
     -ffp-contract=off -fno-fast-math)
-target_compile_definitions(zantroq_settings INTERFACE ASIO_STANDALONE ASIO_NO_DEPRECATED)
+# asio's headers find the library's aligned allocation only in sources that include a standard header before them, and memory that one
+# source takes is returned by another: all of them do without it.
+target_compile_definitions(zantroq_settings INTERFACE ASIO_STANDALONE ASIO_NO_DEPRECATED ASIO_DISABLE_STD_ALIGNED_ALLOC)
 if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
     target_compile_options(zantroq_settings INTERFACE -Wthread-safety)
 endif()
