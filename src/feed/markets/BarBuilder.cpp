@@ -27,7 +27,7 @@ template<class TSameBar> void JoinDay(const sFEED_BAR& day, std::vector<sFEED_BA
     bars.back().Stamp = day.Stamp;
 }
 
-// One bar of everything that one day's bars hold.
+// Combines the bars of one day into one bar.
 void AppendDay(TFeedDay day, std::span<const sFEED_BAR> intervals, std::vector<sFEED_BAR>& bars)
 {
     if (intervals.empty())

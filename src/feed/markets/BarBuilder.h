@@ -1,7 +1,7 @@
-// Building the bars that a recording lacks: intervals from ticks or minutes, days from either, weeks and
-// months from days. Interval bars are stamped with their ends and never cross midnight; longer ones with
-// their last trading day. A trade in the very second in which a bar ends belongs to the next bar. Pure
-// functions, any thread.
+// Builds the bars that a recording lacks: interval bars from ticks or minutes, daily bars from either, weekly
+// and monthly bars from daily ones. An interval bar is stamped with its end and never crosses midnight; a
+// longer bar is stamped with its last trading day. A trade in the second in which a bar ends belongs to the
+// next bar. Pure functions, any thread.
 #pragma once
 
 #include "feed/markets/MarketSource.h"
@@ -11,18 +11,18 @@
 
 namespace zantroq::feed {
 
-// The end of the interval that a time of day (milliseconds, 0 to just below a day) falls into: multiples of
-// the interval from midnight on, the day's last one ending at midnight. Seconds 1 to 86,400.
+// The end of the interval that contains a time of day (milliseconds, 0 up to but not including a day).
+// Intervals of 1 to 86,400 seconds start at midnight; the last interval of a day ends at midnight.
 TFeedTime IntervalEnd(TFeedTime timeOfDay, int intervalSeconds);
 
-// Builds the bars of one day from its ticks, which may come in several pieces, in time order. Only trades
-// count; where the ticks carry no total volume, the sizes are summed.
+// Builds the interval bars of one day from its ticks, which come in time order and may come in several
+// pieces. Only ticks that are trades count. If the ticks carry no total volume, their sizes are summed.
 class CTickBarBuilder
 {
 public:
     explicit CTickBarBuilder(int intervalSeconds) : m_seconds(intervalSeconds) {}
-    // Appends new bars to `bars` and widens its last one, which must be this builder's. `bars` must be empty
-    // at the first call and the same vector at all.
+    // Appends new bars to `bars` and updates its last bar. `bars` must be empty at the first call, and every
+    // later call must pass the same vector.
     void Add(std::span<const sFEED_TICK> ticks, std::vector<sFEED_BAR>& bars);
 
 private:
@@ -30,14 +30,15 @@ private:
     std::int64_t m_summed = 0;
 };
 
-// Takes the minutes of one day in time order and appends its bars. The interval must be of whole minutes.
+// Appends the interval bars of one day, built from its minutes in time order. The interval must be a multiple
+// of 60 seconds.
 void BuildIntervalsFromMinutes(std::span<const sFEED_BAR> minutes, int intervalSeconds,
                                std::vector<sFEED_BAR>& bars);
 
-// All days of a source, from its minutes or, when it has none, from its ticks.
+// The daily bars of a source, built from its minutes or, if it has none, from its ticks.
 std::vector<sFEED_BAR> BuildDaily(const IMarketSource& source);
 
-// Adds the next day, in time order, to weekly or monthly bars. Weeks run from Monday to Sunday.
+// Adds the next day, in time order, to weekly or monthly bars. A week is Monday to Sunday.
 void AddDayToWeekly(const sFEED_BAR& day, std::vector<sFEED_BAR>& bars);
 void AddDayToMonthly(const sFEED_BAR& day, std::vector<sFEED_BAR>& bars);
 

@@ -1,4 +1,4 @@
-// Cutting comma-separated text into lines and fields, in place. Pure functions, any thread.
+// Cuts comma-separated text into lines and fields without copying. Pure functions, any thread.
 #pragma once
 
 #include <string>
@@ -7,22 +7,22 @@
 
 namespace zantroq::feed {
 
-// Takes the next line off the front of `text`; CR LF, LF and a lone CR all end a line. False at the end of
-// the text.
+// Removes the first line from `text`. CR LF, LF and a lone CR all end a line. Returns false at the end of the
+// text.
 bool TakeLine(std::string_view& text, std::string_view& line);
 
-// The fields of a line, blanks around each trimmed. A field in double quotes may hold commas; the quotes are
-// taken off.
+// Cuts a line into fields and trims the blanks around each. A field in double quotes may contain commas; the
+// quotes are removed.
 void SplitCsvLine(std::string_view line, std::vector<std::string_view>& fields);
 
-// The fields of a command: cut at every comma, nothing trimmed, never empty.
+// Cuts a command at every comma and trims nothing. Yields at least one field.
 void SplitAtCommas(std::string_view line, std::vector<std::string_view>& fields);
 
 std::string_view TrimBlanks(std::string_view text);
-// Letters A to Z only, whatever the locale.
+// Converts a to z only, in every locale.
 std::string UpperCase(std::string_view text);
-// What a person gets to see of a text of unknown origin: at most 40 bytes, "..." behind a longer one, and "?"
-// for whatever is no printable ASCII.
+// Makes a text of unknown origin safe to show: at most 40 bytes, then "..." if it was longer; "?" replaces
+// every byte that is not printable ASCII.
 std::string ShownText(std::string_view text);
 
 } // namespace zantroq::feed

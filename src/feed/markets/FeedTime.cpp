@@ -7,7 +7,7 @@
 namespace zantroq::feed {
 namespace {
 
-// The first `count` characters as a number; false unless all are digits.
+// Reads `count` characters at `at` as a number; false unless all are digits.
 bool ReadDigits(std::string_view text, std::size_t at, std::size_t count, unsigned& number)
 {
     if (at + count > text.size())

@@ -1,5 +1,5 @@
-// Wall-clock times of the feed: whole milliseconds from 1 January 1970 00:00:00, as printed, without any time
-// zone. Days are counted from the same origin. Years 100 to 9999. Pure functions, any thread.
+// Times of the feed: milliseconds since 1 January 1970 00:00:00 of the wall clock, without time zone. Days
+// are counted from the same date. Years 100 to 9999. Pure functions, any thread.
 #pragma once
 
 #include <cstdint>
@@ -36,7 +36,7 @@ inline TFeedTime StartOfDay(TFeedDay day)
     return day * MsPerDay;
 }
 
-// The day that a bar stamped with its end belongs to: a bar stamped midnight closes the day before.
+// The day of a bar that is stamped with its end: a bar stamped midnight belongs to the day before.
 inline TFeedDay DayOfBarEnd(TFeedTime stamp)
 {
     return DayOf(stamp - 1);
@@ -44,20 +44,22 @@ inline TFeedDay DayOfBarEnd(TFeedTime stamp)
 
 // 0 Monday to 6 Sunday.
 int WeekdayOf(TFeedDay day);
-TFeedDay NextWeekday(TFeedDay day); // the first Monday to Friday after the day
+TFeedDay NextWeekday(TFeedDay day); // the first Monday to Friday after `day`
 
-// YYYY-MM-DD or YYYYMMDD. False, and day untouched, for anything else or a date that does not exist.
+// Reads YYYY-MM-DD or YYYYMMDD. Returns false and leaves `day` unchanged for any other text and for dates
+// that do not exist.
 bool ParseDay(std::string_view text, TFeedDay& day);
-// HHMMSS, HHMM, HH:MM, HH:MM:SS or HH:MM:SS.m to .mmm (further digits are ignored); 24:00:00 is not a time.
+// Reads HHMMSS, HHMM, HH:MM, HH:MM:SS or HH:MM:SS with one to three digits of a second (further digits are
+// ignored). 24:00:00 is not accepted.
 bool ParseTimeOfDay(std::string_view text, TFeedTime& timeOfDay);
-// A day, a blank or "T", a time of day; a day alone is its midnight.
+// Reads a day, a blank or "T", and a time of day. A day alone means its midnight.
 bool ParseStamp(std::string_view text, TFeedTime& time);
 
-// Each writes at `at` and returns the end: YYYY-MM-DD, HH:MM:SS, and HH:MM:SS.mmm.
+// Each function writes at `at` and returns the end. Formats: YYYY-MM-DD, HH:MM:SS, HH:MM:SS.mmm.
 char* WriteDay(char* at, TFeedDay day);
 char* WriteSeconds(char* at, TFeedTime timeOfDay);
 char* WriteMilliseconds(char* at, TFeedTime timeOfDay);
-// MM/DD/YYYY
+// MM/DD/YYYY.
 char* WriteMonthDayYear(char* at, TFeedDay day);
 
 } // namespace zantroq::feed

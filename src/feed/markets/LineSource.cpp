@@ -41,7 +41,7 @@ void CFileLines::Rewind()
     m_failed = m_failed || lseek(m_file, 0, SEEK_SET) != 0;
 }
 
-// Moves what is left to the front and fills the rest; false when there was nothing to be added.
+// Moves the unread bytes to the front of the block and fills the rest; false if no byte was added.
 bool CFileLines::ReadBlock()
 {
     if (m_atEnd || m_failed)
@@ -112,7 +112,7 @@ bool CFileLines::Next(std::string_view& line)
     }
     const std::size_t size = end - m_begin;
     if (size > LongestLine) {
-        // The blocks that are read to find its end take the place of its start.
+        // Reading on to find the end of the line overwrites its beginning in the block.
         m_tooLong.assign(m_block.get() + m_begin, LongestLine + 1);
         line = m_tooLong;
         SkipRestOfLine();

@@ -1,5 +1,5 @@
-// The lines of a text in memory or of a file. A file is read in blocks, so that its size does not matter. One
-// thread at a time.
+// The lines of a text in memory or of a file. A file is read in blocks, so a large file needs no more memory
+// than a small one. One thread at a time.
 #pragma once
 
 #include <cstddef>
@@ -10,20 +10,20 @@
 
 namespace zantroq::feed {
 
-// Longer lines are never kept whole.
+// In bytes. Of a longer line only the beginning is kept.
 inline constexpr std::size_t LongestLine = 65'536;
 
 class ILineSource
 {
 public:
     virtual ~ILineSource() = default;
-    // The next line without its end, valid until the next call; CR LF, LF and a lone CR all end a line. Of a
-    // line longer than LongestLine only its first LongestLine + 1 bytes are handed out. False at the end, and
-    // after a failed read.
+    // Returns the next line without its line end; the view is valid until the next call. CR LF, LF and a lone
+    // CR all end a line. Of a line longer than LongestLine, the first LongestLine + 1 bytes are returned.
+    // Returns false at the end and after a failed read.
     virtual bool Next(std::string_view& line) = 0;
-    // How many lines of at least so many bytes there are; 0 where finding out would cost more than it saves.
+    // The number of lines of at least `atLeast` bytes; 0 if counting would cost more than it saves.
     virtual std::size_t CountLines(std::size_t atLeast) = 0;
-    // Whether the text ended early because it could not be read on.
+    // True if a read failed before the end of the text.
     virtual bool HasFailed() const { return false; }
 };
 
@@ -46,10 +46,11 @@ public:
     CFileLines(const CFileLines&) = delete;
     CFileLines& operator=(const CFileLines&) = delete;
 
-    // False when the file cannot be opened or is no plain file: opening a pipe would wait for a writer.
+    // Returns false if the file cannot be opened or is not a regular file. (Opening a pipe would wait for a
+    // writer.)
     bool Open(const std::filesystem::path& path);
     bool Next(std::string_view& line) override;
-    // Reads the whole file and begins anew.
+    // Reads the whole file once; Next then starts at the first line again.
     std::size_t CountLines(std::size_t atLeast) override;
     bool HasFailed() const override { return m_failed; }
 
@@ -58,16 +59,16 @@ private:
 
     bool ReadBlock();
     void SkipRestOfLine();
-    // The first line end from `from` on, or m_end.
+    // The position of the first line end at or after `from`; m_end if there is none.
     std::size_t FindLineEnd(std::size_t from) const;
     void StepOverLineEnd(std::size_t at);
     void Rewind();
 
     int m_file = -1;
     std::unique_ptr<char[]> m_block;
-    std::string m_tooLong;              // the start of the line handed out last, where it was too long
-    std::size_t m_begin = 0, m_end = 0; // bytes of the block not yet handed out
-    bool m_afterReturn = false;         // a line feed that comes next belongs to the line before
+    std::string m_tooLong;              // beginning of the line returned last, if it was too long
+    std::size_t m_begin = 0, m_end = 0; // bytes of the block not returned yet
+    bool m_afterReturn = false; // the last line ended in CR, so a line feed that follows belongs to it
     bool m_atEnd = false, m_failed = false;
 };
 

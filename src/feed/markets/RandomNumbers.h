@@ -1,6 +1,6 @@
-// Repeatable random numbers: the same on every machine, compiler and run. Made by counting, so that any day
-// or minute of a simulated market can be had without making those before it. Mixing function: SplitMix64
-// (Steele, Lea, Flood, 2014).
+// Repeatable random numbers: the same with every machine, compiler and run. The state is a counter, so any
+// day or minute of a simulated market can be generated without the days before it. Mixing function:
+// SplitMix64 (Steele, Lea, Flood, 2014).
 #pragma once
 
 #include <cstdint>
@@ -30,12 +30,13 @@ public:
     explicit CRandomNumbers(std::uint64_t key) : m_state(MixBits(key)) {}
 
     std::uint64_t Next() { return MixBits(m_state++); }
-    // 0 to bound - 1; bound 1 to 2^32. The high half of a product, so the slight unevenness is below 2^-32.
+    // A number from 0 to bound - 1, for a bound of 1 to 2^32. Taken from the high half of a product; the bias
+    // is below 2^-32.
     std::uint32_t Below(std::uint64_t bound)
     {
         return static_cast<std::uint32_t>(((Next() >> 32) * bound) >> 32);
     }
-    // -spread to +spread, the middle likelier: the sum of two even draws.
+    // A number from -spread to +spread, with a triangular distribution: the sum of two uniform numbers.
     std::int64_t Around(std::int64_t spread)
     {
         const auto bound = static_cast<std::uint64_t>(spread) + 1;

@@ -1,4 +1,5 @@
-// A market read from recordings. Built on one thread, constant afterwards.
+// A market read from recordings. Constructed on one thread, constant afterwards; Daily builds its bars at the
+// first call, safely from any thread.
 #pragma once
 
 #include "feed/markets/MarketSource.h"
@@ -10,7 +11,7 @@ namespace zantroq::feed {
 class CRecordedMarket : public IMarketSource
 {
 public:
-    // Records in time order; any of the three may be empty, not all.
+    // Records in time order. At least one of the three must not be empty.
     CRecordedMarket(std::vector<sFEED_TICK> ticks, std::vector<sFEED_BAR> minutes,
                     std::vector<sFEED_BAR> daily);
 
@@ -29,11 +30,12 @@ public:
     {
         return std::span(m_minutes).subspan(m_minuteDays.Starts[position], m_minuteDays.Count(position));
     }
-    // The recorded days, or those built from finer records at the first call.
+    // The recorded daily bars; if there are none, the bars built from finer records at the first call.
     std::span<const sFEED_BAR> Daily() const override;
 
 private:
-    // Where each day's records begin; one more start than days.
+    // The days, and the index of each day's first record; the last element of Starts is the number of
+    // records.
     struct sDAYS
     {
         std::vector<TFeedDay> Days;

@@ -12,15 +12,15 @@ namespace zantroq::feed {
 namespace {
 
 constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
-// More than any market trades in a day, and small enough for the sum of a million rows.
+// More than any market trades in a day; a million such rows can be summed without overflow.
 constexpr std::int64_t LargestCount = 5'000'000'000'000;
-// Level 1 lines carry it, and their readers take no more than some 4,000 bytes a line.
+// Level 1 lines contain the description, and their readers accept about 4,000 bytes a line.
 constexpr std::size_t LongestDescription = 1000;
-// Bytes of the shortest rows: a date of eight digits and a price; the same and three prices more.
+// Bytes of the shortest rows: a tick has a date of eight digits and a price, a bar has three more prices.
 constexpr std::size_t ShortestTick = 10, ShortestBar = 16;
 constexpr std::size_t NoColumn = static_cast<std::size_t>(-1);
 
-// Walks the rows of a file below its header and keeps the columns by name.
+// Walks the rows below the header line and finds columns by name.
 class CCsvRows
 {
 public:
@@ -34,7 +34,7 @@ public:
             m_columns.push_back(UpperCase(field));
     }
 
-    // The column of that name; a needed one that is missing makes the file unreadable.
+    // The index of a column. A missing needed column makes the file unusable.
     std::size_t Column(std::string_view name, bool needed)
     {
         const auto at = std::find(m_columns.begin(), m_columns.end(), UpperCase(name));
@@ -49,7 +49,7 @@ public:
     }
 
     bool Next() { return m_readable && NextLine(); }
-    // The next row that has a field for each column; others are skipped.
+    // Goes to the next row that has a field for each column; skips and reports shorter rows.
     bool NextWhole()
     {
         while (Next()) {
@@ -100,7 +100,7 @@ std::string Quoted(std::string_view what, std::string_view value)
     return std::string(what) + " \"" + ShownText(value) + '"';
 }
 
-// A whole number, or one with nothing but zeros behind its point.
+// Reads a whole number; a fraction of nothing but zeros is allowed.
 template<class TInteger> bool ReadCount(std::string_view text, TInteger& number)
 {
     const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
@@ -118,7 +118,7 @@ bool ReadPrice(CCsvRows& rows, std::size_t column, std::string_view name, sPRICE
     return false;
 }
 
-// An empty field of a column that may be missing counts as 0.
+// An empty field of an optional column counts as 0.
 template<class TInteger>
 bool ReadOptionalCount(CCsvRows& rows, std::size_t column, std::string_view name, TInteger& number)
 {
@@ -145,7 +145,7 @@ bool ReadTime(CCsvRows& rows, std::size_t column, std::string_view name, TFeedTi
     return false;
 }
 
-// At most so many bytes of UTF-8 text, and no half character at its end.
+// The first `most` bytes of UTF-8 text, without an incomplete character at the end.
 std::string_view CutText(std::string_view text, std::size_t most)
 {
     if (text.size() <= most)
@@ -164,8 +164,8 @@ bool ReadListId(CCsvRows& rows, std::size_t column, std::string_view name, int& 
     return false;
 }
 
-// Moves each record to its place in time; those of one time keep their order. A stable sort of the records
-// themselves would take half as much memory again as they do.
+// Sorts records by time; records of the same time keep their order. std::stable_sort would need half as much
+// memory again as the records.
 template<class TRecord, class TTime> void SortByTime(std::vector<TRecord>& records, TTime time)
 {
     const auto earlier = [time](const TRecord& a, const TRecord& b) { return a.*time < b.*time; };
@@ -176,7 +176,7 @@ template<class TRecord, class TTime> void SortByTime(std::vector<TRecord>& recor
     std::sort(from.begin(), from.end(), [&](std::uint32_t a, std::uint32_t b) {
         return records[a].*time != records[b].*time ? records[a].*time < records[b].*time : a < b;
     });
-    // Each cycle of places is followed once, with one record held aside.
+    // Follows each cycle of the permutation once, with one record set aside.
     for (std::uint32_t start = 0; start < from.size(); ++start) {
         const TRecord held = records[start];
         std::uint32_t place = start;
@@ -202,7 +202,8 @@ void sRECORDING_REPORT::Skip(const std::string& file, std::size_t line, std::str
 
 std::vector<sFEED_TICK> ReadTicks(ILineSource& lines, const std::string& file, sRECORDING_REPORT& report)
 {
-    // Counted first: a vector that grows by itself holds up to three times what it needs.
+    // Lines are counted first: a vector that grows by itself holds up to three times the memory that it
+    // needs.
     std::vector<sFEED_TICK> ticks;
     ticks.reserve(lines.CountLines(ShortestTick));
     CCsvRows rows(lines, file, report);

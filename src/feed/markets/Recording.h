@@ -1,5 +1,5 @@
-// Reading of recordings and symbol lists: CSV files with a header line, described in docs/recordings.md. A
-// bad row costs that row alone. No thread of its own; what comes back is plain data.
+// Reads recordings and symbol lists: CSV files with a header line, described in docs/recordings.md. A bad row
+// is skipped and reported. Pure functions, any thread.
 #pragma once
 
 #include "feed/markets/FeedRecords.h"
@@ -18,8 +18,8 @@ enum class RecordingKind
     Daily
 };
 
-// What was wrong in a file. Problems holds at most MaxProblems sentences, each naming file and line;
-// SkippedRows counts all. Unusable is the sentence for a file that has nothing to read rows by.
+// The errors of one file. Problems holds the first MaxProblems sentences, each of which names file and line;
+// SkippedRows counts all bad rows. If the file cannot be used at all, Unusable is the sentence that says why.
 struct sRECORDING_REPORT
 {
     static constexpr std::size_t MaxProblems = 10;
@@ -30,17 +30,18 @@ struct sRECORDING_REPORT
     void Skip(const std::string& file, std::size_t line, std::string_view why);
 };
 
-// Rows in time order (a file in another order is sorted; rows of one time keep the file's order). `file`
-// names the text in problems. Without a header line that holds the needed columns nothing is read and the
-// report says so. A row of fewer fields than the header line has is a bad row, and so is a line longer than
-// LongestLine. Memory beyond the records themselves: a block of the file, and where rows have to be sorted
-// four bytes for each.
+// Return the rows in time order: a file in another order is sorted, and rows of the same time keep the order
+// of the file. `file` names the source in the report. If the header line lacks a needed column, nothing is
+// read and the report says so. A row with fewer fields than the header line is bad, and so is a line longer
+// than LongestLine. Needs memory for the records, one block of the file and, if rows must be sorted, four
+// bytes a row.
 std::vector<sFEED_TICK> ReadTicks(ILineSource& lines, const std::string& file, sRECORDING_REPORT& report);
 std::vector<sFEED_BAR> ReadBars(RecordingKind kind, ILineSource& lines, const std::string& file,
                                 sRECORDING_REPORT& report);
 
-// The symbols that a symbols.csv names, in the file's order. Commas in a description become blanks, and the
-// symbol stands for one that is empty. Without the needed columns nothing is read and the report says so.
+// Reads a symbols.csv and returns its symbols in the order of the file. Commas in a description become
+// blanks; an empty description becomes the symbol. If a needed column is missing, nothing is read and the
+// report says so.
 std::vector<sLISTED_SYMBOL> ReadSymbols(ILineSource& lines, const std::string& file,
                                         sRECORDING_REPORT& report);
 

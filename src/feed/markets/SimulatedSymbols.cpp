@@ -12,7 +12,7 @@ struct sPART
     std::string_view Letters, Text;
 };
 
-// No three letters stand twice, so that neither does a symbol.
+// All letter groups differ, so all symbols differ.
 constexpr std::array Names{
     sPART{"ABE", "Aberlan"},        sPART{"ALD", "Aldora"},       sPART{"AMB", "Ambrel"},
     sPART{"ARV", "Arvenne"},        sPART{"BAL", "Balcora"},      sPART{"BEL", "Bellhaven"},
@@ -65,7 +65,7 @@ std::vector<sLISTED_SYMBOL> SimulatedSymbols()
     symbols.reserve(Names.size() * Trades.size() * Kinds.size());
     for (const sPART& name : Names)
         for (const sPART& trade : Trades) {
-            // All papers of a company are listed on one exchange.
+            // All securities of a company are listed on one exchange.
             const int exchange = FirstSimulatedExchangeId + (name.Letters[1] + trade.Letters[0]) % Exchanges;
             for (const sKIND& kind : Kinds)
                 symbols.push_back({"SIM." + std::string(name.Letters) + std::string(trade.Letters) +

@@ -1,5 +1,5 @@
-// The symbols that the feed lists so that a search has something to find: companies, bonds, futures and
-// indices that do not exist. Each is a simulated market and says so in its description.
+// Invented companies, bonds, futures and indices that the feed lists, so that a symbol search finds
+// something. Each is a simulated market and its description says so.
 #pragma once
 
 #include "feed/markets/FeedRecords.h"
@@ -8,12 +8,12 @@
 
 namespace zantroq::feed {
 
-// Rows of the reference tables that these symbols use, beside SimulatedMarketId for the named simulations.
-inline constexpr int FirstSimulatedExchangeId = 10; // and the two behind it
+// Ids of these symbols in the reference tables. The named simulations use SimulatedMarketId.
+inline constexpr int FirstSimulatedExchangeId = 10; // this one and the next two
 inline constexpr int SimulatedEquityId = 10, SimulatedIndexId = 11, SimulatedFutureId = 12,
                      SimulatedBondId = 13;
 
-// More than 5,000, always the same ones, in no particular order.
+// Returns more than 5,000 symbols, the same at each call, in no particular order.
 std::vector<sLISTED_SYMBOL> SimulatedSymbols();
 
 } // namespace zantroq::feed

@@ -15,13 +15,13 @@ bool BeginsWithAscii(std::string_view text, std::string_view folded)
     return true;
 }
 
-// Sorted by symbol, the last of several rows of the same one kept.
+// Sorts rows by symbol; of several rows of one symbol the last stays.
 void SortRows(std::vector<sLISTED_SYMBOL>& rows)
 {
     const auto before = [](const sLISTED_SYMBOL& a, const sLISTED_SYMBOL& b) { return a.Symbol < b.Symbol; };
     std::stable_sort(rows.begin(), rows.end(), before);
     const auto same = [](const sLISTED_SYMBOL& a, const sLISTED_SYMBOL& b) { return a.Symbol == b.Symbol; };
-    // unique keeps the first of equal ones, which seen from the end is the last.
+    // unique keeps the first of equal elements, which in reverse order is the last.
     rows.erase(rows.begin(), std::unique(rows.rbegin(), rows.rend(), same).base());
 }
 
@@ -158,7 +158,8 @@ void CSymbolIndex::FindDescriptions(const CSymbolQuery& query, std::size_t from,
     std::vector<std::size_t> ascii;
     if (query.m_isAscii)
         m_descriptions.FindAscii(query.m_folded, from, to, [&](std::size_t row) { ascii.push_back(row); });
-    // What a text holds as it is, it holds when folded, so that most rows of the first list are in both.
+    // A text that contains the query also contains it after folding, so most rows of the first list are in
+    // both lists.
     std::vector<std::size_t> both;
     if (!unicode.empty()) {
         std::set_union(ascii.begin(), ascii.end(), unicode.begin(), unicode.end(), std::back_inserter(both));

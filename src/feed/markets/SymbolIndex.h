@@ -1,5 +1,5 @@
-// All symbols that a feed knows, in the order of their bytes, made for being searched: a million of them are
-// looked through in some milliseconds and take less than 64 bytes each beside their text.
+// The searchable index of all symbols of a feed, sorted by their bytes. A search of a million symbols takes
+// some milliseconds; each symbol takes less than 64 bytes besides its text.
 #pragma once
 
 #include "feed/markets/FeedRecords.h"
@@ -14,7 +14,7 @@
 
 namespace zantroq::feed {
 
-// Which of two rows of the same symbol stays: the one of higher rank, of equal rank the later one.
+// Decides which of two rows of the same symbol stays: the one of higher rank; of equal rank, the later one.
 enum class ListRank : std::uint8_t
 {
     Simulated,
@@ -22,14 +22,14 @@ enum class ListRank : std::uint8_t
     Named // by a symbols.csv
 };
 
-// A question to the index, made ready once.
+// A query to the index. Its text is folded once, at construction.
 class CSymbolQuery
 {
 public:
     enum class Field
     {
-        Symbols,     // that begin with the text
-        Descriptions // that hold the text
+        Symbols,     // symbols that begin with the text
+        Descriptions // descriptions that contain the text
     };
     enum class Filter
     {
@@ -39,7 +39,7 @@ public:
     };
     using TIds = std::bitset<256>;
 
-    // The text is UTF-8, at most CTextTable::LongestPiece bytes, not empty; its case does not matter.
+    // `text` is UTF-8, 1 to CTextTable::LongestPiece bytes; case does not matter.
     CSymbolQuery(Field field, std::string_view text, Filter filter = Filter::None, TIds ids = {});
 
 private:
@@ -62,19 +62,19 @@ public:
     };
 
     CSymbolIndex() { Close(); }
-    // The rows of `base` and the new ones, which may come in any order.
+    // The rows of `base` and the new rows, which may come in any order.
     CSymbolIndex(const CSymbolIndex& base, std::vector<sLISTED_SYMBOL> rows, ListRank rank);
 
     std::size_t Size() const { return m_ids.size(); }
     sROW Row(std::size_t row) const;
-    // The row of exactly this symbol.
+    // The index of the row of exactly this symbol, if there is one.
     std::optional<std::size_t> Find(std::string_view symbol) const;
 
-    // Appends to `found` the rows from `from` up to but not including `to` that answer the query, in order.
+    // Appends to `found`, in order, the rows from `from` up to but not including `to` that match the query.
     void Find(const CSymbolQuery& query, std::size_t from, std::size_t to,
               std::vector<std::size_t>& found) const;
 
-    // What the index takes, the bytes of symbols and descriptions aside.
+    // The size of the index in bytes, without the texts of symbols and descriptions.
     std::size_t BytesBesideText() const;
 
 private:
@@ -91,13 +91,13 @@ private:
     void FindDescriptions(const CSymbolQuery& query, std::size_t from, std::size_t to,
                           std::vector<std::size_t>& found) const;
     bool Passes(const CSymbolQuery& query, std::size_t row) const;
-    // The first of m_unicodeRows at or behind the row.
+    // The position in m_unicodeRows of the first row at or after `row`.
     std::size_t UnicodePlace(std::size_t row) const;
 
     CTextTable m_symbols, m_descriptions;
     std::vector<sIDS> m_ids;
-    // Rows with a text that is not ASCII, ascending, and their folded texts. The others are compared as they
-    // are, which needs no copy.
+    // Rows with a text that is not ASCII, ascending, and their folded texts. ASCII rows are compared without
+    // a folded copy.
     std::vector<std::size_t> m_unicodeRows;
     CTextTable m_foldedSymbols, m_foldedDescriptions;
 };

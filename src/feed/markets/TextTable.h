@@ -1,4 +1,4 @@
-// Very many short texts in one block of memory, and the search for a piece of text in a stretch of them.
+// Many short texts in one block of memory, and the search for a substring in them.
 #pragma once
 
 #include "feed/markets/CaseFolding.h"
@@ -26,7 +26,7 @@ public:
         m_bytes.append(text);
         m_starts.push_back(m_bytes.size());
     }
-    // Call once all texts are in: the search reads past the end.
+    // Must be called after the last Add, before any search: the search reads past the last text.
     void Close()
     {
         m_textBytes = m_bytes.size();
@@ -44,8 +44,9 @@ public:
         return m_starts.capacity() * sizeof m_starts[0] + m_bytes.capacity() - m_textBytes;
     }
 
-    // Calls onText(i) for each text from `from` up to but not including `to` that holds `folded`, in order.
-    // `folded` is folded ASCII text of 1 to LongestPiece bytes; case is compared for ASCII letters alone.
+    // Calls onText(i), in order, for each text from `from` up to but not including `to` that contains
+    // `folded`. `folded` is 1 to LongestPiece bytes of folded ASCII text. Only the case of ASCII letters is
+    // ignored.
     template<class TOnText>
     void FindAscii(std::string_view folded, std::size_t from, std::size_t to, TOnText onText) const;
 
@@ -70,11 +71,12 @@ private:
     }
 
     std::string m_bytes;
-    std::vector<std::uint64_t> m_starts{0}; // of each text, and the end of the last one
+    std::vector<std::uint64_t> m_starts{0}; // start of each text, then the end of the last text
     std::size_t m_textBytes = 0;
 };
 
-// Only places whose first and last byte fit are compared whole: 64 of them are found with a few instructions.
+// A position is compared in full only if the first and the last byte match there. A few instructions test 64
+// positions for that.
 template<class TOnText>
 void CTextTable::FindAscii(std::string_view folded, std::size_t from, std::size_t to, TOnText onText) const
 {
@@ -83,7 +85,7 @@ void CTextTable::FindAscii(std::string_view folded, std::size_t from, std::size_
     const char first = folded.front(), last = folded.back();
     const std::size_t length = folded.size(), end = m_starts[to];
     std::size_t text = from;
-    std::size_t least = m_starts[from]; // places before it belong to a text that is done with
+    std::size_t least = m_starts[from]; // smaller positions belong to texts already done
     for (std::size_t block = least; block < end; block += BlockSize) {
         const char* const bytes = m_bytes.data() + block;
         std::uint64_t marks = MarkLetter(bytes, first) & MarkLetter(bytes + length - 1, last);
@@ -98,7 +100,7 @@ void CTextTable::FindAscii(std::string_view folded, std::size_t from, std::size_
             onText(text);
             least = m_starts[text + 1];
         }
-        // The rest of a text that was found need not be looked at.
+        // The text was found; the rest of it is skipped.
         if (least > block + BlockSize)
             block += (least - block) / BlockSize * BlockSize - BlockSize;
     }

@@ -1,4 +1,5 @@
-// Fast writing of numbers into a buffer that is known to be large enough. Pure functions, any thread.
+// Writes text and numbers into a buffer that the caller knows to be large enough. Each function returns the
+// end. Pure functions, any thread.
 #pragma once
 
 #include <charconv>
@@ -24,7 +25,7 @@ inline char* WriteTwoDigits(char* at, unsigned number)
     return at + 2;
 }
 
-// At most 20 characters.
+// Writes at most 20 characters.
 template<class TInteger> char* WriteInteger(char* at, TInteger number)
 {
     return std::to_chars(at, at + 20, number).ptr;

@@ -1,6 +1,6 @@
-// How long a piece of work may keep the feed's thread. All clients share that thread, so whatever may take
-// longer than a few microseconds is written as steps: do one step, ask the slice, return with the state kept
-// when it is over, and go on from there at the next call. At least one step is thus done in every slice.
+// Limits how long a piece of work may keep the feed's thread. All clients share that thread, so work that may
+// take longer than a few microseconds is divided into steps: it does a step, asks the slice whether it is
+// over, and if so returns and continues at the next call. Every slice thus does at least one step.
 #pragma once
 
 #include <chrono>
@@ -11,9 +11,9 @@ namespace zantroq::feed {
 
 // What a piece of work reports when it returns.
 enum class WorkProgress
-{
-    Ended,  // nothing is left to do
-    More,   // call again for the rest
+{           // no work is left
+    Ended,  // call again for the rest
+    More,   // nothing can be done until something else has happened, such as the reading of a recording
     Waiting // nothing can be done until something else has happened (a recording has been read)
 };
 
@@ -21,16 +21,18 @@ class CWorkSlice
 {
 public:
     using TClock = std::chrono::steady_clock;
-    // Reading the clock costs as much as half a reply line, so it is read once for so many steps.
+    // Reading the clock costs as much as half a reply line, so it is read once in so many steps.
     static constexpr std::uint32_t StepsPerLook = 64;
-    // The size of a step that may take a large part of a millisecond, such as the ticks of a simulated day.
+    // The size of a step that may take a large part of a millisecond, such as generating the ticks of a
+    // simulated day.
     static constexpr std::uint32_t LargeStep = StepsPerLook;
 
-    // Ends at that time.
+    // A slice that ends at the time `end`.
     explicit CWorkSlice(TClock::time_point end) : m_end(end) {}
-    // Never ends: for callers that do the whole work at once.
+    // A slice that never ends, for callers that do all the work at once.
     static CWorkSlice Unlimited() { return CWorkSlice(TClock::time_point::max()); }
-    // Ends after so many steps, whatever their size: for tests that need the same cuts in every run.
+    // A slice that ends after so many steps, whatever their size, for tests that need the same interruptions
+    // in every run.
     static CWorkSlice OfSteps(std::uint32_t steps)
     {
         CWorkSlice slice = Unlimited();
@@ -38,8 +40,8 @@ public:
         return slice;
     }
 
-    // Called after each step; true once the work has to return. `size` is 1 for a step of at most some ten
-    // microseconds.
+    // Must be called after each step. Returns true if the work has to return now. `size` is 1 for a step of
+    // at most some ten microseconds.
     bool IsOver(std::uint32_t size = 1)
     {
         if (m_stepsLeft != NoStepLimit)

@@ -1,6 +1,6 @@
-// Replies that are written piece by piece: in blocks, so that two million lines to a slow reader cost one
-// block of memory, and in slices of time, so that no client waits for another one's reply. Used on the feed's
-// thread.
+// Replies that are written piece by piece: in blocks, so that two million lines for a slow reader need one
+// block of memory, and in slices of time, so that no client waits for the whole reply of another. Feed thread
+// only.
 #pragma once
 
 #include "feed/markets/WorkSlice.h"
@@ -13,14 +13,15 @@
 
 namespace zantroq::feed {
 
-// A growing piece of text whose unused end can be written to directly.
+// A growing text; callers can write directly into its unused end.
 class CTextBlock
 {
 public:
     std::string_view Text() const { return {m_text.get(), m_size}; }
     std::size_t Size() const { return m_size; }
     void Clear() { m_size = 0; }
-    // Room for at least `count` more characters at the end; what was written there counts from Commit on.
+    // Returns the end of the text, with room for at least `count` more characters. What the caller writes
+    // there becomes text with Commit.
     char* Reserve(std::size_t count);
     void Commit(const char* end) { m_size = static_cast<std::size_t>(end - m_text.get()); }
     void Append(std::string_view text);
@@ -35,11 +36,11 @@ class IFeedReply
 public:
     virtual ~IFeedReply() = default;
     // Appends lines until the block holds at least `limit` characters, the slice is over or the reply ends.
-    // Asks the slice after each line, and after each step of work that yields none.
+    // Implementations ask the slice after each line and after each step that writes no line.
     virtual WorkProgress Write(CTextBlock& block, std::size_t limit, CWorkSlice& slice) = 0;
 };
 
-// A reply whose text is known beforehand.
+// A reply whose text is known at construction.
 class CTextReply : public IFeedReply
 {
 public:

@@ -13,7 +13,7 @@ namespace {
 
 using TQuery = CSymbolQuery;
 
-// A step of the search: some ten microseconds.
+// One step of the search takes some ten microseconds.
 constexpr std::size_t RowsPerStep = 1024;
 
 class CFindAnswer : public IFeedReply
@@ -66,13 +66,13 @@ private:
 
     const std::shared_ptr<const CSymbolIndex> m_index;
     const TQuery m_query;
-    const std::string m_prefix; // identifier and comma
-    std::vector<std::size_t> m_found;
-    std::size_t m_written = 0; // of those found in the last step
-    std::size_t m_next = 0;    // row at which the next step begins
+    const std::string m_prefix;       // identifier and comma
+    std::vector<std::size_t> m_found; // number of rows found in the last step that are written
+    std::size_t m_written = 0;        // of those found in the last step
+    std::size_t m_next = 0;           // row where the next step begins
 };
 
-// Ids of 256 and more name nothing. Nothing for a text that is no list of whole numbers.
+// Ignores ids above 255, which no table has. Returns nothing if the text is not a list of whole numbers.
 std::optional<TQuery::TIds> ReadIds(std::string_view text)
 {
     TQuery::TIds ids;
@@ -90,7 +90,7 @@ std::optional<TQuery::TIds> ReadIds(std::string_view text)
     }
 }
 
-// From the first to the last field of the text, the commas between them included, which become blanks.
+// The text from the first field to the last, with blanks for the commas between them.
 std::string SearchText(std::string_view first, std::string_view last)
 {
     const std::string_view whole(first.data(),

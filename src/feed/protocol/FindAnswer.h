@@ -1,8 +1,8 @@
-// FIND,<id>,<field>,<text>,<filter kind>,<filter ids>: the symbol search of the lookup port. Field "s" finds
-// symbols that begin with the text, "d" descriptions that hold it, whatever its case; kind "e" keeps the
-// markets, "t" the security types that the ids, separated by blanks, name. The text may hold commas, which
-// count as blanks, as in the descriptions: the last two fields are the kind and the ids. Rows come in the
-// order of their symbols. Used on the feed's thread.
+// The symbol search of the lookup port: FIND,<id>,<field>,<text>,<filter kind>,<filter ids>. Field "s" finds
+// symbols that begin with the text, "d" descriptions that contain it; case is ignored. Filter kind "e"
+// restricts the search to markets, "t" to security types; the ids are separated by blanks. The text may
+// contain commas (the last two fields are the kind and the ids), which count as blanks, as they do in
+// descriptions. Rows are sorted by symbol. Feed thread only.
 #pragma once
 
 #include "feed/markets/SymbolIndex.h"
@@ -14,8 +14,9 @@
 
 namespace zantroq::feed {
 
-// `fields` are those of the whole line, "FIND" included, and all views of that one line. What is wrong with
-// the values is an error line under the identifier; null when there are too few fields or no identifier.
+// `fields` are all fields of the line, "FIND" included, and must be views of that one line. A bad value is
+// answered with an error line under the identifier. Returns null if there are too few fields or no
+// identifier.
 std::unique_ptr<IFeedReply> AnswerFind(std::shared_ptr<const CSymbolIndex> index,
                                        const std::vector<std::string_view>& fields);
 

@@ -9,8 +9,9 @@
 namespace zantroq::feed {
 namespace {
 
-// One letter for each field after the command word: s symbol, i interval, n datapoints, d days, b and e range ends
-// with times, B and E range ends without, - left empty, f and g filter ends, o direction, # identifier.
+// The fields after each command word, a letter each: s symbol, i interval, n datapoints, d days, b and e
+// range ends with times, B and E range ends without, - left empty, f and g filter ends, o direction, #
+// identifier.
 struct sTEMPLATE
 {
     std::string_view Word;

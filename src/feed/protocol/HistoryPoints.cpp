@@ -126,7 +126,7 @@ public:
 
 private:
     static constexpr std::size_t NoPosition = static_cast<std::size_t>(-1);
-    // A fraction of a millisecond's work.
+    // So many ticks take a fraction of a millisecond.
     static constexpr std::size_t TicksPerStep = 4096;
 
     void Begin()
@@ -161,13 +161,13 @@ private:
     const bool m_fromMinutes;
     const std::span<const TFeedDay> m_days;
     CTickBarBuilder m_builder;
-    std::size_t m_position = NoPosition; // of the current day
+    std::size_t m_position = NoPosition; // position of the current day
     std::vector<sFEED_TICK> m_ticks;     // scratch
     std::span<const sFEED_TICK> m_ticksLeft;
     std::vector<sFEED_BAR> m_minutes, m_bars;
 };
 
-// Recorded daily bars, or weekly or monthly ones that are built from them and held here.
+// Recorded daily bars, or weekly or monthly bars built from them and stored here.
 class CDayBarPoints : public IHistoryPoints
 {
 public:
@@ -211,7 +211,7 @@ public:
 
 private:
     const HistoryData m_data;
-    std::span<const sFEED_BAR> m_daysLeft; // to be built from
+    std::span<const sFEED_BAR> m_daysLeft; // daily bars not combined yet
     std::vector<sFEED_BAR> m_built;
     std::span<const sFEED_BAR> m_bars;
 };

@@ -61,7 +61,7 @@ void CHistoryReplyWriter::ChooseByDays()
 
 void CHistoryReplyWriter::DropDaysOutsideRange()
 {
-    // A bar stamped midnight belongs to the day before. Longer bars are all in one load.
+    // A bar stamped midnight belongs to the day before. Longer bars are all loaded as one day.
     if (m_points->DayCount() <= 1)
         return;
     while (m_command.Begin && m_dayBegin < m_dayEnd &&

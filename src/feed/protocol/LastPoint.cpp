@@ -9,7 +9,7 @@ namespace {
 
 constexpr TFeedTime MsPerMinute = 60 * MsPerSecond;
 
-// The newest day of ticks on which there was a trade, or the oldest day when there never was one.
+// The newest day of ticks that has a trade; if no day has one, the oldest day.
 struct sNEWEST_TICKS
 {
     std::vector<sFEED_TICK> Scratch;
@@ -69,7 +69,7 @@ void StandAtDay(const sFEED_BAR& bar, sLAST_POINT& point)
     point.Clock = StartOfDay(NextWeekday(point.Day)) + OpeningTime - 1;
 }
 
-// `minutes` are those of the point's day.
+// `minutes` are the minutes of the point's day.
 void StandAtMinutes(std::span<const sFEED_BAR> minutes, bool hasDayBar, sLAST_POINT& point)
 {
     if (!hasDayBar) {
@@ -80,11 +80,11 @@ void StandAtMinutes(std::span<const sFEED_BAR> minutes, bool hasDayBar, sLAST_PO
     point.Quote.Last = point.Close = minutes.back().Close;
     point.Quote.Basis = 'C';
     point.Clock = minutes.back().Stamp;
-    // A bar stamped midnight closes this day and has no trade of the next.
+    // A bar stamped midnight closes this day and contains no trade of the next.
     point.Quote.Time = std::min(point.Clock, StartOfDay(point.Day + 1) - 1);
 }
 
-// `newest` is of the point's day. Minutes may go on behind the last tick.
+// `newest` holds the ticks of the point's day. The minutes of that day may continue after the last tick.
 void StandAtTicks(const sNEWEST_TICKS& newest, bool hasMinutes, sLAST_POINT& point)
 {
     sLIVE_QUOTE& quote = point.Quote;
@@ -104,7 +104,7 @@ void StandAtTicks(const sNEWEST_TICKS& newest, bool hasMinutes, sLAST_POINT& poi
     point.Clock = hasMinutes ? std::max(point.Clock, row.Time) : row.Time;
 }
 
-// Quotes at most.
+// The ticks hold no trade, only quotes.
 void StandWithoutTrades(std::span<const sFEED_TICK> ticks, sLAST_POINT& point)
 {
     if (ticks.empty())

@@ -1,5 +1,5 @@
-// Where a market stands: at its newest recorded trade, with the values of that trade's day and of no other.
-// Pure function, any thread.
+// The last recorded state of a market: its newest trade, and the open, high, low and volume of that trade's
+// day. Pure function, any thread.
 #pragma once
 
 #include "feed/markets/MarketSource.h"
@@ -7,22 +7,22 @@
 
 namespace zantroq::feed {
 
-// The hours of the invented markets, in milliseconds from midnight; weekdays alone are trading days.
+// Trading hours of the simulated markets, in milliseconds from midnight, Monday to Friday.
 inline constexpr TFeedTime OpeningTime = (9 * 60 + 30) * 60 * MsPerSecond;
 inline constexpr TFeedTime ClosingTime = 16 * 3600 * MsPerSecond;
 
 struct sLAST_POINT
 {
     sLIVE_QUOTE Quote;
-    TFeedDay Day = 0;            // the trading day of Quote's open, high, low, volume and open interest
-    std::optional<sPRICE> Close; // newest regular price, which the next day has as its close before
-    TFeedTime Clock = 0;         // what goes on from here comes later than this
+    TFeedDay Day = 0;            // trading day of Quote's open, high, low, volume and open interest
+    std::optional<sPRICE> Close; // newest regular price; the previous close of the next day
+    TFeedTime Clock = 0;         // everything that follows is later than this time
 };
 
-// Bid, ask and size are recorded ones, absent where the newest record is a bar. A day that is in daily bars
-// has that bar's values, a newer one those of its minutes; its ticks are within them in either case. Open,
-// high and low are absent on a day without a regular trade, the close before where no daily bar is older, the
-// last price where nothing was ever traded.
+// Bid, ask and size come from the newest tick and are absent if the newest record is a bar. The values of the
+// day come from its daily bar, or if it has none from its minutes; the ticks of a day are included in both.
+// Open, high and low are absent on a day without a regular trade, the previous close if no older daily bar
+// exists, and the last price if there never was a trade.
 sLAST_POINT LastPointOf(const IMarketSource& market);
 
 } // namespace zantroq::feed

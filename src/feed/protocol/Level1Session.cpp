@@ -11,7 +11,7 @@ namespace {
 // More than any client shows at once.
 constexpr std::size_t MaxWatches = 2000;
 
-// Milliseconds, some thirty years: at a speed of next to nothing a wait is longer than a clock can count.
+// In milliseconds, about thirty years: at a speed near zero the wait would exceed the range of the clock.
 constexpr double LongestWait = 1e12;
 
 } // namespace
@@ -24,7 +24,7 @@ void CLevel1Session::OnLine(std::string_view line)
 
 void CLevel1Session::OnBadLine()
 {
-    // A line of one blank is no command.
+    // A line of one blank is answered as an error.
     m_lines.emplace_back(" ");
 }
 
@@ -84,7 +84,7 @@ bool CLevel1Session::AnswerWatch(std::string_view symbol, TClock::time_point now
         return false;
     Watch(symbol, *m_preparing, now, text);
     m_preparing.reset();
-    // The newest day of ticks was made or looked at.
+    // This step generated or read the newest day of ticks.
     slice.IsOver(CWorkSlice::LargeStep);
     return true;
 }
@@ -121,7 +121,7 @@ CLevel1Session::sWATCH& CLevel1Session::AddWatch(std::string_view symbol, const 
     sWATCH& watch =
         m_watches.try_emplace(std::string(symbol), sWATCH{std::move(trades), 0, {}}).first->second;
     watch.Start = now;
-    // The first trade comes a moment after the watch, however long the market was closed.
+    // The first trade comes 250 ms after the watch began, however long the market was closed.
     if (TFeedTime first = 0; watch.Trades.NextTime(first))
         watch.MarketStart = first - 250;
     if (manner != LiveManner::Silent) {
@@ -176,7 +176,7 @@ WorkProgress CLevel1Session::WriteDue(TClock::time_point now, std::size_t limit,
             return WorkProgress::Ended;
         next->second.Trades.Advance();
         AppendQuoteLine('Q', next->first, next->second.Trades.Quote(), m_selection, text);
-        // Finding the next trade looks at every watch.
+        // Finding the next trade examines every watch.
         if (slice.IsOver(1 + static_cast<std::uint32_t>(m_watches.size() / 64)))
             break;
     }

@@ -1,7 +1,7 @@
-// The level 1 port's conversation with one client: lines go in, text comes out, and the watched symbols move
-// with a clock that the caller reads. No socket and no thread of its own; all work is done in slices. Every
-// client has a market of its own that begins at the last recorded point when it begins to watch, so that it
-// always follows on the history that it was served.
+// The dialogue of the level 1 port with one client: takes the client's lines and returns text to send. Has no
+// socket and no thread; all work is done in slices, and the caller passes the time. Each client has its own
+// market, which starts at the last recorded point when the client begins to watch, so that live trades always
+// follow the history that this client received.
 #pragma once
 
 #include "feed/markets/MarketCatalog.h"
@@ -18,10 +18,10 @@ namespace zantroq::feed {
 
 struct sLIVE_OPTIONS
 {
-    bool SimulateAll = false; // recorded symbols get invented trades too
-    bool ReplayTicks =
-        false;        // recorded symbols with ticks have their newest day played again, unless SimulateAll
-    double Speed = 1; // market seconds a second
+    bool SimulateAll = false; // recorded symbols get simulated trades too
+    // Replays the newest day of a recorded symbol that has ticks; SimulateAll takes precedence.
+    bool ReplayTicks = false;
+    double Speed = 1; // market seconds per second
 };
 
 class CLevel1Session
@@ -34,30 +34,30 @@ public:
     {
     }
 
-    // Takes one line without its end, to be answered by AnswerLines.
+    // Queues one line, without its line end, for AnswerLines.
     void OnLine(std::string_view line);
-    // Takes a line that was too long to be kept.
+    // Queues the error for a line that was too long.
     void OnBadLine();
     std::size_t PendingLines() const { return m_lines.size(); }
     bool HasPendingLines() const { return !m_lines.empty(); }
-    // Answers the lines in their order and appends the answers to `text`, until it holds at least `limit`
-    // characters or the slice is over.
+    // Answers the queued lines in order and appends the answers to `text`, until `text` holds at least
+    // `limit` characters or the slice is over.
     WorkProgress AnswerLines(TClock::time_point now, std::size_t limit, CWorkSlice& slice, std::string& text);
 
-    // When the next trade is due; false while nothing moves.
+    // Sets `due` to the time of the next trade. Returns false if no trade is planned.
     bool NextDue(TClock::time_point& due) const;
-    // Appends the trades that are due, in the order of their times, until `limit` characters are appended or
-    // the slice is over; the rest stays due, and the answer is More.
+    // Appends the due trades in time order, until `limit` characters are appended or the slice is over. Then
+    // the rest stays due and the result is More.
     WorkProgress WriteDue(TClock::time_point now, std::size_t limit, CWorkSlice& slice, std::string& text);
 
 private:
     struct sWATCH
     {
         CLiveTrades Trades;
-        TFeedTime MarketStart = 0; // market time that stands for Start
+        TFeedTime MarketStart = 0; // market time at Start
         TClock::time_point Start;
     };
-    // False when the slice was over before the line could be answered.
+    // Returns false if the slice ended before the line was answered.
     bool AnswerLine(std::string_view line, TClock::time_point now, CWorkSlice& slice, std::string& text);
     bool AnswerWatch(std::string_view symbol, TClock::time_point now, CWorkSlice& slice, std::string& text);
     void Watch(std::string_view symbol, const IMarketSource& market, TClock::time_point now,
@@ -65,15 +65,15 @@ private:
     sWATCH& AddWatch(std::string_view symbol, const IMarketSource& market, TClock::time_point now,
                      std::string& text);
     LiveManner MannerOf(const IMarketSource& market) const;
-    // False when the symbol's market has no further trade.
+    // Returns false if the market of the symbol has no further trade.
     bool DueOf(const sWATCH& watch, TClock::time_point& due) const;
 
     CMarketCatalog& m_catalog;
     const sLIVE_OPTIONS m_options;
     TFieldSelection m_selection;
     std::deque<std::string> m_lines;
-    std::shared_ptr<const IMarketSource> m_preparing;     // of the first line, while its market is prepared
-    std::map<std::string, sWATCH, std::less<>> m_watches; // by the symbol as it was asked for
+    std::shared_ptr<const IMarketSource> m_preparing; // market of the first line, while it is being prepared
+    std::map<std::string, sWATCH, std::less<>> m_watches; // key: the symbol as the client wrote it
 };
 
 } // namespace zantroq::feed

@@ -9,7 +9,7 @@
 namespace zantroq::feed {
 namespace {
 
-// More than any client has use for; a line of more could outgrow its reader.
+// More than any client needs; a longer line might exceed the buffer of its reader.
 constexpr std::size_t MostFields = 88;
 constexpr std::string_view MarketCenter = "1";
 constexpr std::string_view PlainConditions = "01";
@@ -36,13 +36,13 @@ void AppendField(Level1Field field, char type, std::string_view symbol, const sL
 {
     char number[32];
     const auto price = [&](std::optional<sPRICE> value) {
-        // Live prices are invented or rounded to the symbol's decimals; recorded ones stand as written.
+        // Simulated prices have the symbol's decimals; recorded prices are printed as recorded.
         if (value)
             text.append(number, WritePrice(number, *value));
     };
     const auto integer = [&](auto value) { text.append(number, WriteInteger(number, value)); };
     switch (field) {
-    case Level1Type: // stands in front of the fields
+    case Level1Type: // the type is written before the fields
         break;
     case Level1Symbol:
         text += symbol;

@@ -7,7 +7,7 @@
 namespace zantroq::feed {
 namespace {
 
-// That time, or the next opening when the market is closed.
+// `time` itself, or the next opening if the market is closed then.
 TFeedTime OpenTime(TFeedTime time)
 {
     const TFeedDay day = DayOf(time);
@@ -46,7 +46,7 @@ void CLiveTrades::StartAtLastPoint(const IMarketSource& market)
     if (m_quote.Last)
         m_quote.Last = last;
     m_base = last.Mantissa;
-    // About two hundredths of a percent, and for fractions the fraction itself.
+    // About two hundredths of a percent; for symbols in fractions at least the fraction itself.
     const std::int64_t fraction =
         m_quote.DisplayCode >= 1 && m_quote.DisplayCode <= 8
             ? WithDecimals(MakePrice(1, 0), m_quote.Decimals).Mantissa >> m_quote.DisplayCode
@@ -66,7 +66,7 @@ bool CLiveTrades::NextTime(TFeedTime& time) const
 
 void CLiveTrades::PlanNext()
 {
-    // What was never traded has no price to go on from.
+    // A symbol that never traded has no price to continue from.
     if (m_manner == LiveManner::Invented && m_quote.Last) {
         const TFeedTime next = m_clock + 100 + m_random.Below(900);
         m_next = OpenTime(next);

@@ -11,7 +11,7 @@ std::string ProtocolReply(std::string_view line)
 {
     constexpr std::size_t LongestName = 200;
     constexpr std::string_view protocol = "S,SET PROTOCOL,", name = "S,SET CLIENT NAME,";
-    // There is one protocol; whichever was asked for, this is the one that is spoken.
+    // There is only one protocol, so every request for another is answered with it.
     if (line.starts_with(protocol))
         return "S,CURRENT PROTOCOL,5.0\r\n";
     if (line.starts_with(name))

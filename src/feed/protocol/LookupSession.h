@@ -1,5 +1,6 @@
-// The lookup port's conversation with one client: lines go in, replies come out. No socket and no thread of
-// its own. A line is only looked at when it comes in; the work of answering it is done by Write, in slices.
+// The dialogue of the lookup port with one client: takes the client's lines and returns replies. Has no
+// socket and no thread. OnLine only reads a command; Write does the work of answering it, in slices. Feed
+// thread only.
 #pragma once
 
 #include "feed/markets/MarketCatalog.h"
@@ -19,16 +20,16 @@ class CLookupSession
 public:
     explicit CLookupSession(CMarketCatalog& catalog) : m_catalog(catalog) {}
 
-    // One line without its end. Empty lines are passed over.
+    // Takes one line without its line end. An empty line is ignored.
     void OnLine(std::string_view line);
-    // A line that is too long or no command.
+    // Takes a line that is too long or not a command.
     void OnBadLine() { Reply(std::string(SyntaxError)); }
 
     std::size_t PendingReplies() const { return m_replies.size(); }
-    // Appends what is to be sent next, until the block holds at least `limit` characters, the slice is over
-    // or all replies are written.
+    // Appends the next part of the replies, until the block holds at least `limit` characters, the slice is
+    // over or all replies are written.
     WorkProgress Write(CTextBlock& block, std::size_t limit, CWorkSlice& slice);
-    // Forgets all pending replies.
+    // Drops all pending replies.
     void DropReplies() { m_replies.clear(); }
 
 private:
@@ -39,8 +40,8 @@ private:
     std::deque<std::unique_ptr<IFeedReply>> m_replies;
 };
 
-// The answer to "S,SET PROTOCOL,..." and "S,SET CLIENT NAME,...", which both ports take; empty for any other
-// line.
+// The answer to "S,SET PROTOCOL,..." and "S,SET CLIENT NAME,...", which both ports accept; empty for any
+// other line.
 std::string ProtocolReply(std::string_view line);
 
 } // namespace zantroq::feed

@@ -24,8 +24,8 @@ std::filesystem::path ShippedDataFolder()
     return ZANTROQ_SOURCE_DATA;
 }
 
-// The state of a running feed, from Start to Stop. After construction only the feed thread uses it, except for
-// the one post of Stop.
+// The state of a running feed, from Start to Stop. After construction only the feed's thread uses it, except
+// that Stop posts to it once.
 class CFeedServer::CRunning
 {
 public:
@@ -81,7 +81,7 @@ private:
         const tcp::endpoint endpoint(asio::ip::address_v4::loopback(), port);
         std::error_code code;
         acceptor.open(endpoint.protocol(), code);
-        // A port that a feed has just left is free again at once.
+        // Allows binding a port that a feed has just released.
         if (!code)
             acceptor.set_option(tcp::acceptor::reuse_address(true), code);
         if (!code)
@@ -103,7 +103,7 @@ private:
             if (error == asio::error::operation_aborted)
                 return;
             if (error) {
-                // Most likely no descriptor is left.
+                // The most likely cause is that no descriptor is left.
                 if (m_silent.CloseOldest())
                     Accept(listener);
                 else
@@ -118,7 +118,7 @@ private:
         });
     }
 
-    // Asking at once would give the same answer until a client goes.
+    // An immediate retry would fail until a client disconnects.
     void AcceptLater(sListener& listener)
     {
         listener.Pause.expires_after(std::chrono::milliseconds(100));
@@ -128,8 +128,8 @@ private:
         });
     }
 
-    // Whether the socket's descriptor is one of the last that the process may have. Descriptors are given out
-    // from the lowest free one on; a few are left for files that have to be opened.
+    // True if the socket's descriptor is among the last that the process may open. The system assigns the
+    // lowest free descriptor; a few are kept for files.
     static bool IsLastButFew(tcp::socket& socket)
     {
         constexpr rlim_t kept = 16;
@@ -152,8 +152,8 @@ private:
 
     CMarketCatalog m_catalog;
     const sLIVE_OPTIONS m_live;
-    // Behind the catalog, so that connections still held by the context's handlers go before what they refer
-    // to.
+    // Declared after the catalog, so that connections still held by the context's handlers are destroyed
+    // before the catalog they refer to.
     asio::io_context m_context{1};
     CWorkTurns m_turns{m_context};
     CSilentClients m_silent;

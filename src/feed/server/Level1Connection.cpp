@@ -49,7 +49,7 @@ void CLevel1Connection::ReadOn()
 
 WorkProgress CLevel1Connection::Work(CWorkSlice& slice)
 {
-    // While a send is under way lines and trades wait for it: its end asks for turns again.
+    // While a send is pending, lines and trades wait; the end of the send adds this worker again.
     if (m_closed || m_sending)
         return WorkProgress::Ended;
     if (m_peer.HasLeft()) {

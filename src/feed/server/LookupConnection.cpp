@@ -21,7 +21,7 @@ void CLookupConnection::Read()
 
 void CLookupConnection::OnRead(std::error_code error, std::size_t count)
 {
-    // A client that has closed its sending half still gets what it asked for.
+    // A client that has closed its sending half still gets its replies.
     if (error) {
         m_ended = true;
         return;
@@ -46,7 +46,7 @@ void CLookupConnection::ReadOn()
 
 WorkProgress CLookupConnection::Work(CWorkSlice& slice)
 {
-    // The end of the send asks for turns again.
+    // The end of the send adds this worker again.
     if (m_sending)
         return WorkProgress::Ended;
     if (m_peer.HasLeft()) {

@@ -12,7 +12,7 @@ namespace {
 
 using tcp = asio::ip::tcp;
 
-// As the table writes an address: the bytes of the address as they lie in memory, then the port.
+// An address as the table writes it: the bytes of the address in memory order, then the port.
 std::string TableAddress(const tcp::endpoint& endpoint)
 {
     char text[16];
@@ -21,8 +21,8 @@ std::string TableAddress(const tcp::endpoint& endpoint)
     return text;
 }
 
-// Whether a program holds the socket at `peer`. True when the table cannot be read: better to finish the
-// work of a client that has gone than to drop that of one that waits.
+// True if a program holds the socket at `peer`. Also true if the table cannot be read: finishing the work of
+// a client that has gone does less harm than dropping the work of a client that waits.
 bool IsHeld(const tcp::endpoint& peer, const tcp::endpoint& own)
 {
     std::ifstream table("/proc/net/tcp");

@@ -1,4 +1,4 @@
-// Finds out whether the program at the other end of a connection is still there.
+// Detects that the program at the other end of a loopback connection has closed its socket.
 #pragma once
 
 #include <asio/ip/tcp.hpp>
@@ -7,19 +7,19 @@
 
 namespace zantroq::feed {
 
-// Of one connected loopback socket, which must outlive it. Used on the feed's thread.
+// Watches one connected loopback socket, which must outlive the watch. Feed thread only.
 class CPeerWatch
 {
 public:
     explicit CPeerWatch(asio::ip::tcp::socket& socket) : m_socket(socket) {}
 
-    // True once the peer has closed its socket, received bytes that wait to be read or not. A peer that has
-    // closed its sending half alone still reads and has not left.
+    // True once the peer has closed its socket, even while received bytes wait to be read. A peer that has
+    // closed only its sending half can still read and has not left.
     bool HasLeft();
 
 private:
-    // A closed socket and one whose sending half is closed look the same from here; the system's table of
-    // connections tells them apart. Reading it takes time, so it is read this often at most.
+    // A closed socket and a closed sending half look the same on our side; only the system's table of
+    // connections tells them apart. Reading the table is slow, so it is read at most this often.
     static constexpr std::chrono::milliseconds TableInterval{100};
 
     asio::ip::tcp::socket& m_socket;

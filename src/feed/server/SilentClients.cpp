@@ -16,7 +16,7 @@ bool CSilentClients::CloseOldest()
     return false;
 }
 
-// Takes the first entry off; true when that closed a connection.
+// Removes the first entry; true if that closed a connection.
 bool CSilentClients::CloseFirst()
 {
     const auto connection = m_entries.front().Connection.lock();

@@ -1,5 +1,5 @@
-// Closes connections whose client never says anything, so that they cannot use up the descriptors of the
-// process. Used on the feed's thread.
+// Closes connections whose client never sends a line, so that they cannot use up the descriptors of the
+// process. Feed thread only.
 #pragma once
 
 #include <asio.hpp>
@@ -22,14 +22,14 @@ public:
 class CSilentClients
 {
 public:
-    // A client may be silent for `limit` after it has connected.
+    // `limit`: time that a client has after it connected to send its first line.
     CSilentClients(asio::io_context& context, std::chrono::milliseconds limit)
         : m_timer(context), m_limit(limit)
     {
     }
 
     void Add(const std::shared_ptr<IFeedConnection>& connection);
-    // Closes the connection that has been silent for longest; false when there is none.
+    // Closes the connection that has been silent longest. Returns false if no connection is silent.
     bool CloseOldest();
 
 private:
@@ -45,7 +45,8 @@ private:
 
     asio::steady_timer m_timer;
     const std::chrono::milliseconds m_limit;
-    std::deque<sENTRY> m_entries; // oldest first; those that have spoken or gone are passed over
+    std::deque<sENTRY>
+        m_entries; // Oldest first; entries of clients that have sent a line or gone are skipped.
     bool m_waiting = false;
 };
 

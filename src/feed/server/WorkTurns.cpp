@@ -28,7 +28,7 @@ void CWorkTurns::Plan()
     if (m_planned || m_workers.empty())
         return;
     m_planned = true;
-    // One handler for one slice: between two of them the context looks at the sockets.
+    // One handler runs one slice, so that the context serves the sockets between two slices.
     asio::post(m_context, [this] {
         m_planned = false;
         RunNext();
@@ -38,7 +38,7 @@ void CWorkTurns::Plan()
 
 std::shared_ptr<CWorker> CWorkTurns::TakeLeastServed()
 {
-    // Of several the one that came last: it is the likeliest to have a short request.
+    // Of workers with equal time, the newest one: it most likely has a short request.
     const auto least = std::min_element(m_workers.rbegin(), m_workers.rend(),
                                         [](const auto& a, const auto& b) { return a->m_used < b->m_used; });
     std::shared_ptr<CWorker> worker = *least;

@@ -1,7 +1,6 @@
-// Shares the feed's thread between the clients that have work: one slice of at most 2 ms at a time goes to
-// the client that has used the least time so far, and the sockets are served between any two slices. A short
-// request is therefore answered after a slice or two, however long the work of the others is. Used on the
-// feed's thread.
+// Divides the time of the feed's thread among the clients that have work. A slice of at most 2 ms goes to the
+// client that has used the least time so far; between two slices the sockets are served. A short request
+// therefore waits for a slice or two, however long the requests of the other clients take. Feed thread only.
 #pragma once
 
 #include "feed/markets/WorkSlice.h"
@@ -17,13 +16,13 @@ class CWorker
 {
 public:
     virtual ~CWorker() = default;
-    // Works until the slice is over or nothing is left to do.
+    // Works until the slice is over or no work is left.
     virtual WorkProgress Work(CWorkSlice& slice) = 0;
 
 private:
     friend class CWorkTurns;
-    // Time used. Raised to what busy workers have used when this one becomes busy again, so that idle time
-    // gives no claim to a long run later.
+    // Time used so far. When an idle worker becomes busy, it is raised to what the busy workers have used, so
+    // that idle time earns no long run later.
     CWorkSlice::TClock::duration m_used{};
     bool m_hasTurns = false;
 };
@@ -35,9 +34,9 @@ public:
 
     explicit CWorkTurns(asio::io_context& context) : m_context(context) {}
 
-    // Gives the worker turns until it reports that it has ended. Nothing happens when it has turns already.
+    // Gives turns to the worker until its Work returns Ended. Does nothing if the worker has turns already.
     void Add(const std::shared_ptr<CWorker>& worker);
-    // Gives turns again to the workers that reported that they are waiting.
+    // Gives turns again to all workers whose Work returned Waiting.
     void WakeWaiting();
 
 private:
@@ -47,7 +46,7 @@ private:
 
     asio::io_context& m_context;
     std::vector<std::shared_ptr<CWorker>> m_workers, m_waiting;
-    CWorkSlice::TClock::duration m_leastUsed{}; // of the workers that had turns last
+    CWorkSlice::TClock::duration m_leastUsed{}; // Time used by the workers that had turns last.
     bool m_planned = false;
 };
 
