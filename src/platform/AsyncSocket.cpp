@@ -22,8 +22,8 @@ struct CAsyncSocket::sState
     asio::ip::tcp::socket Socket;
     std::atomic<int> Native{-1}; // for Send on other threads; -1: no socket
     CAsyncSocket* Owner = nullptr;
-    bool Wanted = false; // a Receive since the last notification asked for more
-    bool Filled = false; // and got all it had room for, so that more has most likely come
+    bool Wanted = false; // Receive was called since the last notification
+    bool Filled = false; // that Receive filled its buffer, so more bytes have most likely arrived
 };
 
 CAsyncSocket::CAsyncSocket(CWorkerThread& thread) : m_state(std::make_shared<sState>(thread.m_loop->Context))
@@ -44,7 +44,7 @@ bool CAsyncSocket::Create()
     if (error)
         return false;
     m_state->Socket.native_non_blocking(true, error);
-    // Commands are a few short texts in a row; none is to wait for the answer to the one before.
+    // Commands are short texts sent in a row; none may wait for the acknowledgement of the one before.
     m_state->Socket.set_option(asio::ip::tcp::no_delay(true), error);
     m_state->Native = m_state->Socket.native_handle();
     return true;
@@ -70,8 +70,8 @@ void CAsyncSocket::AwaitBytes()
                                    CAsyncSocket* const self = state->Owner;
                                    if (!self || error == asio::error::operation_aborted)
                                        return;
-                                   // A large reply is read in one go, but not so long that the other socket
-                                   // or a posted message waits for more than some milliseconds.
+                                   // Reads a large reply in one go, but lets the other socket and posted
+                                   // messages wait for a few milliseconds at most.
                                    for (int i = 0; i < MostReceivesInARow; ++i) {
                                        state->Wanted = state->Filled = false;
                                        self->OnReceive(error.value());

@@ -1,5 +1,6 @@
-// A stream connection to a port of this machine whose notifications run on one worker thread. Everything but
-// Send belongs to that thread. Nothing is reported beyond the results; a connection that is lost stays lost.
+// A stream connection to a port of this machine. Its notifications run on one worker thread; all functions
+// except Send must be called on that thread. Errors are reported by results alone, and a lost connection is
+// not restored.
 #pragma once
 
 #include <cstdint>
@@ -18,28 +19,27 @@ public:
     CAsyncSocket& operator=(const CAsyncSocket&) = delete;
     virtual ~CAsyncSocket(); // closes
 
-    // Makes the socket; false, and nothing to connect, when the system has none to give.
+    // Creates the socket. Returns false if the system has none left; Connect must not be called then.
     bool Create();
 
-    // Begins to connect to 127.0.0.1; OnConnect tells how it went.
+    // Starts to connect to 127.0.0.1. OnConnect reports the result.
     void Connect(std::uint16_t port);
 
-    // Up to `size` bytes that have come: more than 0, or 0 when the peer has closed or `size` is 0, or -1
-    // when there is nothing or the connection is broken. OnReceive comes again only after a call with room
-    // for a byte.
+    // Reads up to `size` received bytes. Returns their number; 0 if the peer has closed or `size` is 0; -1 if
+    // no byte has arrived or the connection is broken. OnReceive is called again only after a Receive with a
+    // `size` above 0.
     int Receive(char* bytes, int size);
 
-    // Hands the text to the system without waiting. Returns how many bytes it took, -1 for none: before the
-    // connection stands, after it is lost, or when the peer reads too slowly. Any thread, as long as the
-    // socket lives.
+    // Passes the text to the system without waiting. Returns the number of bytes accepted, or -1 for none:
+    // not connected yet, connection lost, or the peer reads too slowly. Any thread, while the socket exists.
     int Send(std::string_view text);
 
-    // Ends the connection in both directions.
+    // Ends the connection in both directions. Returns false on failure.
     bool ShutDown();
     void Close();
 
 protected:
-    // Error codes are 0 for success, else the system's.
+    // Called on the worker thread. `errorCode` is 0 for success, otherwise the system's error number.
     virtual void OnConnect(int errorCode);
     virtual void OnReceive(int errorCode);
 
@@ -48,7 +48,7 @@ private:
 
     void AwaitBytes();
 
-    const std::shared_ptr<sState> m_state; // outlives the socket where a notification is still under way
+    const std::shared_ptr<sState> m_state; // outlives the socket while a notification is pending
 };
 
 } // namespace zantroq

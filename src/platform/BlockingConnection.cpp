@@ -16,7 +16,7 @@ namespace {
 
 using TClock = std::chrono::steady_clock;
 
-// poll that goes on with what is left of its time after a signal.
+// Like poll, but continues with the rest of the time after a signal.
 bool WaitFor(int native, short events, int milliseconds)
 {
     const auto end = TClock::now() + std::chrono::milliseconds(milliseconds);
@@ -34,14 +34,14 @@ bool IsNothingYet(int error)
     return error == EAGAIN || error == EWOULDBLOCK || error == EINTR;
 }
 
-// The socket does not block; waiting is poll's, so that every wait has its limit.
+// The socket is non-blocking and all waiting is done with poll, so that every wait has a limit.
 class CBlockingConnection : public IBlockingConnection
 {
 public:
     explicit CBlockingConnection(int limitMs) : m_limitMs(limitMs) {}
     ~CBlockingConnection() override { Close(); }
 
-    bool Initialise() override { return true; } // these sockets need none
+    bool Initialise() override { return true; } // these sockets need no preparation
     bool Connect(std::uint16_t port) override;
     bool Send(std::string_view text) override;
     int Receive(char* bytes, int size) override;
@@ -53,12 +53,12 @@ private:
     bool Await(short events) const { return WaitFor(m_native, events, m_limitMs); }
 
     const int m_limitMs;
-    std::mutex m_closing; // a socket that is interrupted must not be another's by then
-    int m_native = -1;    // -1: none. Written under the lock
+    std::mutex m_closing; // keeps Interrupt from shutting down a descriptor that was closed and reused
+    int m_native = -1;    // -1: none. Written under the lock.
     bool m_interrupted = false;
 };
 
-// False: interrupted meanwhile.
+// Returns false if Interrupt was called meanwhile.
 bool CBlockingConnection::Keep(int native)
 {
     const std::lock_guard guard(m_closing);

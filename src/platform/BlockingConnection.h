@@ -1,5 +1,5 @@
-// A stream connection to a port of this machine that waits for its peer. For short exchanges of one question
-// and one answer. Used from one thread, Interrupt aside; errors never raise a signal.
+// A stream connection to a port of this machine whose calls wait for the peer, for a short exchange of
+// question and answer. Used on one thread, except Interrupt; errors raise no signal.
 #pragma once
 
 #include <cstdint>
@@ -13,25 +13,25 @@ class IBlockingConnection
 public:
     virtual ~IBlockingConnection() = default; // closes
 
-    // Makes the system's sockets ready for use. False: there are none to be had.
+    // Prepares the system's sockets. Returns false if they are not available.
     virtual bool Initialise() = 0;
-    // Connects to 127.0.0.1. An earlier connection is closed first.
+    // Connects to 127.0.0.1 after closing an earlier connection. Returns false on failure.
     virtual bool Connect(std::uint16_t port) = 0;
-    // Sends the whole text; false when the connection broke before its end.
+    // Sends the whole text. Returns false if the connection breaks before its end.
     virtual bool Send(std::string_view text) = 0;
-    // At most `size` bytes, as soon as there is one. 0 when the peer has closed, or when nothing came for the
-    // connection's time limit; -1 when the connection is broken or was interrupted.
+    // Waits for data and reads at most `size` bytes. Returns their number; 0 if the peer has closed or sent
+    // nothing within the time limit; -1 if the connection is broken or interrupted.
     virtual int Receive(char* bytes, int size) = 0;
     // Ends the connection in both directions and closes it.
     virtual void Close() = 0;
-    // Any thread: whatever is under way fails at once, and so does every later Connect, Send and Receive.
+    // Makes the call in progress fail at once, and every later Connect, Send and Receive. Any thread.
     virtual void Interrupt() = 0;
 };
 
-// Connecting, sending and each wait for a byte take five seconds at most.
+// In milliseconds: the longest time for a connect, for a send and for each wait for data.
 inline constexpr int BlockingLimitMs = 5000;
 
-// `limitMs` is a test's to shorten.
+// Only tests need a `limitMs` of their own.
 std::unique_ptr<IBlockingConnection> MakeBlockingConnection(int limitMs = BlockingLimitMs);
 
 } // namespace zantroq

@@ -10,9 +10,9 @@ namespace zantroq {
 namespace {
 
 constexpr int SecondsPerDay = 86400;
-// 30 December 1899 as days from 1 January 1970.
+// 30 December 1899, in days from 1 January 1970.
 constexpr int EpochDay = -25569;
-// A value at or below minus half a second has a time of day that runs the other way.
+// Half a second in days, negative. At or below it, the time of day counts backwards.
 constexpr double MirrorLimit = -5.787037037037037e-06;
 
 bool InRange(int value, int least, int greatest)
@@ -28,7 +28,7 @@ double MirrorNegative(double dayNumber)
     return ceiling - (dayNumber - ceiling);
 }
 
-// Independent of the process's locale; made once and kept for the life of the process.
+// A locale independent of the process's; created once and never freed.
 locale_t PlainLocale()
 {
     static const locale_t plain = ::newlocale(LC_ALL_MASK, "C", nullptr);
@@ -52,7 +52,7 @@ std::tm BrokenDown(const sCALENDAR_TIME& time)
     return broken;
 }
 
-// Reads exactly `count` digits at `at`; false when one of them is not a digit.
+// Reads exactly `count` digits at `at`; false if one of them is not a digit.
 bool ReadDigits(std::string_view text, std::size_t at, std::size_t count, int& value)
 {
     value = 0;
@@ -77,7 +77,7 @@ bool SystemTimeToVariantTime(const sCALENDAR_TIME& time, double& dayNumber)
     if (!InRange(time.Year, 100, 9999) || !InRange(time.Month, 1, 12) || !InRange(time.Day, 1, 31) ||
         !InRange(time.Hour, 0, 23) || !InRange(time.Minute, 0, 59) || !InRange(time.Second, 0, 59))
         return false;
-    // A day past the end of its month runs on into the next one; callers see it by converting back.
+    // A day after the end of its month becomes a day of the next month; callers detect it by converting back.
     const std::chrono::sys_days day{std::chrono::year{time.Year} / time.Month / time.Day};
     const double whole = static_cast<double>(day.time_since_epoch().count() - EpochDay);
     const double fraction =
@@ -88,7 +88,7 @@ bool SystemTimeToVariantTime(const sCALENDAR_TIME& time, double& dayNumber)
 
 bool VariantTimeToSystemTime(double dayNumber, sCALENDAR_TIME& time)
 {
-    // Rough bounds first, so that the conversion to an integer is defined; not-a-number fails here too.
+    // Rough bounds keep the conversion to an integer defined; not-a-number fails here too.
     if (!(dayNumber > -700000.0 && dayNumber < 3000000.0))
         return false;
     const double whole = std::trunc(dayNumber);

@@ -1,5 +1,5 @@
-// Wall-clock times as day numbers: days from 30 December 1899 00:00, the fraction being the time of day.
-// There is no time zone anywhere: a time is what the feed printed. Pure functions, any thread.
+// Times as day numbers: days since 30 December 1899 00:00, with the time of day as the fraction. There is no
+// time zone: a time is the one that the feed printed. Pure functions, any thread.
 #pragma once
 
 #include <cstdint>
@@ -8,7 +8,7 @@
 
 namespace zantroq {
 
-// A broken-down time. Month 1 to 12, day 1 to 31.
+// A date and a time of day. Month 1 to 12, day 1 to 31.
 struct sCALENDAR_TIME
 {
     int Year = 0, Month = 0, Day = 0, Hour = 0, Minute = 0, Second = 0;
@@ -22,38 +22,38 @@ enum TimeStatus : std::int32_t
     TimeNull = 2
 };
 
-// The time record of every point.
+// The time of a point.
 struct sTIME_W_MILLISECONDS
 {
-    double Time = 0; // day number, to the second
+    double Time = 0; // day number, in whole seconds
     std::int32_t Status = TimeValid;
-    std::uint16_t Milliseconds = 0; // 0 to 999, kept apart from the day number
+    std::uint16_t Milliseconds = 0; // 0 to 999, not included in the day number
     bool operator==(const sTIME_W_MILLISECONDS&) const = default;
 };
 
-// Day number of a broken-down time; false, and dayNumber untouched, when a part is out of its range (years
+// Converts to a day number. Returns false and leaves `dayNumber` unchanged if a part is out of range (years
 // 100 to 9999).
 bool SystemTimeToVariantTime(const sCALENDAR_TIME& time, double& dayNumber);
 
-// The other way, rounded to the nearest second; false when the day number is outside years 100 to 9999.
+// Converts back, rounded to the nearest second. Returns false if the day number is outside years 100 to 9999.
 bool VariantTimeToSystemTime(double dayNumber, sCALENDAR_TIME& time);
 
-// A time record from its parts: valid only if the conversion gives back the same six parts, else status
-// invalid.
+// Makes a time record. Its status is valid only if converting the day number back yields the same six parts,
+// otherwise invalid.
 sTIME_W_MILLISECONDS MakeTime(const sCALENDAR_TIME& time, std::uint16_t milliseconds = 0);
 
-// strftime over the broken-down form ("C" locale, at most 255 characters). A null time gives "", an invalid
-// one "Invalid DateTime".
+// Formats with strftime in the "C" locale; at most 255 characters. A null time gives "", an invalid time
+// "Invalid DateTime".
 std::string FormatTime(const sTIME_W_MILLISECONDS& time, const char* format);
 
-// MM/DD/YYYY HH:MM:SS with an optional ".mmm", which is ignored. Anything else gives status invalid.
+// Reads MM/DD/YYYY HH:MM:SS; an optional ".mmm" is ignored. Any other text gives status invalid.
 sTIME_W_MILLISECONDS ParseDate(std::string_view text);
 
-// True when a is later than b. Negative day numbers are first mirrored around their ceiling so that their
-// time of day orders like that of positive ones. Either time not valid: false.
+// True if `a` is later than `b`. Negative day numbers are first mirrored around their ceiling, so that their
+// times of day compare like those of positive numbers. False if either time is not valid.
 bool IsAfter(const sTIME_W_MILLISECONDS& a, const sTIME_W_MILLISECONDS& b);
 
-// Today on this machine's own clock as %Y%m%d.
+// The current date of this machine's clock and time zone as %Y%m%d.
 std::string TodayText();
 
 } // namespace zantroq

@@ -1,4 +1,4 @@
-// The colors of settings, pane files and scenes.
+// The color type of settings, pane files and scenes.
 #pragma once
 
 #include <cstdint>

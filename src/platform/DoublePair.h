@@ -1,5 +1,5 @@
-// Two numbers side by side, for loops that must keep the order of additions within each result and so can
-// only go faster by working on several results at once.
+// Two doubles in one vector register. For loops whose additions must keep their order within each result, so
+// that the only way to speed them up is to compute several results at once.
 #pragma once
 
 #include <cstddef>
@@ -9,8 +9,8 @@ namespace zantroq {
 
 using DoublePair = double __attribute__((vector_size(16)));
 inline constexpr std::size_t PairWidth = 2;
-inline constexpr std::size_t PairsAtATime =
-    8; // vectors at a time: together they hide the latency of an addition
+// Vectors processed together: eight hide the latency of an addition.
+inline constexpr std::size_t PairsAtATime = 8;
 inline constexpr std::size_t PairBlock = PairWidth * PairsAtATime;
 
 inline DoublePair LoadPair(const double* from)

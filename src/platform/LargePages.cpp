@@ -23,7 +23,7 @@ void* AllocateLarge(std::size_t bytes)
     void* const data = std::aligned_alloc(LargePage, whole);
 #ifdef __linux__
     if (data)
-        ::madvise(data, whole, MADV_HUGEPAGE); // no harm where the system does not have them
+        ::madvise(data, whole, MADV_HUGEPAGE); // harmless where the system has no huge pages
 #endif
     return data;
 }

@@ -1,5 +1,6 @@
-// Memory for vectors of a megabyte and more that are read in leaps: on large pages, where the system has
-// them, since looking up small ones takes longer than the reading. What is smaller comes from the C library.
+// Memory for vectors that are read in random order. Blocks of a megabyte and more use large pages where the
+// system has them, because address translation with small pages takes longer than the reading itself. Smaller
+// blocks come from the C library. Any thread.
 #pragma once
 
 #include <cstddef>
@@ -7,11 +8,11 @@
 
 namespace zantroq {
 
-// Null when there is no such memory. To be given back with FreeLarge.
+// Returns null if memory is short. Release with FreeLarge.
 void* AllocateLarge(std::size_t bytes);
 void FreeLarge(void* data);
 
-// A standard allocator over it.
+// A standard allocator that uses AllocateLarge.
 template<class T> struct CLargePages
 {
     using value_type = T;

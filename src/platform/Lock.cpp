@@ -11,8 +11,8 @@ namespace zantroq {
 
 namespace {
 
-constexpr int Spins = 100; // some microseconds, longer than an append holds the lock
-constexpr int Yields = 20; // the holder may be waiting for this very core
+constexpr int Spins = 100; // some microseconds: longer than an append holds the lock
+constexpr int Yields = 20; // the holder may be waiting for this core
 constexpr auto Nap = std::chrono::microseconds(50);
 
 void Pause()
@@ -41,7 +41,7 @@ void CLock::Await()
             return;
         std::this_thread::yield();
     }
-    // A bulk read of a large series holds the lock for milliseconds.
+    // A bulk read of a large series holds the lock for milliseconds, so sleep.
     while (!TryTake())
         std::this_thread::sleep_for(Nap);
 }

@@ -1,7 +1,7 @@
-// A mutual-exclusion lock and its scope guard that clang's thread-safety analysis understands. Any thread.
-// Made for sections of a few dozen instructions that are entered millions of times a second by one thread and
-// now and then by another: taking a free lock is one atomic exchange and giving it back a plain store, half
-// the cost of std::mutex. Whoever finds it taken spins shortly, then yields, then naps. Not recursive, not
+// A mutual-exclusion lock and its scope guard, with annotations for clang's thread-safety analysis. Any
+// thread. Made for sections of a few dozen instructions that one thread enters millions of times a second and
+// another thread now and then: locking is one atomic exchange and unlocking a plain store, half the cost of
+// std::mutex. A thread that finds the lock taken spins briefly, then yields, then sleeps. Not recursive, not
 // fair.
 #pragma once
 
@@ -28,7 +28,7 @@ private:
     std::atomic<bool> m_held{false};
 };
 
-// Holds the lock for the span of its scope.
+// Holds the lock until the end of the scope.
 class SCOPED_CAPABILITY CLockGuard
 {
 public:

@@ -8,7 +8,7 @@
 #include <limits>
 #include <new>
 
-// The sanitizers follow memory through realloc; pages moved behind their back would keep stale shadow state.
+// The sanitizers track memory through realloc; remapped pages would keep stale shadow state.
 #if defined(__has_feature)
 #if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer) || __has_feature(memory_sanitizer)
 #define ZANTROQ_PLAIN_BLOCKS 1
@@ -26,12 +26,13 @@ namespace zantroq {
 
 namespace {
 
-// From here on a block is mapped on its own, with address space to grow in; only what is written to takes
-// memory.
+// Blocks of this size and more get a mapping of their own, with address space to grow in. Only written pages
+// take memory.
 constexpr std::size_t LargeBlock = 2 * 1024 * 1024;
 constexpr std::size_t Reservation = 16 * LargeBlock;
 
-// By powers of two, since the C library copies a block wherever it cannot extend it. 0: too large for one.
+// Powers of two, because the C library copies a block that it cannot extend. Returns 0 if the size is too
+// large.
 std::size_t RoundedSize(std::size_t bytes)
 {
     constexpr std::size_t Greatest = std::numeric_limits<std::size_t>::max() / 2 + 1;
@@ -50,17 +51,17 @@ void Release(void* data, std::size_t)
     std::free(data);
 }
 #else
-// Filling a series is faster by a fifth when the system may back it with pages of this size.
+// Filling a series is a fifth faster if the system can use pages of this size.
 constexpr std::size_t HugePage = 2 * 1024 * 1024;
 
-// From the first of them on: it is at least half full when a block comes here.
+// Used from the first huge page on: a block that gets here fills at least half of it.
 void AdviseHugePages(void* data, std::size_t bytes)
 {
     ::madvise(data, bytes, MADV_HUGEPAGE);
 }
 
-// `bytes` of fresh address space on a huge page's border, `bytes` being a multiple of one. Null: none is
-// left.
+// Maps `bytes` of fresh address space, aligned to a huge page; `bytes` is a multiple of one. Null: no address
+// space left.
 void* Map(std::size_t bytes)
 {
     void* const whole = ::mmap(nullptr, bytes + HugePage, PROT_READ | PROT_WRITE,
@@ -89,11 +90,12 @@ void* Resize(void* data, std::size_t oldBytes, std::size_t bytes)
         std::free(data);
         return moved;
     }
-    // Moved and enlarged in one step it stays one mapping; kernels before Linux 6.17 move nothing else.
+    // Moving and enlarging in one call keeps one mapping; kernels before Linux 6.17 can remap only one
+    // mapping at a time.
     if (::mremap(data, oldBytes, bytes, MREMAP_MAYMOVE | MREMAP_FIXED, moved) != MAP_FAILED)
         return moved;
-    // What lies at `moved` is unknown now: the system may have made room there before it refused. Address
-    // space is all that is lost with it.
+    // The state of the range at `moved` is unknown now: the system may have unmapped it before the failure.
+    // It is abandoned, which costs only address space.
     void* const copy = Map(bytes);
     if (copy) {
         std::memcpy(copy, data, oldBytes);

@@ -1,6 +1,6 @@
-// Raw memory for arrays that grow in small steps to hundreds of megabytes. A block takes address space by
-// powers of two, of which only touched pages take memory, and a large one grows by moving pages, not bytes. A
-// block belongs to one owner; no lock.
+// Raw memory for arrays that grow in small steps to hundreds of megabytes. A block reserves address space in
+// powers of two; only touched pages take memory, and a large block grows by remapping its pages without
+// copying. Each block has one owner; no lock.
 #pragma once
 
 #include <cstddef>
@@ -10,14 +10,14 @@ namespace zantroq {
 struct sMemoryBlock
 {
     void* Data = nullptr;
-    std::size_t Bytes = 0; // address space held, at least what was asked for
+    std::size_t Bytes = 0; // reserved address space, at least the size asked for
 };
 
-// Makes the block hold at least `bytes`, its contents kept. Throws std::bad_alloc and leaves the block as it
-// was.
+// Makes the block hold at least `bytes` and keeps its contents. Throws std::bad_alloc and leaves the block
+// unchanged if memory is short.
 void GrowBlock(sMemoryBlock& block, std::size_t bytes);
 
-// Gives the memory back and leaves an empty block.
+// Frees the memory; the block is empty afterwards.
 void FreeBlock(sMemoryBlock& block);
 
 } // namespace zantroq

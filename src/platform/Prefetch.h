@@ -1,5 +1,5 @@
-// Asks the memory for numbers that are about to be read, where their order is none that the processor
-// foresees.
+// Prefetches memory that is about to be accessed in an order that the processor cannot predict. Hints only;
+// other compilers than GCC and clang ignore them. Any thread.
 #pragma once
 
 #include <cstddef>
@@ -9,7 +9,7 @@ namespace zantroq {
 inline void Prefetch(const double* values, std::size_t count)
 {
 #ifdef __GNUC__
-    constexpr std::size_t line = 8; // numbers of a cache line
+    constexpr std::size_t line = 8; // numbers per cache line
     for (std::size_t i = 0; i < count; i += line)
         __builtin_prefetch(values + i);
     __builtin_prefetch(values + count - 1);
@@ -28,7 +28,7 @@ inline void Prefetch(const double* value)
 #endif
 }
 
-// The memory of a pixel that is about to be written.
+// Prefetches the memory of a pixel for writing.
 inline void PrefetchPixel(const void* pixel)
 {
 #ifdef __GNUC__

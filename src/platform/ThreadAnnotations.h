@@ -1,4 +1,4 @@
-// Lock annotations that clang checks at compile time (-Wthread-safety) and that other compilers ignore.
+// Lock annotations. clang checks them at compile time (-Wthread-safety); other compilers ignore them.
 #pragma once
 
 #if defined(__clang__)

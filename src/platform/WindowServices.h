@@ -1,5 +1,5 @@
-// What the chart window asks of the desktop, each service behind a small interface named for its role. The
-// face implements them with widgets, tests with a few lines. All are called on the chart window's thread.
+// The services of the desktop that the chart window uses, one small interface for each. The Widgets layer
+// implements them with widgets, tests with a few lines. All are called on the chart window's thread.
 #pragma once
 
 #include <cstdint>
@@ -9,12 +9,12 @@
 
 namespace zantroq {
 
-// Periodic timers by number; each tick ends in the window's OnTimer(id).
+// Periodic timers by number. Each tick calls the window's OnTimer(id).
 class IWindowTimer
 {
 public:
     virtual ~IWindowTimer() = default;
-    virtual void Start(int id, int milliseconds) = 0; // restarts a running one
+    virtual void Start(int id, int milliseconds) = 0; // restarts the timer if it is running
     virtual void Stop(int id) = 0;
 };
 
@@ -49,12 +49,12 @@ class IMessageBox
 {
 public:
     virtual ~IMessageBox() = default;
-    // Modal: returns when answered; timers go on meanwhile.
+    // Modal: returns with the user's answer. Timers continue meanwhile.
     virtual BoxAnswer Ask(const std::string& text, const std::string& caption, BoxButtons buttons,
                           BoxIcon icon) = 0;
 };
 
-// The horizontal scroll bar. A position handed in is held between 0 and the larger of 0 and Limit().
+// The horizontal scroll bar. A position is clamped to 0 up to the larger of 0 and Limit().
 class IScrollBar
 {
 public:
@@ -81,8 +81,8 @@ public:
     virtual bool IsChecked(int command) const = 0;
 };
 
-// The symbol box: an edit text over a list of recent symbols. What the window sets itself is not told back to
-// it.
+// The symbol box: an edit field with a list of recent symbols. Changes that the window makes itself are not
+// reported back.
 class ISymbolBox
 {
 public:
@@ -93,7 +93,7 @@ public:
     virtual void SetItems(const std::vector<std::string>& items) = 0;
     virtual int Selection() const = 0; // -1: none
     virtual void Select(int item) = 0;
-    virtual void FocusAtEnd() = 0; // takes the keyboard, the caret behind the text
+    virtual void FocusAtEnd() = 0; // takes the keyboard focus, with the caret after the text
 };
 
 // The type box or the interval box.
@@ -120,7 +120,7 @@ public:
     virtual ~ITopLevelWindow() = default;
     virtual std::string Title() const = 0;
     virtual void SetTitle(const std::string& title) = 0;
-    virtual sWindowRect NormalRect() const = 0; // the restored rectangle, whatever the window's state
+    virtual sWindowRect NormalRect() const = 0; // the restored rectangle, also while the window is maximized
     virtual bool Maximized() const = 0;
     virtual void SetCaption(const std::string& caption) = 0; // the chart's own caption
     virtual std::string Caption() const = 0;
@@ -135,19 +135,19 @@ enum class CursorShape
     Split
 };
 
-// What a drag of a pane border shows: the pointer's shape and the line at the new place.
+// Feedback while a pane border is dragged: the pointer's shape and a line at the new position.
 class IPointerFeedback
 {
 public:
     virtual ~IPointerFeedback() = default;
     virtual void SetCursor(CursorShape shape) = 0;
-    // The line across the panes, 5 pixels high, centred on y pixels below the top of the first pane; moves
-    // one that is shown.
+    // Shows the line across the panes, 5 pixels high and centred `y` pixels below the top of the first pane;
+    // moves the line if it is already shown.
     virtual void ShowDragLine(int y) = 0;
     virtual void HideDragLine() = 0;
 };
 
-// A context menu as data. A separator has no command; an item with items of its own is a submenu.
+// An item of a context menu, as data. A separator has no command; an item that has items is a submenu.
 struct sMenuItem
 {
     int Command = 0;
@@ -159,8 +159,8 @@ struct sMenuItem
 
 struct sContextMenu
 {
-    int Number = 0; // 129 over the price pane, 212 over a study pane
-    int Pane = 0;   // 0 the price pane, k study k
+    int Number = 0; // 129: menu of the price pane; 212: menu of a study pane
+    int Pane = 0;   // 0: price pane; k: study k
     std::vector<sMenuItem> Items;
 };
 
@@ -168,12 +168,12 @@ class IContextMenu
 {
 public:
     virtual ~IContextMenu() = default;
-    // Opens the menu at a pixel of the menu's pane. What the user picks comes back through the window's
-    // OnMenuCommand.
+    // Opens the menu at pixel (x, y) of its pane. The chosen command arrives at the window's OnMenuCommand.
     virtual void Open(const sContextMenu& menu, int x, int y) = 0;
 };
 
-// Sizes for the layout, in pixels; the face moves its widgets when Place is called.
+// The sizes of the window and the placement of its parts, in pixels. Widgets move when a Place function is
+// called.
 class IPaneHost
 {
 public:
@@ -183,8 +183,8 @@ public:
     virtual int ToolBarHeight() const = 0;
     virtual void PlacePane(int pane, bool visible, int left, int top, int width, int height) = 0;
     virtual void PlaceBars(int scrollTop, int statusTop) = 0;
-    // False while a chart loads: the scroll bar and the toolbar rest. The symbol, type and interval boxes
-    // stay usable.
+    // False while a chart loads: disables the scroll bar and the toolbar. The symbol, type and interval boxes
+    // stay enabled.
     virtual void SetControlsEnabled(bool enabled) = 0;
 };
 

@@ -1,4 +1,4 @@
-// How a worker hands its results to the window's thread.
+// Passes results of a worker to the window's thread.
 #pragma once
 
 #include <functional>
@@ -9,8 +9,8 @@ class IWindowThread
 {
 public:
     virtual ~IWindowThread() = default;
-    // Runs `work` on the window's thread after what is due there already, never inside this call. Any thread;
-    // work that has not run when this object goes is dropped.
+    // Runs `work` on the window's thread, after the work already posted and never inside this call. Any
+    // thread. Work that has not run when this object is destroyed is dropped.
     virtual void Post(std::function<void()> work) = 0;
 };
 

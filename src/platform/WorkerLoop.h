@@ -1,4 +1,4 @@
-// The loop behind CWorkerThread, for the sources of this folder that put work on it.
+// The event loop of CWorkerThread, for the sources of this folder that post work to it.
 #pragma once
 
 #include "platform/WorkerThread.h"

@@ -1,5 +1,5 @@
-// One thread with a loop of its own: it runs posted functions and socket notifications in the order in which
-// they fall due, until it is told to quit. Derived classes set up and tear down on the thread itself.
+// A thread with an event loop: it runs posted functions and socket notifications in order until it is
+// stopped. Derived classes do their set-up and clean-up on the thread itself.
 #pragma once
 
 #include <cstdint>
@@ -14,24 +14,24 @@ public:
     CWorkerThread();
     CWorkerThread(const CWorkerThread&) = delete;
     CWorkerThread& operator=(const CWorkerThread&) = delete;
-    // The thread must have ended: a derived class stops it before its own members go.
+    // A derived class must call Stop before its own members are destroyed.
     virtual ~CWorkerThread();
 
-    // Begins the thread. Once per object.
+    // Starts the thread. Once per object.
     void Start();
 
-    // Ends the loop and waits until the thread has ended, in spans of a second after each of which it asks
-    // again. Returns at once when the thread was never begun. Not to be called on the thread itself.
+    // Ends the loop and waits until the thread has ended; repeats the request every second meanwhile. Returns
+    // at once if the thread was never started. Must not be called on the thread itself.
     void Stop();
 
-    // Runs `work` on the thread, after what is already due. Any thread.
+    // Runs `work` on the thread, after the work already posted. Any thread.
     void Post(std::function<void()> work);
 
-    // Posts a numbered message to OnThreadMessage. Any thread.
+    // Posts a numbered message; the thread passes it to OnThreadMessage. Any thread.
     void PostThreadMessage(std::uint32_t message, std::int32_t first, std::int32_t second);
 
 protected:
-    // On the new thread, before and after the loop.
+    // Called on the new thread, before and after the loop.
     virtual void InitInstance() {}
     virtual void ExitInstance() {}
     virtual void OnThreadMessage(std::uint32_t message, std::int32_t first, std::int32_t second);

@@ -1,4 +1,4 @@
-// Finds bytes in a block of 64: bit i of the answer stands for byte i. All 64 bytes are read.
+// Finds bytes in a block of 64: bit i of the result is set if byte i matches. Reads all 64 bytes. Any thread.
 #pragma once
 
 #include <cstdint>
@@ -30,7 +30,7 @@ inline std::uint64_t MarkEqual(const char* block, char wanted)
     return detail::MarksOf64(block, [&](__m128i bytes) { return _mm_cmpeq_epi8(bytes, all); });
 }
 
-// Bytes are compared unsigned.
+// Marks bytes up to and including `greatest`, compared as unsigned numbers.
 inline std::uint64_t MarkAtMost(const char* block, char greatest)
 {
     const __m128i all = _mm_set1_epi8(greatest);

@@ -1,6 +1,6 @@
-// Two short numbers read side by side, each from the eight characters before its end in one half of a 128-bit
-// word. What stands in front of a number there ends with a comma, unless the number fills its half. Machines
-// with SSE2 only, which every 64-bit PC has; others go without.
+// Reads two short numbers at once. Each half of a 128-bit word holds the eight characters before the end of
+// one number; characters up to and including the last comma before the number are ignored. Needs SSE2, which
+// every 64-bit PC has. Any thread.
 #pragma once
 
 #if defined(__SSE2__)
@@ -16,7 +16,7 @@ namespace zantroq {
 class CDigitPair
 {
 public:
-    // All eight bytes before each end are read.
+    // Reads all eight bytes before each end.
     CDigitPair(const char* firstEnd, const char* secondEnd)
     {
         const __m128i text = Join(firstEnd - 8, secondEnd - 8);
@@ -27,16 +27,16 @@ public:
         m_digits = _mm_andnot_si128(foreign, _mm_xor_si128(text, _mm_set1_epi8('0')));
     }
 
-    // One bit for each byte that is no digit, the first number's in the lowest eight.
+    // One bit for each byte that is not a digit; the first number has the lowest eight bits.
     unsigned MarkNoDigits() const
     {
         const __m128i excess = _mm_subs_epu8(m_digits, _mm_set1_epi8(9));
         return Mask(_mm_cmpeq_epi8(excess, _mm_setzero_si128())) ^ 0xFFFFu;
     }
 
-    // Takes a decimal point out of each number that has one and closes the gap. False when a number has
-    // anything else that is no digit; the pair is then of no use. `powers` becomes what each number is to be
-    // divided by.
+    // Removes the decimal point from each number that has one. Returns false if a number has another
+    // character that is not a digit; the pair must not be used then. `powers` becomes the divisor of each
+    // number.
     bool TakePoints(__m128d& powers)
     {
         const __m128i points = _mm_cmpeq_epi8(m_digits, _mm_set1_epi8('.' ^ '0'));
@@ -53,7 +53,7 @@ public:
         return true;
     }
 
-    // The numbers of two pairs as 32-bit integers, in order. REQUIRES: digits only.
+    // The values of two pairs as 32-bit integers, in order. REQUIRES: digits only.
     static __m128i Values(const CDigitPair& a, const CDigitPair& b)
     {
         const __m128i fours = _mm_packs_epi32(a.Fours(), b.Fours());
@@ -61,11 +61,11 @@ public:
     }
 
 private:
-    // For a decimal point in byte i of a half, or in none when i is 8.
+    // For a decimal point in byte i of a half; i is 8 if there is none.
     struct sPoint
     {
-        std::uint64_t Whole; // the bytes in front of it
-        double Power;        // 10 to the number of digits behind it
+        std::uint64_t Whole; // mask of the bytes before the point
+        double Power;        // 10 to the number of digits after the point
     };
     static constexpr sPoint Points[9] = {
         {0, 1e7},          {0xFF, 1e6},         {0xFFFF, 1e5},         {0xFFFFFF, 1e4},
@@ -80,7 +80,7 @@ private:
 
     static unsigned Mask(__m128i bytes) { return static_cast<unsigned>(_mm_movemask_epi8(bytes)); }
 
-    // The four digits of each 32 bits as a number.
+    // The value of each group of four digits.
     __m128i Fours() const
     {
         const __m128i tens =
@@ -89,7 +89,7 @@ private:
         return _mm_madd_epi16(pairs, _mm_set1_epi32(100 | 1 << 16));
     }
 
-    __m128i m_digits; // characters with '0' taken off, 0 where foreign
+    __m128i m_digits; // characters minus '0'; 0 for ignored characters
 };
 
 } // namespace zantroq

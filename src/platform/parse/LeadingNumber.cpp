@@ -15,7 +15,7 @@ bool IsBlank(char c)
     return c == ' ' || (c >= '\t' && c <= '\r');
 }
 
-// Removes leading blanks and one sign; true when the sign is a minus.
+// Removes leading blanks and one sign; returns true for a minus sign.
 bool TakeSign(std::string_view& text)
 {
     while (!text.empty() && IsBlank(text.front()))
@@ -27,7 +27,7 @@ bool TakeSign(std::string_view& text)
     return negative;
 }
 
-// The digits at the front as one number, held at `limit`.
+// The value of the leading digits, at most `limit`.
 std::uint64_t TakeDigits(std::string_view text, std::uint64_t limit)
 {
     std::uint64_t value = 0;
@@ -42,8 +42,8 @@ std::uint64_t TakeDigits(std::string_view text, std::uint64_t limit)
     return value;
 }
 
-// Hexadecimal, infinity and not-a-number are left to the C library: no feed sends them, so speed does not
-// matter.
+// Leaves hexadecimal numbers, infinity and not-a-number to the C library: no feed sends them, so speed does
+// not matter.
 double RareTextToDouble(std::string_view text)
 {
     static const locale_t plain = ::newlocale(LC_ALL_MASK, "C", nullptr);
@@ -68,7 +68,7 @@ double detail::LongTextToDouble(std::string_view text)
     const bool negative = TakeSign(digits);
     if (IsRareForm(digits))
         return RareTextToDouble(text);
-    // A second sign is junk to C, but the start of a number to from_chars.
+    // In C a second sign ends the number before its first digit; from_chars would accept it.
     if (digits.empty() || digits.front() == '-' || digits.front() == '+')
         return 0;
     double value = 0;

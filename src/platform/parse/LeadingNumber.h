@@ -1,6 +1,6 @@
-// Numbers read from the front of a text as the C library's atof, strtoul, atoi and a 64-bit atoi read them in
-// the "C" locale: leading blanks are skipped, the first character that does not belong ends the number,
-// nothing read gives 0. Independent of the process's locale, no allocation on the usual forms. Any thread.
+// Reads the number at the start of a text like the C library's atof, strtoul and atoi in the "C" locale:
+// leading blanks are skipped, the first character that does not belong ends the number, and a text without a
+// number gives 0. Independent of the process's locale; no allocation for the usual forms. Any thread.
 #pragma once
 
 #include "platform/parse/DigitBlock.h"
@@ -16,12 +16,12 @@ inline constexpr double PowersOfTen[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6, 
                                          1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
 } // namespace detail
 
-// atof. The nearest double; an overflow gives an infinity. Also takes the hexadecimal, "inf" and "nan" forms,
-// as C does.
+// Like atof: the nearest double; an infinity on overflow. As in C, hexadecimal numbers, "inf" and "nan" are
+// accepted.
 inline double TextToDouble(std::string_view text)
 {
-    // At most 15 digits make an integer below 2^53, and a power of ten up to 1e22 is exact, so that one
-    // division is correctly rounded. Prices are always of this form.
+    // Fast path of prices: up to 15 digits are an integer below 2^53, and powers of ten up to 1e22 are exact,
+    // so one division gives the correctly rounded result.
     if (text.size() > 16)
         return detail::LongTextToDouble(text);
     const char* at = text.data();
@@ -41,8 +41,8 @@ inline double TextToDouble(std::string_view text)
     return static_cast<double>(mantissa) / detail::PowersOfTen[end - point - 1];
 }
 
-// The same for a text with `before` readable bytes in front of it, faster when there are eight from there to
-// its end.
+// The same, for a text with `before` readable bytes before it. Faster if these and the text are at least
+// eight bytes.
 inline double TextToDouble(std::string_view text, std::size_t before)
 {
     const std::size_t length = text.size();
@@ -52,14 +52,14 @@ inline double TextToDouble(std::string_view text, std::size_t before)
     const std::uint64_t marks = MarkNoDigits(block);
     if (marks == 0)
         return BlockValue(block);
-    const int point = std::countr_zero(marks) - 7; // of the first byte that is no digit, in bits
+    const int point = std::countr_zero(marks) - 7; // bit position of the first byte that is not a digit
     if ((marks & (marks - 1)) != 0 || (block >> point & 0xFF) != ('.' ^ '0'))
         return TextToDouble(text);
     const std::uint64_t whole = block & ((1ull << point) - 1), decimals = block & ~0ull << 8 << point;
     return BlockValue(whole << 8 | decimals) / detail::PowersOfTen[7 - point / 8];
 }
 
-// A decimal integer of at most 19 digits without sign or blank; false on any other text.
+// Reads a decimal integer of 1 to 19 digits without sign or blank. Returns false for any other text.
 inline bool PlainInteger(std::string_view text, std::uint64_t& value)
 {
     if (text.empty() || text.size() > 19)
@@ -74,7 +74,7 @@ inline bool PlainInteger(std::string_view text, std::uint64_t& value)
     return true;
 }
 
-// The same for a text with `before` readable bytes in front of it.
+// The same, for a text with `before` readable bytes before it.
 inline bool PlainInteger(std::string_view text, std::size_t before, std::uint64_t& value)
 {
     const std::size_t length = text.size();
@@ -85,11 +85,12 @@ inline bool PlainInteger(std::string_view text, std::size_t before, std::uint64_
     return MarkNoDigits(block) == 0;
 }
 
-// atoi, held at the limits of 32 bits.
+// Like atoi, clamped to the range of 32 bits.
 std::int32_t TextToInt(std::string_view text);
 // The same for 64 bits.
 std::int64_t TextToInt64(std::string_view text);
-// strtoul, base 10, for a 32-bit unsigned long: 4294967295 when too large; a minus sign negates modulo 2^32.
+// Like strtoul with base 10 and a 32-bit result: 4294967295 if the number is too large; a minus sign negates
+// modulo 2^32.
 std::uint32_t TextToUnsigned(std::string_view text);
 
 } // namespace zantroq

@@ -48,7 +48,7 @@ void CSettingsFile::Write(std::string_view key, std::string_view name, const Set
 
 bool CSettingsFile::Delete(std::string_view key, std::string_view name)
 {
-    if (!Open(Access::Read)) // deleting creates nothing
+    if (!Open(Access::Read)) // deleting never creates the file
         return false;
     Open(Access::Write);
     CStatement statement(*this, Access::Write, "DELETE FROM setting WHERE key = ?1 AND name = ?2");

@@ -1,9 +1,9 @@
-// The settings file: an SQLite data base of keys, each with named values of three types. For programs that
+// The settings file: an SQLite database of keys, each with named values of three types. For programs that
 // report errors; the chart uses ISettingsKey, which reports none.
 //
 // The file is in write-ahead mode. Every write is one short transaction, so several processes may use the
 // file at once and a crash at any moment leaves every finished write readable. Nothing is created before the
-// first write. A damaged file and another program's data base are never written to.
+// first write. A damaged file and a database of another program are never written to.
 //
 // One thread at a time. The connection stays open between calls; the next call detects that the file was
 // replaced or removed.
@@ -31,8 +31,8 @@ enum class SettingsProblem
     Unreadable,  // no permission to read, or not a plain file
     Unwritable,  // no permission to write, disk full, folder cannot be made
     Locked,      // another process held the lock longer than the patience
-    Damaged,     // not a data base, or one with broken pages
-    NotSettings, // an intact data base of another program or of a later format
+    Damaged,     // not a database, or one with broken pages
+    NotSettings, // an intact database of another program or of a later format
 };
 
 // One sentence that names the file and what is wrong with it.

@@ -14,7 +14,7 @@
 namespace zantroq {
 namespace {
 
-// Byte offsets in the headers of a data base and of a rollback journal.
+// Byte offsets in the headers of a database and of a rollback journal.
 constexpr std::string_view Magic("SQLite format 3\0", 16);
 constexpr std::size_t HeaderSize = 100, PageSizeAt = 16, ApplicationIdAt = 68;
 constexpr std::size_t FirstCellCountAt = HeaderSize + 3; // of the table of tables, on the first page
@@ -28,7 +28,7 @@ std::uint32_t NumberAt(std::string_view bytes, std::size_t place, std::size_t co
     return number;
 }
 
-// Reads the raw bytes of a data base file through SQLite.
+// Reads the raw bytes of a database file through SQLite.
 class CRawFile
 {
 public:

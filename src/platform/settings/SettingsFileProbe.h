@@ -1,5 +1,6 @@
-// Classifies a settings file before SQLite opens it as a data base. Opening may write: SQLite plays back a
-// rollback journal, and closing moves a log into the file. Another program's file must be detected before.
+// Classifies a settings file before SQLite opens it as a database. Opening may write: SQLite plays back a
+// rollback journal, and closing moves a log into the file. A file of another program must therefore be
+// detected first.
 //
 // These functions change no file and keep the process's locks: they read through SQLite, because closing
 // another descriptor of the file would release every lock that the process holds on it. Any thread.
@@ -17,9 +18,9 @@ inline constexpr std::uint32_t SettingsApplicationId = 0x5A545251; // "ZTRQ" in 
 enum class SettingsProbe
 {
     Usable,  // may be opened; its contents are not checked yet
-    Noise,   // not a data base
+    Noise,   // not a database
     CutOff,  // empty, but its log or journal has contents
-    Foreign, // another program's data base
+    Foreign, // a database of another program
 };
 
 // Resolves symbolic links, because the logs are beside the target. Returns `path` if that fails.

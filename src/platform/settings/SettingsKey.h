@@ -1,5 +1,5 @@
-// One key of the per-user settings: named values of three types. The only door to where settings are kept, so
-// that the rest of the system can be tested with a map in memory.
+// One key of the per-user settings: named values of three types. All other code reads and writes settings
+// only through this interface, so that tests can use a map in memory.
 #pragma once
 
 #include <cstdint>
@@ -18,12 +18,12 @@ using SettingValue = std::variant<std::string, std::uint32_t, std::vector<std::u
 enum class ReadResult
 {
     Found,
-    Missing,    // surely not there
-    Unreadable, // the store could not be read: the value may be there all the same
+    Missing,    // the store has no such value
+    Unreadable, // the store could not be read, so the value may exist
 };
 
-// What came of reading one value. Whoever does without one may run on a default after either kind of failure,
-// but may store that default only where the value is missing.
+// The result of reading one value. After either failure the caller may use a default, but may store that
+// default only if the value is Missing.
 class CSettingRead
 {
 public:
@@ -33,8 +33,8 @@ public:
 
     ReadResult Result() const { return m_result; }
     explicit operator bool() const { return m_result == ReadResult::Found; }
-    const SettingValue& operator*() const { return m_value; } // of one that was found
-    // The value where one of this type was found, else null.
+    const SettingValue& operator*() const { return m_value; } // only if a value was found
+    // The value if one of this type was found, else null.
     template<class Type> const Type* As() const { return *this ? std::get_if<Type>(&m_value) : nullptr; }
 
     bool operator==(const CSettingRead&) const = default;
@@ -43,41 +43,41 @@ private:
     explicit CSettingRead(ReadResult failure) : m_result(failure) {}
 
     ReadResult m_result;
-    SettingValue m_value; // the empty text where none was found
+    SettingValue m_value; // the empty text if no value was found
 };
 
-// Names are exact: trailing blanks, slashes, '%' and the empty name are all legal. Nothing is reported: a
-// write that cannot be done is skipped in silence and answers false. Any thread; each call stands alone.
+// Names are exact: trailing blanks, slashes, '%' and the empty name are valid. Errors are not reported: a
+// write that fails returns false. Any thread; calls are independent of one another.
 class ISettingsKey
 {
 public:
     virtual ~ISettingsKey() = default;
     virtual CSettingRead Read(std::string_view name) = 0;
     virtual bool Write(std::string_view name, const SettingValue& value) = 0;
-    virtual bool Delete(std::string_view name) = 0; // whether a value was there and is gone now
-    // In name order; empty where the store could not be read.
+    virtual bool Delete(std::string_view name) = 0; // true if the value existed and is deleted
+    // Sorted by name; empty if the store could not be read.
     virtual std::vector<std::pair<std::string, SettingValue>> List() = 0;
-    // Whether the calls from now on may wait for other processes; at first they may. For who will try again.
+    // Whether later calls may wait for other processes, which is so at first. Callers that will retry set it
+    // to false.
     virtual void SetWaiting(bool) {}
 };
 
 inline constexpr const char* ChartSettingsKey = "Software\\Zantro\\Zantroq\\Applications\\Chart";
 inline constexpr const char* FeedSettingsKey = "Software\\Zantro\\Quovex\\Startup";
 
-// The key in the user's settings file ($ZANTROQ_SETTINGS, else $XDG_CONFIG_HOME/zantroq/settings.db, else
+// Opens a key of the user's settings file ($ZANTROQ_SETTINGS, else $XDG_CONFIG_HOME/zantroq/settings.db, else
 // ~/.config/zantroq/settings.db).
 //
-// Nothing is created before the first write. In a missing file all values are missing; in a locked or damaged
-// one, or one that may not be read, all are unreadable; a read-only one is read, and what cannot be written
-// is skipped. While another process holds the file locked, a call waits three seconds at most, and the calls
-// of the ten seconds after it do not wait. That holds for writes while another process is writing, too,
-// though reads go on then.
+// Nothing is created before the first write. In a missing file all values are Missing. In a locked or damaged
+// file, or one without permission to read, all are Unreadable. A read-only file is read, and writes to it
+// fail. If another process holds the file locked, a call waits at most three seconds, and calls in the next
+// ten seconds do not wait. The same holds for writes while another process is writing; reads succeed then.
 std::unique_ptr<ISettingsKey> OpenSettingsKey(std::string keyPath);
 
-// The same in a file of the caller's choice.
+// The same for a given file.
 std::unique_ptr<ISettingsKey> OpenSettingsKey(std::string filePath, std::string keyPath);
 
-// A key in memory: nothing is kept. For tests and for hosts that want no stored settings.
+// A key in memory, which nothing outlives. For tests and for hosts that want no stored settings.
 std::unique_ptr<ISettingsKey> MakeMemorySettingsKey();
 
 } // namespace zantroq

@@ -1,4 +1,4 @@
-// A key in the user's settings file: CSettingsFile with its failures silenced.
+// A key of the user's settings file: CSettingsFile without error reports.
 #include "platform/settings/SettingsFile.h"
 #include "platform/settings/SettingsPath.h"
 
@@ -46,8 +46,8 @@ public:
     }
 
 private:
-    // A window reads some two hundred values at its start. If the file is locked for good only the first of
-    // them may wait.
+    // A window reads some two hundred values when it starts. If the file stays locked, only the first read
+    // may wait.
     static constexpr std::chrono::milliseconds Patience{3000};
     static constexpr std::chrono::seconds Sulk{10};
 
@@ -57,7 +57,7 @@ private:
         Write
     };
 
-    // Nothing when the file would not have it.
+    // Runs `call`; returns nothing if it failed.
     template<class Call> auto Try(Intent intent, Call call) -> std::optional<decltype(call())>
     {
         const std::lock_guard lock(m_mutex);
@@ -67,7 +67,7 @@ private:
             m_file.SetPatience(waits ? Patience : std::chrono::milliseconds{0});
             std::optional<decltype(call())> result(std::in_place, call());
             m_noReadWaitUntil = {};
-            // Reading goes on while another process is writing, so it says nothing about the next write.
+            // Reads succeed while another process is writing, so a read says nothing about the next write.
             if (intent == Intent::Write)
                 m_noWriteWaitUntil = {};
             return result;

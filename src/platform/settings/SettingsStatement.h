@@ -1,4 +1,4 @@
-// Statements and transactions on the settings file's connection. For SettingsFile alone; one thread at a
+// Statements and transactions on the settings file's connection. Only for CSettingsFile; one thread at a
 // time.
 #pragma once
 
@@ -17,7 +17,7 @@ enum StoredType : int
     StoredNumber = 4
 };
 
-// A prepared statement in use; gives it back clean.
+// A prepared statement in use; the destructor resets it for its next use.
 class CSettingsFile::CStatement
 {
 public:
@@ -69,7 +69,8 @@ public:
         const void* bytes = sqlite3_column_blob(m_handle, column);
         return bytes ? std::string(static_cast<const char*>(bytes), Size(column)) : std::string();
     }
-    // Nothing for a type that this version does not know, nor for a number that is none or too large.
+    // Returns nothing for a type that this version does not know, and for a number that is not an integer or
+    // exceeds 32 bits.
     std::optional<SettingValue> ValueAt(int typeColumn, int valueColumn)
     {
         switch (NumberAt(typeColumn)) {
@@ -105,7 +106,7 @@ private:
     sqlite3_stmt* const m_handle;
 };
 
-// All writes between construction and Commit, or none of them.
+// A transaction: either all writes before Commit take effect or, without Commit, none.
 class CSettingsFile::CTransaction
 {
 public:
