@@ -1,4 +1,4 @@
-// Parameters and flags; the series is in ChartHistSeries.cpp.
+// Parameters and flags of a request; its series is in ChartHistSeries.cpp.
 #include "market/ChartHistRequest.h"
 
 #include "market/RequestTable.h"
@@ -96,7 +96,7 @@ void CChartHistRequest::SetRequestKind(std::int32_t kind)
 {
     CLockGuard guard(DataLock);
     if (!FillSameArrays(Kind, kind))
-        Empty(); // else the arrays of the new kind would not be equally long
+        Empty(); // otherwise the arrays of the new kind would differ in length
     Kind = kind;
 }
 void CChartHistRequest::SetNotifyWindow(void* window)
@@ -105,7 +105,7 @@ void CChartHistRequest::SetNotifyWindow(void* window)
     NotifyWindow = window;
 }
 
-// The window's thread is the only writer of the texts, so its own reads need no lock.
+// Only the window's thread writes the texts, so its own reads need no lock.
 std::string CChartHistRequest::GetSymbol() const NO_THREAD_SAFETY_ANALYSIS
 {
     return Symbol;

@@ -1,6 +1,6 @@
 // One history request: its parameters, the series that its replies fill, and its state. The chart window's
-// thread fills the parameters and reads the series; the worker thread appends to it and amends it. DataLock
-// stands between the two.
+// thread sets the parameters and reads the series; the worker thread appends points and amends the last one.
+// DataLock guards both.
 #pragma once
 
 #include "market/ConditionArray.h"
@@ -17,7 +17,7 @@
 
 namespace zantroq {
 
-// Numbers of the series arrays. 0 and 1 are two names of the time array.
+// Numbers of the series' arrays. 0 and 1 both name the time array.
 enum SeriesField : int
 {
     FieldTime = 0,
@@ -48,12 +48,12 @@ public:
     CChartHistRequest(const CChartHistRequest&) = delete;
     CChartHistRequest& operator=(const CChartHistRequest&) = delete;
 
-    // The number that stands for this request on the wire: 1 to 2147483647, never used twice in a process. A
-    // reply can find the request by it once a command has gone out (RequestTable.h).
+    // Identifies this request on the wire: 1 to 2147483647, never used twice in a process. Once its command
+    // is sent, the worker finds the request by this number (RequestTable.h).
     std::int32_t Handle() const { return m_handle; }
 
-    // Parameters. Setters take the lock; getters return copies and take none, so they belong to the window's
-    // thread.
+    // Parameters. Setters take the lock. Getters return copies without taking it, so only the window's thread
+    // may call them.
     void SetSymbol(std::string symbol);
     void SetDatapoints(std::int32_t count);
     void SetIntervalSeconds(std::int32_t seconds);
@@ -65,8 +65,8 @@ public:
     void SetEndDate(std::string date);
     void SetEndTime(std::string time);
     void SetEndFilterTime(std::string time);
-    void
-    SetRequestKind(std::int32_t kind); // one that fills other arrays than the kind before empties them all
+    // If the new kind fills other arrays than the old kind, the series is emptied.
+    void SetRequestKind(std::int32_t kind);
     void SetNotifyWindow(void* window);
     std::string GetSymbol() const;
     std::int32_t GetDatapoints() const;
@@ -81,7 +81,7 @@ public:
     std::string GetEndFilterTime() const;
     std::int32_t GetRequestKind() const;
 
-    // Flags: single reads and writes, no lock, either thread.
+    // Flags: single reads and writes without the lock, any thread.
     void SetComplete(bool complete);
     bool IsComplete() const;
     void SetPriceFormat(std::int32_t code);
@@ -94,43 +94,50 @@ public:
     void SetExtendedTrades(bool extended);
     bool HasExtendedTrades() const { return ExtendedTrades; }
 
-    // The series. Every operation takes the lock for itself unless it says otherwise.
-    void AppendPoint(const sHIST_POINT& point); // dropped when outside the request's date and time bounds
-    // The same for several ticks, in their order, under one lock. std::bad_alloc: those that fit are stored.
+    // The series. Every operation takes the lock itself. Any thread, unless a comment says otherwise.
+    // Ignores a point outside the request's date and time bounds. Throws std::bad_alloc if memory is short.
+    void AppendPoint(const sHIST_POINT& point);
+    // The same for several ticks in order, under one lock. If memory is short, stores those that fit and
+    // throws std::bad_alloc.
     void AppendTicks(const sTickBatch& ticks);
-    void UpdatePoint(int index,
-                     const sHIST_POINT& point); // std::invalid_argument outside the series; no range check
-    void GetPoint(int index,
-                  sHIST_POINT& point) const; // index clamped; std::invalid_argument on an empty series
+    // Replaces a point without checking the bounds. Throws std::invalid_argument for an index outside the
+    // series.
+    void UpdatePoint(int index, const sHIST_POINT& point);
+    // Clamps the index to the series. Throws std::invalid_argument if the series is empty.
+    void GetPoint(int index, sHIST_POINT& point) const;
     void GetChartPoint(int index, sHIST_DATA& point) const;
-    int GetCount(int field) const;                   // std::invalid_argument for a field outside 0 to 16
+    // Throws std::invalid_argument for a field outside 0 to 16.
+    int GetCount(int field) const;
     int GetLastIndex(int field) const;               // GetCount - 1
-    sTIME_W_MILLISECONDS GetTimeAt(int index) const; // outside: 1 January 1980 12:00:00
-    double GetLastAt(int index) const;               // this and the following: 0 outside
+    sTIME_W_MILLISECONDS GetTimeAt(int index) const; // outside the series: 1 January 1980 12:00:00
+    double GetLastAt(int index) const;               // this and the following getters: 0 outside the series
     std::int32_t GetSizeAt(int index) const;
     std::int64_t GetTotalVolumeAt(int index) const;
     double GetOpenAt(int index) const;
     double GetCloseAt(int index) const;
     double GetHighAt(int index) const;
     double GetLowAt(int index) const;
-    // From each of the sixteen arrays that is longer than index; std::invalid_argument for a negative index.
+    // Removes the element from each of the sixteen arrays that is longer than `index`. Throws
+    // std::invalid_argument for a negative index.
     void RemovePoint(int index);
     void ResetSeries();
-    void ClearSeries(); // all arrays to length 0; closes the race with an appending worker by taking the lock
+    // Empties all arrays. Takes the lock, so a worker may append at the same time.
+    void ClearSeries();
 
-    // Bulk reads: as many as exist of `count` elements from `first`, copied under one lock. Return how many
-    // were copied; a negative first or an empty overlap copies nothing. CopyDoubles takes fields 2 to 7 and
-    // 9; CopyIntegers fields 8, 10 to 14 (widened with their sign); CopyTimes field 0.
+    // Bulk reads copy up to `count` elements from `first` on under one lock and return the number copied: 0
+    // if `first` is negative or past the end. CopyDoubles reads fields 2 to 7 and 9; CopyIntegers fields 8
+    // and 10 to 14, sign-extended; CopyTimes field 0.
     int CopyDoubles(int field, int first, int count, double* out) const;
     int CopyIntegers(int field, int first, int count, std::int64_t* out) const;
     int CopyTimes(int first, int count, sTIME_W_MILLISECONDS* out) const;
 
-    // Whether live trades may extend or amend this series: a request that is bounded at its end takes none,
-    // nor do weekly and monthly ones. Reads the parameters under the lock, so it may be asked on the worker.
+    // True if live trades may extend or amend the series: a request with an end bound takes none, nor does a
+    // weekly or monthly one. Takes the lock, so the worker may call it too.
     bool AcceptsUpdates() const;
 
 private:
-    // Sets of arrays that grow together: room for one more point, and the stores that then cannot fail.
+    // Append functions for the sets of arrays that grow together. Each first makes room in all its arrays;
+    // the stores after that cannot fail.
     void Append(const sHIST_POINT& point) REQUIRES(DataLock);
     void AppendTick(const sHIST_POINT& point) REQUIRES(DataLock);
     void AppendTickRun(const sTickBatch& ticks, int first, int count) REQUIRES(DataLock);
@@ -149,20 +156,20 @@ private:
 
     const std::int32_t m_handle;
 
-    // Written by the window's thread under the lock; read by it without, and by the worker with it.
+    // Written by the window's thread with the lock; read by that thread without it and by the worker with it.
     std::string Symbol GUARDED_BY(DataLock);
     std::string DataDirection GUARDED_BY(DataLock) = "0";
     sSeriesBounds Bounds GUARDED_BY(DataLock);
-    void* NotifyWindow GUARDED_BY(DataLock) = nullptr; // kept for the window, read by nothing
+    void* NotifyWindow GUARDED_BY(DataLock) = nullptr; // stored for the window, not used here
 
     // Single numbers and flags, read and written by both threads.
     std::atomic<std::int32_t> Datapoints{0}, IntervalSeconds{0}, Days{0}, Kind{NoRequestKind};
-    std::atomic<std::int32_t> PriceFormat{14}; // 10 plus the number of decimals, or a code of the feed
+    std::atomic<std::int32_t> PriceFormat{14}; // 10 + number of decimals, or a code of the feed
     std::atomic<bool> Complete{false}, UseExchangeFormat{false}, Alive{true}, ExtendedTrades{false};
-    // Lets bid and ask updates through the live filter. Nothing sets it; the filter still asks.
+    // True lets bid and ask updates pass the live filter. Always false at present.
     std::atomic<bool> BidAskUpdates{false};
 
-    // Guards the parameters and the series, for the span of one operation.
+    // Guards the parameters and the series; held for one operation at a time.
     mutable CLock DataLock;
 
     CGrowableArray<sTIME_W_MILLISECONDS> m_time GUARDED_BY(DataLock);
@@ -175,7 +182,8 @@ private:
     CGrowableArray<std::int64_t> m_totalVolume GUARDED_BY(DataLock);
     CGrowableArray<char> m_basis GUARDED_BY(DataLock);
     CConditionArray m_conditions GUARDED_BY(DataLock);
-    // Ticks that all their arrays can surely take: one look at it stands for a look at each. 0: not known.
+    // At least this many ticks fit into all their arrays, so that one comparison replaces one per array. 0:
+    // not known.
     int m_tickRoom GUARDED_BY(DataLock) = 0;
 };
 

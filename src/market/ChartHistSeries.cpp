@@ -1,4 +1,4 @@
-// The series of a request: appending, amending and reading its parallel arrays.
+// The series of a request: appends, amends and reads its parallel arrays.
 #include "market/ChartHistRequest.h"
 #include "market/StoredFields.h"
 
@@ -21,7 +21,7 @@ template<class Array>
 constexpr bool HoldsIntegers =
     IsArrayOf<std::int32_t, Array> || IsArrayOf<std::int64_t, Array> || std::is_same_v<Array, CSizeArray>;
 
-// A field of a point as its array keeps it.
+// A field of a point in the form that its array stores.
 template<class Array, class Value> decltype(auto) ForArray(const Array&, const Value& value)
 {
     if constexpr (IsArrayOf<char, Array>)
@@ -32,7 +32,7 @@ template<class Array, class Value> decltype(auto) ForArray(const Array&, const V
         return (value);
 }
 
-// And the other way.
+// The reverse of ForArray.
 template<class Array, class Value> void TakeFrom(const Array& array, int index, Value& value)
 {
     if constexpr (IsArrayOf<char, Array>)
@@ -70,7 +70,7 @@ template<class... Arrays> void RemoveFrom(int index, Arrays&... arrays)
     ((arrays.Count() > index ? arrays.RemoveAt(index) : void()), ...);
 }
 
-// How many of `count` elements from `first` exist.
+// How many of `count` elements from `first` on exist.
 int Overlap(int first, int count, int length)
 {
     return first < 0 || count <= 0 || first >= length ? 0 : std::min(count, length - first);
@@ -114,8 +114,8 @@ void CChartHistRequest::AppendPoint(const sHIST_POINT& point)
         Append(point);
 }
 
-// The appending of each shape makes room in all its arrays first, so that running out of memory leaves them
-// equally long.
+// Each Append function makes room in all its arrays first, so that running out of memory leaves them equally
+// long.
 void CChartHistRequest::Append(const sHIST_POINT& point)
 {
     const int kind = Kind;
@@ -159,7 +159,7 @@ void CChartHistRequest::AppendPrices(const sHIST_POINT& point)
     m_totalVolume.AddPrepared(point.TotalVolume);
 }
 
-// The arrays that a kind fills beside the fields of a point that they hold.
+// Calls `call` for each array that the kind fills, with the field of the point that it stores.
 template<class Series, class Point, class Call>
 void CChartHistRequest::ForEachField(Series& series, int kind, Point& point, Call call)
 {
@@ -193,13 +193,13 @@ void CChartHistRequest::UpdatePoint(int index, const sHIST_POINT& point)
 {
     CLockGuard guard(DataLock);
     const int kind = Kind;
-    // All of them first, so that a point is written whole or not at all.
+    // Checks all arrays first, so that a point is written either completely or not at all.
     ForEachField(*this, kind, point, [&](const auto& array, const auto&) { array.Check(index); });
     ForEachField(*this, kind, point,
                  [&](auto& array, const auto& value) { array.SetAt(index, ForArray(array, value)); });
 }
 
-// On an empty series the result is -1, which every array refuses.
+// An empty series gives -1, which every array rejects.
 int CChartHistRequest::ClampedIndex(int index) const
 {
     return std::min(std::max(index, 0), m_time.LastIndex());
@@ -234,7 +234,7 @@ void CChartHistRequest::GetChartPoint(int index, sHIST_DATA& point) const
         point.Volume = m_size[at];
 }
 
-// What `call` makes of the array with this number.
+// Returns `call` of the array with this number.
 template<class Call> int CChartHistRequest::WithArray(int field, Call call) const
 {
     switch (field) {

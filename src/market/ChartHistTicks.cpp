@@ -1,4 +1,4 @@
-// The ticks of a series: appended one at a time by live trades, by the batch from a history reply.
+// The ticks of a series: live trades append them singly, history replies in batches.
 #include "market/ChartHistRequest.h"
 #include "market/StoredFields.h"
 
@@ -8,13 +8,13 @@ namespace zantroq {
 
 namespace {
 
-// How many elements each of the arrays can take before the first of them must grow.
+// How many elements fit into every one of the arrays.
 template<class... Arrays> int RoomIn(const Arrays&... arrays)
 {
     return std::min({(arrays.Capacity() - arrays.Count())...});
 }
 
-// Calls call(first, count) for each run of ticks that the bounds let in.
+// Calls call(first, count) for each run of ticks that the bounds admit.
 template<class Call> void ForEachRunInside(const sSeriesBounds& bounds, const sTickBatch& ticks, Call call)
 {
     if (!bounds.Any()) {
@@ -25,7 +25,7 @@ template<class Call> void ForEachRunInside(const sSeriesBounds& bounds, const sT
     bool inside = false;
     for (int i = 0; i < ticks.Count; ++i) {
         const auto at = static_cast<std::size_t>(i);
-        // Bounds do not look at milliseconds, and trades of one second follow each other.
+        // Bounds ignore milliseconds, and consecutive trades often share their second.
         if (i > 0 && ticks.Time[at].Time == ticks.Time[at - 1].Time)
             continue;
         const bool admitted = bounds.Admits(ticks.Time[at]);
@@ -48,7 +48,7 @@ void CChartHistRequest::AppendTicks(const sTickBatch& ticks)
     ForEachRunInside(Bounds, ticks, [&](int first, int count) NO_THREAD_SAFETY_ANALYSIS {
         if (hasTicks)
             AppendTickRun(ticks, first, count);
-        else // the object was given another kind while the reply was under way
+        else // the request got another kind while the reply was arriving
             for (int i = first; i < first + count; ++i)
                 Append(ticks.Point(i));
     });

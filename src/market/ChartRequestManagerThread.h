@@ -1,6 +1,6 @@
-// The one worker of the process: it owns the two feed sockets, and all parsing and merging runs on it. It has
-// no queue of work: commands go out on the caller's thread, results come back through the shared series,
-// which the window polls. It never calls into a window.
+// The process's one worker thread. It owns the two feed sockets, and all parsing and merging runs on it. It
+// has no queue: commands are sent on the caller's thread, and results reach the window through the shared
+// series, which the window polls. It never calls a window.
 #pragma once
 
 #include "market/FeedSockets.h"
@@ -24,16 +24,16 @@ public:
     explicit CChartRequestManagerThread(std::shared_ptr<ISettingsKey> feedKey);
     ~CChartRequestManagerThread() override;
 
-    // Waits until both connections stand or were refused and their first lines went out, so that what is sent
-    // next is not lost; at most a second. A window's thread.
+    // Waits at most a second until both connections are made or refused and their first lines are sent, so
+    // that commands sent next are not lost. Any other thread, once.
     void AwaitConnections();
 
-    // Commands, on the window's thread. Nothing waits for an answer, and a send that fails is not noticed.
+    // Commands, called on the window's thread. They do not wait for an answer, and send errors are ignored.
     void SendHistoryRequest(CChartHistRequest& request);
     void WatchSymbol(CChartHistRequest& request);
     void UnwatchSymbol(CChartHistRequest& request);
 
-    // From the sockets, on this thread.
+    // Called by the sockets on this thread.
     void OnHistoryConnected();
     void OnHistoryLine(std::string_view line) { m_history.OnLineOfMany(line); }
     void OnHistoryLinesDone() { m_history.EndOfLines(); }
@@ -53,12 +53,12 @@ private:
     CLevel1Stream m_level1;
     CHistoryReply m_history;
 
-    // Made by the constructor and closed by ExitInstance, so that other threads may send as long as this
-    // object lives.
+    // Created by the constructor and closed by ExitInstance, so that other threads may send while this object
+    // exists.
     const std::unique_ptr<CQVXLevel1Socket> Level1Socket;
     const std::unique_ptr<CQVXHistorySocket> HistorySocket;
 
-    int m_connectionsDone = 0; // on this thread
+    int m_connectionsDone = 0; // used on this thread only
     std::promise<void> m_connected;
 };
 

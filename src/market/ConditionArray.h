@@ -1,5 +1,5 @@
-// The conditions array of a series. No feed line carries conditions, so the texts that exist are kept apart
-// from the count and an empty one costs nothing. Guarded by its owner. Every index is checked and fails with
+// The conditions array of a series. Feed lines carry no conditions, so only texts that are not empty take
+// memory; the count is kept separately. Not thread-safe: the owner locks. An index out of range throws
 // std::invalid_argument.
 #pragma once
 
@@ -27,7 +27,7 @@ public:
         ++m_count;
     }
 
-    // Texts that are all empty.
+    // Adds `count` empty texts.
     void AddEmpty(int count) { m_count += count; }
 
     std::string Get(int index) const
@@ -64,7 +64,7 @@ public:
     }
 
 private:
-    std::map<int, std::string> m_texts; // the texts that are not empty, by index
+    std::map<int, std::string> m_texts; // texts that are not empty, by index
     int m_count = 0;
 };
 

@@ -26,9 +26,10 @@ void CQVXLineSocket::GuardedLine(std::string_view line)
     try {
         OnLine(line);
     } catch (const std::invalid_argument&) {
-        // A short line, or a point that is no longer there. The lines behind it and the other charts go on.
+        // The line has too few fields, or its point no longer exists. Later lines and other charts are not
+        // affected.
     } catch (const std::bad_alloc&) {
-        // The point did not fit; the series is as it was.
+        // Memory is short; the series is unchanged.
     }
 }
 

@@ -1,5 +1,5 @@
-// The two sockets of the chart: bytes in, lines out. A line that fails with std::invalid_argument is dropped
-// alone. Both live on the worker thread, Send aside.
+// The chart's two sockets: they receive bytes and pass on lines. A line whose handling throws
+// std::invalid_argument is dropped; the lines after it are handled. Worker thread only, except Send.
 #pragma once
 
 #include "market/LineCutter.h"
@@ -11,7 +11,8 @@ namespace zantroq {
 
 class CChartRequestManagerThread;
 
-// A socket that cuts what it receives into lines. When one line fills the buffer, the socket reads no more.
+// A socket that cuts received bytes into lines. Once a single line fills the buffer, the socket reads no
+// more.
 class CQVXLineSocket : public CAsyncSocket
 {
 public:
@@ -19,9 +20,9 @@ public:
 
 protected:
     void OnReceive(int errorCode) override;
-    // One line without its end, which may be empty. The text holds during the call.
+    // Receives one line without its line end; it may be empty. The view is valid during the call.
     virtual void OnLine(std::string_view line) = 0;
-    // All lines of a receive have been handed out.
+    // Called after the last line of a receive.
     virtual void OnLinesDone() {}
 
 private:
@@ -30,14 +31,14 @@ private:
     CLineCutter m_cutter;
 };
 
-// Requests and replies on the lookup port.
+// The lookup port: commands and replies.
 class CQVXLookupSocket : public CQVXLineSocket
 {
 public:
     explicit CQVXLookupSocket(CWorkerThread& thread) : CQVXLineSocket(thread, CLineCutter::LookupCapacity) {}
 };
 
-// The continuous stream on the level 1 port.
+// The level 1 port: a continuous stream.
 class CQVXStreamSocket : public CQVXLineSocket
 {
 public:

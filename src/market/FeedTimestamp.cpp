@@ -19,8 +19,8 @@ bool IsDigit(char c)
     return static_cast<unsigned char>(c - '0') < 10;
 }
 
-// Hour, minute and second of eight characters HH:MM:SS, of which the third and the sixth may be anything, as
-// seconds of the day; -1 when there is no such time.
+// The seconds of the day of eight characters HH:MM:SS, whose separators may be any character; -1 if there is
+// no such time.
 int ClockSeconds(const char* at)
 {
     if constexpr (HasDigitBlocks) {
@@ -60,7 +60,7 @@ bool CFeedTimestamp::FindDay(std::string_view text, double& dayNumber)
         return false;
     if (!m_known || std::memcmp(m_date.data(), text.data(), DateLength) != 0) {
         const sTIME_W_MILLISECONDS day = MakeTime(DateParts(text));
-        // Before 1900 the time of day is subtracted; such dates take the slow path.
+        // The fractions of negative day numbers count backwards; such dates take the slow path.
         m_known = day.Status == TimeValid && day.Time >= 0;
         if (!m_known)
             return false;

@@ -1,6 +1,5 @@
-// An array that keeps count and capacity apart and grows by a settable step. Elements are plain data and move
-// with the memory. No lock of its own: whoever owns the array guards it. Every index is checked and fails
-// with std::invalid_argument.
+// An array with separate count and capacity that grows by a settable step. Elements are trivially copyable.
+// Not thread-safe: the owner locks. An index out of range throws std::invalid_argument.
 #pragma once
 
 #include "platform/MemoryBlock.h"
@@ -31,15 +30,16 @@ public:
     }
 
     int Count() const { return m_count; }
-    int Capacity() const { return m_capacity; } // elements that fit before the next growth
+    int Capacity() const { return m_capacity; } // elements that fit without growing
     int LastIndex() const { return m_count - 1; }
     const T* Data() const { return static_cast<const T*>(m_block.Data); }
 
-    // 0: unset, the step is then an eighth of the count, at least 4 and at most 1,024.
+    // 0 means the default: an eighth of the count, at least 4 and at most 1,024.
     void SetGrowStep(int step) { m_step = std::max(step, 0); }
     int GrowStep() const { return m_step; }
 
-    // New elements are value-initialised; size 0 gives the memory back.
+    // Value-initialises new elements; count 0 frees the memory. Throws std::invalid_argument for a negative
+    // count.
     void SetCount(int count)
     {
         if (count < 0)
@@ -55,14 +55,15 @@ public:
         m_count = count;
     }
 
-    // Room for one more, so that the following Add cannot fail.
+    // Makes room for one element, so that the next Add cannot fail.
     void PrepareAdd()
     {
         if (m_count == m_capacity)
             MakeRoom(m_count + 1);
     }
 
-    // Returns the new element's index.
+    // Returns the index of the new element. Throws std::bad_alloc and leaves the array unchanged if memory is
+    // short.
     int Add(const T& value)
     {
         const T copy = value;
@@ -71,10 +72,10 @@ public:
         return m_count - 1;
     }
 
-    // Add without a look at the capacity. REQUIRES: PrepareAdd since the last element was added.
+    // Add without a capacity check. REQUIRES: PrepareAdd after the last addition.
     void AddPrepared(const T& value) { new (Elements() + m_count++) T(value); }
 
-    // Several at once. REQUIRES: so many fit before the next growth.
+    // Adds several elements. REQUIRES: Capacity() - Count() >= count, also for AddZeros.
     void AddPrepared(const T* values, int count)
     {
         std::memcpy(static_cast<void*>(Elements() + m_count), values,
@@ -138,7 +139,7 @@ private:
     int m_count = 0, m_capacity = 0, m_step = 0;
 };
 
-// Room for one more in each of the arrays, so that running out of memory leaves them equally long.
+// Makes room for one element in each array, so that running out of memory leaves all arrays equally long.
 template<class... Arrays> void PrepareAll(Arrays&... arrays)
 {
     (arrays.PrepareAdd(), ...);

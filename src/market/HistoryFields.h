@@ -5,7 +5,7 @@
 
 namespace zantroq {
 
-// No kind reads a field past the ninth.
+// No kind uses a field after the ninth.
 using HistoryFields = CLineFields<9>;
 
 } // namespace zantroq

@@ -1,4 +1,4 @@
-// The records of one point and the ten kinds of history request. Plain data, no thread of its own.
+// The records of a point and the ten kinds of history request. Plain data.
 #pragma once
 
 #include "platform/CalendarTime.h"
@@ -8,7 +8,7 @@
 
 namespace zantroq {
 
-// The request kinds; the number is also the first digit of the request identifier on the wire.
+// The kinds of request. The number is also the first digit of the identifier on the wire.
 enum RequestKind : std::int32_t
 {
     NoRequestKind = -1,
@@ -36,14 +36,14 @@ constexpr bool IsDayKind(int kind)
 {
     return kind >= 6 && kind <= 9;
 }
-// Whether the points of both kinds lie in the same arrays of a series.
+// True if points of both kinds are stored in the same arrays of a series.
 constexpr bool FillSameArrays(int a, int b)
 {
     return IsTickKind(a) == IsTickKind(b) && IsIntervalKind(a) == IsIntervalKind(b) &&
            IsDayKind(a) == IsDayKind(b);
 }
 
-// What the user chooses to see.
+// The data types that the user can choose.
 enum DataType : std::int32_t
 {
     TickData = 0,
@@ -53,25 +53,25 @@ enum DataType : std::int32_t
     MonthlyData = 4
 };
 
-// 30 December 1980 13:00:00, the time of a default-constructed chart point. Panes can see it for a point past
-// the end.
+// 30 December 1980 13:00:00: the time of a default-constructed chart point, which panes may see past the end
+// of a series.
 inline constexpr double DefaultPointTime = 29585.0 + 13.0 / 24.0;
 
-// The chart-facing point.
+// A point as panes see it.
 struct sHIST_DATA
 {
-    bool Flag = false; // true: the point is marked deleted and draws nothing
+    bool Flag = false; // true: the point is deleted and not drawn
     double Open = 0, Close = 0, High = 0, Low = 0;
     std::int32_t Volume = 0;
     sTIME_W_MILLISECONDS Time{DefaultPointTime, TimeValid, 0};
 };
 
-// One record as the feed sent it, before it is stored.
+// A point as the feed sent it.
 struct sHIST_POINT
 {
     sTIME_W_MILLISECONDS Time;
     double Last = 0;
-    std::uint32_t LastSize = 0; // for interval bars the period volume
+    std::uint32_t LastSize = 0; // of an interval bar: the volume of its period
     double Bid = 0, Ask = 0;
     std::int64_t TotalVolume = 0;
     double Open = 0, High = 0, Low = 0;

@@ -66,7 +66,7 @@ void CHistoryReply::OnDeadLine(std::string_view line)
     EndOfLines();
 }
 
-// An error answer does not end the request: the chart stays in its loading state.
+// An error line does not end the request: the chart stays in its loading state.
 void CHistoryReply::OnEndLine(std::string_view marker)
 {
     if (!Contains(marker, EndMarker))
@@ -99,7 +99,7 @@ void CHistoryReply::StoreTicks()
     try {
         m_request->AppendTicks(m_ticks);
     } catch (const std::bad_alloc&) {
-        // The ticks that did not fit are lost; the series is as it was with those that did.
+        // Ticks that did not fit are lost; those that fitted are stored.
     }
     m_ticks.Count = 0;
 }

@@ -1,5 +1,5 @@
-// Takes the lines of the history socket: finds the request that a line names, appends its point, and ends the
-// request's reply. Silent: what cannot be used is dropped. Lives on the worker thread.
+// Handles the lines of the history socket: finds the request that a line names, appends the point, and ends
+// the reply. Lines that cannot be used are dropped silently. Worker thread only.
 #pragma once
 
 #include "market/HistoryLine.h"
@@ -14,19 +14,19 @@ namespace zantroq {
 class CHistoryReply
 {
 public:
-    // `onComplete` runs when a live request's reply has ended, after its Complete is set.
+    // `onComplete` is called when the reply of a live request has ended, after its Complete flag is set.
     explicit CHistoryReply(std::function<void()> onComplete);
 
-    // One line without its end, its point stored on return. Fails with std::invalid_argument when the line
-    // has too few fields for its kind; nothing has then been stored.
+    // Handles one line without its line end; its point is stored on return. Throws std::invalid_argument and
+    // stores nothing if the line has too few fields for its kind.
     void OnLine(std::string_view line);
 
-    // The same for one of many lines: its tick may wait for those behind it, until EndOfLines at the latest.
-    // What has waited enters the series before anything that comes behind it takes effect.
+    // The same for one of many lines: its tick may be stored later, but not later than EndOfLines. Delayed
+    // ticks are stored before any later line takes effect.
     void OnLineOfMany(std::string_view line);
 
-    // No further line is at hand: stores what waits and lets go of the request of the last line. To be called
-    // before the thread waits.
+    // Must be called when no more lines are available, before the thread waits: stores delayed ticks and
+    // releases the request of the last line.
     void EndOfLines();
 
 private:
@@ -37,10 +37,10 @@ private:
 
     std::function<void()> m_onComplete;
     CHistoryLineParser m_parser;
-    // The lines of a reply name the same request thousands of times over.
-    std::string m_identifier; // of m_request, with its comma
+    // Cached, because a reply names the same request on thousands of lines.
+    std::string m_identifier; // identifier of m_request, with its comma
     RequestPtr m_request;
-    sTickBatch m_ticks; // of m_request; empty without one
+    sTickBatch m_ticks; // delayed ticks of m_request; empty without a request
 };
 
 } // namespace zantroq

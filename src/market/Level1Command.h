@@ -1,5 +1,5 @@
-// The texts that the chart sends on the level 1 port, and the fields it selects there. The local feed writes
-// its lines by the same numbers. Pure, any thread.
+// The texts that the chart sends on the level 1 port, and the fields that it selects there. The local feed
+// uses the same numbers. Pure functions, any thread.
 #pragma once
 
 #include <array>
@@ -8,7 +8,7 @@
 
 namespace zantroq {
 
-// Level 1 field names by wire position. Position 0 is the message type and has no name.
+// Names of the level 1 fields by wire position. Position 0 is the message type and has no name.
 inline constexpr std::array<std::string_view, 23> Level1FieldNames{"",
                                                                    "Symbol",
                                                                    "Total Volume",
@@ -61,15 +61,15 @@ enum Level1Field : int
     Level1Conditions = 22
 };
 
-// And those of "F" lines, which have fields of their own.
+// Fields of "F" lines, which have positions of their own.
 enum FundamentalField : int
 {
     FundamentalFormat = 39,   // the exchange's format code
-    FundamentalPrecision = 40 // the number of decimals
+    FundamentalPrecision = 40 // number of decimals
 };
 
-// Client name, protocol and field selection, three lines in one text. The field list begins with an empty
-// field, which the feed expects.
+// Three lines in one text: client name, protocol and field selection. The list of fields begins with an empty
+// field, as the feed expects.
 std::string Level1SetupText();
 
 std::string WatchCommand(std::string_view symbol);  // "w%s\r\n"

@@ -23,7 +23,7 @@ std::string_view SymbolOf(std::string_view line)
     return line.substr(0, line.find(','));
 }
 
-// Empties a container at the end of a scope, however it is left.
+// Empties a container at the end of the scope, also after an exception.
 template<class Container> struct sEmptyAtEnd
 {
     Container& Target;
@@ -39,7 +39,7 @@ CLevel1Stream::CLevel1Stream(const CWatchTable& watches, std::function<void(std:
 
 void CLevel1Stream::OnLine(std::string_view line)
 {
-    // The empty line behind each CR LF has no symbol to ask the feed about.
+    // The empty line after each CR LF names no symbol.
     if (line.empty())
         return;
     const char messageType = line.front();
@@ -72,8 +72,8 @@ void CLevel1Stream::ReplayPending()
 {
     if (PendingLevel1Line.empty())
         return;
-    // The line may be kept again under way, when another request of the symbol still loads; it counts as
-    // applied all the same.
+    // OnLine keeps the line again if another request of the symbol is still loading; the line counts as
+    // merged nevertheless.
     const sEmptyAtEnd<std::string> forget{PendingLevel1Line};
     const std::string line = PendingLevel1Line;
     OnLine(line);

@@ -1,6 +1,6 @@
-// Takes the lines of the level 1 socket: finds the requests that watch a line's symbol and merges the line
-// into each. Keeps the newest line that came while a request was still loading, to be replayed when its
-// history stands. Lives on the worker thread, except for the watch table, which has a lock of its own.
+// Handles the lines of the level 1 socket: finds the requests that watch the symbol of a line and merges the
+// line into each. Keeps the newest line that arrived while a request was still loading, and merges it once
+// the history is complete. Worker thread only; the watch table has its own lock.
 #pragma once
 
 #include "market/WatchTable.h"
@@ -18,18 +18,19 @@ public:
     // `removeSymbol` asks the feed to stop the updates of a symbol.
     CLevel1Stream(const CWatchTable& watches, std::function<void(std::string_view symbol)> removeSymbol);
 
-    // One line without its end. Fails with std::invalid_argument when the line is too short for what a
-    // request reads of it; the other requests of the symbol have taken it all the same.
+    // Handles one line without its line end. Throws std::invalid_argument if the line is too short for a
+    // request; the other requests of the symbol have merged it nevertheless.
     void OnLine(std::string_view line);
 
-    // A reply has ended: takes the kept line, if there is one, and forgets it, also when it fails.
+    // Merges the kept line, if there is one, after a reply has ended. Discards the line even if merging
+    // throws.
     void ReplayPending();
 
 private:
     const CWatchTable& m_watches;
     std::function<void(std::string_view)> m_removeSymbol;
     std::string PendingLevel1Line;
-    std::vector<RequestPtr> m_requests; // of the line in hand; empty between lines
+    std::vector<RequestPtr> m_requests; // requests of the current line; empty between lines
 };
 
 } // namespace zantroq

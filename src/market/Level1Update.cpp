@@ -16,7 +16,7 @@ bool HasAny(std::string_view contents, std::string_view letters)
     return contents.find_first_of(letters) != std::string_view::npos;
 }
 
-// A trade that every chart takes ("C"), or one that only extended charts take.
+// True for trades that every chart takes ("C") and, with `extendedTrades`, for extended and other trades.
 bool IsTrade(std::string_view contents, bool extendedTrades)
 {
     return HasAny(contents, "C") || (extendedTrades && HasAny(contents, "EO"));
@@ -80,8 +80,7 @@ void MergeTick(CChartHistRequest& request, const Level1Fields& fields)
     request.AppendPoint(point);
 }
 
-// MMDDYYYY as one number. It does not grow across a new year, which keeps a chart on its old bar there; that
-// is intended.
+// MMDDYYYY as one number. It decreases at a new year, which keeps a chart on its old bar; this is intended.
 int DateDigits(std::string_view date)
 {
     std::string digits;
@@ -91,8 +90,8 @@ int DateDigits(std::string_view date)
     return TextToInt(digits);
 }
 
-// Whether a trade opens a new bar. A bar is stamped with its end, so a trade at that second belongs to the
-// next one.
+// True if a trade opens a new bar. A bar is stamped with its end, so a trade in that second belongs to the
+// next bar.
 bool OpensBar(const sTIME_W_MILLISECONDS& lastBar, std::string_view tradeDate, int tradeSeconds)
 {
     const std::string barDate = FormatTime(lastBar, "%m/%d/%Y");
@@ -114,8 +113,8 @@ sTIME_W_MILLISECONDS MidnightEnd(const Level1Fields& fields)
     return time;
 }
 
-// The end of the interval that a trade falls in. It keeps the date of the last bar, also for the first bar of
-// a day, until an interval ends at midnight. Without a last bar the date is the trade's own.
+// The end of the interval that contains a trade. It keeps the date of the last bar, even for the first bar of
+// a day, until an interval ends at midnight. Without a last bar, the date of the trade is used.
 sTIME_W_MILLISECONDS BarEnd(const sTIME_W_MILLISECONDS* lastBar, const Level1Fields& fields, int end)
 {
     if (end == SecondsPerDay)
@@ -136,7 +135,7 @@ int IntervalEnd(int tradeSeconds, int intervalSeconds)
         throw std::invalid_argument("interval below one second");
     const std::int64_t end =
         (static_cast<std::int64_t>(tradeSeconds) / intervalSeconds + 1) * intervalSeconds;
-    // Past midnight is no time of day, however far; the limit only keeps the number small.
+    // No time of day exceeds midnight; the limit only prevents an overflow.
     return static_cast<int>(end > 2 * SecondsPerDay ? 2 * SecondsPerDay : end);
 }
 
@@ -177,7 +176,7 @@ void MergeInterval(CChartHistRequest& request, const Level1Fields& fields)
     request.UpdatePoint(last, point);
 }
 
-// The feed's own values of the day; a day without any yet starts at the trade's price.
+// Takes the day's values from the feed; a day without values starts at the trade's price.
 void TakeDayValues(sHIST_POINT& point, const Level1Fields& fields, double price)
 {
     point.High = TextToDouble(fields[Level1High]);

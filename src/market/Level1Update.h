@@ -1,7 +1,6 @@
-// Merges one level 1 line into one series: a new tick, a grown or a new bar, or the price format. Each
-// function reads, merges and writes through the request's own operations; the worker is the only writer of a
-// live series. Fails with std::invalid_argument when the line is too short for what is read of it. Lives on
-// the worker thread.
+// Merges a level 1 line into a series: a new tick, a new or updated bar, or the price format. Uses the
+// request's own operations to read and write; the worker is the only writer of a live series. Throws
+// std::invalid_argument if the line has too few fields. Worker thread only.
 #pragma once
 
 #include "market/ChartHistRequest.h"
@@ -9,13 +8,13 @@
 
 namespace zantroq {
 
-// The last field that is read is number 40.
+// Field 40 is the last one used.
 using Level1Fields = CLineFields<41>;
 
-// An "F" line: the format code from field 39, or 10 plus the decimals of field 40.
+// Handles an "F" line: the format code is field 39, or 10 + the number of decimals in field 40.
 void ApplyFundamental(CChartHistRequest& request, const Level1Fields& fields);
 
-// Any other line: what the request's kind and bounds accept of it.
+// Handles any other line, as far as the request's kind and bounds accept it.
 void MergeUpdate(CChartHistRequest& request, char messageType, const Level1Fields& fields);
 
 } // namespace zantroq

@@ -1,7 +1,7 @@
-// Cuts a stream of bytes into lines, in place and without sockets: the reader receives into Room(), says how
-// many bytes came, and gets every line that is now whole. A carriage return and a line feed each end a line,
-// so that a CR LF pair gives an empty line behind the real one. A partial line waits at the start of the
-// buffer; when one line fills the buffer, Room() is empty for good. Belongs to the thread that reads.
+// Cuts a stream of bytes into lines, in place and without sockets. The caller receives into Room() and calls
+// Received, which passes on every complete line. CR and LF each end a line, so CR LF yields an empty line
+// after the actual one. An incomplete line stays at the start of the buffer; if one line fills the buffer,
+// Room() stays empty for ever. One thread.
 #pragma once
 
 #include "platform/parse/ByteMarks.h"
@@ -20,24 +20,24 @@ public:
     static constexpr int LookupCapacity = 65536;
     static constexpr int StreamCapacity = 4096;
 
-    // A line, its end included, fits when it has fewer than `capacity` bytes.
+    // A line fits if it has fewer than `capacity` bytes, line end included.
     explicit CLineCutter(int capacity)
         : m_capacity(capacity), m_buffer(new char[static_cast<std::size_t>(capacity) + BlockSize]())
     {
     }
 
-    // Where the next bytes go: at most capacity - 1 - Pending() of them.
+    // The free part of the buffer: capacity - 1 - Pending() bytes.
     std::span<char> Room()
     {
         return {m_buffer.get() + m_pending, static_cast<std::size_t>(m_capacity - 1 - m_pending)};
     }
 
-    // Bytes of the partial line that waits for its end.
+    // Number of bytes of the incomplete line.
     int Pending() const { return m_pending; }
 
-    // `bytes` have been written to the start of Room(). Calls onLine(std::string_view) for each line, without
-    // its end; the view holds during the call. As a line is a C text to its readers, it ends at a zero byte
-    // if it has one.
+    // The caller has written `bytes` bytes to the start of Room(). Calls onLine(std::string_view) for each
+    // line without its line end; the view is valid during the call. A line is cut at its first zero byte, as
+    // in a C string.
     template<class OnLine> void Received(int bytes, OnLine&& onLine)
     {
         char* const buffer = m_buffer.get();
@@ -63,10 +63,11 @@ public:
 private:
     static constexpr int BlockSize = 64;
 
-    // Calls onMark with the position of each CR, LF and zero byte from `at` to `total`, in order.
+    // Calls onMark, in order, with the position of each CR, LF and zero byte from `at` up to but not
+    // including `total`.
     template<class OnMark> static void ForEachMark(const char* buffer, int at, int total, OnMark&& onMark)
     {
-        // The buffer has a spare block behind it; what is read past `total` is masked out.
+        // The buffer ends with a spare block; marks at or after `total` are masked out.
         for (; at < total; at += BlockSize) {
             std::uint64_t marks = MarkAtMost(buffer + at, '\r');
             if (total - at < BlockSize)
@@ -83,7 +84,7 @@ private:
     const int m_capacity;
     const std::unique_ptr<char[]> m_buffer;
     int m_pending = 0;
-    int m_zero = -1; // where the partial line has its first zero byte; -1: nowhere
+    int m_zero = -1; // offset of the first zero byte in the incomplete line; -1: none
 };
 
 } // namespace zantroq

@@ -1,5 +1,5 @@
-// The comma-separated fields of one line as views into it. Only the first Most fields are kept; what follows
-// them is not looked at. A field that the line does not have fails with std::invalid_argument.
+// The comma-separated fields of a line, as views into it. Keeps the first Most fields and ignores the rest of
+// the line. A field that the line does not have throws std::invalid_argument. One thread.
 #pragma once
 
 #include "platform/parse/ByteMarks.h"
@@ -37,26 +37,26 @@ public:
         return At(field);
     }
 
-    // The field without a look at the count. REQUIRES: field < Count().
+    // The field without a check. REQUIRES: field < Count().
     std::string_view At(int field) const
     {
         return {m_line + m_starts[field],
                 static_cast<std::size_t>(m_starts[field + 1] - m_starts[field] - 1)};
     }
 
-    // Bytes of the line in front of the field. REQUIRES: field < Count().
+    // Number of bytes of the line before the field. REQUIRES: field < Count().
     std::size_t Before(int field) const { return static_cast<std::size_t>(m_starts[field]); }
 
-    // Behind the field's last character. REQUIRES: field < Count().
+    // Points past the last character of the field. REQUIRES: field < Count().
     const char* End(int field) const { return m_line + m_starts[field + 1] - 1; }
 
-    // Where each field starts in the line, Count() of them, and behind them where one more would.
+    // Start position of each field, then the position where one more field would start: Count() + 1 numbers.
     const int* Starts() const { return m_starts.data(); }
 
 private:
     static constexpr int BlockSize = 64;
 
-    // The commas of the fewer than 64 bytes from `at`. Nothing behind the line is read.
+    // Commas in the last, incomplete block, which starts at `at`. Reads nothing past the line.
     std::uint64_t RestMarks(int at, int size) const
     {
         if (size >= BlockSize)
@@ -66,7 +66,7 @@ private:
         return MarkEqual(block, ',');
     }
 
-    // False: all the fields that are kept have been found.
+    // Returns false once all fields to keep are found.
     bool TakeStart(int start)
     {
         m_starts[++m_count] = start;
@@ -83,7 +83,7 @@ private:
 
     const char* m_line;
     int m_count = 0;
-    std::array<int, Most + 1> m_starts; // field i runs from m_starts[i] to the comma before m_starts[i + 1]
+    std::array<int, Most + 1> m_starts; // field i: from m_starts[i] to the comma before m_starts[i + 1]
 };
 
 } // namespace zantroq

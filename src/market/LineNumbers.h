@@ -1,5 +1,5 @@
-// A field of a line as a number, by the reading rules of LeadingNumber.h. The field must be known to be
-// there.
+// Reads a field of a line as a number with the rules of LeadingNumber.h. REQUIRES: the field exists. Pure
+// functions, any thread.
 #pragma once
 
 #include "platform/parse/LeadingNumber.h"
@@ -15,7 +15,7 @@ template<class Fields> double PriceField(const Fields& fields, int field)
     return TextToDouble(fields.At(field), fields.Before(field));
 }
 
-// Fast path for a field of digits alone that fits the type; slow path: the full rules.
+// Fast path for a field that has only digits and fits the type; otherwise the full rules.
 template<auto ByTheRules, class Fields> auto WholeField(const Fields& fields, int field)
 {
     using Number = decltype(ByTheRules(std::string_view()));

@@ -8,7 +8,7 @@ namespace zantroq {
 
 namespace {
 
-// Deletes a request only if its window has given it up; before that the window's pointer owns it. The flag is
+// Deletes a request only after its window has given it up; before that, the window owns it. The flag is
 // written while a pointer to the request is held, so the last holder sees it.
 struct sFreeIfGiven
 {
@@ -24,7 +24,7 @@ struct sEntry
 {
     RequestPtr Request;
     std::shared_ptr<bool> Given = std::make_shared<bool>(false);
-    bool Sent = false; // a command has gone out, so that lines may name it
+    bool Sent = false; // a command was sent, so lines may name the request
 };
 
 class CRequestTable
@@ -43,8 +43,8 @@ public:
         return found == m_entries.end() ? nullptr : found->second.Request;
     }
 
-    // Marking dead and looking at Complete is one step against End, so that exactly one side frees. Returns
-    // what is to be let go outside the lock.
+    // Marking the request dead and reading Complete are one step under the lock, so that either this function
+    // or End frees it, never both. The caller releases the result outside the lock.
     RequestPtr GiveUp(std::unique_ptr<CChartHistRequest> request)
     {
         CLockGuard guard(m_lock);
@@ -73,7 +73,7 @@ public:
         return true;
     }
 
-    // Returns what is to be let go outside the lock.
+    // The caller releases the result outside the lock.
     std::vector<RequestPtr> TakeGivenUp()
     {
         CLockGuard guard(m_lock);
@@ -121,7 +121,7 @@ private:
     std::unordered_map<std::int32_t, sEntry> m_entries GUARDED_BY(m_lock);
 };
 
-// Never destroyed: a worker may still look up handles while the process ends.
+// Never destroyed: a worker may look up handles while the process exits.
 CRequestTable& Table()
 {
     static CRequestTable& table = *new CRequestTable;

@@ -1,7 +1,7 @@
-// The process's table of requests that the feed may name, by the handle that goes out on the wire, and with
-// it the end of a request's life. A window owns its request until it gives it up here; a request given up
-// while its reply is still coming is freed by the worker when the reply ends. One short lock, held across
-// nothing else. Any thread.
+// The process's table of requests that the feed may name, by handle, and the end of a request's life. A
+// window owns its request until it gives it up here. If the reply is still arriving then, the worker frees
+// the request when the reply ends. The table has its own lock, which is never held while another lock is
+// taken. Any thread.
 #pragma once
 
 #include "market/ChartHistRequest.h"
@@ -10,37 +10,35 @@
 
 namespace zantroq {
 
-// Keeps a request in the table alive once its window has given it up; until then the window's own pointer
-// does.
+// A shared pointer to a request. It keeps a request alive after the window has given it up; before that, the
+// window owns the request.
 using RequestPtr = std::shared_ptr<CChartHistRequest>;
 
-// Enters a request under its handle, if it is not there yet.
+// Adds a request under its handle, unless it is already in the table.
 RequestPtr EnterRequest(CChartHistRequest& request);
 
-// The request with this handle, or null when it was never entered or has been freed.
+// The request with this handle; null if it was never added or has been freed.
 RequestPtr FindRequest(std::int32_t handle);
 
-// The window's last act on its request: marks it dead and lets go of it. A request that is complete, or that
-// was never sent, is freed at once, or when the worker is done with the line in hand; one that still loads
-// stays until its "!ENDMSG!" comes, or until the worker has stopped. Unwatch its symbol
-// first.
+// Marks the request dead and gives up the window's ownership. A request that is complete or was never sent is
+// freed at once, or as soon as the worker has finished its current line. One that is still loading is freed
+// at its "!ENDMSG!", or when the worker has stopped. Unwatch its symbol first.
 void GiveUpRequest(std::unique_ptr<CChartHistRequest> request);
 
-// Frees all requests that were given up: the worker has stopped, and no reply can end any more.
+// Frees all requests that were given up. Call after the worker has stopped, when no reply can end any more.
 void FreeGivenUpRequests();
 
-// A command that names the request is about to go out: enters it and clears Complete.
+// Adds the request and clears Complete. Call before sending a command that names it.
 void BeginReply(CChartHistRequest& request);
 
-// The reply has ended. A live request becomes complete: true. A dead one is emptied and leaves the table:
-// false.
+// Ends a reply. A live request becomes complete; returns true. A dead one is emptied and removed from the
+// table; returns false.
 bool EndReply(CChartHistRequest& request);
 
-// Takes a request out of the table that is destroyed without having been given up. For the request's own
-// destructor.
+// Removes a request that is destroyed without having been given up. Only for the request's destructor.
 void ForgetRequest(std::int32_t handle);
 
-// Requests in the table.
+// Number of requests in the table.
 int CountRequests();
 
 } // namespace zantroq

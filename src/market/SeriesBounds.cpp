@@ -58,7 +58,7 @@ bool sSeriesBounds::Admits(const sTIME_W_MILLISECONDS& time) const
     if (!m_any)
         return true;
     sCALENDAR_TIME parts;
-    // A year of fewer than four digits makes a shorter text, which does not order like a number.
+    // A year below 1000 has fewer than four digits as text, so its texts do not compare like numbers.
     if (m_numbers && time.Status == TimeValid && VariantTimeToSystemTime(time.Time, parts) &&
         parts.Year >= 1000)
         return AdmitsNumbers(parts);

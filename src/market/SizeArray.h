@@ -1,6 +1,6 @@
-// The bid sizes or ask sizes of a series. No history line carries any, so the zeros of a reply are only
-// counted, and elements are kept from the first size on that a live trade brings. Guarded by its owner. Every
-// index is checked and fails with std::invalid_argument.
+// The bid or ask sizes of a series. History lines carry no sizes, so leading zeros are only counted; elements
+// are stored from the first size that a live trade brings. Not thread-safe: the owner locks. An index out of
+// range throws std::invalid_argument.
 #pragma once
 
 #include "market/GrowableArray.h"
@@ -13,7 +13,7 @@ class CSizeArray
 {
 public:
     int Count() const { return m_zeros + m_kept.Count(); }
-    int Capacity() const { return m_zeros + m_kept.Capacity(); } // as if zeros took room, too
+    int Capacity() const { return m_zeros + m_kept.Capacity(); } // counts leading zeros as if they took room
 
     void SetGrowStep(int step) { m_kept.SetGrowStep(step); }
 
@@ -23,7 +23,7 @@ public:
         m_kept.SetCount(0);
     }
 
-    // As in CGrowableArray: room for one more, and the additions that then cannot fail.
+    // As in CGrowableArray: makes room for one element, so that the next addition cannot fail.
     void PrepareAdd() { m_kept.PrepareAdd(); }
     void AddPrepared(std::int32_t size)
     {
@@ -72,7 +72,7 @@ public:
     }
 
 private:
-    // Turns the zeros from `index` on into elements. The room that there was for more stays.
+    // Turns the zeros from `index` on into stored elements. Keeps the spare capacity.
     void KeepFrom(int index)
     {
         const int zeros = m_zeros - index, count = zeros + m_kept.Count();
@@ -86,7 +86,7 @@ private:
         m_zeros = index;
     }
 
-    int m_zeros = 0; // in front of m_kept
+    int m_zeros = 0; // number of zeros before m_kept
     CGrowableArray<std::int32_t> m_kept;
 };
 

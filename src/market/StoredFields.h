@@ -1,4 +1,5 @@
-// How the fields of a point stand in the arrays of a series where the two differ.
+// Conversion of those fields of a point that the arrays of a series store in another type. Pure functions,
+// any thread.
 #pragma once
 
 #include <cstdint>
@@ -6,13 +7,13 @@
 
 namespace zantroq {
 
-// Unsigned fields lie in signed arrays, bit for bit.
+// Unsigned fields are stored in signed arrays with the same bits.
 inline std::int32_t StoredInteger(std::uint32_t value)
 {
     return static_cast<std::int32_t>(value);
 }
 
-// Of the basis code the first character; 0 for none.
+// The first character of the basis code; 0 if it is empty.
 inline char StoredBasis(const std::string& basis)
 {
     return basis.empty() ? '\0' : basis.front();

@@ -1,5 +1,6 @@
-// Ticks of history lines on their way into one request's series, in columns as the series keeps them: a
-// column enters its array as one block of memory, and all of them under one lock. Plain data, one thread.
+// Ticks of history lines before they are stored in the series of their request. The batch is stored by
+// columns like the series, so that each column is appended with one block copy and all of them under one
+// lock. Plain data, one thread.
 #pragma once
 
 #include "market/HistoryRecords.h"
@@ -11,12 +12,12 @@ namespace zantroq {
 
 struct sTickBatch
 {
-    // So few that they wait for no more than some microseconds, and that they stay in the nearest cache.
+    // Small enough that ticks wait only some microseconds and the batch stays in the first-level cache.
     static constexpr int Most = 128;
 
     bool Full() const { return Count == Most; }
 
-    // The record of one tick, as AppendPoint takes it.
+    // The tick as a record for AppendPoint.
     sHIST_POINT Point(int index) const
     {
         const auto at = static_cast<std::size_t>(index);
@@ -33,7 +34,8 @@ struct sTickBatch
     }
 
     int Count = 0;
-    // Times are valid ones. Bid size, ask size and conditions are not here: no history line carries them.
+    // All times are valid. Bid size, ask size and conditions are missing, because history lines do not carry
+    // them.
     std::array<sTIME_W_MILLISECONDS, Most> Time{};
     std::array<double, Most> Last{}, Bid{}, Ask{};
     std::array<std::int32_t, Most> Size{}, TickId{};

@@ -20,7 +20,7 @@ void ReadTickNumbersPlainly(const HistoryFields& fields, sTickBatch& ticks, std:
 
 namespace {
 
-// Fields that are too long for a half of a pair: bit i for field 2 + i, fields 2 to 7.
+// Marks the fields that are longer than eight characters: bit i for field 2 + i, fields 2 to 7.
 unsigned MarkLongFields(const HistoryFields& fields)
 {
     const auto longOf = [&](int first) {
@@ -44,7 +44,7 @@ void ReadTickNumbers(const HistoryFields& fields, sTickBatch& ticks, std::size_t
     }
     CDigitPair quotes(fields.End(5), fields.End(6)), lastAndVolume(fields.End(2), fields.End(4));
     const CDigitPair sizeAndId(fields.End(3), fields.End(7));
-    // The volume of a busy day has more than eight digits, so it alone takes the slow path.
+    // Only the volume is expected to have more than eight digits, so it has a slow path of its own.
     const bool plainVolume = (longFields | (lastAndVolume.MarkNoDigits() & VolumeHalf)) == 0;
     __m128d quotePowers, lastPower;
     if (!quotes.TakePoints(quotePowers) || !lastAndVolume.TakePoints(lastPower) ||

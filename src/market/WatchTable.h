@@ -1,6 +1,6 @@
-// Which requests want the live updates of which symbol. A hash map of 23 buckets keyed by the exact symbol.
-// Changed on window threads and read on the worker: each operation holds a short lock of its own, never
-// across a send. The table does not keep a request alive.
+// The requests that want the live updates of a symbol: a hash map of 23 buckets with the exact symbol as key.
+// Window threads change it and the worker reads it; each operation takes the table's own lock, which is never
+// held during a send. The table does not keep a request alive.
 #pragma once
 
 #include "market/RequestTable.h"
@@ -20,7 +20,7 @@ public:
     // h = h * 33 + c over the bytes as signed characters.
     static std::uint32_t Hash(std::string_view symbol);
 
-    // Appends to the symbol's requests; the same request may stand there more than once.
+    // Adds the request to those of the symbol. The same request may be added more than once.
     void Add(std::string_view symbol, const RequestPtr& request);
 
     enum class Removal
@@ -29,11 +29,11 @@ public:
         OthersRemain,
         LastOne
     };
-    // Removes the first entry of the request; the symbol goes with its last entry.
+    // Removes the first entry of the request, and the symbol with its last entry.
     Removal Remove(std::string_view symbol, const CChartHistRequest& request);
 
-    // The symbol's requests in the order in which they were added, null for one that is gone; false for a
-    // symbol that nobody watches. The vector is overwritten.
+    // Sets `requests` to the requests of the symbol in the order of their addition, with null for one that no
+    // longer exists. Returns false if nobody watches the symbol.
     bool Find(std::string_view symbol, std::vector<RequestPtr>& requests) const;
 
 private:
