@@ -14,8 +14,8 @@ namespace {
 
 constexpr int BlockSize = 65'535;
 
-// One search from its command to its end. The worker reads and hands blocks over; all else happens on the
-// window's thread.
+// One search from its command to its end. The worker reads and passes blocks on; everything else happens on
+// the window's thread.
 class CSearch : public std::enable_shared_from_this<CSearch>
 {
 public:
@@ -30,13 +30,13 @@ public:
     {
     }
 
-    // `connected`: whether the connection stands already.
+    // `connected`: the connection is already made.
     void Start(bool connected)
     {
         m_worker = std::thread([this, connected] { Work(connected); });
     }
 
-    // No event comes any more. Waits for the worker, which an interrupted connection lets go at once.
+    // No event follows. Waits for the worker, whose connection is interrupted, so that it ends at once.
     void Drop()
     {
         m_events = nullptr;
@@ -71,9 +71,9 @@ private:
         }
     }
 
-    // Runs the work on the window's thread and waits until it has run, so that a feed that sends without an
-    // end neither fills the memory with blocks nor keeps the window from its other events. False: dropped, or
-    // nothing more is wanted.
+    // Runs `work` on the window's thread and waits until it has run, so that a feed that sends without end
+    // neither fills the memory with blocks nor starves the window's other events. Returns false if the search
+    // is dropped or has ended.
     template<class TWork> bool Hand(TWork work)
     {
         std::unique_lock guard(m_lock);
@@ -120,7 +120,7 @@ private:
     std::thread m_worker;
     std::mutex m_lock;
     std::condition_variable m_taken;
-    bool m_waiting = false, m_dropped = false, m_ended = false; // under the lock
+    bool m_waiting = false, m_dropped = false, m_ended = false; // guarded by m_lock
 };
 
 class CFindLookup : public ISymbolLookup
@@ -162,7 +162,7 @@ private:
         m_search.reset();
     }
 
-    std::unique_ptr<IBlockingConnection> m_first; // made with this object; null once used
+    std::unique_ptr<IBlockingConnection> m_first; // made by the constructor; null once used
     const CFindLookupMaker::TMakeConnection m_makeConnection;
     const std::uint16_t m_port;
     ISymbolLookupEvents& m_events;

@@ -1,6 +1,6 @@
-// The lookup object that ships: it speaks the FIND line on the feed's lookup port. Each search has a short
-// connection of its own, read by a worker, so that the window goes on while the answer comes. A search whose
-// connection closes, or brings no byte for five seconds, ends without an answer.
+// The symbol lookup that ships: it sends FIND lines to the feed's lookup port. Each search has its own short
+// connection, which a worker thread reads, so that the window stays responsive. A search ends without an
+// answer if its connection closes or receives no byte for five seconds.
 #pragma once
 
 #include "market/ZantroPorts.h"
@@ -19,11 +19,12 @@ class CFindLookupMaker : public ISymbolLookupMaker
 public:
     using TMakeConnection = std::function<std::unique_ptr<IBlockingConnection>()>;
 
-    // The thread must outlive what is made here. No function: the system's own connections.
+    // `thread` must outlive the lookups made here. Without `makeConnection`, the system's connections are
+    // used.
     CFindLookupMaker(std::shared_ptr<ISettingsKey> feedKey, IWindowThread& thread,
                      TMakeConnection makeConnection = nullptr);
 
-    // Connects, which is how a feed that is not there shows; the first search uses that connection.
+    // Connects at once, which shows whether the feed is running; the first search uses that connection.
     std::unique_ptr<ISymbolLookup> Make(ISymbolLookupEvents& events) override;
 
 private:

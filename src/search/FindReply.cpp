@@ -25,7 +25,7 @@ std::string_view TakeField(std::string_view& rest)
     return field;
 }
 
-// "E,<message>". A symbol named E has two numbers behind it, which no message begins with.
+// "E,<message>". A symbol named E is followed by two numbers, which no message begins with.
 bool IsError(std::string_view line)
 {
     if (TakeField(line) != "E")
@@ -74,7 +74,7 @@ void CFindReply::AppendToLine(std::string_view part)
 
 bool CFindReply::OnLine(std::string_view line)
 {
-    if (line.starts_with("E,")) // a feed that does not know the command answers without an identifier
+    if (line.starts_with("E,")) // a feed that does not know FIND answers without identifier
         return EndByError(line);
     if (!line.starts_with(m_prefix))
         return true;

@@ -1,5 +1,5 @@
-// The FIND line of the lookup port and its reply as a text machine: bytes go in, in whatever pieces they were
-// received, and the events of the lookup object come out. No socket and no thread of its own.
+// The FIND command of the lookup port and the parser of its reply: takes bytes in pieces of any size and
+// calls the events of the lookup. Has no socket and no thread. One thread at a time.
 #pragma once
 
 #include "search/SymbolLookup.h"
@@ -9,22 +9,22 @@
 
 namespace zantroq {
 
-// FIND,<id>,<field>,<text>,<filter kind>,<filter ids> with its line end. Line ends in the texts, which would
-// end the command early, become blanks.
+// FIND,<id>,<field>,<text>,<filter kind>,<filter ids> with a line end. Line ends inside the texts would end
+// the command early and become blanks.
 std::string FindCommand(int id, const std::string& field, const std::string& text,
                         const std::string& filterKind, const std::string& filterIds);
 
 class CFindReply
 {
 public:
-    // Without its line end. Longer lines are dropped.
+    // In bytes, without the line end. Longer lines are dropped.
     static constexpr std::size_t MaxLine = 65'535;
 
     CFindReply(int id, ISymbolLookupEvents& events) : m_prefix(std::to_string(id) + ','), m_events(events) {}
 
-    // False when the reply has ended, by its end line or by an error line; what stands behind that is
-    // dropped. An error line ends the search as if the end line had come with it. Lines of other searches are
-    // passed over.
+    // Returns false once the reply has ended, with its end line or with an error line; later bytes are
+    // ignored. An error line ends the search as if the end line had followed it. Lines of other searches are
+    // ignored.
     bool Take(std::string_view bytes);
 
 private:
@@ -34,7 +34,7 @@ private:
 
     const std::string m_prefix;
     ISymbolLookupEvents& m_events;
-    std::string m_line; // the part of a line that has come
+    std::string m_line; // received part of an incomplete line
     bool m_dropping = false, m_ended = false;
 };
 

@@ -9,7 +9,8 @@ bool CLookupReply::Take(std::string_view block)
     block = block.substr(0, block.find('\0'));
     if (const std::size_t marker = block.find("!ENDMSG!"); marker != std::string_view::npos) {
         block = block.substr(0, marker);
-        // Of this block alone: the line end that an earlier block brought stays, and with it that row.
+        // Removes the line end of this block only; a line end from an earlier block stays, and its row with
+        // it.
         const std::size_t last = block.find_last_not_of("\r\n");
         m_text.append(block.substr(0, last == std::string_view::npos ? 0 : last + 1));
         return false;

@@ -1,5 +1,5 @@
-// The reply to a reference-table command as a text machine: blocks go in as they were received, rows come
-// out. No socket and no thread of its own.
+// The parser of a reply to a reference-table command: takes blocks as they were received and returns rows.
+// Has no socket and no thread. One thread at a time.
 #pragma once
 
 #include "search/RowTokens.h"
@@ -12,17 +12,17 @@ namespace zantroq {
 class CLookupReply
 {
 public:
-    // One received block; what stands behind a zero byte in it is lost. False when the reply has ended and
-    // the connection can go. Each marker is looked for in this block alone: one that arrives split over two
-    // blocks is not seen.
+    // Takes one received block; bytes after a zero byte are lost. Returns false when the reply has ended and
+    // the connection can be closed. The end marker is searched in this block alone: a marker split over two
+    // blocks is not found.
     bool Take(std::string_view block);
 
     const std::string& Text() const { return m_text; }
     void Clear() { m_text.clear(); }
 
-    // Calls onRow(id, tokens) for each line that begins with a number from 0 to 255; `tokens` are those
-    // behind it. Lines end with LF, so that the last token of a row keeps the CR in front of it, and text
-    // behind the last LF is no line.
+    // Calls onRow(id, tokens) for each line that begins with a number from 0 to 255; `tokens` are the tokens
+    // after that number. Lines end with LF, so the last token of a row keeps the CR before it, and text after
+    // the last LF is ignored.
     template<class TOnRow> void ForEachRow(TOnRow onRow) const
     {
         std::string_view rest = m_text;
@@ -42,7 +42,7 @@ private:
     std::string m_text;
 };
 
-// Places in a reference table: ids run from 0 to LookupRows - 1.
+// Number of rows of a reference table: ids are 0 to LookupRows - 1.
 inline constexpr unsigned LookupRows = 256;
 
 } // namespace zantroq

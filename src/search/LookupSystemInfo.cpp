@@ -10,7 +10,7 @@ constexpr int BlockSize = 65'535;
 
 template<std::size_t TPlaces> void StoreTokens(std::array<std::string, TPlaces>& row, CRowTokens& tokens)
 {
-    // A line that runs out of tokens leaves the rest of an earlier row of the same id.
+    // If a line has too few tokens, the rest of an earlier row with the same id stays.
     std::string_view token;
     for (std::string& text : row) {
         if (!tokens.Next(token))
@@ -35,7 +35,7 @@ bool CLookupSystemInfo::SendCommand(std::string_view command, std::uint16_t port
 {
     if (!m_socket->Connect(port))
         return false;
-    // A connection that breaks here has no reply to read, which is an empty table.
+    // A connection that breaks here yields no reply, which counts as an empty table.
     m_socket->Send(command);
     return true;
 }

@@ -1,6 +1,7 @@
-// The two reference tables of the lookup port: listed markets and security types. Each is fetched once, on
-// first use, over a short connection of its own. That blocks the caller until the reply has come, for at most
-// five seconds without a byte. Window's thread; the lookups take Lock and may come from any thread.
+// The two reference tables of the lookup port: listed markets and security types. Each is fetched at its
+// first use over a short connection, which blocks the caller until the reply is complete or no byte has
+// arrived for five seconds. Window's thread, except the lookups, which take Lock and may be called on any
+// thread.
 #pragma once
 
 #include "market/ZantroPorts.h"
@@ -18,9 +19,9 @@ namespace zantroq {
 
 struct sLookupSetup
 {
-    std::shared_ptr<ISettingsKey> FeedKey; // the feed's ports; null reads like a key that cannot be opened
-    std::unique_ptr<IBlockingConnection> Connection; // null: the system's own
-    IMessageBox* Box = nullptr; // says when the system has no sockets to give; may be missing
+    std::shared_ptr<ISettingsKey> FeedKey; // the feed's ports; null behaves like a key that cannot be opened
+    std::unique_ptr<IBlockingConnection> Connection; // null: a connection of the system
+    IMessageBox* Box = nullptr; // reports that the system has no sockets left; may be null
 };
 
 class CLookupSystemInfo
@@ -29,28 +30,28 @@ public:
     explicit CLookupSystemInfo(sLookupSetup setup);
     virtual ~CLookupSystemInfo();
 
-    // A copy of the row's text; empty for an id of 256 or more, a negative one, and a row that no line
-    // filled. The last text of a row may end with a CR. Loads the table where it has not been loaded: one
-    // attempt for each call.
+    // A copy of the row's text; empty for an id outside 0 to 255 and for a row that the reply did not
+    // contain. The last text of a row may end with a CR. Loads the table if it is not loaded; each call tries
+    // once.
     std::string GetShortName(int id);
     std::string GetLongName(int id);
-    // The rows taken from the reply, which may be more or fewer than the ids in use. Loads the table like the
-    // lookups, so that the first to ask for the count gets that of a table with rows.
+    // Number of rows in the reply, which may differ from the number of ids in use. Loads the table like the
+    // lookups.
     int GetRowCount();
-    // Whether a reply has been taken, be it an empty one. False: the feed could not be reached.
+    // True once a reply has been read, even an empty one. False if the feed could not be reached.
     bool Loaded() const;
 
 protected:
     static constexpr std::size_t ShortName = 0, LongName = 1;
 
-    // Whether the connection was made.
+    // Returns false if the connection could not be made.
     virtual bool SendCommand(std::string_view command, std::uint16_t port);
-    // Receives until the reply ends, the peer closes, or nothing comes any more; closes the connection.
+    // Receives until the reply ends, the peer closes or the time limit expires; then closes the connection.
     virtual void ReadReply();
     virtual void Load() REQUIRES(Lock) = 0;
-    // For Load: fetches the reply to `command` and hands each row's tokens to Store.
+    // For Load: fetches the reply to `command` and passes the tokens of each row to Store.
     void LoadWith(std::string_view command) REQUIRES(Lock);
-    // Takes what the row keeps of its tokens.
+    // Stores the tokens of a row.
     virtual void Store(unsigned id, CRowTokens& tokens) REQUIRES(Lock) = 0;
     virtual const std::string& Text(unsigned id, std::size_t place) const REQUIRES(Lock) = 0;
 
@@ -66,7 +67,7 @@ private:
     int m_rowCount GUARDED_BY(Lock) = 0;
 };
 
-// Command SLM. A row: short name, long name, and two texts that are kept and read by nothing.
+// Command SLM. A row has a short name, a long name and two texts that are not used.
 class CListedMarkets : public CLookupSystemInfo
 {
 public:
@@ -84,7 +85,7 @@ private:
     std::array<std::array<std::string, 4>, LookupRows> m_rows GUARDED_BY(Lock);
 };
 
-// Command SST. A row: short name and long name.
+// Command SST. A row has a short name and a long name.
 class CSecurityTypes : public CLookupSystemInfo
 {
 public:

@@ -1,5 +1,5 @@
-// Cuts a line into tokens the way strtok does: delimiters that follow one another count as one, so that an
-// empty field moves the tokens after it one place forward. Pure, no allocation.
+// Cuts a line into tokens like strtok: consecutive delimiters count as one, so the tokens after an empty
+// field move one place forward. No allocation; one thread at a time.
 #pragma once
 
 #include <string_view>
@@ -9,10 +9,10 @@ namespace zantroq {
 class CRowTokens
 {
 public:
-    // Each character of `delimiters` ends a token. The line must outlive the tokens.
+    // Each character of `delimiters` is a delimiter. The line must outlive this object.
     CRowTokens(std::string_view line, std::string_view delimiters) : m_rest(line), m_delimiters(delimiters) {}
 
-    // False, and an empty token, when there is none left. A token is never empty.
+    // Sets `token` to the next token, which is not empty. Returns false and an empty token at the end.
     bool Next(std::string_view& token)
     {
         const std::size_t begin = m_rest.find_first_not_of(m_delimiters);
@@ -26,7 +26,7 @@ public:
         return true;
     }
 
-    // The next token, or the empty text.
+    // The next token, or an empty text at the end.
     std::string_view Take()
     {
         std::string_view token;

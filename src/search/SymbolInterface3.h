@@ -1,4 +1,4 @@
-// Client of the symbol lookup object. Window's thread.
+// A client of the symbol lookup. Window's thread.
 #pragma once
 
 #include "search/SymbolLookup.h"
@@ -11,7 +11,8 @@ public:
     explicit CSymbolInterface3(ISymbolLookupMaker& maker) : m_maker(maker) {}
     ~CSymbolInterface3() override = default;
 
-    // Makes the lookup object, once: it stays for the life of this client. False when it cannot be reached.
+    // Creates the lookup once and keeps it for the life of this client. Returns false if the feed cannot be
+    // reached.
     bool Connect()
     {
         if (m_lookup == nullptr)
@@ -26,8 +27,8 @@ protected:
     void OnErrorLine(std::string_view) override {}
     void OnNoAnswer() override {}
 
-    ISymbolLookup* Lookup() const { return m_lookup.get(); } // null until Connect has made it
-    void DropLookup() { m_lookup.reset(); }                  // for destructors: no event comes any more
+    ISymbolLookup* Lookup() const { return m_lookup.get(); } // null before a successful Connect
+    void DropLookup() { m_lookup.reset(); }                  // for destructors: no event follows
 
 private:
     ISymbolLookupMaker& m_maker;

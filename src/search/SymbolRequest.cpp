@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::string_view EndLine = "!ENDMSG!,\r\n";
 constexpr std::string_view Delimiters = ",\n";
-constexpr std::size_t ShortestLine = 5; // a shorter one is no row
+constexpr std::size_t ShortestLine = 5; // shorter lines are not rows
 
 } // namespace
 
@@ -70,7 +70,7 @@ void CSymbolRequest::OnResultLine(std::string_view line)
         return;
     CRowTokens tokens(line, Delimiters);
     const std::string_view symbol = tokens.Take(), market = tokens.Take();
-    tokens.Take(); // the security type, which nobody shows
+    tokens.Take(); // the security type is not shown
     AddRow(symbol, market, tokens.Take());
 }
 

@@ -1,4 +1,4 @@
-// Collects what a symbol search finds into three columns. Window's thread.
+// Collects the results of a symbol search in three columns. Window's thread.
 #pragma once
 
 #include "search/SymbolInterface3.h"
@@ -8,35 +8,36 @@
 
 namespace zantroq {
 
-// What the owner of a request is notified of. The result message is posted: it comes after the event that
-// caused it has returned.
+// Notifications to the owner of a request. PostResults is posted: it arrives after the event that caused it
+// has returned.
 class ISearchNotify
 {
 public:
     virtual ~ISearchNotify() = default;
-    virtual void PostResults(int count) = 0; // the search has ended with that many rows
+    virtual void PostResults(int count) = 0; // the search has ended with `count` rows
     virtual void OnNoAnswer() = 0;           // the search ended without its end line
 };
 
 class CSymbolRequest : public CSymbolInterface3
 {
 public:
-    // The owner must outlive the request.
+    // The owner, `notify`, must outlive the request.
     CSymbolRequest(ISearchNotify& notify, ISymbolLookupMaker& maker)
         : CSymbolInterface3(maker), m_notify(notify)
     {
     }
     ~CSymbolRequest() override { DropLookup(); }
 
-    // field: "s" symbols, "d" descriptions; filter kind: empty, "e" markets, "t" security types; filter ids
-    // separated by blanks. False when the lookup object cannot be reached; nothing was sent then.
+    // Starts a search. Field: "s" symbols, "d" descriptions. Filter kind: empty, "e" markets, "t" security
+    // types. Filter ids are separated by blanks. Returns false if the lookup cannot be reached; nothing is
+    // sent then.
     bool Request(const std::string& field, const std::string& text, const std::string& filterKind,
                  const std::string& filterIds);
-    // Empties the three columns. A search under way is dropped, so that none of its rows follow.
+    // Empties the three columns and drops the current search, so that none of its rows follow.
     void Clear();
     int GetCount() const { return static_cast<int>(m_symbols.size()); }
-    // Column 0 the symbol, 1 a market id as text, 2 the description, whose end may be a CR; any other is
-    // "Invalid Column". Rows from 0 to GetCount() - 1.
+    // Column 0 is the symbol, 1 the market id as text, 2 the description, which may end with a CR; any other
+    // column returns "Invalid Column". `row` is 0 to GetCount() - 1.
     std::string GetColumn(int row, int column) const;
 
 private:

@@ -13,7 +13,7 @@ namespace {
 
 constexpr int DialogWidth = 335, SmallHeight = 310, LargeHeight = 500;
 constexpr std::array OptionControls{SearchLimitLabel, SearchByMarket, SearchBySecurityType, SearchFilterRows};
-constexpr std::size_t EmptyFilterText = 3; // " - ", which a table without that row gives
+constexpr std::size_t EmptyFilterText = 3; // " - ", the text of an id without a row in the table
 
 const std::vector<sFormColumn>& ResultColumns()
 {
@@ -27,7 +27,7 @@ const std::vector<sFormColumn>& FilterColumns()
     return columns;
 }
 
-// Tables and columns keep the carriage return of a line's last token; nobody is to see it.
+// Tables and columns keep the CR of a line's last token; it must not be shown.
 std::string Shown(std::string text)
 {
     while (!text.empty() && text.back() == '\r')
@@ -182,17 +182,17 @@ void CSymbolSearch::OnNoAnswer()
 
 void CSymbolSearch::OnResults(int count)
 {
-    std::map<std::string, std::string> names; // by id as text: few ids stand in very many rows
+    std::map<std::string, std::string> names; // cache by id text: many rows share few ids
     std::vector<FormRow> rows(static_cast<std::size_t>(count));
     for (int row = 0; row < count; ++row) {
         const std::string id = m_request->GetColumn(row, 1);
         auto name = names.find(id);
         if (name == names.end()) {
-            // One attempt is enough for a table that cannot be had: each may take its five seconds.
+            // Each attempt may take five seconds, so a table that cannot be loaded is tried once.
             const bool hopeless = !names.empty() && !m_markets.Loaded();
             name = names.emplace(id, hopeless ? std::string() : MarketName(id)).first;
         }
-        // Each row goes in at the top of the list.
+        // Each row is inserted at the top of the list.
         rows[static_cast<std::size_t>(count - 1 - row)] = {Shown(m_request->GetColumn(row, 0)), name->second,
                                                            Shown(m_request->GetColumn(row, 2))};
     }

@@ -1,5 +1,5 @@
-// The symbol search dialog without its widgets: what its buttons, lists and radio buttons do. Window's
-// thread.
+// The rules of the symbol search dialog, without widgets: the effects of its buttons, lists and radio
+// buttons. Window's thread.
 #pragma once
 
 #include "platform/DialogDriver.h"
@@ -31,7 +31,8 @@ enum SearchControl : int
     SearchLimitLabel = 253
 };
 
-// What the dialog works with. All of it outlives the dialog's rules; the tables' setups are handed over.
+// The services that the dialog uses. References must outlive the dialog's rules; the setups of the tables are
+// moved into them.
 struct sSymbolSearchSetup
 {
     sLookupSetup Markets, Types;
@@ -44,10 +45,10 @@ class CSymbolSearch : public IFormEvents, private ISearchNotify
 public:
     CSymbolSearch(IForm& form, IDialogFrame& frame, sSymbolSearchSetup setup);
 
-    // Dialog start: lists, columns and checks. Fetches the markets, which waits for the feed.
+    // Fills the dialog at its start. Fetches the markets, which waits for the feed.
     void OnInitDialog();
 
-    // The chosen symbol once the dialog has ended with OK.
+    // The chosen symbol, after the dialog has ended with OK.
     const std::string& Result() const { return m_result; }
     SearchProgress Progress() const { return m_progress; }
 
@@ -83,9 +84,9 @@ private:
     bool m_nextToggleOpens = false;
     std::string m_result;
     SearchProgress m_progress = SearchProgress::NotStarted;
-    int m_search = 0; // counts searches, so that a message of an earlier one is known
+    int m_search = 0; // number of the current search; results of an earlier search are ignored
     std::shared_ptr<int> m_alive = std::make_shared<int>();
-    std::unique_ptr<CSymbolRequest> m_request; // null until the dialog starts; goes first
+    std::unique_ptr<CSymbolRequest> m_request; // null until the dialog starts; destroyed first
 };
 
 } // namespace zantroq
