@@ -1,5 +1,5 @@
-// All settings of one chart window in memory, with the defaults of a fresh store. The table in SettingsTable
-// ties each member to its stored name. Lives on the window's thread.
+// All settings of a chart window in memory; the initial values are the defaults of an empty store.
+// SettingsTable.h connects each member with its stored name. Window's thread.
 #pragma once
 
 #include "platform/Color.h"
@@ -10,7 +10,7 @@
 
 namespace zantroq {
 
-// The studies in the order of every ten-entry array.
+// The studies in study order, which all ten-entry arrays use.
 enum StudyKind : int
 {
     StudyRSI = 0,
@@ -26,7 +26,7 @@ enum StudyKind : int
     StudyKinds = 10
 };
 
-// Trendline kinds in the order of the trend lists.
+// The kinds of trendline in the order of the trend lists.
 enum TrendKind : int
 {
     TrendHorizontal = 0,
@@ -52,7 +52,8 @@ enum class AxisSide
     Right
 };
 
-// What to ask the feed for. One entry each for ticks, intervals, daily, weekly and monthly.
+// What the chart requests from the feed. Arrays have one entry each for ticks, intervals, daily, weekly and
+// monthly data.
 struct sRequestSettings
 {
     std::int32_t DataType = 0;      // "RequestDataType", 0 to 4
@@ -64,7 +65,7 @@ struct sRequestSettings
     std::array<std::int32_t, 5> DayCounts{};
     std::array<bool, 5> TimeFilterOn{};
     std::array<bool, 5> ExtendedTrades{};
-    std::array<std::string, 5> BeginDates, EndDates; // %Y%m%d, today in a fresh store
+    std::array<std::string, 5> BeginDates, EndDates; // %Y%m%d; today's date by default
     std::array<std::string, 5> BeginTimes{"093000", "093000", "093000", "093000", "093000"};
     std::array<std::string, 5> BeginFilterTimes{"093000", "093000", "093000", "093000", "093000"};
     std::array<std::string, 5> EndTimes{"160000", "160000", "160000", "160000", "160000"};
@@ -73,11 +74,11 @@ struct sRequestSettings
 
 inline constexpr std::array<int, 11> IntervalMinutes{1, 2, 3, 4, 5, 10, 15, 30, 45, 60, 120};
 
-// The choices of how many points to show, by PtsIndex.
+// The numbers of points that can be shown, by PtsIndex.
 inline constexpr std::array<int, 15> DisplayMaxPoints{30,   60,   90,    120,   240,   480,    960,   1920,
                                                       3840, 7680, 15360, 30720, 61440, 122880, 245760};
 
-// The price pane's averages and bands.
+// The moving averages and Bollinger Bands of the price pane.
 struct sOverlaySettings
 {
     std::int32_t ShowAverages = 0; // "MAs SHOW"
@@ -91,7 +92,7 @@ struct sOverlaySettings
     double BandDeviations = 2.0;
 };
 
-// The ten studies.
+// Periods, levels and colors of the ten studies.
 struct sStudySettings
 {
     std::array<std::int32_t, StudyKinds> Periods{21, 20, 20, 9, 18, 5, 10, 14, 14, 14}; // "STUDY AVG PERIOD"
@@ -121,7 +122,7 @@ struct sStudySettings
     ColorValue AdxNegativeColor = 0x0000FF, AdxPositiveColor = 0xB48246;
 };
 
-// The stack of panes: which studies show and where the borders stand.
+// The stack of panes: which studies are displayed, and the pane borders as fractions of the height.
 struct sPaneStack
 {
     std::int32_t StudyCount = 1; // 0 to 10
@@ -139,7 +140,8 @@ struct sChartSettings
     std::int32_t Grid = 1;
     std::int32_t GridStyle = 0; // 0 short dashes, 1 line
     bool ScrollByItems = true;
-    // Both stand on the one unnamed value, so loading leaves them equal: 1 in a fresh store, never 20.
+    // Both are stored under the same unnamed value, so loading makes them equal: 1 with an empty store, never
+    // 20.
     std::int32_t ScrollItems = 1, ScrollPercent = 20;
     bool AxisOnRight = false;     // "Y Axis Orientation"
     bool FixedScale = false;      // "Price Bar Show/Hide"
@@ -156,7 +158,7 @@ struct sChartSettings
     ColorValue GridColor = 0xC0C0C0;
     ColorValue UpCandleColor = 0x00FF00, DownCandleColor = 0x0000FF;
     ColorValue PriceBarColor = 0xC0C0C0;
-    ColorValue VolumeLabelColor = 0x000000; // of the settings sheet alone
+    ColorValue VolumeLabelColor = 0x000000; // edited by the settings sheet only
 
     AxisSide ValueAxisSide() const { return AxisOnRight ? AxisSide::Right : AxisSide::Left; }
 };

@@ -1,7 +1,7 @@
-// A settings key for what the user himself changes. Such a change must not be lost because another process
-// holds the file at that moment, so what the key below would not have is kept, and tried again before the
-// next change, at Retry, and when this object goes. Defaults do not belong here: written late, they would
-// take the place of what is stored by then. Lives on the chart window's thread.
+// A settings key for changes that the user makes. Such a change must not be lost because another process
+// holds the file locked at that moment: a change that the wrapped key rejects is kept and tried again before
+// the next change, at Retry, and in the destructor. Not for defaults: written late, they would overwrite
+// values stored meanwhile. Window's thread.
 #pragma once
 
 #include "platform/settings/SettingsKey.h"
@@ -17,23 +17,22 @@ namespace zantroq {
 class CRetryingKey final : public ISettingsKey
 {
 public:
-    // Carries a change out on the key below; false when that would not have it, and then it is called again
-    // later.
+    // Makes a change to the wrapped key. Returns false if the key rejected it; it is called again later then.
     using Change = std::function<bool(ISettingsKey& key)>;
 
     explicit CRetryingKey(ISettingsKey& key) : m_key(key) {} // the key must outlive this one
     ~CRetryingKey() override { CarryOut(); }
 
-    // Makes a change now or keeps it, behind those kept already. It takes the place of a kept one of the same
-    // subject. The answer is whether it is stored.
+    // Makes a change, after the kept changes, or keeps it. It replaces a kept change with the same `subject`.
+    // Returns true if the change is stored.
     bool Make(std::string subject, Change change);
 
-    // Carries out what is kept, in order, up to the first that is refused again. Waits for no other process:
-    // nobody has asked for it just now.
+    // Makes the kept changes in order, up to the first that is rejected again. Does not wait for other
+    // processes, because no user is waiting for the result.
     void Retry();
     bool IsWaiting() const { return !m_waiting.empty(); }
 
-    // Reading tells what is stored, not what is kept.
+    // Reads return stored values; kept changes are not visible.
     CSettingRead Read(std::string_view name) override { return m_key.Read(name); }
     bool Write(std::string_view name, const SettingValue& value) override;
     bool Delete(std::string_view name) override;
@@ -50,7 +49,7 @@ private:
     void CarryOut();
 
     ISettingsKey& m_key;
-    std::vector<sWaiting> m_waiting; // in the order of the changes
+    std::vector<sWaiting> m_waiting; // in the order in which they were made
 };
 
 } // namespace zantroq

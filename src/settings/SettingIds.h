@@ -1,4 +1,4 @@
-// Numbers of settings that the rules name one by one; all others are only ever met while walking the table.
+// Numbers of the settings that code refers to one by one; code reaches all others only through the table.
 #pragma once
 
 namespace zantroq {

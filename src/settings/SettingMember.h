@@ -1,11 +1,11 @@
-// Reaching the member of a row in a record, whatever its type. Pure functions, any thread.
+// Access to the member of a settings row in a record, whatever its type. Pure functions, any thread.
 #pragma once
 
 #include "settings/SettingsTable.h"
 
 namespace zantroq {
 
-// Calls with the member itself: a value or an array.
+// Calls `call` with the member, which is a value or an array.
 template<class Call> void VisitMember(sChartSettings& settings, const SettingMember& member, Call call)
 {
     std::visit(
@@ -16,7 +16,7 @@ template<class Call> void VisitMember(sChartSettings& settings, const SettingMem
         member);
 }
 
-// Calls with the one value that the place names, an element where the member is an array.
+// Calls `call` with the value at `place`: the member, or one element of it if it is an array.
 template<class Call> void VisitValue(sChartSettings& settings, const sSettingPlace& place, Call call)
 {
     VisitMember(settings, place.Row->Member, [&](auto& member) {

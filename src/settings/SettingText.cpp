@@ -33,7 +33,7 @@ std::string TextOf(const std::string& value)
     return value;
 }
 
-// Read-only use of the same members.
+// Gives read access through the member pointers, which take a mutable record.
 sChartSettings& Readable(const sChartSettings& settings)
 {
     return const_cast<sChartSettings&>(settings);
@@ -102,7 +102,7 @@ void TakeStoredInt(sChartSettings& settings, const sSettingPlace& place, std::in
     const sSettingRow& row = *place.Row;
     if (row.HasRange() && (value < row.Low || value > row.High)) {
         if (row.Outside == OutOfRange::Default)
-            return; // a fresh record holds the default
+            return; // a new record holds the default
         if (row.Outside == OutOfRange::Nearest)
             value = static_cast<std::int32_t>(std::clamp<double>(value, row.Low, row.High));
     }

@@ -1,5 +1,4 @@
-// One setting as its stored text, and the other way. Walks the table's members; the store itself is not
-// touched. Pure functions, any thread.
+// Converts a setting to its stored text and back. Does not access the store. Pure functions, any thread.
 #pragma once
 
 #include "settings/SettingsTable.h"
@@ -10,26 +9,25 @@
 
 namespace zantroq {
 
-// The pieces between the commas. An empty text has none.
+// The texts between the commas. An empty text gives none.
 std::vector<std::string_view> SplitList(std::string_view text);
 
-// What stands in the store for this member: a number, "0" or "1", or a list of them. The row must have a
-// member.
+// The stored form of a setting: a number, "0" or "1", or a list of them. The row must have a member.
 std::string SettingText(const sChartSettings& settings, const sSettingPlace& place);
 
-// Takes over what a single, unnamed or indexed row read from the store, held to what the row allows.
+// Take a value that was read from the store for a single, unnamed or indexed row, limited to the row's range.
 void TakeStoredInt(sChartSettings& settings, const sSettingPlace& place, std::int32_t value);
 void TakeStoredDouble(sChartSettings& settings, const sSettingPlace& place, double value);
 
-// Takes over a stored list. Entries past the last are ignored; missing and empty ones leave the member as it
-// was, and so do dates and times that are not 8 or 6 digits, and request kinds that do not belong to their
-// data type.
+// Takes a stored list. Extra entries are ignored. Missing and empty entries leave their values unchanged, and
+// so do dates that are not 8 digits, times that are not 6 digits, and request kinds that do not belong to
+// their data type.
 void TakeStoredList(sChartSettings& settings, const sSettingPlace& place, std::string_view text);
 
-// Whether the text is that many decimal digits and nothing else.
+// True if the text is exactly `length` decimal digits.
 bool AllDigits(std::string_view text, std::size_t length);
 
-// Whether a request kind can be asked for with a data type (0 to 4).
+// True if a data type (0 to 4) can be requested with this request kind.
 bool RequestKindFits(int dataType, std::int32_t kind);
 
 } // namespace zantroq

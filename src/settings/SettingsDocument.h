@@ -1,4 +1,4 @@
-// docs/settings.md, made from the table so that it cannot say anything else.
+// The text of docs/settings.md, generated from the table. Pure function, any thread.
 #pragma once
 
 #include <string>

@@ -74,8 +74,8 @@ SettingValue ValueOf(const Json& entry)
     throw CSettingsFormatError("its type must be \"sz\", \"dword\" or \"binary\"");
 }
 
-// Goes through a text and refuses what is not JSON, nested too deeply, or named twice, before anything of it
-// is kept. The parser's own filter would look through all values again at each value's end.
+// Rejects text that is not JSON, nested too deeply or has a name twice, before any of it is stored. The
+// parser's own filter would walk all values again at the end of each value.
 class CShapeCheck : public nlohmann::json_sax<Json>
 {
 public:
@@ -123,7 +123,7 @@ private:
     }
 
     const std::string_view m_text;
-    std::vector<std::unordered_set<std::string>> m_names; // of the objects and lists that are open
+    std::vector<std::unordered_set<std::string>> m_names; // of the open objects and lists
 };
 
 Json ParseShallow(std::string_view text)
@@ -249,7 +249,7 @@ std::string Escaped(std::string_view text)
     return line;
 }
 
-// Quoted, on one line, and UTF-8 whatever the bytes are.
+// The text in quotes, on one line, and as UTF-8 whatever the bytes are.
 std::string Shown(std::string_view text)
 {
     std::string line = Escaped(text);

@@ -16,8 +16,7 @@ const sSettingRow& RowOf(int id)
     return *FindSetting(id);
 }
 
-// A row's value as text is what the store would hold, so the default of a missing one is in the record
-// already.
+// The record holds the defaults, so the text of its current value is the default of a missing one.
 void LoadSingle(CSettingsStore& store, sChartSettings& settings, const sSettingRow& row)
 {
     const sSettingPlace place{&row};
@@ -39,7 +38,7 @@ bool LoadDataTypeList(CSettingsStore& store, sChartSettings& settings, const sSe
     return result != ReadResult::Unreadable;
 }
 
-// The list that came to stand for ten single values takes them over the first time it is missed.
+// If the list is missing, it takes over the ten single values that it replaces.
 bool LoadPeriodList(CSettingsStore& store, sChartSettings& settings, const sSettingRow& row)
 {
     std::string text;
@@ -56,7 +55,7 @@ bool LoadPeriodList(CSettingsStore& store, sChartSettings& settings, const sSett
         if (store.ReadInt(SettingName(old, study), periods[static_cast<std::size_t>(study)]) ==
             ReadResult::Unreadable)
             return false;
-    // Whatever happens in between, the periods stand in one form or the other.
+    // The list is written before the single values are deleted, so an interruption loses no period.
     if (!store.WriteString(row.Name, SettingText(settings, {&row})))
         return true;
     for (int study = old.FirstNumber; study <= old.LastNumber; ++study)
@@ -112,7 +111,7 @@ void LoadPaneStack(CSettingsStore& store, sPaneStack& panes, const sSettingRow& 
 
 void LoadIndexed(CSettingsStore& store, sChartSettings& settings, const sSettingRow& row)
 {
-    // Types and borders came with their count.
+    // Types and borders were loaded together with the count.
     if (row.Id == TypeOfPaneId || row.Id == TopOfPaneId)
         return;
     const int last = row.Id == MinimizedId ? settings.Panes.StudyCount : row.LastNumber;

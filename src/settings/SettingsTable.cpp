@@ -73,7 +73,7 @@ const Row Rows[] = {
     Bool(32793, "Y Axis Orientation", MEMBER(AxisOnRight), EffectAxisSide, "Side of the value axis: 0 left, 1 right"),
     Bool(32794, "Price Bar Show/Hide", MEMBER(FixedScale), EffectFixedScale, "Fixed scale: 0 off, 1 on (the price bar itself is \"Show Price Bar\")"),
     Int(32854, "Candle Price Chart Style", MEMBER(CandleStyle), 0, 1, Default, EffectColors, "0 H/L/O/C bars, 1 candles"),
-    // What is asked of the feed.
+    // The data requested from the feed.
     Int(32904, "RequestDataType", MEMBER(Request.DataType), 0, 4, Default, EffectRequest, "0 ticks, 1 intervals, 2 daily, 3 weekly, 4 monthly"),
     Int(32907, "ReqestType", MEMBER(Request.RequestType), EffectRequest, "Kept as it is; the request kind is in \"RequestRecentType\""),
     Int(32908, "RequestIntervalIndex", MEMBER(Request.IntervalIndex), 0, 10, Nearest, EffectRequest, "Place in the list of intervals in minutes: 1, 2, 3, 4, 5, 10, 15, 30, 45, 60, 120"),
@@ -186,7 +186,7 @@ const Row Rows[] = {
     ColorOf(32855, "Price Up Candle Color", MEMBER(UpCandleColor), EffectColors, "Body of a rising candle"),
     ColorOf(32856, "Price Down Candle Color", MEMBER(DownCandleColor), EffectColors, "Body of a falling candle"),
     ColorOf(32897, "Price Bar Color", MEMBER(PriceBarColor), EffectPriceBar, "The price bar"),
-    // Not loaded by the window.
+    // Settings that the window does not load.
     {32830, "VolumeLabel Color", Form::SheetOnly, Type::Color, MEMBER(VolumeLabelColor), EffectNone, "Passes through the colour page; no control shows it", 0, 0xFFFFFF},
     {32802, "STUDY AVG PERIOD ", Form::OldIndexed, Type::Int, {}, EffectNone, "Older form of \"STUDY AVG PERIOD\", a value a study: the name, its trailing blank and 0 to 9", 0, 0, Keep, 0, 9},
     {32803, "STUDY CUSTOM AVG PERIOD ", Form::OldIndexed, Type::Int, {}, EffectNone, "Older form of \"STUDY CUSTOM AVG PERIOD\", likewise", 0, 0, Keep, 0, 9},
@@ -201,7 +201,8 @@ const Row Rows[] = {
 
 #undef MEMBER
 
-// The number in a name of the pattern; nothing unless it is written the way the pattern writes it.
+// The number in a name that follows the pattern. Returns nothing unless it is written as the pattern would
+// print it.
 std::optional<int> NumberIn(std::string_view name, std::string_view before, std::string_view behind)
 {
     if (name.size() <= before.size() + behind.size() || !name.starts_with(before) || !name.ends_with(behind))

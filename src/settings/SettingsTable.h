@@ -1,6 +1,6 @@
-// The one table of all stored values: number, name, form, member and range. Loading, writing, comparing,
-// finding by name and docs/settings.md all walk it. A row's default is what its member holds in a fresh
-// sChartSettings. Constant data, any thread.
+// The one table of all stored values: number, name, form, member and range. The loader, the writer, the
+// comparison of records, the search by name and docs/settings.md all use it. The default of a row is the
+// value of its member in a new sChartSettings. Constant data, any thread.
 #pragma once
 
 #include "settings/ChartSettings.h"
@@ -15,15 +15,15 @@ namespace zantroq {
 
 enum class SettingForm
 {
-    Single,       // one value, missing: the default is written
-    Unnamed,      // the same without a name of its own: both such rows share the value with the empty name
+    Single,       // one value; if missing, its default is written
+    Unnamed,      // the same without a name; both such rows share the value with the empty name
     DataTypeList, // one text of five entries: ticks, intervals, daily, weekly, monthly
-    PeriodList,   // one text of ten entries in study order, built from older single values where missing
-    Indexed,      // one value a number: the name is a pattern with %d
-    PaneCount,    // opens the stack of panes
-    OldIndexed,   // older values, named with a number behind; read once, then deleted
-    SheetOnly,    // read and written by the settings sheet alone
-    Unused,       // has a name and no user
+    PeriodList,   // one text of ten entries in study order; if missing, built from older single values
+    Indexed,      // one value per number; the name is a pattern with %d
+    PaneCount,    // the number of panes; its reader loads the whole stack
+    OldIndexed,   // older values, named with a number at the end; read once, then deleted
+    SheetOnly,    // read and written by the settings sheet only
+    Unused,       // has a name but is not used
 };
 
 enum class SettingType
@@ -37,7 +37,7 @@ enum class SettingType
     None
 };
 
-// What a chart has to do when a setting of the row changes; may be combined.
+// What the chart must do when a setting of the row changes. Values can be combined.
 enum SettingEffect : unsigned
 {
     EffectNone = 0,
@@ -49,18 +49,18 @@ enum SettingEffect : unsigned
     EffectStudyList = 1u << 5,  // rebuild the study panes
     EffectPaneLayout = 1u << 6, // lay the panes out again
     EffectOverlays = 1u << 7,   // averages and bands of the price pane
-    EffectTrends = 1u << 8,     // color, width, extendable of a kind of trendline
+    EffectTrends = 1u << 8,     // color, width or extension of a kind of trendline
     EffectPriceBar = 1u << 9,
-    EffectRequest = 1u << 10, // what is asked of the feed
+    EffectRequest = 1u << 10, // the data requested from the feed
     EffectStudies = 1u << 11, // a value or color of a study
-    EffectColors = 1u << 12,  // a general color, or the style of the price pane
+    EffectColors = 1u << 12,  // a general color, or the chart type of the price pane
     EffectLevel1 = 1u << 13,
 };
 
-// What to make of a stored number outside Low to High.
+// How a stored number outside Low to High is handled.
 enum class OutOfRange
-{
-    Keep,    // keep it as stored; the range is only what the settings sheet accepts
+{            // use the nearest end of the range, in memory only
+    Keep,    // use the default, in memory only
     Nearest, // the nearest end of the range, in memory only
     Default, // the default, in memory only
 };
@@ -80,39 +80,38 @@ struct sSettingRow
     SettingForm Form;
     SettingType Type;
     SettingMember Member;
-    unsigned Effects;         // of SettingEffect
+    unsigned Effects;         // combination of SettingEffect
     std::string_view Meaning; // one sentence for the documentation
     double Low = 0, High = 0; // inclusive; both 0: any number that can be stored
     OutOfRange Outside = OutOfRange::Keep;
-    int FirstNumber = 0, LastNumber = 0; // numbers of an indexed row
+    int FirstNumber = 0, LastNumber = 0; // numbers of an indexed row, inclusive
 
     bool HasMember() const { return !std::holds_alternative<std::monostate>(Member); }
     bool HasRange() const { return Low != 0 || High != 0; }
     bool IsList() const { return Form == SettingForm::DataTypeList || Form == SettingForm::PeriodList; }
 };
 
-// All rows in the order in which they are loaded; those that are not loaded stand at the end.
+// All rows in loading order; rows that are not loaded come last.
 std::span<const sSettingRow> SettingsTable();
 
-// The row of a string number; null when there is none.
+// The row with this string number, or null.
 const sSettingRow* FindSetting(int id);
 
-// The string table: the name of a number, empty where it has no text.
+// The name of a string number; empty if it has none.
 std::string_view SettingName(int id);
 
-// The stored name of one value of an indexed row, such as "Top of chart 2"; any other row's name as it
-// stands.
+// The stored name of one value of an indexed row, such as "Top of chart 2"; for any other row its name.
 std::string SettingName(const sSettingRow& row, int number);
 
 struct sSettingPlace
 {
     const sSettingRow* Row = nullptr;
-    int Number = 0; // of an indexed row, else 0
+    int Number = 0; // number of an indexed row, otherwise 0
     bool operator==(const sSettingPlace&) const = default;
 };
 
-// The row that keeps its values under this stored name. The empty name is that of the first unnamed row;
-// "#32791" is the row with that number, which is the only way to the second.
+// The row that stores its values under this name. The empty name gives the first unnamed row; "#32791" gives
+// the row with that number, which is the only way to the second unnamed row.
 std::optional<sSettingPlace> FindSetting(std::string_view storedName);
 
 } // namespace zantroq

@@ -17,8 +17,8 @@ void StorePlace(ISettingsKey& key, const sChartSettings& settings, const sSettin
     CSettingsStore(key).WriteString(SettingName(*place.Row, place.Number), SettingText(settings, place));
 }
 
-// Of a list only the entries that were changed are known to be the user's. The others are those of the store,
-// which may never have been read.
+// Only the changed entries of a list are known to be the user's. The other entries come from the store, and
+// may never have been read.
 void StoreChangedEntries(CRetryingKey& key, const sSettingRow& row, const sChartSettings& before,
                          const sChartSettings& after)
 {
@@ -45,7 +45,7 @@ void StoreChangedEntries(CRetryingKey& key, const sSettingRow& row, const sChart
     });
 }
 
-// The numbers of an indexed row that are in use with so many studies.
+// The last number of an indexed row that is in use with so many studies.
 int LastInUse(const sSettingRow& row, int studyCount)
 {
     switch (row.Id) {
@@ -168,7 +168,7 @@ sSettingChange SetByName(sChartSettings& settings, CRetryingKey& key, std::strin
         return {};
     if (place->Row->Effects & EffectStudyList)
         StoreStudyList(key, settings);
-    // Of a pane that is not in use yet the list above did not write it.
+    // The list of changes does not include a pane that is not in use yet.
     StoreChange(key, *place, before, settings);
     return {"", true, place->Row->Effects};
 }
@@ -179,7 +179,8 @@ std::string CheckSetting(std::string_view name, std::string_view text)
     const auto place = PlaceOf(settings, name);
     if (!place)
         return Unknown(name);
-    // Rules that reach across fields depend on the chart at that moment; these give them the most room.
+    // Rules that involve several fields depend on the chart's current settings; these values satisfy them as
+    // far as possible.
     settings.Studies.MacdShort = LeastStoredInt;
     settings.Studies.MacdLong = GreatestStoredInt;
     settings.Panes.StudyCount = 10;

@@ -1,5 +1,5 @@
-// Storing changed settings: one value at a time, whatever differs between two records, or one value as a
-// person types it. A write that fails is up to the key. Lives on the chart window's thread.
+// Stores changed settings: one value, all differences between two records, or one value typed by a user.
+// Errors of writing are left to the key. Window's thread.
 #pragma once
 
 #include "settings/RetryingKey.h"
@@ -11,47 +11,47 @@
 
 namespace zantroq {
 
-// Writes the member of the row with this string number as it stands in the record. number is that of an
-// indexed row, such as 2 for "Top of chart 2". An unknown id, or a row without a member, writes nothing.
+// Stores the value of the row with this string number. `number` selects a value of an indexed row, such as 2
+// for "Top of chart 2". An unknown id or a row without a member writes nothing.
 void StoreSetting(ISettingsKey& key, const sChartSettings& settings, int id, int number = 0);
 
-// Writes the whole stack: count, types, borders, maximised index and minimised flags of the panes in use.
+// Stores the whole stack: count, types, borders, maximized index, and minimized flags of the panes in use.
 void StorePaneStack(ISettingsKey& key, const sPaneStack& panes);
 
-// Writes all request settings, and removes them all from the key.
+// Store all request settings, or delete them from the key.
 void StoreRequestSettings(ISettingsKey& key, const sChartSettings& settings);
 void ClearRequestSettings(ISettingsKey& key);
 
-// Which stored values differ, field by field in table order. Entries of a list count as one value; of the
-// panes only those in use in either record are compared.
+// The stored values that differ, in table order. A list counts as one value; only panes in use in one of the
+// records are compared.
 std::vector<sSettingPlace> ChangedSettings(const sChartSettings& before, const sChartSettings& after);
 
-// Writes one value that differs; of a list only the entries that do.
+// Stores one changed value; of a list only the changed entries.
 void StoreChange(CRetryingKey& key, const sSettingPlace& place, const sChartSettings& before,
                  const sChartSettings& after);
 
-// Writes what differs and nothing else; the entries of a list that do not differ stay as they are stored. The
-// answer is the effects of all changes together.
+// Stores the differences and nothing else; unchanged entries of a list stay as stored. Returns the combined
+// effects of all changes.
 unsigned StoreChanges(CRetryingKey& key, const sChartSettings& before, const sChartSettings& after);
 
 struct sSettingChange
 {
-    std::string Error;    // empty, or one clause that says what is wrong; then nothing was changed or written
-    bool Changed = false; // false also when the value was what it already is; then nothing was written
-    unsigned Effects = EffectNone; // of SettingEffect
+    std::string Error;    // empty, or a clause that says what is wrong; nothing is changed or written then
+    bool Changed = false; // false if the value is the current one; nothing is written then
+    unsigned Effects = EffectNone; // combination of SettingEffect
 };
 
-// One change as if the settings sheet had been closed with OK on it: checked by the sheet's rules, taken into
-// the record, written at once. The name is a stored name ("PTS INDEX", "Study Data Color 4",
-// "RequestDatapoints"), or "#32791" and "#32792" for the two without one; the empty name is the scroll amount
-// of the scrolling mode that is on. A list may have fewer entries than the value: the others stay. A change
-// of "Number of displayed study charts" or of a type writes the count and the types of all panes in use; the
-// borders are the layout's.
+// Makes one change as the settings sheet would on OK: checks it by the sheet's rules, changes the record and
+// stores it at once. `name` is a stored name ("PTS INDEX", "Study Data Color 4", "RequestDatapoints"), or
+// "#32791" or "#32792" for the two without a name; the empty name means the scroll amount of the current
+// scrolling mode. A list may have fewer entries than the setting: the others are unchanged. A change of
+// "Number of displayed study charts" or of a study type stores the count and the types of all panes in use;
+// the layout stores the borders.
 sSettingChange SetByName(sChartSettings& settings, CRetryingKey& key, std::string_view name,
                          std::string_view text);
 
-// Whether SetByName could take this at all, looked at without a chart: an unknown name, or a text that no
-// record would allow. Empty when it is fine.
+// Checks, without a chart, whether SetByName could accept this. Returns an empty text, or what is wrong: an
+// unknown name, or a text that is invalid whatever the other settings are.
 std::string CheckSetting(std::string_view name, std::string_view text);
 
 } // namespace zantroq

@@ -1,4 +1,4 @@
-// The section of docs/settings.md about the settings sheet. Pure function.
+// The section of docs/settings.md about the settings sheet. Pure function, any thread.
 #pragma once
 
 #include <string>

@@ -9,7 +9,7 @@
 namespace zantroq {
 namespace {
 
-// from_chars takes no plus sign. A sign behind it would be a second one, which ends the number.
+// from_chars does not accept a plus sign. A sign after it would be a second sign, which ends the number.
 bool SkipPlus(std::string_view& text)
 {
     if (text.empty() || text.front() != '+')
@@ -37,7 +37,7 @@ std::string TextFromInt(std::int32_t value)
 
 std::string TextFromDouble(double value)
 {
-    std::array<char, 400> buffer; // the greatest double has 309 digits before the point
+    std::array<char, 400> buffer; // the largest double has 309 digits before the point
     const auto end =
         std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::fixed, 6);
     return {buffer.data(), end.ptr};

@@ -16,7 +16,7 @@ std::string NameOf(std::size_t place)
 
 using Symbols = std::vector<std::string>;
 
-// Nothing when they cannot be read.
+// Returns nothing if they cannot be read.
 std::optional<Symbols> StoredSymbols(ISettingsKey& key)
 {
     Symbols symbols;
@@ -50,8 +50,8 @@ bool Forget(ISettingsKey& key, const std::string& name)
     return key.Read(name).Result() == ReadResult::Missing || key.Delete(name);
 }
 
-// What is stored is the list and nothing behind it: another window's longer list, or gaps and doubles in the
-// store, would leave entries there that stand in the list already.
+// Stores the list and deletes all entries after it. Without that, a longer list of another window, gaps or
+// duplicates in the store would leave entries that are already in the list.
 bool StoreAll(ISettingsKey& key, const Symbols& symbols)
 {
     bool isStored = true;

@@ -1,4 +1,4 @@
-// The recently used symbols, newest first, kept as "SQ0" to "SQ19". Lives on the chart window's thread.
+// The recently used symbols, newest first, stored as "SQ0" to "SQ19". Window's thread.
 #pragma once
 
 #include "settings/RetryingKey.h"
@@ -15,15 +15,15 @@ public:
 
     explicit CSymbolHistory(CRetryingKey& key) : m_key(key) {} // the key must outlive the history
 
-    // Takes the stored symbols in order; empty and missing ones are left out. What cannot be read stands
-    // behind the symbols added since, as soon as it can be read.
+    // Loads the stored symbols in order and skips empty and missing ones. If they cannot be read now, they
+    // are added after newer symbols once they can be read.
     void LoadSymbolHistory();
 
-    // Puts the symbol at the top, takes it away from where it stood, and writes the whole list; values behind
-    // its end go. An empty symbol changes nothing. When the list is full the last entry goes, and with it the
-    // two values "RectPosition." + the entry and the same +
-    // ".Maximized". Window positions are stored by title ("XYZ - Chart"), so these are not the values of that
-    // symbol's window: its position stays, and is meant to.
+    // Moves or inserts the symbol at the top and stores the whole list; stored values after its end are
+    // deleted. An empty symbol changes nothing. If the list is full, its last entry is dropped together with
+    // the values "RectPosition." + entry and "RectPosition." + entry + ".Maximized". Window positions are
+    // stored by title ("XYZ - Chart"), so these are not the position of the symbol's window, which stays;
+    // this is intended.
     void AddSymbol(const std::string& symbol);
 
     const std::vector<std::string>& Items() const { return m_items; }

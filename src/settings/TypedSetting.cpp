@@ -38,7 +38,7 @@ std::string Quoted(std::string_view text)
     return "\"" + std::string(text) + "\"";
 }
 
-// A whole number or, for colors, a hexadecimal one behind 0x.
+// A whole number; for colors also 0x and hexadecimal digits.
 bool ParseTypedInt(const sSettingRow& row, std::string_view text, std::int64_t& value)
 {
     if (row.Type == SettingType::Color && (text.starts_with("0x") || text.starts_with("0X"))) {
@@ -73,7 +73,7 @@ std::string CheckTypedInt(const sSettingRow& row, std::string_view text, std::in
            std::to_string(range.High);
 }
 
-// Rules that reach across fields.
+// Checks the rules that involve several fields.
 std::string CheckTogether(const sChartSettings& settings, const sSettingPlace& place)
 {
     const auto& panes = settings.Panes;

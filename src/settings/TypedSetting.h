@@ -1,4 +1,4 @@
-// One setting as a person types it, checked by the rules of the settings sheet. Pure functions, any thread.
+// One setting as typed by a user, checked by the rules of the settings sheet. Pure functions, any thread.
 #pragma once
 
 #include "settings/SettingsTable.h"
@@ -8,8 +8,8 @@
 
 namespace zantroq {
 
-// Takes over what a person typed, by the rules of the settings sheet. The answer is empty, or says what is
-// wrong with the text; then nothing was changed.
+// Sets the value from typed text. Returns an empty text, or what is wrong with the typed text; the settings
+// are unchanged then.
 std::string TakeTypedText(sChartSettings& settings, const sSettingPlace& place, std::string_view text);
 
 } // namespace zantroq

@@ -1,4 +1,4 @@
-// Where a top-level window stood, by its title. Lives on the chart window's thread.
+// The stored position of a top-level window, by its title. Window's thread.
 #pragma once
 
 #include "platform/WindowServices.h"
@@ -15,19 +15,19 @@ struct sWindowPosition
     bool operator==(const sWindowPosition&) const = default;
 };
 
-// "RectPosition." + title: 16 bytes, four signed 32-bit numbers with the low byte first: left, top, right,
-// bottom.
+// "RectPosition." + title. The value has 16 bytes, four signed little-endian 32-bit numbers: left, top,
+// right, bottom.
 std::string WindowRectName(const std::string& title);
-// The same + ".Maximized": a number, 1 when the window was maximized.
+// "RectPosition." + title + ".Maximized": a number, 1 if the window was maximized.
 std::string WindowMaximizedName(const std::string& title);
 
-// A missing rectangle, or one that is not 16 bytes, is 0, 0, 620, 460; a flag that is missing or not 1 means
-// not maximized. What could not be read takes the same defaults. Answers whether everything could be read.
+// A rectangle that is missing or not 16 bytes becomes 0, 0, 620, 460; a flag that is missing or not 1 means
+// not maximized. Values that cannot be read get the same defaults. Returns true if everything could be read.
 bool LoadWindowPosition(ISettingsKey& key, const std::string& title, sWindowPosition& position);
 
 void SaveWindowPosition(ISettingsKey& key, const std::string& title, const sWindowPosition& position);
 
-// The window's restored rectangle and state.
+// The window's restored rectangle and its state.
 sWindowPosition PositionOf(const ITopLevelWindow& window);
 
 } // namespace zantroq

@@ -1,4 +1,5 @@
-// The page "Colors": the general colors, the price pane's, and two of each study. Chart window's thread.
+// The page "Colors": the general colors, the colors of the price pane, and two colors for each study. Chart
+// window's thread.
 #pragma once
 
 #include "settings/pages/SettingPage.h"
@@ -36,7 +37,7 @@ private:
     IForm& m_form;
     int m_study = 0;
     std::array<ColorValue, StudyKinds> m_data{}, m_label{};
-    ColorValue m_volumeLabel = 0; // passes through; no control shows it
+    ColorValue m_volumeLabel = 0; // not shown by any control; copied unchanged
 };
 
 } // namespace zantroq

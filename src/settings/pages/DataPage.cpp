@@ -13,7 +13,7 @@ constexpr int MostPoints = 2000000, DefaultPoints = 1000;
 constexpr int MostDays = 9999;
 constexpr int NoKind = -1;
 
-// The request kinds of a data type by what to load.
+// The request kinds of a data type: by number of points, by days, by range.
 struct sKinds
 {
     int Points, Days, Range;
@@ -21,7 +21,7 @@ struct sKinds
 constexpr std::array<sKinds, Types> Kinds{
     {{0, 1, 2}, {3, 4, 5}, {6, NoKind, 7}, {8, NoKind, NoKind}, {9, NoKind, NoKind}}};
 
-// Commands of ticks and intervals alone carry the time-of-day filter.
+// Only the commands of ticks and intervals have a time-of-day filter.
 constexpr bool CanFilter(int type)
 {
     return type <= MinuteType;
@@ -94,7 +94,8 @@ void CDataSettingPage::ShowType()
 void CDataSettingPage::ShowMoment(sMoment& moment)
 {
     const std::string& stored = (m_request.*moment.Texts)[static_cast<std::size_t>(m_request.DataType)];
-    // A stored date that the calendar does not have cannot be shown; it stays until another one is chosen.
+    // A stored date that the calendar does not have cannot be shown; it is kept until the user chooses
+    // another.
     if (stored.size() == 8)
         m_form.SetText(moment.Control, ShownMoment(TodayText()));
     m_form.SetText(moment.Control, ShownMoment(stored));
@@ -148,7 +149,7 @@ void CDataSettingPage::AskToClear()
     ShowAll();
 }
 
-// The fields of the type that is shown.
+// Stores the fields of the data type that is shown.
 void CDataSettingPage::StoreType()
 {
     const auto type = static_cast<std::size_t>(m_request.DataType);
@@ -205,7 +206,7 @@ std::optional<sRefusal> CDataSettingPage::Accept()
 
 void CDataSettingPage::CopyTo(sChartSettings& settings) const
 {
-    const std::int32_t requestType = settings.Request.RequestType; // on no page
+    const std::int32_t requestType = settings.Request.RequestType; // shown on no page
     settings.Request = m_request;
     settings.Request.RequestType = requestType;
     if (const int interval = m_form.Index(Interval); interval >= 0)

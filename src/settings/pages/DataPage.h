@@ -1,5 +1,5 @@
-// The page "Data": what is asked of the feed, with a set of load options for each of the five data types.
-// Chart window's thread.
+// The page "Data": the data requested from the feed, with separate load options for each of the five data
+// types. Chart window's thread.
 #pragma once
 
 #include "settings/pages/SettingPage.h"
@@ -35,7 +35,7 @@ public:
         Points = 317
     };
 
-    // clear removes the stored request settings; box asks and reports over the page.
+    // `clear` deletes the stored request settings; `box` shows messages over the page.
     CDataSettingPage(IForm& form, IMessageBox& box, std::function<void()> clear)
         : m_form(form), m_box(box), m_clear(std::move(clear))
     {
@@ -43,7 +43,7 @@ public:
 
     const char* Title() const override { return "Data"; }
     void Start(const sChartSettings& settings) override;
-    std::optional<sRefusal> Accept() override; // what is wrong is mended with a message, never refused
+    std::optional<sRefusal> Accept() override; // never refuses: invalid input is corrected with a message
     void CopyTo(sChartSettings& settings) const override;
     void OnChanged(int id) override;
     void OnPressed(int id) override;
@@ -51,7 +51,7 @@ public:
     bool SavesAsDefault() const { return m_form.Checked(SaveAsDefault); }
 
 private:
-    // A date or time field and the list that it shows an entry of.
+    // A date or time field, and the list of which it shows one entry.
     struct sMoment
     {
         int Control;
@@ -62,7 +62,7 @@ private:
     void ShowAll();
     void ShowType();
     void ShowMoment(sMoment& moment);
-    void FollowChoices(); // what can be used with this type and these choices
+    void FollowChoices(); // enables the controls that apply to the current type and choices
     void StoreType();
     void StorePoints(std::size_t type);
     void StoreKind(std::size_t type);

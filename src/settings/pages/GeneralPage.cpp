@@ -15,7 +15,7 @@ std::vector<std::string> PointTexts()
     return texts;
 }
 
-// What was not touched stays, also where it is out of the range of the field.
+// An unchanged value is kept, even if it is out of the field's range.
 std::int32_t Held(std::int32_t wanted, std::int32_t before, int largest)
 {
     return wanted == before ? before : std::clamp(wanted, 1, largest);
@@ -50,7 +50,7 @@ void CSettingPage::OnChanged(int id)
         FollowScale();
 }
 
-// A scale that is to stay from now on is computed anew first.
+// A scale that becomes fixed is recomputed first.
 void CSettingPage::FollowScale()
 {
     const bool fixed = m_form.Checked(FixedScale);

@@ -1,4 +1,5 @@
-// The page "General": value axis, points shown, grid, scale, chart type and scrolling. Chart window's thread.
+// The page "General": value axis, number of points, grid, scale, chart type and scrolling. Chart window's
+// thread.
 #pragma once
 
 #include "settings/pages/SettingPage.h"

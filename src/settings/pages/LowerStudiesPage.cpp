@@ -65,7 +65,7 @@ void CLowerStudiesSettingPage::ShowChoices(const sStudyFields& fields)
     }
 }
 
-// Of MACD the three edits stand for the short, the long and the signal period.
+// For MACD, the three edits are the short, the long and the signal period.
 void CLowerStudiesSettingPage::ShowPeriods(const sStudyFields& fields)
 {
     m_form.SetVisible(PeriodLabel, fields.PeriodLabel != nullptr);
@@ -118,7 +118,8 @@ void CLowerStudiesSettingPage::Visit(int study)
     m_visited = true;
 }
 
-// What nobody looked at or touched keeps its values, also a period that is none of its study's choices.
+// A study that the user neither visited nor changed keeps its values, even a period that is none of its
+// choices.
 void CLowerStudiesSettingPage::Leave()
 {
     if (!m_visited)
@@ -272,7 +273,7 @@ void CLowerStudiesSettingPage::OnDropped(int from, int row, int list, int to)
     else if (from == Displayed && list == Available)
         RemoveRow(row);
     else if (from == Displayed && list == Displayed)
-        MoveRow(row, to > row ? to - 1 : to); // its own place falls out first
+        MoveRow(row, to > row ? to - 1 : to); // the row is removed from its old place first
 }
 
 std::optional<sRefusal> CLowerStudiesSettingPage::Accept()
@@ -290,7 +291,7 @@ void CLowerStudiesSettingPage::CopyTo(sChartSettings& settings) const
 {
     const auto dataColors = settings.Studies.DataColors, labelColors = settings.Studies.LabelColors;
     settings.Studies = m_studies;
-    settings.Studies.DataColors = dataColors; // another page's
+    settings.Studies.DataColors = dataColors; // edited on another page
     settings.Studies.LabelColors = labelColors;
     settings.Panes.StudyCount = static_cast<std::int32_t>(m_displayed.size());
     std::ranges::copy(m_displayed, settings.Panes.StudyTypes.begin());

@@ -1,5 +1,5 @@
-// The page "Lower Studies": which studies are displayed, in which order, and the properties of each. One set
-// of controls serves all ten; StudyFields.h says what they stand for. Chart window's thread.
+// The page "Lower Studies": the displayed studies, their order, and the properties of each study. One set of
+// controls serves all ten studies; StudyFields.h assigns their meaning. Chart window's thread.
 #pragma once
 
 #include "settings/pages/SettingPage.h"
@@ -67,7 +67,7 @@ private:
     void ShowPeriods(const sStudyFields& fields);
     void ShowFields(const sStudyFields& fields);
     void HideFields();
-    void Leave(); // stores the fields of the study on show
+    void Leave(); // stores the fields of the current study
     void StorePeriod(const sStudyFields& fields);
 
     bool IsDisplayed(int study) const;
@@ -76,7 +76,7 @@ private:
     void AddStudy(int study, std::size_t before);
     void RemoveRow(int row);
     void MoveRow(int row, int to);
-    void FollowLists(); // what the buttons would do
+    void FollowLists(); // enables the buttons that apply to the selection
 
     std::int32_t& PeriodOf(int study) { return m_studies.Periods[static_cast<std::size_t>(study)]; }
     std::int32_t& CustomOf(int study) { return m_studies.CustomPeriods[static_cast<std::size_t>(study)]; }
@@ -84,8 +84,8 @@ private:
     IForm& m_form;
     sStudySettings m_studies;
     std::vector<int> m_displayed;
-    int m_study = 0;        // whose properties are on show
-    bool m_visited = false; // the user chose it or changed something of it
+    int m_study = 0;        // the study whose properties are shown
+    bool m_visited = false; // the user chose this study or changed one of its properties
     CNumberField m_custom{CustomPeriod}, m_second{SecondNumber}, m_third{ThirdNumber};
 };
 

@@ -5,7 +5,7 @@
 namespace zantroq {
 namespace {
 
-// VolumeLabel Color passes through the color page, though no control shows it.
+// VolumeLabel Color belongs to the color page although no control shows it.
 constexpr std::array Colors{32828, 32836, 32829, 32832, 32855, 32856, 32897, 32886, 32885, 32830};
 
 constexpr std::array General{32793, 32787, 32785, 32788, 32794, 32854, 32790, 32792, 32791};

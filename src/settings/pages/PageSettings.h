@@ -1,4 +1,4 @@
-// Which stored setting stands on which page of the settings sheet, and why the others stand on none. Constant
+// Which page of the settings sheet shows which stored setting, and why the others are on no page. Constant
 // data, any thread.
 #pragma once
 
@@ -6,7 +6,7 @@
 
 namespace zantroq {
 
-// String numbers in the order of the page's fields; pages are 0 to 4.
+// String numbers in the order of the page's fields. `page` is 0 to 4.
 std::span<const int> SettingsOfPage(int page);
 
 struct sOffSheet
@@ -16,7 +16,7 @@ struct sOffSheet
 };
 std::span<const sOffSheet> SettingsOnNoPage();
 
-// The place of a setting in the order of pages and fields; settings on no page come last.
+// The position of a setting in the order of pages and fields; settings on no page come last.
 int SheetOrder(int id);
 
 } // namespace zantroq

@@ -1,6 +1,6 @@
-// What the pages of the settings sheet have in common. A page copies its settings in when it starts, follows
-// what the user does to its controls, checks itself on OK, and copies its settings out of an accepted sheet.
-// It never touches the chart. Chart window's thread.
+// The interface of the pages of the settings sheet. A page copies its settings into its controls at the
+// start, reacts to the user, checks its input on OK, and copies its settings out of an accepted sheet. It
+// never accesses the chart. Chart window's thread.
 #pragma once
 
 #include "platform/Form.h"
@@ -15,37 +15,38 @@ namespace zantroq {
 inline constexpr const char* ErrorCaption = "Error";
 inline constexpr const char* InvalidSettingCaption = "Invalid Setting";
 
-// Why a page does not let the sheet close.
+// The reason why a page does not let the sheet close.
 struct sRefusal
 {
     std::string Text;
     std::string Caption = ErrorCaption;
-    int Control = 0; // the field that the text names
+    int Control = 0; // the field that the text refers to
 };
 
 class ISettingPage : public IFormEvents
 {
 public:
     virtual const char* Title() const = 0;
-    // Fills the controls. Called once, before any other.
+    // Fills the controls. Must be called once, before all other functions.
     virtual void Start(const sChartSettings& settings) = 0;
-    // The OK handler.
+    // Handles OK: returns a refusal if the page's input is invalid.
     virtual std::optional<sRefusal> Accept() = 0;
-    // Puts the page's own settings into the record and leaves the rest as it is. After Accept.
+    // Copies the page's settings into the record and leaves other settings unchanged. Call after a successful
+    // Accept.
     virtual void CopyTo(sChartSettings& settings) const = 0;
 };
 
-// A stored switch stays as it is, whatever number stands for on, unless it was turned.
+// Changes a stored switch only if it was turned: 'on' may be stored as any number but 0.
 void SetFlag(std::int32_t& flag, bool on);
 
-// A whole number behind an edit that takes any text. What the user did not touch keeps its value, also where
-// its text would read as another.
+// A whole number in an edit that accepts any text. A field that the user did not change keeps its value, even
+// if its text would convert to another number.
 class CNumberField
 {
 public:
     explicit CNumberField(int control) : m_control(control) {}
     void Show(IForm& form, std::int32_t value);
-    // What the text means, as text-to-integer conversion reads it, held to what can be stored.
+    // The value of the text, converted like atoi and limited to what can be stored.
     std::int32_t Read(const IForm& form) const;
     std::int32_t Shown() const { return m_value; }
 

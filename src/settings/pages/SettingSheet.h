@@ -1,5 +1,5 @@
-// The settings sheet without its widgets: five pages in their order, an OK that closes it only when every
-// page has accepted, and what came of it. Chart window's thread.
+// The settings sheet without widgets: five pages in order, an OK that closes the sheet only if every page
+// accepts, and the results. Chart window's thread.
 #pragma once
 
 #include "settings/pages/ColorPage.h"
@@ -14,7 +14,7 @@ namespace zantroq {
 
 inline constexpr int SheetPages = 5;
 
-// The forms of the pages, in order, and what the sheet needs of the window around them.
+// The forms of the pages, in order, and the sheet's window functions.
 class ISheetFace
 {
 public:
@@ -28,7 +28,7 @@ class CSettingSheet
 public:
     static constexpr const char* Title = "Settings";
 
-    // All three outlive the sheet. clear removes the stored request settings.
+    // `face` and `box` must outlive the sheet. `clear` deletes the stored request settings.
     CSettingSheet(ISheetFace& face, IMessageBox& box, std::function<void()> clear);
     CSettingSheet(const CSettingSheet&) = delete;
     CSettingSheet& operator=(const CSettingSheet&) = delete;
@@ -37,17 +37,17 @@ public:
     void Start(const sChartSettings& settings);
     ISettingPage& Page(int page) { return *m_pages.at(static_cast<std::size_t>(page)); }
 
-    // The OK of the sheet. False: a page has refused, with its message; that page is on show then, and the
-    // field that the message names has the keyboard.
+    // Handles OK. Returns false if a page refused: its message has been shown, and the page is visible with
+    // the keyboard focus in the field that the message refers to.
     bool Accept();
 
-    // Of an accepted sheet: puts what the pages edit into the record.
+    // Copies the settings of the pages of an accepted sheet into the record.
     void CopyTo(sChartSettings& settings) const;
     bool ResetScaleNow() const { return m_general.ResetScaleNow(); }
     bool SavesRequestSettings() const { return m_data.SavesAsDefault(); }
 
 private:
-    // A message of the data page comes up over that page.
+    // Shows the data page before a message of that page.
     class CPageBox : public IMessageBox
     {
     public:

@@ -17,7 +17,7 @@ bool IsRequest(const sSettingPlace& place)
     return (place.Row->Effects & EffectRequest) != 0;
 }
 
-// As the type box and the interval box in the window do: a new interval stores the type along.
+// Stores as the type box and the interval box of the window do: a new interval stores the type too.
 void StoreBoxes(CRetryingKey& key, const sChartSettings& before, const sChartSettings& after)
 {
     const bool interval = before.Request.IntervalIndex != after.Request.IntervalIndex;

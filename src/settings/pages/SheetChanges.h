@@ -1,4 +1,4 @@
-// What an accepted settings sheet writes. Lives on the chart window's thread.
+// Stores the changes of an accepted settings sheet. Chart window's thread.
 #pragma once
 
 #include "settings/RetryingKey.h"
@@ -9,16 +9,16 @@ namespace zantroq {
 // "Save settings as default" on the data page.
 enum class RequestKeeping
 {
-    ThisChart, // the chart takes them; only data type and interval are stored, as their boxes store them
-    AsDefault, // those of all five data types are stored, also what did not change
+    ThisChart, // the chart uses the settings; only data type and interval are stored, as the boxes of the window do
+    AsDefault, // the request settings of all five data types are stored, even unchanged ones
 };
 
-// Writes what differs, in the order of the pages, and nothing else. The answer is the effects of all changes
-// together (SettingEffect), those that are not stored included.
+// Stores the differences in the order of the pages and nothing else. Returns the combined effects
+// (SettingEffect) of all changes, including those that are not stored.
 unsigned StoreSheetChanges(CRetryingKey& key, const sChartSettings& before, const sChartSettings& after,
                            RequestKeeping keeping);
 
-// Reads what the sheet alone reads. A missing value leaves the record as it was.
+// Reads the settings that only the sheet uses. A missing value leaves the record unchanged.
 void LoadSheetSettings(ISettingsKey& key, sChartSettings& settings);
 
 } // namespace zantroq

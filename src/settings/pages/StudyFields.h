@@ -1,5 +1,5 @@
-// The fields of each study on the page "Lower Studies": one row a study says what the shared controls stand
-// for. Constant data, any thread.
+// The fields of each study on the page "Lower Studies": one row per study assigns the shared controls.
+// Constant data, any thread.
 #pragma once
 
 #include "settings/ChartSettings.h"
@@ -9,15 +9,15 @@
 
 namespace zantroq {
 
-// One choice of a fixed period.
+// A choice of a fixed period.
 struct sPeriodChoice
 {
-    const char* Text = nullptr; // null: the study has no such choice
+    const char* Text = nullptr; // null: the study does not have this choice
     std::int32_t Period = 0;
-    std::int32_t Short = 0, Long = 0; // of MACD only, where Period is the signal period
+    std::int32_t Short = 0, Long = 0; // MACD only; Period is the signal period then
 };
 
-// A label with a number, a color or both.
+// A label with a number field, a color button or both.
 struct sStudyField
 {
     int LabelControl = 0;
@@ -32,10 +32,10 @@ struct sStudyFields
 {
     const char* Group;
     std::array<sPeriodChoice, 3> Choices;
-    const char* Custom;                  // text of the choice that takes the edit's number
+    const char* Custom;                  // text of the choice that uses the number in the edit
     const char* PeriodLabel;             // null: none
     std::int32_t sStudySettings::*Radio; // the choice: 0 custom, then the choices in order
-    std::array<sStudyField, 4> Fields{}; // those without a label control are not there
+    std::array<sStudyField, 4> Fields{}; // entries without a label control are unused
     bool HasPeriodTriple = false;        // short, long and signal period
     std::int32_t sStudySettings::*Fast = nullptr;
     std::int32_t sStudySettings::*Average = nullptr; // the switch "Show average:"

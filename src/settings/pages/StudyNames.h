@@ -1,4 +1,4 @@
-// What lists and combos call the studies, in study order. Constant data, any thread.
+// The names of the studies in lists and combos, in study order. Constant data, any thread.
 #pragma once
 
 #include "settings/ChartSettings.h"

@@ -16,7 +16,7 @@ constexpr int LongestPeriod = 999, WidestLine = 99;
 
 std::string TwoDecimals(double value)
 {
-    std::array<char, 400> text{}; // the longest double has 309 digits before its point
+    std::array<char, 400> text{}; // the longest double has 309 digits before the point
     const auto end =
         std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed, 2);
     return {text.data(), end.ptr};
@@ -100,7 +100,7 @@ std::optional<sRefusal> CUpperStudiesSettingPage::Accept()
     const double deviations = TextToDouble(text);
     if (!(deviations >= 0.01 && deviations <= 100))
         return sRefusal{"No. of Deviations must be from 0.01 to 100", ErrorCaption, Deviations};
-    // The text shows two decimals of what may have more.
+    // The text shows only two decimals, so an unchanged text keeps the exact value.
     if (text != m_shownDeviations)
         m_deviations = deviations;
     m_shownDeviations = text;

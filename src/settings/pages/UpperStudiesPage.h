@@ -1,4 +1,4 @@
-// The page "Upper Studies": three moving averages, the Bollinger Bands, and the look of each kind of
+// The page "Upper Studies": three moving averages, the Bollinger Bands, and the style of each kind of
 // trendline. Chart window's thread.
 #pragma once
 
