@@ -17,76 +17,78 @@ constexpr const char* Intro = R"(# Settings
 
 <!-- Written by the target settings-doc from the table in src/settings/SettingsTable.cpp. Do not edit by hand. -->
 
-The chart keeps its settings, and nothing else: no data and no trendlines.
+The chart stores its settings and nothing else: no data and no trendlines.
 
 ## The file
 
 One SQLite file per user: `$ZANTROQ_SETTINGS` if set, else `$XDG_CONFIG_HOME/zantroq/settings.db`, else
 `~/.config/zantroq/settings.db`. It holds keys (paths), each with named values of three types: `sz` (a text), `dword` (a number
-from 0 to 4294967295) and `binary`. Names are exact: trailing blanks, slashes, `%` and the empty name are all legal.
+from 0 to 4294967295) and `binary`. Names are exact: trailing blanks, slashes, `%` and the empty name are valid.
 
 Several processes may use the file at once. Each write is one transaction in write-ahead mode, so a crash leaves every finished
-write readable; beside an open file stand `settings.db-wal` and `settings.db-shm`, which belong to it. Nothing is created before
-the first write. Inside is one table, `setting(key, name, type, value)`, with types 1 (sz), 3 (binary) and 4 (dword); the header
-carries application number 0x5A545251 and user version 1.
+write readable. While the file is open, its companions `settings.db-wal` and `settings.db-shm` are in the same folder. Nothing
+is created before the first write. The file contains one table, `setting(key, name, type, value)`, with types 1 (sz), 3 (binary)
+and 4 (dword); the header has the application number 0x5A545251 and the user version 1.
 
-A missing, unreadable, locked or damaged file reads as all values missing, and the chart runs on its defaults without a word. A
-default is written only for a value that is surely missing, never for one that could not be read. What the user changes is written
-all the same; where the file does not take it, the chart tries again while it runs, and once more when its window closes. Of a list
-that could not be read only the entries that the user changed are written, and symbols stand in front of those that could not be
-read. A read-only file is read, and what would be written is skipped. A damaged file, another program's data base, or a file of a
-later format is never written to, and neither is a log or journal beside it; an empty file with a log beside it counts as damaged.
-`zantroq-settings` says what is wrong with it.
+If the file is missing, unreadable, locked or damaged, the chart uses the defaults of all values and reports no error. It writes
+a default only for a value that is certainly missing, never for one that could not be read. Changes by the user are always
+written; if the file cannot be written at that moment, the chart tries again while it runs, and once more when its window
+closes. Of a list that could not be read, only the entries that the user changed are written, and new symbols are placed before
+those that could not be read. A read-only file is read, and nothing is written to it. A damaged file, a database of another
+program and a file of a later format are never written to, nor are their logs and journals; an empty file with a log counts as
+damaged. `zantroq-settings` reports what is wrong with the file.
 
 )";
 
 constexpr const char* Encodings = R"(
-Numbers and booleans are texts in decimal; a number with decimals has six of them. Of a stored number the first 9 characters are
-read, of a text the first 256 bytes. What is no number reads as 0, a value of another type than sz as missing, and a missing
-number as -1, so no whole number can be -1. Colors are whole numbers, red in the low byte: blue * 65536 + green * 256 + red.
+Numbers and booleans are stored as decimal texts; a number with decimals has six of them. Of a stored number the first 9
+characters are read, of a text the first 256 bytes. A text without a number reads as 0, a value of another type than sz as
+missing, and a missing number as -1, so no whole number can be -1. Colors are whole numbers with red in the low byte: blue *
+65536 + green * 256 + red.
 
 ## All values
 
-Missing values are written with their defaults when the chart starts, but for the lists per data type and the values told in
-"Stack of panes". "Range" is what the settings sheet and the replay step `set` accept; any other number that can be stored
-(-99999999 to 999999999) is accepted where it is empty.
+When the chart starts, it writes missing values with their defaults, except the lists per data type and the values described in
+"Stack of panes". "Range" is what the settings sheet and the replay step `set` accept; if it is empty, they accept every number
+that can be stored (-99999999 to 999999999).
 
 | Number | Name | Type | Default | Range | Out of range in the store | Meaning |
 |---|---|---|---|---|---|---|
 )";
 
 constexpr const char* Rules = R"(
-Numbers 32791 and 32792 have no text in the string table, so both stand on the one value with the empty name. In a fresh store
-the first writes its default 1, and the second finds that 1.
+Numbers 32791 and 32792 have no name, so both are stored in the one value with the empty name. With an empty store, the first
+writes its default 1, and the second then reads that 1.
 
 ### Lists per data type
 
-One text of five entries with commas between: ticks, intervals, daily, weekly, monthly. Entries past the fifth are ignored.
-Missing and empty entries, dates that are not 8 digits and times that are not 6 take the default, and so do request kinds that do
-not belong to their data type. Of switches, "1" is on and anything else off.
+One text of five entries separated by commas: ticks, intervals, daily, weekly, monthly. Entries after the fifth are ignored. The
+default replaces missing and empty entries, dates that are not 8 digits, times that are not 6 digits, and request kinds that do
+not belong to their data type. For switches, "1" is on and every other text off.
 
 ### Period lists
 
-Ten entries in study order: RSI, Momentum, ROC, OBV, MACD, Stochastics, Volume, Money Flow, MFI, ADX. Where the list is missing
-or empty it is put together from the older single values and stored, and then those are deleted.
+Ten entries in study order: RSI, Momentum, ROC, OBV, MACD, Stochastics, Volume, Money Flow, MFI, ADX. If the list is missing or
+empty, it is built from the older single values and stored; then the single values are deleted.
 
 ### Stack of panes
 
-Where the count is missing, the count, the type of pane 0 and the borders 1 and 2 are written with their defaults. Otherwise the
-types are read in order; a negative one or one of 10 and above ends the stack, and the count in memory is what was read. Borders
-that do not ascend strictly from 0 to at most 1, or are missing, are spread evenly in memory. Missing minimised flags are 0,
-missing colors of studies black; neither is written.
+If the count is missing, the count, the type of pane 0 and the borders 1 and 2 are written with their defaults. Otherwise the
+types are read in order; a negative type or one of 10 and above ends the stack, and the count in memory is the number of types
+read. Borders that do not ascend strictly from 0 to at most 1, or are missing, are spaced evenly in memory. Missing minimised
+flags are 0, and missing colors of studies are black; neither is written.
 
 ### Recently used symbols
 
-`SQ0` to `SQ19`, newest first, texts. A 21st symbol pushes out the last one, and the values `RectPosition.` + that symbol and the
-same + `.Maximized` are deleted. They are not the names under which positions are stored (below), so a position stays. Values
-behind the end of the list that is written are deleted.
+`SQ0` to `SQ19`, newest first, texts. A 21st symbol removes the last one and deletes the values `RectPosition.` + that symbol
+and `RectPosition.` + that symbol + `.Maximized`. Window positions are stored under other names (below), so they stay. Values
+after the end of the written list are deleted.
 
 ### Window positions
 
 `RectPosition.` + window title ("XYZ - Chart"): binary, 16 bytes, four signed 32-bit numbers with the low byte first: left, top,
-right, bottom. A missing one, or one of another length, is 0, 0, 620, 460. The same name + `.Maximized`: dword, 1 for maximized.
+right, bottom. A missing value, or one of another length, counts as 0, 0, 620, 460. The same name + `.Maximized`: dword, 1 for
+maximized.
 
 ## The ports of the feed
 
@@ -104,19 +106,20 @@ zantroq-settings import FILE
 zantroq-settings [--key PATH] reset [--yes]
 ```
 
-The default key is the chart's. A NAME or VALUE that begins with a hyphen goes behind `--`: `set -- -x -5`.
+The default key is the chart's. Write `--` before a NAME or VALUE that begins with a hyphen: `set -- -x -5`.
 
-- `list` prints a line a value, `NAME<TAB>TYPE<TAB>VALUE`, in byte order of the names. So that each value stays on its line, a
-  tab is written `\t`, a line feed `\n`, a carriage return `\r` and any other control character `\xHH`; a backslash stands as it
-  is, but doubled where what follows would read as one of these. `list --json` prints the exchange format.
-- `get` prints the value as it is; of a dword the number, of a binary value hexadecimal digits.
-- `set` takes any name and any value of the type; the type is sz unless told. A dword may be written 0x and hexadecimal digits.
-- `export` writes all keys, or the one of `--key`; the file appears whole or not at all. `-` is the standard output.
-  A key, name or text that is not UTF-8 cannot stand in it: it is named on standard error and left out, here and in `list --json`.
-- `import` merges into what is there, in one transaction: a file with an error anywhere changes nothing. With `--key` only that
-  key of the file is taken. `-` is the standard input.
-- `reset` removes every value of the key after reading the word yes, alone on its line and in small or capital letters, or with
-  `--yes` without asking.
+- `list` prints one line per value, `NAME<TAB>TYPE<TAB>VALUE`, in byte order of the names. To keep each value on its line, a tab
+  is written `\t`, a line feed `\n`, a carriage return `\r` and any other control character `\xHH`; a backslash is written
+  unchanged, but doubled where it would otherwise start one of these. `list --json` prints the exchange format.
+- `get` prints the value: a text unchanged, a dword as a number, a binary value as hexadecimal digits.
+- `set` accepts any name and any value of the type; the default type is sz. A dword may be written as 0x and hexadecimal digits.
+- `export` writes all keys, or the key given by `--key`; the file is written completely or not at all. `-` is the standard
+  output. A key, name or text that is not UTF-8 cannot be exported: it is reported on standard error and left out, here and in
+  `list --json`.
+- `import` adds to or replaces the stored values in one transaction: a file with an error anywhere changes nothing. With
+  `--key`, only that key of the file is imported. `-` is the standard input.
+- `reset` deletes every value of the key after reading the word yes, alone on its line and in any case, or with `--yes` without
+  asking.
 
 Exit codes: 0 done; 1 the value is not there (`get`, `delete`), the settings file cannot be read, or `reset` was not confirmed; 2
 wrong usage, or a file for `import` that cannot be read or is not of the format; 4 the settings file, the export or the standard
@@ -128,8 +131,8 @@ The exchange format is JSON, UTF-8:
 {"Software\\Zantro\\Zantroq\\Applications\\Chart": {"PTS INDEX": {"type": "sz", "value": "3"}}}
 ```
 
-A dword is a number, a binary value a text of hexadecimal digits. Anything else is an error that names the value, or the
-line where the file is no JSON.
+A dword is a number, a binary value a text of hexadecimal digits. Anything else is an error whose message names the value, or
+the line if the file is not JSON.
 )";
 
 std::string_view TypeOf(const sSettingRow& row)

@@ -9,20 +9,20 @@ namespace {
 constexpr const char* Pages = R"(
 ## The settings sheet
 
-The "Settings" button of the toolbar opens one sheet with five pages. OK takes over all pages together, stores what differs and
-nothing else, and asks the feed for the chart anew. Cancel, Escape and the close button leave everything as it was. The sheet opens on
-the page that was seen last in this run of the program. A page that refuses its fields comes to the front with a message, and the
-keyboard goes to the field that the message names. Where the settings file cannot be written, the chart takes the change all the same,
-and the status bar says that it could not be kept until it is.
+The "Settings" button of the toolbar opens a sheet with five pages. OK applies all pages together, stores only the differences,
+and requests the chart again from the feed. Cancel, Escape and the close button change nothing. The sheet opens on the page that
+was last visible in this run of the program. If a page rejects its input, that page is shown with a message, and the field that
+the message names gets the keyboard focus. If the settings file cannot be written, the chart uses the changes nevertheless, and
+the status bar reports that they are not stored until they are.
 
-The numbers below are those that replay scripts use for the controls. An edit with arrows has two: its text, and the number that the
-arrows step.
+Replay scripts use the numbers below for the controls. An edit with arrows has two numbers: one for its text, and one for the
+number that the arrows change.
 
 ### Colors
 
 ![The page Colors](images/settings/colors.png)
 
-Each button shows its color and opens the desktop's color dialog on it. The preview shows the colors of the price pane at once.
+Each button shows its color and opens the desktop's color dialog. The preview shows the colors of the price pane at once.
 
 | control | setting |
 |---|---|
@@ -30,7 +30,7 @@ Each button shows its color and opens the desktop's color dialog on it. The prev
 | 252, 253 | labels and data of the price pane |
 | 254, 255 | rising and falling candles |
 | 256 | the price bar |
-| 344 | whose colors the next two are |
+| 344 | the study to which the next two belong |
 | 259, 264 | labels and data of that study |
 
 ### General
@@ -48,13 +48,13 @@ Each button shows its color and opens the desktop's color dialog on it. The prev
 | 300, 301 | scrolling by per cent of the screen or by time increments |
 | 304 and 305, 302 and 303 | the two amounts, 1 to 99 and 1 to 999 |
 
-The two amounts stand on one stored value, so after a restart both are what was stored last.
+The two amounts share one stored value, so after a restart both have the value that was stored last.
 
 ### Data
 
 ![The page Data](images/settings/data.png)
 
-Each data type has its own set of these fields but for 243 and 227; another type shows what was last used for it.
+Each data type has its own values of these fields, except 243 and 227; choosing another type shows the values last used for it.
 
 | control | setting |
 |---|---|
@@ -68,9 +68,9 @@ Each data type has its own set of these fields but for 243 and 227; another type
 | 223 | "Save settings as default" |
 | 248 | "Clear Saved Settings" |
 
-Without "Save settings as default" the chart takes the fields over and stores data type and interval only, as their boxes in the window
-do. With it all request settings of all five types are stored. "Clear Saved Settings" asks, then removes them from the store at once and
-shows the defaults; a Cancel does not bring them back.
+Without "Save settings as default", the chart uses the fields but stores only data type and interval, as the two boxes in the
+window do. With it, all request settings of all five types are stored. "Clear Saved Settings" asks for confirmation, deletes the
+request settings from the store at once and shows the defaults; Cancel does not restore them.
 
 ### Upper Studies
 
@@ -85,7 +85,7 @@ shows the defaults; a Cancel does not bring them back.
 | 272, 265 | Bollinger Bands shown, their color |
 | 273 and 274 | period of the bands, 2 to 999 |
 | 275 | number of deviations, 0.01 to 100 |
-| 334 | whose look the next ones are: a kind of trendline |
+| 334 | the kind of trendline to which the next ones belong |
 | 338, 337, 320 and 284 | extended to the right, color, width from 1 to 99 pixels |
 | 1001 | a sample of the line |
 
@@ -109,9 +109,9 @@ shows the defaults; a Cancel does not bring them back.
 | 339, 301 | average of the volume shown, its color |
 | 287 to 291, 298 | the labels |
 
-Rows can be dragged: into the displayed studies, out of them, and to another place. A study is displayed once, so at most ten are.
-Edits of periods and levels take any text; a text that is no number counts as 0. A study that was not selected keeps its values; leaving
-one that was stores what its choice stands for.
+Rows can be dragged into the list of displayed studies, out of it, and to another place. A study is displayed only once, so at
+most ten are displayed. The edits of periods and levels accept any text; a text without a number counts as 0. A study that was
+not selected keeps its values; leaving a selected study stores the values of its fields.
 
 ### Settings that are on no page
 
