@@ -9,6 +9,9 @@
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTabWidget>
 
 namespace zantroq::test {
@@ -552,6 +555,46 @@ TEST_F(CSheetTest, NoTextIsClippedWithAFontOfTwiceTheSize)
         Sheet().TurnToPage(Colors);
         Sheet().Cancel();
     }
+    QApplication::setFont(usual);
+}
+
+TEST_F(CSheetTest, APageTooLargeForTheScreenScrollsAndTheButtonsStayOnIt)
+{
+    const QFont usual = QApplication::font();
+    QFont font = usual;
+    font.setPointSizeF(usual.pointSizeF() * 4);
+    QApplication::setFont(font);
+    m_chart->show();
+    Sheet().TurnToPage(Lower);
+    QApplication::processEvents();
+
+    const QSize screen = Dialog().screen()->availableGeometry().size();
+    EXPECT_LE(Dialog().width(), screen.width());
+    EXPECT_LE(Dialog().height(), screen.height());
+    auto* const buttons = Dialog().findChild<QDialogButtonBox*>();
+    EXPECT_TRUE(Dialog().rect().contains(buttons->geometry()));
+    QScrollArea* page = nullptr;
+    for (QScrollArea* each : Dialog().findChildren<QScrollArea*>())
+        if (each->isVisible())
+            page = each;
+    ASSERT_NE(page, nullptr);
+    ASSERT_GT(page->verticalScrollBar()->maximum(), 0);
+
+    // The Tab key brings each control into view.
+    QWidget* const first = Dialog().focusWidget();
+    int seen = 0;
+    do {
+        QTest::keyClick(Dialog().focusWidget(), Qt::Key_Tab);
+        const QWidget* const focus = Dialog().focusWidget();
+        if (!page->isAncestorOf(focus))
+            continue;
+        ++seen;
+        const QPoint corner = focus->mapTo(page->viewport(), QPoint(0, 0));
+        EXPECT_TRUE(page->viewport()->rect().contains(corner)) << focus->objectName().toStdString();
+    } while (Dialog().focusWidget() != first && seen < 100);
+    EXPECT_GT(seen, 3);
+    Sheet().TurnToPage(Colors);
+    Sheet().Cancel();
     QApplication::setFont(usual);
 }
 

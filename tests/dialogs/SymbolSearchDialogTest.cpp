@@ -107,6 +107,22 @@ TEST_F(SymbolSearchDialog, EveryControlIsReachedWithTheTabKey)
     EXPECT_TRUE(Child<QRadioButton>("types").isChecked()) << "two groups of their own";
 }
 
+TEST_F(SymbolSearchDialog, ArrowKeysChooseInsideEachGroupOfRadioButtons)
+{
+    Open();
+    QTest::mouseClick(&Child<QPushButton>("options"), Qt::LeftButton);
+    Child<QRadioButton>("descriptions").setFocus();
+    Key(Qt::Key_Left);
+    EXPECT_TRUE(Child<QRadioButton>("symbols").isChecked());
+    EXPECT_FALSE(Child<QRadioButton>("descriptions").isChecked());
+    EXPECT_TRUE(Child<QRadioButton>("markets").isChecked()) << "the other group stays";
+    Child<QRadioButton>("markets").setFocus();
+    Key(Qt::Key_Right);
+    EXPECT_TRUE(Child<QRadioButton>("types").isChecked());
+    EXPECT_EQ(Child<CRowList>("filterRows").Model().Rows()[0][0], "EQUITY - Equity");
+    EXPECT_TRUE(Child<QRadioButton>("symbols").isChecked()) << "the other group stays";
+}
+
 TEST_F(SymbolSearchDialog, EscapeCancels)
 {
     Window().Services().Symbol.SetText("KEPT");

@@ -2,6 +2,7 @@
 
 #include "qt/dialogs/CandlePreview.h"
 #include "qt/dialogs/ColorButton.h"
+#include "qt/dialogs/PageScroll.h"
 #include "settings/SettingsWriter.h"
 #include "ui_ColorsPage.h"
 #include "ui_DataPage.h"
@@ -11,6 +12,8 @@
 
 #include <QDialogButtonBox>
 #include <QPushButton>
+#include <QScreen>
+#include <QStyle>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -51,26 +54,35 @@ CSettingSheetDialog::CSettingSheetDialog(QWidget& over, const sSheetSubject& sub
             End(DialogEnd::Ok);
     });
     connect(m_buttons, &QDialogButtonBox::rejected, this, [this] { End(DialogEnd::Cancel); });
+    FitScreen();
 }
 
 CSettingSheetDialog::~CSettingSheetDialog() = default;
 
 QWidget& CSettingSheetDialog::AddPage()
 {
-    auto* const page = new QWidget(m_tabs);
-    m_tabs->addTab(page, "");
+    auto* const page = new QWidget;
+    m_tabs->addTab(new CPageScroll(page), "");
     return *page;
+}
+
+void CSettingSheetDialog::FitScreen()
+{
+    QSize room = screen()->availableGeometry().size();
+    room.rheight() -= style()->pixelMetric(QStyle::PM_TitleBarHeight, nullptr, this);
+    resize(sizeHint().boundedTo(room));
 }
 
 void CSettingSheetDialog::MakePages()
 {
-    Ui::ColorsPage().setupUi(&AddPage());
-    Ui::GeneralPage().setupUi(&AddPage());
-    Ui::DataPage().setupUi(&AddPage());
-    Ui::UpperStudiesPage().setupUi(&AddPage());
-    Ui::LowerStudiesPage().setupUi(&AddPage());
-    for (int page = 0; page < SheetPages; ++page)
-        m_forms[static_cast<std::size_t>(page)] = std::make_unique<CQtForm>(*m_tabs->widget(page));
+    const std::array<QWidget*, SheetPages> pages{&AddPage(), &AddPage(), &AddPage(), &AddPage(), &AddPage()};
+    Ui::ColorsPage().setupUi(pages[0]);
+    Ui::GeneralPage().setupUi(pages[1]);
+    Ui::DataPage().setupUi(pages[2]);
+    Ui::UpperStudiesPage().setupUi(pages[3]);
+    Ui::LowerStudiesPage().setupUi(pages[4]);
+    for (std::size_t page = 0; page < pages.size(); ++page)
+        m_forms[page] = std::make_unique<CQtForm>(*pages[page]);
 }
 
 void CSettingSheetDialog::FollowColors(CCandlePreview& preview)

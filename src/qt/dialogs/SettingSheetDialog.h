@@ -36,6 +36,8 @@ private:
     IForm& Form(int page) override;
     QWidget& AddPage();
     void MakePages();
+    // As large as its pages ask for, and no larger than the screen: pages that do not fit scroll.
+    void FitScreen();
     void FollowColors(CCandlePreview& preview);
 
     const sSheetSubject m_subject;
