@@ -1,5 +1,7 @@
 #include "WholeFile.h"
 
+#include "platform/SyncToDisk.h"
+
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
@@ -111,6 +113,8 @@ std::string WriteWholeFile(const std::string& path, const std::string& text)
         wrong = Reason();
     if (!wrong.empty())
         ::unlink(beside.c_str());
+    else
+        SyncFolder(std::filesystem::path(target).parent_path().string());
     return wrong;
 }
 

@@ -26,7 +26,8 @@ One SQLite file per user: `$ZANTROQ_SETTINGS` if set, else `$XDG_CONFIG_HOME/zan
 from 0 to 4294967295) and `binary`. Names are exact: trailing blanks, slashes, `%` and the empty name are valid.
 
 Several processes may use the file at once. Each write is one transaction in write-ahead mode, so a crash leaves every finished
-write readable. While the file is open, its companions `settings.db-wal` and `settings.db-shm` are in the same folder. Nothing
+write readable. A finished write of zantroq-settings also survives a loss of power, and what a chart window writes reaches the disk
+within a second. While the file is open, its companions `settings.db-wal` and `settings.db-shm` are in the same folder. Nothing
 is created before the first write. The file contains one table, `setting(key, name, type, value)`, with types 1 (sz), 3 (binary)
 and 4 (dword); the header has the application number 0x5A545251 and the user version 1.
 

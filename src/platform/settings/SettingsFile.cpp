@@ -6,8 +6,8 @@
 
 namespace zantroq {
 
-CSettingsFile::CSettingsFile(std::string path, std::chrono::milliseconds patience)
-    : m_path(std::move(path)), m_patience(patience)
+CSettingsFile::CSettingsFile(std::string path, std::chrono::milliseconds patience, Durability durability)
+    : m_path(std::move(path)), m_patience(patience), m_durability(durability)
 {
 }
 

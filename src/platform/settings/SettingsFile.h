@@ -49,10 +49,17 @@ public:
 using SettingValues = std::map<std::string, SettingValue>; // by name, in byte order
 using SettingsTree = std::map<std::string, SettingValues>; // by key path
 
+enum class Durability
+{
+    LossOfPower, // a write has reached the disk when its call returns
+    Crash        // a write survives the end of the process; the caller has the log synced (CSettingsLogSync)
+};
+
 class CSettingsFile
 {
 public:
-    explicit CSettingsFile(std::string path, std::chrono::milliseconds patience = std::chrono::seconds(5));
+    explicit CSettingsFile(std::string path, std::chrono::milliseconds patience = std::chrono::seconds(5),
+                           Durability durability = Durability::LossOfPower);
     ~CSettingsFile();
     CSettingsFile(const CSettingsFile&) = delete;
     CSettingsFile& operator=(const CSettingsFile&) = delete;
@@ -109,6 +116,7 @@ private:
 
     const std::string m_path;
     std::chrono::milliseconds m_patience;
+    const Durability m_durability;
     sqlite3* m_db = nullptr;
     // Prepared statements by their text, kept while the connection is open.
     std::map<std::string, sqlite3_stmt*, std::less<>> m_statements;

@@ -1,6 +1,7 @@
 // The connection of a settings file: opens the file, checks its contents, creates it and words the errors.
 #include "platform/settings/SettingsFile.h"
 
+#include "platform/SyncToDisk.h"
 #include "platform/settings/SettingsFileProbe.h"
 #include "platform/settings/SettingsStatement.h"
 
@@ -21,14 +22,23 @@ constexpr const char* TableText =
     "key TEXT NOT NULL, name TEXT NOT NULL, type INTEGER NOT NULL, value NOT NULL, "
     "PRIMARY KEY(key, name)) WITHOUT ROWID";
 
+// The name of the folder reaches the disk, too: a synced file in it would be lost without.
+bool MakeFolderSynced(const std::filesystem::path& folder)
+{
+    if (::mkdir(folder.c_str(), 0700) != 0)
+        return errno == EEXIST;
+    SyncFolder(folder.parent_path().string());
+    return true;
+}
+
 // Settings folders are private to their user; std::filesystem::create_directories cannot set the mode.
 bool MakeFolders(const std::filesystem::path& folder)
 {
-    if (folder.empty() || ::mkdir(folder.c_str(), 0700) == 0 || errno == EEXIST)
+    if (folder.empty() || MakeFolderSynced(folder))
         return true;
     if (errno != ENOENT || folder == folder.root_path() || !MakeFolders(folder.parent_path()))
         return false;
-    return ::mkdir(folder.c_str(), 0700) == 0 || errno == EEXIST;
+    return MakeFolderSynced(folder);
 }
 
 } // namespace
@@ -160,7 +170,8 @@ void CSettingsFile::OpenConnection(OpenMode mode, const std::string& path, Acces
         m_device = about.st_dev;
         m_inode = about.st_ino;
     }
-    Execute("PRAGMA synchronous=NORMAL", access);
+    Execute(m_durability == Durability::LossOfPower ? "PRAGMA synchronous=FULL" : "PRAGMA synchronous=NORMAL",
+            access);
     CheckContents(access);
 }
 

@@ -1,5 +1,6 @@
 // A key of the user's settings file: CSettingsFile without error reports.
 #include "platform/settings/SettingsFile.h"
+#include "platform/settings/SettingsLogSync.h"
 #include "platform/settings/SettingsPath.h"
 
 #include <chrono>
@@ -14,7 +15,7 @@ class CSettingsKeySqlite final : public ISettingsKey
 {
 public:
     CSettingsKeySqlite(std::string file, std::string key)
-        : m_key(std::move(key)), m_file(std::move(file), Patience)
+        : m_key(std::move(key)), m_logSync(file), m_file(std::move(file), Patience, Durability::Crash)
     {
     }
 
@@ -68,8 +69,10 @@ private:
             std::optional<decltype(call())> result(std::in_place, call());
             m_noReadWaitUntil = {};
             // Reads succeed while another process is writing, so a read says nothing about the next write.
-            if (intent == Intent::Write)
+            if (intent == Intent::Write) {
                 m_noWriteWaitUntil = {};
+                m_logSync.OnWritten();
+            }
             return result;
         } catch (const CSettingsFileError& error) {
             if (error.Problem == SettingsProblem::Locked)
@@ -80,6 +83,7 @@ private:
 
     const std::string m_key;
     std::mutex m_mutex;
+    CSettingsLogSync m_logSync; // outlives m_file, whose end may write as well
     CSettingsFile m_file;
     bool m_waiting = true;
     Clock::time_point m_noReadWaitUntil{}, m_noWriteWaitUntil{};
