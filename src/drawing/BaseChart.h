@@ -1,4 +1,4 @@
-// What a price pane and a study pane have in common: the window they belong to and the scene they draw on.
+// What a price pane and a study pane have in common, and a study pane as the draw manager sees it.
 // Chart window's thread.
 #pragma once
 
@@ -13,8 +13,7 @@ class CBaseChart
 {
 public:
     virtual ~CBaseChart() = default;
-    IChartWindow* dlg = nullptr; // not owned
-    CChart2D* chart = nullptr;   // not owned; set by the draw manager when the pane is made
+    CChart2D* chart = nullptr; // not owned; set by the draw manager when the pane is made
 };
 
 // A study pane as the draw manager sees it.
@@ -39,6 +38,7 @@ public:
     // Writes GetStudyInfoText into the pane's header, its label 1.
     virtual void RefreshStudyHeader() = 0;
 
+    IPaneWindow* dlg = nullptr;           // not owned
     int kind = 0;                         // a StudyKind
     int pane = 0;                         // 1 to 10: the pane's place in the window
     bool collapsed = false;               // shows only its title

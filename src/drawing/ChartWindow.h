@@ -1,11 +1,9 @@
-// What panes, studies and trendlines ask of their chart window. Everything here is the window's own state;
-// the interface keeps the drawing side free of the window. Chart window's thread.
+// What panes, studies and trendlines need of their chart window, as interfaces, so that drawing/ does not
+// include window/. Chart window's thread.
 #pragma once
 
 #include "scene/Chart2D.h"
 #include "settings/ChartSettings.h"
-
-#include <string>
 
 namespace zantroq {
 
@@ -17,21 +15,30 @@ struct sDisplayRange
     int shown = 120;    // points shown: an entry of DisplayMaxPoints, or fewer for a shorter series
     int ptsIndex = 3;   // place in DisplayMaxPoints
     int scrollPos = 0;  // the scroll position last asked for
-    int knownCount = 0; // points that the panes have been told of
+    int knownCount = 0; // points that the panes have taken in
 };
 
-class IChartWindow
+// What a study or a trendline needs of its window.
+class IPaneWindow
 {
 public:
-    virtual ~IChartWindow() = default;
+    virtual ~IPaneWindow() = default;
 
     virtual const sChartSettings& Settings() const = 0;
-    virtual sDisplayRange& Range() = 0;
     virtual const sDisplayRange& Range() const = 0;
+    virtual int ChartPixelWidth() const = 0; // client width of the panes, in pixels
+    virtual CChart2D& Pane(int number) = 0;  // 0 the price pane, k study k
+    virtual bool ResetScale() const = 0;     // a fixed value axis fits itself in this draw
+    virtual void BeginPriceBatch() = 0;      // suspends repainting of the price pane; nested
+    virtual void EndPriceBatch() = 0;
+};
 
-    // The client width of the panes in pixels, and the pane of a number (0 the price pane, k study k).
-    virtual int ChartPixelWidth() const = 0;
-    virtual CChart2D& Pane(int number) = 0;
+// What the price pane and the draw manager need besides.
+class IChartWindow : public IPaneWindow
+{
+public:
+    using IPaneWindow::Range;
+    virtual sDisplayRange& Range() = 0;
     // True for a pane that shows only its title: minimised with none maximised, or another pane is maximised.
     virtual bool IsCollapsed(int pane) const = 0;
 
@@ -39,15 +46,11 @@ public:
     virtual int SelectedPoint() const = 0;
     virtual void SetSelectedPoint(int point) = 0;
 
-    // The one-shot request to fit a fixed value axis again.
-    virtual bool ResetScale() const = 0;
     virtual void ClearResetScale() = 0;
 
-    // Repaint suspension of all panes, nested; and of the price pane alone.
+    // Repaint suspension of all panes, nested.
     virtual void BeginBatch() = 0;
     virtual void EndBatch() = 0;
-    virtual void BeginPriceBatch() = 0;
-    virtual void EndPriceBatch() = 0;
 
     // The scroll bar's limit: range maximum - page + 1.
     virtual int ScrollLimit() const = 0;
@@ -55,9 +58,6 @@ public:
     // Shows or hides the scroll bar and lays the panes out again (their sizes only).
     virtual void SetScrollBarVisible(bool visible) = 0;
     virtual void UpdateZoomButtons() = 0;
-
-    // Text of the status bar's first part; held back while a trendline mode is armed.
-    virtual void SetStatusText(const std::string& text) = 0;
 };
 
 // Suspends repainting of all panes for a scope.
@@ -77,13 +77,13 @@ private:
 class CPriceBatch
 {
 public:
-    explicit CPriceBatch(IChartWindow& window) : m_window(window) { m_window.BeginPriceBatch(); }
+    explicit CPriceBatch(IPaneWindow& window) : m_window(window) { m_window.BeginPriceBatch(); }
     ~CPriceBatch() { m_window.EndPriceBatch(); }
     CPriceBatch(const CPriceBatch&) = delete;
     CPriceBatch& operator=(const CPriceBatch&) = delete;
 
 private:
-    IChartWindow& m_window;
+    IPaneWindow& m_window;
 };
 
 // The trendlines as the price pane and the draw manager see them.

@@ -26,6 +26,8 @@ inline constexpr int ReadoutLabel = 1, PriceTitleLabel = 2, PriceLabels = 9, Pri
 
 class CPriceChart : public CBaseChart
 {
+public:
+    IChartWindow* dlg = nullptr; // not owned
 };
 
 class CHistPriceChart : public CPriceChart

@@ -57,7 +57,7 @@ public:
     void SetMarkers(bool on);
     void ToggleMarkers();
 
-    IChartWindow* m_owner = nullptr; // set by CTrendList::Add
+    IPaneWindow* m_owner = nullptr; // set by CTrendList::Add
     int m_series = 0;
     int m_startIndex = 0;
     int m_endIndex = 0;

@@ -44,7 +44,7 @@ std::vector<int> CFibonacciRetracementsTrend::AllSeries() const
     return all;
 }
 
-int CFibonacciRetracementsTrend::AddLabels(IChartWindow& window)
+int CFibonacciRetracementsTrend::AddLabels(IPaneWindow& window)
 {
     CPaneLabels& labels = window.Pane(0).PaneLabels();
     const int first = labels.Count() + 1;

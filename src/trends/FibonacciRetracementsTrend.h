@@ -26,7 +26,7 @@ public:
     void DescribeKind(sTrendRecord& record) const override { record.FirstLabel = m_firstLabel; }
 
     // Adds the nine labels, hidden, to the price pane; answers the number of the first.
-    static int AddLabels(IChartWindow& window);
+    static int AddLabels(IPaneWindow& window);
 
     std::array<int, Levels> m_levelSeries;
     int m_firstLabel = 0;

@@ -2,7 +2,7 @@
 
 namespace zantroq {
 
-void SetUpTrendSeries(IChartWindow& window, int series)
+void SetUpTrendSeries(IPaneWindow& window, int series)
 {
     CPaneGroup& group = window.Pane(0).PaneGroups(2);
     CPaneData& data = group.PaneData();

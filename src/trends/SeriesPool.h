@@ -13,7 +13,7 @@ class CSeriesPool
 public:
     static constexpr int FirstSeries = 4;
 
-    explicit CSeriesPool(IChartWindow& window) : m_window(window) {}
+    explicit CSeriesPool(IPaneWindow& window) : m_window(window) {}
     // A free number; a never-used one is set up first: solid line, grey marks of size 3.
     int Allocate();
     void GiveBack(int series) { m_freeSeries.push_back(series); }
@@ -22,12 +22,12 @@ public:
     const std::deque<int>& Free() const { return m_freeSeries; }
 
 private:
-    IChartWindow& m_window;
+    IPaneWindow& m_window;
     int m_nextSeries = FirstSeries; // the next never-used number
     std::deque<int> m_freeSeries;
 };
 
 // Brings group 2 up to a new series, shows it and gives it the look of a new trendline.
-void SetUpTrendSeries(IChartWindow& window, int series);
+void SetUpTrendSeries(IPaneWindow& window, int series);
 
 } // namespace zantroq

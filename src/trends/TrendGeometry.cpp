@@ -9,7 +9,7 @@ namespace zantroq {
 
 namespace {
 
-CPaneGroup& Overlay(IChartWindow& window)
+CPaneGroup& Overlay(IPaneWindow& window)
 {
     return window.Pane(0).PaneGroups(2);
 }
@@ -47,14 +47,14 @@ void NumberPoints(CPaneData& data, int base, int shown)
 
 } // namespace
 
-int AxisBase(IChartWindow& window)
+int AxisBase(IPaneWindow& window)
 {
     return static_cast<int>(window.Pane(0).PaneArea().PaneAxes().X().ViewLow().Value());
 }
 
 namespace {
 
-CPaneData& PrepareTrendSeries(IChartWindow& window, int series, const sTrendLook& look, XVector x)
+CPaneData& PrepareTrendSeries(IPaneWindow& window, int series, const sTrendLook& look, XVector x)
 {
     CPaneGroup& group = Overlay(window);
     CLineLook& line = group.SeriesStyles(series).LineLook();
@@ -73,12 +73,12 @@ CPaneData& PrepareTrendSeries(IChartWindow& window, int series, const sTrendLook
 
 } // namespace
 
-std::span<double> BeginTrendSeries(IChartWindow& window, int series, const sTrendLook& look, XVector x)
+std::span<double> BeginTrendSeries(IPaneWindow& window, int series, const sTrendLook& look, XVector x)
 {
     return PrepareTrendSeries(window, series, look, x).YForOverwrite(series);
 }
 
-void WriteTrendLevel(IChartWindow& window, int series, const sTrendLook& look, XVector x, int from,
+void WriteTrendLevel(IPaneWindow& window, int series, const sTrendLook& look, XVector x, int from,
                      double price)
 {
     CPaneData& data = PrepareTrendSeries(window, series, look, x);
@@ -86,19 +86,19 @@ void WriteTrendLevel(IChartWindow& window, int series, const sTrendLook& look, X
     EndTrendSeries(window);
 }
 
-void EndTrendSeries(IChartWindow& window)
+void EndTrendSeries(IPaneWindow& window)
 {
     Overlay(window).CommitPaneData();
 }
 
-void EraseTrendSeries(IChartWindow& window, int series)
+void EraseTrendSeries(IPaneWindow& window, int series)
 {
     const std::span<double> y = Overlay(window).PaneData().YForOverwrite(series);
     std::fill(y.begin(), y.end(), CPaneData::HoleValue());
     EndTrendSeries(window);
 }
 
-int LevelDistance(IChartWindow& window, int series, int p1, int p2, int x, int y)
+int LevelDistance(IPaneWindow& window, int series, int p1, int p2, int x, int y)
 {
     const CPaneGroup& group = Overlay(window);
     int x1 = 0, y1 = 0, x2 = 0, y2 = 0;
@@ -113,7 +113,7 @@ int LevelDistance(IChartWindow& window, int series, int p1, int p2, int x, int y
     return std::abs(y2 - y);
 }
 
-int SegmentDistance(IChartWindow& window, int series, int p1, int p2, int x, int y)
+int SegmentDistance(IPaneWindow& window, int series, int p1, int p2, int x, int y)
 {
     // A line may begin or end a long way off the plot: one map serves all its points.
     const sPlotMap map(window.Pane(0));
@@ -142,7 +142,7 @@ int SegmentDistance(IChartWindow& window, int series, int p1, int p2, int x, int
     return std::abs(RoundedPixels(((y2 - y) * dx - (x2 - x) * dy) / std::sqrt(dy * dy + dx * dx)));
 }
 
-bool ClipRayRange(const IChartWindow& window, int& p1, int& p2)
+bool ClipRayRange(const IPaneWindow& window, int& p1, int& p2)
 {
     p2 = window.Range().shown;
     if (p1 >= p2)

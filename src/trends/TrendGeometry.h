@@ -28,24 +28,24 @@ enum class XVector
     Write
 };
 
-inline int DisplayPosition(const IChartWindow& window, int index)
+inline int DisplayPosition(const IPaneWindow& window, int index)
 {
     return index - window.Range().first + 1;
 }
 
 // The integer part of the x axis's left edge.
-int AxisBase(IChartWindow& window);
+int AxisBase(IPaneWindow& window);
 
 // The values of a series of group 2 for a whole draw to write in place, with its look set: first point 1,
 // drawn to the last displayed point. Empty when the pane has no such series.
-std::span<double> BeginTrendSeries(IChartWindow& window, int series, const sTrendLook& look, XVector x);
+std::span<double> BeginTrendSeries(IPaneWindow& window, int series, const sTrendLook& look, XVector x);
 // Tells the scene that they are written.
-void EndTrendSeries(IChartWindow& window);
+void EndTrendSeries(IPaneWindow& window);
 
 // Writes value(i) at positions from..to of a series and the hole value at the other displayed points. One
 // pass, nothing allocated. Inside of a batch.
 template<class Value>
-void WriteTrendSeries(IChartWindow& window, int series, const sTrendLook& look, XVector x, int from, int to,
+void WriteTrendSeries(IPaneWindow& window, int series, const sTrendLook& look, XVector x, int from, int to,
                       Value value)
 {
     const std::span<double> y = BeginTrendSeries(window, series, look, x);
@@ -61,23 +61,23 @@ void WriteTrendSeries(IChartWindow& window, int series, const sTrendLook& look, 
 }
 
 // Writes one price from a position to the last point, and holes before it. Costs what changes.
-void WriteTrendLevel(IChartWindow& window, int series, const sTrendLook& look, XVector x, int from,
+void WriteTrendLevel(IPaneWindow& window, int series, const sTrendLook& look, XVector x, int from,
                      double price);
 
 // The hole value at every displayed point of a series.
-void EraseTrendSeries(IChartWindow& window, int series);
+void EraseTrendSeries(IPaneWindow& window, int series);
 
 // Pixels from (x, y) to the level line that series draws from position p1 to p2: to an end beyond the ends,
 // |dy| between them. NotHittable when its left end is a hole or off the plot.
-int LevelDistance(IChartWindow& window, int series, int p1, int p2, int x, int y);
+int LevelDistance(IPaneWindow& window, int series, int p1, int p2, int x, int y);
 
 // The segment rule: p1 and p2 first move together over points that are holes or off the plot; then the
 // distance to an end beyond the ends, and to the infinite line between them. NotHittable when no two visible
 // points are left.
-int SegmentDistance(IChartWindow& window, int series, int p1, int p2, int x, int y);
+int SegmentDistance(IPaneWindow& window, int series, int p1, int p2, int x, int y);
 
 // The range of a hit test that starts at a line's left end and runs to the last displayed point; false:
 // nothing to hit.
-bool ClipRayRange(const IChartWindow& window, int& p1, int& p2);
+bool ClipRayRange(const IPaneWindow& window, int& p1, int& p2);
 
 } // namespace zantroq

@@ -14,7 +14,7 @@ constexpr int LeftButton = 1, RightButton = 2;
 
 } // namespace
 
-CTrendInteraction::CTrendInteraction(IChartWindow& window, const IPriceSource& prices, CTrendLists& lists,
+CTrendInteraction::CTrendInteraction(IPaneWindow& window, const IPriceSource& prices, CTrendLists& lists,
                                      IStatusBar& status, IMessageBox& box, IWindowTimer& timer)
     : m_window(window), m_prices(prices), m_trendLists(lists), m_status(status), m_box(box), m_timer(timer)
 {

@@ -18,8 +18,8 @@ public:
     static constexpr int HitLimit = 11; // a distance below this many pixels is a hit
 
     // Nothing is owned. The prices tell how many points there are.
-    CTrendInteraction(IChartWindow& window, const IPriceSource& prices, CTrendLists& lists,
-                      IStatusBar& status, IMessageBox& box, IWindowTimer& timer);
+    CTrendInteraction(IPaneWindow& window, const IPriceSource& prices, CTrendLists& lists, IStatusBar& status,
+                      IMessageBox& box, IWindowTimer& timer);
 
     int State() const { return m_trendState; }
     CBaseTrend* Current() const { return m_currentTrend; }
@@ -51,7 +51,7 @@ private:
     bool MoveThirdPoint(int index, int xi, double x, double y);
     void Prompt(const char* text) { m_status.SetPart(0, text); }
 
-    IChartWindow& m_window;
+    IPaneWindow& m_window;
     const IPriceSource& m_prices;
     CTrendLists& m_trendLists;
     IStatusBar& m_status;

@@ -12,7 +12,7 @@ namespace zantroq {
 class CTrendList
 {
 public:
-    CTrendList(IChartWindow& window, CSeriesPool& pool) : m_owner(window), m_pool(pool) {}
+    CTrendList(IPaneWindow& window, CSeriesPool& pool) : m_owner(window), m_pool(pool) {}
 
     CBaseTrend* Add(std::unique_ptr<CBaseTrend> trend);
     // The first member with the strictly smallest distance, or null with distance -1.
@@ -34,7 +34,7 @@ public:
     CBaseTrend& Item(int index) const { return *m_trends[static_cast<std::size_t>(index)]; } // from 0
 
 private:
-    IChartWindow& m_owner;
+    IPaneWindow& m_owner;
     CSeriesPool& m_pool;
     std::vector<std::unique_ptr<CBaseTrend>> m_trends;
 };

@@ -4,7 +4,7 @@
 
 namespace zantroq {
 
-CTrendLists::CTrendLists(IChartWindow& window) : m_owner(window), m_pool(window)
+CTrendLists::CTrendLists(IPaneWindow& window) : m_owner(window), m_pool(window)
 {
     for (auto& list : m_lists)
         list = std::make_unique<CTrendList>(window, m_pool);

@@ -12,7 +12,7 @@ namespace zantroq {
 class CTrendLists : public ITrendLayer
 {
 public:
-    explicit CTrendLists(IChartWindow& window);
+    explicit CTrendLists(IPaneWindow& window);
 
     // The nearest of all lists; on a tie the earlier kind wins. Null with distance -1 when there is no line.
     CBaseTrend* FindNearest(int x, int y, int* distance);
@@ -37,7 +37,7 @@ public:
     CBaseTrend* m_lastHit = nullptr;      // result of the last FindNearest
 
 private:
-    IChartWindow& m_owner;
+    IPaneWindow& m_owner;
     CSeriesPool m_pool;
     std::array<std::unique_ptr<CTrendList>, TrendKinds> m_lists;
     int m_nextLabel = PriceLabels; // labels in use on the price pane

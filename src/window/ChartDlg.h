@@ -105,7 +105,8 @@ public:
     bool ScrollBarVisible() const override;
     void SetScrollBarVisible(bool visible) override;
     void UpdateZoomButtons() override;
-    void SetStatusText(const std::string& text) override;
+    // Text of the first part; held back while a trendline mode is armed.
+    void SetStatusText(const std::string& text);
     // Text of the first part whatever is armed: the prompts of the trendline modes.
     void SetPrompt(const std::string& text);
 

@@ -16,35 +16,22 @@
 
 namespace zantroq {
 
-class CPlainWindow : public IChartWindow
+class CPlainWindow : public IPaneWindow
 {
 public:
     sChartSettings AllSettings;
     sDisplayRange Shown;
     int Width = 900;
-    bool Reset = false, Collapsed = false;
-    int Selected = NoPoint;
+    bool Reset = false;
     CChart2D Price, Study;
 
     const sChartSettings& Settings() const override { return AllSettings; }
-    sDisplayRange& Range() override { return Shown; }
     const sDisplayRange& Range() const override { return Shown; }
     int ChartPixelWidth() const override { return Width; }
     CChart2D& Pane(int number) override { return number == 0 ? Price : Study; }
-    bool IsCollapsed(int) const override { return Collapsed; }
-    int SelectedPoint() const override { return Selected; }
-    void SetSelectedPoint(int point) override { Selected = point; }
     bool ResetScale() const override { return Reset; }
-    void ClearResetScale() override { Reset = false; }
-    void BeginBatch() override {}
-    void EndBatch() override {}
     void BeginPriceBatch() override {}
     void EndPriceBatch() override {}
-    int ScrollLimit() const override { return 0; }
-    bool ScrollBarVisible() const override { return false; }
-    void SetScrollBarVisible(bool) override {}
-    void UpdateZoomButtons() override {}
-    void SetStatusText(const std::string&) override {}
 };
 
 // Puts the states of the process back to how they start, as a test of its own finds them.

@@ -5,8 +5,6 @@
 #include "drawing/ChartWindow.h"
 
 #include <array>
-#include <string>
-#include <vector>
 
 namespace zantroq {
 
@@ -46,7 +44,6 @@ public:
         ++scrollBarToggles;
     }
     void UpdateZoomButtons() override { ++zoomButtonUpdates; }
-    void SetStatusText(const std::string& text) override { statusTexts.push_back(text); }
 
     sChartSettings settings;
     sDisplayRange range;
@@ -55,7 +52,6 @@ public:
     int pixelWidth = 0, selectedPoint = NoPoint, scrollLimit = 0;
     int batchDepth = 0, priceBatchDepth = 0, batches = 0, scrollBarToggles = 0, zoomButtonUpdates = 0;
     bool resetScale = false, scrollBarVisible = false;
-    std::vector<std::string> statusTexts;
 };
 
 } // namespace zantroq

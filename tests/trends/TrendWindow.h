@@ -8,7 +8,7 @@
 
 namespace zantroq::test {
 
-class CTrendWindow : public IChartWindow
+class CTrendWindow : public IPaneWindow
 {
 public:
     sChartSettings settings;
@@ -17,24 +17,12 @@ public:
     int priceBatches = 0;
 
     const sChartSettings& Settings() const override { return settings; }
-    sDisplayRange& Range() override { return range; }
     const sDisplayRange& Range() const override { return range; }
     int ChartPixelWidth() const override { return 600; }
     CChart2D& Pane(int) override { return pane; }
-    bool IsCollapsed(int) const override { return false; }
-    int SelectedPoint() const override { return NoPoint; }
-    void SetSelectedPoint(int) override {}
     bool ResetScale() const override { return false; }
-    void ClearResetScale() override {}
-    void BeginBatch() override {}
-    void EndBatch() override {}
     void BeginPriceBatch() override { ++priceBatches; }
     void EndPriceBatch() override { --priceBatches; }
-    int ScrollLimit() const override { return 0; }
-    bool ScrollBarVisible() const override { return true; }
-    void SetScrollBarVisible(bool) override {}
-    void UpdateZoomButtons() override {}
-    void SetStatusText(const std::string&) override {}
 
     // What the price pane's whole draw leaves behind.
     void Show(int first, int shown, double low, double high)
