@@ -142,7 +142,7 @@ const std::vector<std::pair<const char*, CCompute>>& Computations()
 void Compute(benchmark::State& state, const CCompute& compute, int count)
 {
     std::vector<double> a(Points), b(Points), c(Points);
-    const IPriceSource& prices = Daily().manager;
+    const IPriceSource& prices = Daily().prices;
     for (auto _ : state) {
         compute(prices, count, a.data(), b.data(), c.data());
         benchmark::ClobberMemory();
@@ -197,7 +197,7 @@ void ReadCloses(benchmark::State& state)
 {
     std::vector<double> closes(Points);
     for (auto _ : state) {
-        Daily().manager.ReadClose(0, Points, closes.data());
+        Daily().prices.ReadClose(0, Points, closes.data());
         benchmark::ClobberMemory();
     }
 }

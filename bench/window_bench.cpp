@@ -75,7 +75,7 @@ public:
     }
 
     CChartDlg& Window() const { return CChartBody::Of(*Chart).Window(); }
-    int Border() const { return Window().Resizer().PaneRect(0).Height; }
+    int Border() const { return Window().Layout().PaneRect(0).Height; }
     // Everything that was asked for is painted.
     static void Settle()
     {

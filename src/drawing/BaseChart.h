@@ -1,5 +1,4 @@
-// What a price pane and a study pane have in common, and a study pane as the draw manager sees it.
-// Chart window's thread.
+// What a price pane and a study pane have in common, and the interface of a study pane. Chart window's thread.
 #pragma once
 
 #include "drawing/ChartWindow.h"

@@ -7,7 +7,7 @@
 
 namespace zantroq {
 
-// The stretch of the series on show. Indices count from 0; `last` is `first + shown - 1`.
+// The displayed part of the series. Indices count from 0; `last` is `first + shown - 1`.
 struct sDisplayRange
 {
     int first = 0;
@@ -54,10 +54,6 @@ public:
 
     // The scroll bar's limit: range maximum - page + 1.
     virtual int ScrollLimit() const = 0;
-    virtual bool ScrollBarVisible() const = 0;
-    // Shows or hides the scroll bar and lays the panes out again (their sizes only).
-    virtual void SetScrollBarVisible(bool visible) = 0;
-    virtual void UpdateZoomButtons() = 0;
 };
 
 // Suspends repainting of all panes for a scope.
@@ -86,14 +82,14 @@ private:
     IPaneWindow& m_window;
 };
 
-// The trendlines as the price pane and the draw manager see them.
+// The trendlines as the price pane sees them.
 class ITrendLayer
 {
 public:
     virtual ~ITrendLayer() = default;
-    virtual int
-    SeriesCount() const = 0; // the last series number taken in group 2 of the price pane, at least 3
-    virtual int LabelCount() const = 0; // labels in use on the price pane, at least 9
+    // The last series number in use in group 2 of the price pane, at least PriceOverlays.
+    virtual int SeriesCount() const = 0;
+    virtual int LabelCount() const = 0; // labels in use on the price pane, at least PriceLabels
     virtual void DrawAll() = 0;         // every line, list by list
 };
 

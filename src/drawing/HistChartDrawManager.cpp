@@ -6,36 +6,16 @@
 
 namespace zantroq {
 
-CHistChartDrawManager::CHistChartDrawManager(IChartWindow& window, IStudyFactory* studiesFactory,
-                                             ITrendLayer* trendLayer)
-    : dlg(window), studyFactory(studiesFactory), trends(trendLayer)
+CHistChartDrawManager::CHistChartDrawManager(IChartWindow& window, CSeriesReader& reader,
+                                             IStudyFactory* studiesFactory, ITrendLayer* trendLayer)
+    : dlg(window),
+      prices(reader),
+      studyFactory(studiesFactory),
+      priceChart(window, window.Pane(0), reader, trendLayer)
 {
-    priceChart.dlg = &window;
-    priceChart.chart = &window.Pane(0);
-    priceChart.manager = this;
 }
 
 CHistChartDrawManager::~CHistChartDrawManager() = default;
-
-void CHistChartDrawManager::SetSeries(CChartHistRequest* request)
-{
-    series = request;
-}
-
-void CHistChartDrawManager::SetDataType(int type)
-{
-    dataType = type;
-}
-
-void CHistChartDrawManager::SetTrends(ITrendLayer* layer)
-{
-    trends = layer;
-}
-
-sPriceWords CHistChartDrawManager::PriceWords() const
-{
-    return {*priceFormatter, series ? series->GetPriceFormat() : 0};
-}
 
 int CHistChartDrawManager::DisplayedStudies() const
 {
@@ -58,7 +38,7 @@ void CHistChartDrawManager::CreateStudies()
         study->chart = &dlg.Pane(k + 1);
         study->kind = kind;
         study->pane = k + 1;
-        study->prices = this;
+        study->prices = &prices;
         study->collapsed = dlg.IsCollapsed(k + 1);
         studies[place] = std::move(study);
     }
@@ -76,7 +56,7 @@ bool CHistChartDrawManager::StudiesAsDisplayed() const
     return true;
 }
 
-void CHistChartDrawManager::FullRedraw()
+std::optional<sDrawnExtent> CHistChartDrawManager::FullRedraw()
 {
     seriesEdited = false;
     const CBatch batch(dlg);
@@ -87,20 +67,30 @@ void CHistChartDrawManager::FullRedraw()
         if (study)
             SetUpStudyPane(*study->chart, dlg.Settings(), study->kind);
     dlg.SetSelectedPoint(NoPoint);
-    if (Count() == 0)
-        return;
-    Draw(dlg.ScrollLimit());
+    if (prices.Count() == 0)
+        return std::nullopt;
+    const sDrawnExtent drawn = Draw(dlg.ScrollLimit());
     RefreshTitles();
+    return drawn;
 }
 
-void CHistChartDrawManager::Draw(int position)
+sDrawnExtent CHistChartDrawManager::Draw(int position)
 {
     const CBatch batch(dlg);
-    priceChart.Draw(position);
+    const sDrawnExtent drawn = DrawPrices(position);
     DrawStudies();
     dlg.ClearResetScale();
     PlaceMarkers();
     RefreshMarkedTitles();
+    return drawn;
+}
+
+// The volume study reads the greatest volume that the price pane found.
+sDrawnExtent CHistChartDrawManager::DrawPrices(int position)
+{
+    const sDrawnExtent drawn = priceChart.Draw(position);
+    prices.SetGreatestVolume(priceChart.maxVolume);
+    return drawn;
 }
 
 // The studies wrote their headers before their markers moved along with the view, and the title does not know
@@ -147,40 +137,48 @@ void CHistChartDrawManager::PlaceMarkers()
             study->chart->PaneArea().PaneMarkers("x").SetPoint(point);
 }
 
-void CHistChartDrawManager::Update(int newPoints)
+std::optional<sDrawnExtent> CHistChartDrawManager::Update(int newPoints)
 {
     const CBatch batch(dlg);
-    if (dataType == TickData) {
-        if (newPoints <= 0)
-            return;
-        priceChart.Draw(dlg.ScrollLimit());
+    const bool ticks = prices.GetDataType() == TickData;
+    if (newPoints == 0 && !ticks)
+        UpdateLastBar();
+    if (newPoints == 0 || (ticks && newPoints < 0))
+        return std::nullopt;
+    const sDrawnExtent drawn = DrawPrices(dlg.ScrollLimit());
+    if (ticks) {
         UpdateStudies();
         // The studies move their own markers along with their points.
         priceChart.chart->PaneArea().PaneMarkers("x").SetPoint(dlg.SelectedPoint());
-        RefreshMarkedTitles();
-    } else if (newPoints == 0) {
-        priceChart.UpdateLastPoint();
     } else {
-        priceChart.Draw(dlg.ScrollLimit());
         DrawStudies();
         PlaceMarkers();
-        RefreshMarkedTitles();
     }
+    RefreshMarkedTitles();
+    return drawn;
+}
+
+void CHistChartDrawManager::UpdateLastBar()
+{
+    if (priceChart.UpdateLastPoint())
+        RefreshReadout();
+}
+
+void CHistChartDrawManager::RefreshReadout()
+{
+    CPaneLabels& labels = priceChart.chart->PaneLabels();
+    if (labels.Count() < ReadoutLabel)
+        return;
+    CPaneLabel& readout = labels.Item(ReadoutLabel);
+    if (readout.Shown())
+        readout.SetText(MakeInfoText(static_cast<int>(readout.DataX())));
 }
 
 void CHistChartDrawManager::DeletePoint(int index)
 {
     seriesEdited = true;
-    if (series)
-        series->RemovePoint(index);
-}
-
-void CHistChartDrawManager::RedrawTrends()
-{
-    if (!trends)
-        return;
-    const CPriceBatch batch(dlg);
-    trends->DrawAll();
+    if (prices.Series())
+        prices.Series()->RemovePoint(index);
 }
 
 void CHistChartDrawManager::RefreshTitles()
@@ -199,15 +197,16 @@ std::string CHistChartDrawManager::MakeInfoText(int point) const
     if (point < 1 || point > bars.PointCount(1))
         return {};
     const int index = dlg.Range().first - 1 + static_cast<int>(bars.PointX(1, point));
-    if (index < 0 || index >= Count())
+    if (index < 0 || index >= prices.Count())
         return {};
     const sChartSettings& settings = dlg.Settings();
+    const int dataType = prices.GetDataType();
     sHIST_DATA record;
-    GetPoint(index, record);
-    std::string text = ReadoutPrices(PriceWords(), dataType, record) + "\n";
-    if (const std::string volume = ReadoutVolume(Volume(index)); !volume.empty())
+    prices.GetPoint(index, record);
+    std::string text = ReadoutPrices(prices.PriceWords(), dataType, record) + "\n";
+    if (const std::string volume = ReadoutVolume(prices.Volume(index)); !volume.empty())
         text += volume + "  ";
-    text += ReadoutTime(dataType, GetTime(index, true));
+    text += ReadoutTime(dataType, prices.GetTime(index, TimeDetail::Milliseconds));
     if (const std::string averages = ReadoutAverages(settings.Overlays, overlays, point); !averages.empty())
         text += "\n" + averages;
     if (const std::string bands = ReadoutBands(settings.Overlays, overlays, point); !bands.empty())

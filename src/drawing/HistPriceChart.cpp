@@ -1,65 +1,32 @@
 #include "drawing/HistPriceChart.h"
 
-#include "drawing/HistChartDrawManager.h"
 #include "drawing/PaneSetup.h"
 #include "drawing/PriceScale.h"
-#include "drawing/SeriesStyleTable.h"
-#include "drawing/TimeTexts.h"
+#include "drawing/SeriesScan.h"
 #include "drawing/XAxis.h"
 #include "drawing/XLabels.h"
 
-#include <array>
+#include <algorithm>
+#include <span>
 
 namespace zantroq {
 
-const CPaneData& CHistPriceChart::Overlays() const
+CHistPriceChart::CHistPriceChart(IChartWindow& window, CChart2D& pane, const CSeriesReader& reader,
+                                 ITrendLayer* trendLayer)
+    : m_prices(reader), m_trends(trendLayer), m_overlays(pane, reader)
 {
-    return chart->PaneGroups(2).PaneData();
+    dlg = &window;
+    chart = &pane;
 }
 
-sPriceWords CHistPriceChart::Words() const
+bool CHistPriceChart::Intraday() const
 {
-    return manager->PriceWords();
-}
-
-bool CHistPriceChart::TickSeries() const
-{
-    return manager->GetDataType() == TickData;
-}
-
-bool CHistPriceChart::ShowsCandles() const
-{
-    return !TickSeries() && Settings().CandleStyle == 1;
+    return TickSeries() || m_prices.GetDataType() == MinuteData;
 }
 
 bool CHistPriceChart::FitsScale() const
 {
     return !Settings().FixedScale || dlg->ResetScale();
-}
-
-double CHistPriceChart::Close(int index) const
-{
-    return manager->Close(index);
-}
-
-double CHistPriceChart::High(int index) const
-{
-    return manager->High(index);
-}
-
-double CHistPriceChart::Low(int index) const
-{
-    return manager->Low(index);
-}
-
-std::int32_t CHistPriceChart::Volume(int index) const
-{
-    return CutVolume(manager->Volume(index));
-}
-
-int CHistPriceChart::Count() const
-{
-    return manager->Count();
 }
 
 void CHistPriceChart::ReadDeletedMarks(int, int, std::vector<std::uint8_t>& marks) const
@@ -71,18 +38,18 @@ void CHistPriceChart::SetupSeries()
 {
     CPaneData& bars = Bars();
     bars.SetLayout(1);
-    bars.SetSeriesCount(PriceSeries());
+    bars.SetSeriesCount(PriceSeriesOf(Shape()));
     bars.SetFirstShownSeries(1);
     bars.SetLastShownSeries(TickSeries() ? 1 : 0);
     bars.SetPointCount(1, 0);
 
-    CPaneData& overlays = Overlays();
-    const int series = manager->Trends() ? manager->Trends()->SeriesCount() : PriceOverlays;
-    overlays.SetLayout(1);
-    overlays.SetSeriesCount(series);
-    overlays.SetFirstShownSeries(1);
-    overlays.SetLastShownSeries(series);
-    overlays.SetPointCount(1, 0);
+    CPaneData& curves = Curves();
+    const int series = m_trends ? m_trends->SeriesCount() : PriceOverlays;
+    curves.SetLayout(1);
+    curves.SetSeriesCount(series);
+    curves.SetFirstShownSeries(1);
+    curves.SetLastShownSeries(series);
+    curves.SetPointCount(1, 0);
     chart->PaneGroups(2).SetChartType(ChartLines);
 }
 
@@ -91,76 +58,171 @@ void CHistPriceChart::SetChartType()
     chart->PaneGroups(1).SetChartType(TickSeries() ? ChartLines : ChartHiLoOpenClose);
 }
 
-void CHistPriceChart::SetUp()
+void CHistPriceChart::SetUpLabels()
 {
     const sChartSettings& settings = Settings();
     CPaneLabels& labels = chart->PaneLabels();
     labels.RemoveAll();
     AddPlainLabel(*chart, settings).SetAttachment(AttachToData);
     AddTitleLabel(*chart);
-    const int wanted = manager->Trends() ? manager->Trends()->LabelCount() : PriceLabels;
+    const int wanted = m_trends ? m_trends->LabelCount() : PriceLabels;
     while (labels.Count() < PriceLabels)
         AddPlainLabel(*chart, settings);
     while (labels.Count() < wanted) // those of the retracements
         AddPlainLabel(*chart, settings)
             .Interior()
             .SetForeground(settings.Trends[TrendFibonacciRetracements].Color);
+}
 
+void CHistPriceChart::SetUp()
+{
+    SetUpLabels();
     SetupSeries();
     SetChartType();
-    ApplyStyles();
+    ApplyPriceStyles(*chart, Settings(), Shape());
     if (FitsScale())
         SetUpValueAxes(*chart); // else the fixed axis outlives the set-up
-    SetUpPaneFrame(*chart, settings, PricePlotBottomPx, settings.PriceLabelColor);
-    SetGrid(*chart, settings);
-}
-
-void CHistPriceChart::ApplyStyles()
-{
-    const SeriesStyleTable table = SeriesStyles(Settings());
-    CPaneGroup& bars = chart->PaneGroups(1);
-    for (int series = 1; series <= PriceSeries(); ++series)
-        ApplyLook(bars.SeriesStyles(series), table[PriceStyle]);
-    if (!TickSeries())
-        ApplyCandleStyles();
-    const bool bands = Settings().Overlays.ShowBands != 0;
-    for (int m = 0; m < PriceOverlays; ++m)
-        ApplyLook(chart->PaneGroups(2).SeriesStyles(m + 1),
-                  table[static_cast<std::size_t>(bands ? BandStyle : AverageStyle + m)]);
-}
-
-void CHistPriceChart::ApplyCandleStyles()
-{
-    const sChartSettings& settings = Settings();
-    CPaneGroup& bars = chart->PaneGroups(1);
-    bars.SetChartType(settings.CandleStyle == 1 ? ChartCandles : ChartHiLoOpenClose);
-    if (settings.CandleStyle != 1)
-        return;
-    constexpr int widthBeforeNarrowing = 5;
-    chart->PaneArea().CandleLook().SetFilled(true);
-    bars.SeriesStyles(2).FillLook().SetColor(settings.UpCandleColor);
-    bars.SeriesStyles(2).LineLook().SetWidth(widthBeforeNarrowing);
-    bars.SeriesStyles(3).FillLook().SetColor(settings.DownCandleColor);
-    bars.SeriesStyles(3).LineLook().SetWidth(widthBeforeNarrowing);
-    bars.SeriesStyles(4).FillLook().SetColor(settings.GridColor);
-    bars.SeriesStyles(4).LineLook().SetPattern(LineSolid);
+    SetUpPaneFrame(*chart, Settings(), PricePlotBottomPx, Settings().PriceLabelColor);
+    SetGrid(*chart, Settings());
 }
 
 void CHistPriceChart::NarrowCandles()
 {
-    if (!ShowsCandles())
+    if (Shape() == PriceShape::Candles)
+        SetCandleWidth(*chart, PixelsPerPoint(dlg->ChartPixelWidth(), dlg->Range().shown));
+}
+
+sDrawnExtent CHistPriceChart::Draw(int position)
+{
+    // A resize can ask for a draw while a chart still loads, before its set-up.
+    if (Bars().SeriesCount() != PriceSeriesOf(Shape()) || Curves().SeriesCount() < PriceOverlays)
+        SetUp();
+    chart->PaneLabels().Item(ReadoutLabel).SetShown(false);
+    const int count = Count();
+    const int wanted = PointsAtPlace(dlg->Range().ptsIndex);
+    PlaceRange(position, count, wanted);
+    ApplyPriceStyles(*chart, Settings(), Shape());
+
+    sDrawnPoints points;
+    points.First = dlg->Range().first;
+    points.Count = count == 0 ? 0 : dlg->Range().shown;
+    points.SeriesCount = count;
+    MakeRoom(points);
+    SetXAxis(*chart, dlg->Range().shown, Settings().Grid != 0);
+    BuildXLabels();
+    LoadBars(points);
+    DrawCurves(points, FitToPrices(points));
+    NarrowCandles();
+    RedrawTrends();
+    return {count, count >= wanted};
+}
+
+void CHistPriceChart::PlaceRange(int position, int count, int wanted)
+{
+    sDisplayRange& range = dlg->Range();
+    const int oldFirst = range.first;
+    if (count < wanted) {
+        range.first = 0;
+        range.last = count - 1;
+        if (count > 0)
+            range.shown = count;
+    } else {
+        const long long last = static_cast<long long>(wanted) - 1 + position;
+        range.last = static_cast<int>(std::clamp<long long>(last, wanted - 1, count - 1));
+        range.first = std::max(0, range.last - wanted + 1);
+        range.shown = wanted;
+    }
+    if (dlg->SelectedPoint() != NoPoint)
+        dlg->SetSelectedPoint(dlg->SelectedPoint() + oldFirst - range.first);
+}
+
+void CHistPriceChart::MakeRoom(const sDrawnPoints& points)
+{
+    CPaneData& bars = Bars();
+    CPaneData& curves = Curves();
+    bars.SetPointCount(1, points.Count);
+    curves.SetPointCount(1, points.Count);
+    bars.NumberPoints();
+    curves.NumberPoints();
+    // A trendline drawn since the set-up has brought its series along.
+    if (curves.LastShownSeries() != 0 && curves.LastShownSeries() < curves.SeriesCount())
+        curves.SetLastShownSeries(curves.SeriesCount());
+}
+
+void CHistPriceChart::LoadBars(sDrawnPoints& points)
+{
+    CPaneData& bars = Bars();
+    ReadDeletedMarks(points.First, points.Count, points.Deleted);
+    using Read = void (IPriceSource::*)(int, int, double*) const;
+    static constexpr std::array<Read, 4> barReads{&IPriceSource::ReadHigh, &IPriceSource::ReadLow,
+                                                  &IPriceSource::ReadOpen, &IPriceSource::ReadClose};
+    for (int series = 1; series <= bars.SeriesCount(); ++series) {
+        const std::span<double> values = bars.YForOverwrite(series);
+        const Read read =
+            TickSeries() ? &IPriceSource::ReadClose : barReads[static_cast<std::size_t>(series - 1)];
+        (m_prices.*read)(points.First, points.Count, values.data());
+        for (std::size_t i = 0; i < points.Deleted.size(); ++i)
+            if (points.Deleted[i])
+                values[i] = CPaneData::HoleValue();
+        bars.SetFirstPoint(series, 1);
+        bars.SetDrawnTo(series, 0);
+        bars.AdvanceDrawn(series, points.Count);
+    }
+    chart->PaneGroups(1).CommitPaneData();
+}
+
+sPriceRange CHistPriceChart::FitToPrices(const sDrawnPoints& points)
+{
+    sPriceRange range;
+    if (!FitsScale())
+        return range;
+    const ReadMarks readMarks = [this](int first, int count, std::vector<std::uint8_t>& marks) {
+        ReadDeletedMarks(first, count, marks);
+    };
+    if (Settings().FixedScale) {
+        ScanPrices(range, m_prices, points.SeriesCount, readMarks);
+        ScanVolumes(range, m_prices, 0, points.SeriesCount, readMarks);
+    } else {
+        IncludePrices(range, Bars().Y(HighSeries), Bars().Y(TickSeries() ? HighSeries : LowSeries),
+                      points.Deleted);
+        ScanVolumes(range, m_prices, points.First, points.Count, readMarks);
+    }
+    maxVolume = range.GreatestVolume;
+    priceDigits = DigitsBeforePoint(range.High);
+    if (points.SeriesCount == 0)
+        SetYScale(0, 0);
+    else
+        SetYScale(range.Top(), range.Low);
+    return range;
+}
+
+// Widens the value axis where a curve leaves it.
+void CHistPriceChart::DrawCurves(const sDrawnPoints& points, sPriceRange prices)
+{
+    const bool fits = FitsScale();
+    const BandRange rule =
+        fits && Settings().FixedScale ? BandRange::OfTheWholeSeries : BandRange::OfTheDrawnPoints;
+    const sPriceRange curves = m_overlays.Draw(Settings().Overlays, points, rule);
+    const CPaneAxis& y = chart->PaneArea().PaneAxes().Y();
+    if (fits && (curves.Low < y.ViewLow().Value() || curves.High > y.ViewHigh().Value())) {
+        prices.Low = std::min(prices.Low, curves.Low);
+        prices.High = std::max(prices.High, curves.High);
+        SetYScale(prices.Top(), prices.Low);
+    }
+    chart->PaneGroups(2).CommitPaneData();
+}
+
+void CHistPriceChart::RedrawTrends()
+{
+    if (!m_trends)
         return;
-    constexpr int leastOutlined = 3; // pixels from which a candle keeps its outline
-    const int pixels = static_cast<int>(PixelsPerPoint(dlg->ChartPixelWidth(), dlg->Range().shown));
-    CPaneGroup& bars = chart->PaneGroups(1);
-    bars.SeriesStyles(2).LineLook().SetWidth(pixels);
-    bars.SeriesStyles(3).LineLook().SetWidth(pixels);
-    bars.SeriesStyles(4).LineLook().SetPattern(pixels < leastOutlined ? LineNone : LineSolid);
+    const CPriceBatch batch(*dlg);
+    m_trends->DrawAll();
 }
 
 void CHistPriceChart::SetYScale(double high, double low)
 {
-    const sPriceWords words = Words();
+    const sPriceWords words = m_prices.PriceWords();
     const std::optional<sPriceScale> scale = MakePriceScale(high, low, words.Code, words.Plain());
     if (!scale)
         return;
@@ -195,24 +257,24 @@ void CHistPriceChart::BuildXLabels()
     view.Shown = range.shown;
     view.PixelsPerPoint = PixelsPerPoint(dlg->ChartPixelWidth(), range.shown);
     view.AxisOnRight = Settings().AxisOnRight;
-    view.Intraday = manager->GetDataType() == TickData || manager->GetDataType() == MinuteData;
-    view.Date = [this](int index) { return manager->GetDate(index); };
-    view.Time = [this](int index) { return manager->GetTime(index, false); };
+    view.Intraday = Intraday();
+    view.Date = [this](int index) { return m_prices.GetDate(index); };
+    view.Time = [this](int index) { return m_prices.GetTime(index, TimeDetail::Seconds); };
     for (const sXLabel& label : MakeXLabels(view))
         labels.Add(label.Position, label.Text);
 }
 
-void CHistPriceChart::UpdateLastPoint()
+bool CHistPriceChart::UpdateLastPoint()
 {
     CPaneData& bars = Bars();
     const int points = bars.PointCount(1);
     // The bar that stands last in the pane: the worker may have appended the next one already.
     const int index = dlg->Range().last;
     if (points == 0 || index < 0 || index >= Count())
-        return;
+        return false;
     sHIST_DATA record;
-    manager->GetPoint(index, record);
-    int point = 0;
+    m_prices.GetPoint(index, record);
+    const int point = TickSeries() ? static_cast<int>(bars.PointX(1, points)) : bars.DrawnTo(1);
     bool changed = false;
     const auto set = [&](int series, double value) {
         if (bars.PointY(series, point) == value)
@@ -221,31 +283,18 @@ void CHistPriceChart::UpdateLastPoint()
         changed = true;
     };
     if (TickSeries()) {
-        point = static_cast<int>(bars.PointX(1, points));
         set(1, record.Close);
         if (changed)
-            manager->RedrawTrends();
+            RedrawTrends();
     } else {
-        point = bars.DrawnTo(1);
-        set(1, record.High);
-        set(2, record.Low);
-        set(3, record.Open);
-        set(4, record.Close);
+        set(HighSeries, record.High);
+        set(LowSeries, record.Low);
+        set(OpenSeries, record.Open);
+        set(CloseSeries, record.Close);
     }
-    if (!changed)
-        return;
-    RefreshReadout();
-    if (dlg->SelectedPoint() == point)
+    if (changed && dlg->SelectedPoint() == point)
         RefreshTitle();
-}
-
-void CHistPriceChart::RefreshReadout()
-{
-    if (chart->PaneLabels().Count() < ReadoutLabel)
-        return;
-    CPaneLabel& readout = chart->PaneLabels().Item(ReadoutLabel);
-    if (readout.Shown())
-        readout.SetText(manager->MakeInfoText(static_cast<int>(readout.DataX())));
+    return changed;
 }
 
 std::array<std::string, 8> CHistPriceChart::GetInfo() const
@@ -256,21 +305,22 @@ std::array<std::string, 8> CHistPriceChart::GetInfo() const
     const int index = range.first + point - 1;
     if (point < 1 || point > range.shown || index >= Count())
         return texts;
-    const sPriceWords words = Words();
+    const sPriceWords words = m_prices.PriceWords();
     if (TickSeries()) {
         texts[0] = words.Info(Close(index));
     } else {
         texts[0] = "Hi: " + words.Info(High(index));
         texts[1] = "Low: " + words.Info(Low(index));
-        texts[2] = "Open: " + words.Info(manager->Open(index));
+        texts[2] = "Open: " + words.Info(m_prices.Open(index));
         texts[3] = "Close: " + words.Info(Close(index));
     }
-    const sTIME_W_MILLISECONDS time = manager->TimeAt(index);
+    const sTIME_W_MILLISECONDS time = m_prices.TimeAt(index);
     texts[4] = PointDateText(time);
-    if (manager->GetDataType() == TickData || manager->GetDataType() == MinuteData)
+    if (Intraday())
         texts[5] = ClockMillisecondsText(time);
-    texts[6] = InfoAverages(words, Settings().Overlays, Overlays(), point);
-    texts[7] = InfoBands(words, Settings().Overlays, Overlays(), point);
+    const CPaneData& curves = chart->PaneGroups(2).PaneData();
+    texts[6] = InfoAverages(words, Settings().Overlays, curves, point);
+    texts[7] = InfoBands(words, Settings().Overlays, curves, point);
     return texts;
 }
 
@@ -287,7 +337,7 @@ void CHistPriceChart::SetTitle(const std::string& text)
 {
     static constexpr std::array<const char*, 5> names{
         "Tick Price: ", "Minute Price: ", "Daily Price: ", "Weekly Price: ", "Monthly Price: "};
-    const int type = manager->GetDataType();
+    const int type = m_prices.GetDataType();
     if (chart->PaneLabels().Count() < PriceTitleLabel || type < TickData || type > MonthlyData)
         return;
     CPaneLabel& title = chart->PaneLabels().Item(PriceTitleLabel);

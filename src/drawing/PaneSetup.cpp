@@ -42,7 +42,6 @@ void SetUpMarker(CPaneMarker& marker, const sChartSettings& settings)
     marker.SetPoint(NoPoint);
     marker.LineLook().SetPattern(LineSolid);
     marker.LineLook().SetWidth(1);
-    marker.LineLook().SetColor(settings.PriceBarColor);
 }
 
 void SetUpXAxis(CPaneAxis& x, int points)
@@ -79,17 +78,23 @@ ColorValue StudyLabelColor(const sChartSettings& settings, int kind)
                                           : settings.PriceLabelColor;
 }
 
-void SetUpPaneFrame(CChart2D& chart, const sChartSettings& settings, int bottomPx, ColorValue labelColor)
+void SetPaneColors(CChart2D& chart, const sChartSettings& settings, ColorValue labelColor)
 {
     CPaneArea& area = chart.PaneArea();
     SetColors(chart.PaneInterior(), settings.BackgroundColor, labelColor);
     SetColors(area.Interior(), settings.BackgroundColor, labelColor);
     SetColors(area.PlotFrame().Interior(), settings.BackgroundColor, labelColor);
+    area.PaneMarkers("x").LineLook().SetColor(settings.PriceBarColor);
+}
+
+void SetUpPaneFrame(CChart2D& chart, const sChartSettings& settings, int bottomPx, ColorValue labelColor)
+{
+    CPaneArea& area = chart.PaneArea();
+    SetPaneColors(chart, settings, labelColor);
     area.PlotFrame().TopMargin().SetValue(PlotTopPx);
     area.PlotFrame().BottomMargin().SetValue(bottomPx);
     SetUpMarker(area.PaneMarkers("x"), settings);
-    SetUpXAxis(area.PaneAxes().X(),
-               DisplayMaxPoints[static_cast<std::size_t>(std::clamp(settings.PtsIndex, 0, 14))]);
+    SetUpXAxis(area.PaneAxes().X(), PointsAtPlace(settings.PtsIndex));
     SetAxisSide(chart, settings.ValueAxisSide());
 }
 

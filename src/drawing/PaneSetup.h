@@ -1,5 +1,5 @@
-// What every pane looks like at the start of a chart, and the two switches that change all panes alike: the
-// side of the value axis and the grid. Chart window's thread.
+// What every pane looks like at the start of a chart, and the changes that apply to all panes alike: the side
+// of the value axis, the grid and the colors. Chart window's thread.
 #pragma once
 
 #include "scene/Chart2D.h"
@@ -16,24 +16,26 @@ inline constexpr ColorValue TitleForeground = 0xFFFFFF, TitleBackground = 0x2323
 // kind (no kind: those of the price pane).
 void SetUpStudyPane(CChart2D& chart, const sChartSettings& settings, int kind);
 
-// The axes, margins, marker and colors alone, as the price pane needs them too; labelColor is that of axis
-// texts.
+// The axes, margins, marker and colors alone, as the price pane needs them too; labelColor is the color of
+// axis texts.
 void SetUpPaneFrame(CChart2D& chart, const sChartSettings& settings, int bottomPx, ColorValue labelColor);
+
+// Background, axis texts (labelColor) and price bar of a pane that keeps what it shows.
+void SetPaneColors(CChart2D& chart, const sChartSettings& settings, ColorValue labelColor);
 
 // Both value axes from 1 to 2 with a spacing of 15.
 void SetUpValueAxes(CChart2D& chart);
 
-// A new title label behind those that are there: white on dark grey, at the pane's top left, hidden while it
-// has no text.
+// Appends a title label: white on dark grey, at the pane's top left, hidden while it has no text.
 CPaneLabel& AddTitleLabel(CChart2D& chart);
 
-// A new hidden label with the look that trendline texts start from.
+// Appends a hidden label with the style that trendline texts start from.
 CPaneLabel& AddPlainLabel(CChart2D& chart, const sChartSettings& settings);
 
 // Which value axis is drawn, and the margins that go with it.
 void SetAxisSide(CChart2D& chart, AxisSide side);
 
-// The same at a change of the setting: each label of the side given up goes over with its value and text.
+// The same after a change of the setting: the labels move to the new side with their values and texts.
 void MoveValueAxis(CChart2D& chart, AxisSide side);
 
 // Grid lines in the style of the settings at each label of the x axis and of the left value axis, or none.

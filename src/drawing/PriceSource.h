@@ -1,4 +1,4 @@
-// What studies and the price pane read of a series. The draw manager implements it over the running request;
+// What studies and the price pane read of a series. CSeriesReader implements it over the running request,
 // tests over plain vectors. Single reads answer 0 outside the series and take the series' lock for one value;
 // the bulk reads take it once.
 #pragma once

@@ -29,10 +29,10 @@ std::string MinuteTimeText(const sTIME_W_MILLISECONDS& time)
     return FormatTime(time, "%H:%M:%Smin");
 }
 
-std::string PointTimeText(const sTIME_W_MILLISECONDS& time, int dataType, bool withMilliseconds)
+std::string PointTimeText(const sTIME_W_MILLISECONDS& time, int dataType, TimeDetail detail)
 {
     if (dataType == TickData)
-        return withMilliseconds ? ClockMillisecondsText(time) : ClockText(time);
+        return detail == TimeDetail::Milliseconds ? ClockMillisecondsText(time) : ClockText(time);
     return dataType == MinuteData ? ClockText(time) : PointDateText(time);
 }
 

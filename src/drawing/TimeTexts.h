@@ -12,11 +12,17 @@ namespace zantroq {
 inline constexpr const char* NoDateText = "1900/01/01";
 inline constexpr const char* NoTimeText = "00:00:00";
 
+enum class TimeDetail
+{
+    Seconds,
+    Milliseconds // of ticks; all other data types have none
+};
+
 std::string PointDateText(const sTIME_W_MILLISECONDS& time); // "2014/01/02"
 
 // Ticks "09:30:01", with milliseconds "09:30:01.250"; minutes "09:30:01"; daily, weekly, monthly the date.
 // dataType is a DataType.
-std::string PointTimeText(const sTIME_W_MILLISECONDS& time, int dataType, bool withMilliseconds);
+std::string PointTimeText(const sTIME_W_MILLISECONDS& time, int dataType, TimeDetail detail);
 
 std::string ClockText(const sTIME_W_MILLISECONDS& time);             // "09:30:01"
 std::string ClockMillisecondsText(const sTIME_W_MILLISECONDS& time); // "09:30:01.250"

@@ -3,7 +3,6 @@
 #include "export/DialogJson.h"
 #include "scene/PaneFile.h"
 #include "window/ChartDlg.h"
-#include "window/ChartsResizer.h"
 #include "window/ContextMenus.h"
 #include "window/MessageRecorder.h"
 #include "window/WindowTexts.h"
@@ -44,16 +43,16 @@ Json RangeToJson(const CChartDlg& window)
     return json;
 }
 
-Json LayoutToJson(const CChartsResizer& resizer)
+Json LayoutToJson(const CPaneLayout& layout)
 {
-    const sPaneStack& stack = resizer.Stack();
+    const sPaneStack& stack = layout.Stack();
     const int panes = PaneCount(stack);
     Json types = Json::array(), bounds = Json::array(), bottoms = Json::array(), minimized = Json::array();
     for (int k = 0; k < panes - 1; ++k)
         types.push_back(stack.StudyTypes[static_cast<std::size_t>(k)]);
     for (int k = 0; k <= panes; ++k) {
         bounds.push_back(Number(stack.Bounds[static_cast<std::size_t>(k)]));
-        bottoms.push_back(resizer.Bottoms()[static_cast<std::size_t>(k)]);
+        bottoms.push_back(layout.Bottoms()[static_cast<std::size_t>(k)]);
     }
     for (int k = 0; k < panes; ++k)
         minimized.push_back(stack.Minimized[static_cast<std::size_t>(k)]);
@@ -64,8 +63,8 @@ Json LayoutToJson(const CChartsResizer& resizer)
     json["bottoms"] = std::move(bottoms);
     json["maximizedIndex"] = stack.MaximizedIndex;
     json["minimized"] = std::move(minimized);
-    json["topOffset"] = resizer.TopOffset();
-    json["height"] = resizer.Height();
+    json["topOffset"] = layout.TopOffset();
+    json["height"] = layout.Height();
     return json;
 }
 
@@ -122,7 +121,7 @@ Json PanesToJson(const CChartDlg& window)
 {
     Json panes = Json::array();
     for (int pane = 0; pane < window.ShownPanes(); ++pane) {
-        const sPaneRect rect = window.Resizer().PaneRect(pane);
+        const sPaneRect rect = window.Layout().PaneRect(pane);
         sPanePlace place;
         place.Control = FirstPaneControl + pane;
         if (pane > 0)
@@ -149,7 +148,7 @@ std::string ChartSnapshotText(const CChartDlg& window)
     json["dataType"] = settings.Request.DataType;
     json["intervalMinutes"] = IntervalMinutesAt(settings.Request.IntervalIndex);
     json["range"] = RangeToJson(window);
-    json["layout"] = LayoutToJson(window.Resizer());
+    json["layout"] = LayoutToJson(window.Layout());
     json["commands"] = CommandsToJson(window);
     json["statusParts"] = {window.StatusPart(0), window.StatusPart(1), window.StatusPart(2)};
     json["boxes"] = BoxesToJson(window);

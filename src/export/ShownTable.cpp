@@ -119,7 +119,7 @@ std::string ShownValuesCsv(const CChartDlg& window)
         AddMoment(text, data.Time, settings.Request.DataType <= MinuteData);
         for (const sColumn& column : prices)
             write(column, point);
-        text += "," + std::to_string(window.DrawManager().Volume(first + point - 1));
+        text += "," + std::to_string(window.Prices().Volume(first + point - 1));
         for (const sColumn& column : curves)
             write(column, point);
         text += '\n';

@@ -1,7 +1,7 @@
 #include "printing/PrintedChart.h"
 
 #include "window/ChartDlg.h"
-#include "window/ChartsResizer.h"
+#include "window/PaneLayout.h"
 
 #include <utility>
 
@@ -19,7 +19,7 @@ const CChart2D& CPrintedChart::Pane(int pane) const
 
 sPaneSize CPrintedChart::ClientSize(int pane) const
 {
-    const sPaneRect rect = m_window.Resizer().PaneRect(pane);
+    const sPaneRect rect = m_window.Layout().PaneRect(pane);
     return {rect.Width, rect.Height};
 }
 

@@ -4,6 +4,7 @@
 
 #include "platform/Color.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <string>
@@ -77,6 +78,13 @@ inline constexpr std::array<int, 11> IntervalMinutes{1, 2, 3, 4, 5, 10, 15, 30, 
 // The numbers of points that can be shown, by PtsIndex.
 inline constexpr std::array<int, 15> DisplayMaxPoints{30,   60,   90,    120,   240,   480,    960,   1920,
                                                       3840, 7680, 15360, 30720, 61440, 122880, 245760};
+inline constexpr int LastPointsPlace = static_cast<int>(DisplayMaxPoints.size()) - 1;
+
+// The entry at a place; a place outside the list reads as its nearer end.
+constexpr int PointsAtPlace(int place)
+{
+    return DisplayMaxPoints[static_cast<std::size_t>(std::clamp(place, 0, LastPointsPlace))];
+}
 
 // The moving averages and Bollinger Bands of the price pane.
 struct sOverlaySettings
@@ -122,14 +130,18 @@ struct sStudySettings
     ColorValue AdxNegativeColor = 0x0000FF, AdxPositiveColor = 0xB48246;
 };
 
+inline constexpr int MaxPanes = StudyKinds + 1; // the price pane and every study
+inline constexpr int NoMaximizedPane = 999;
+
 // The stack of panes: which studies are displayed, and the pane borders as fractions of the height.
 struct sPaneStack
 {
     std::int32_t StudyCount = 1; // 0 to 10
-    std::array<std::int32_t, 10> StudyTypes{StudyVolume};
-    std::array<double, 12> Bounds{0.0, 0.66, 1.0}; // Bounds[0] is 0; Bounds[k + 1] is the bottom of pane k
-    std::int32_t MaximizedIndex = 999;             // 999: none
-    std::array<std::int32_t, 11> Minimized{};
+    std::array<std::int32_t, StudyKinds> StudyTypes{StudyVolume};
+    // Bounds[0] is 0; Bounds[k + 1] is the bottom of pane k.
+    std::array<double, MaxPanes + 1> Bounds{0.0, 0.66, 1.0};
+    std::int32_t MaximizedIndex = NoMaximizedPane;
+    std::array<std::int32_t, MaxPanes> Minimized{};
 };
 
 struct sChartSettings

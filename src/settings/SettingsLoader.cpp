@@ -144,7 +144,7 @@ void LoadRow(CSettingsStore& store, sChartSettings& settings, const sSettingRow&
     }
     auto& panes = settings.Panes;
     if (row.Id == MaximizedId && (panes.MaximizedIndex < 0 || panes.MaximizedIndex > panes.StudyCount))
-        panes.MaximizedIndex = 999;
+        panes.MaximizedIndex = NoMaximizedPane;
 }
 
 } // namespace

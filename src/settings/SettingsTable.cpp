@@ -244,6 +244,12 @@ std::string SettingName(const sSettingRow& row, int number)
     return name;
 }
 
+std::string SettingName(int id, int number)
+{
+    const auto* row = FindSetting(id);
+    return row ? SettingName(*row, number) : std::string();
+}
+
 std::optional<sSettingPlace> FindSetting(std::string_view storedName)
 {
     for (const Row& row : Rows) {

@@ -102,6 +102,7 @@ std::string_view SettingName(int id);
 
 // The stored name of one value of an indexed row, such as "Top of chart 2"; for any other row its name.
 std::string SettingName(const sSettingRow& row, int number);
+std::string SettingName(int id, int number); // empty for an unknown id
 
 struct sSettingPlace
 {

@@ -81,7 +81,7 @@ std::string CheckTogether(const sChartSettings& settings, const sSettingPlace& p
     if ((place.Row->Id == MacdShortId || place.Row->Id == MacdLongId) &&
         studies.MacdShort >= studies.MacdLong)
         return "MACD short period must be shorter then MACD long period";
-    if (place.Row->Id == MaximizedId && panes.MaximizedIndex != 999 &&
+    if (place.Row->Id == MaximizedId && panes.MaximizedIndex != NoMaximizedPane &&
         (panes.MaximizedIndex < 0 || panes.MaximizedIndex > panes.StudyCount))
         return TextFromInt(panes.MaximizedIndex) + " is no pane; use 999 for none, or 0 to " +
                TextFromInt(panes.StudyCount);

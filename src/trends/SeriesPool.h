@@ -3,6 +3,7 @@
 #pragma once
 
 #include "drawing/ChartWindow.h"
+#include "drawing/PricePaneNumbers.h"
 
 #include <deque>
 
@@ -11,7 +12,7 @@ namespace zantroq {
 class CSeriesPool
 {
 public:
-    static constexpr int FirstSeries = 4;
+    static constexpr int FirstSeries = PriceOverlays + 1;
 
     explicit CSeriesPool(IPaneWindow& window) : m_window(window) {}
     // A free number; a never-used one is set up first: solid line, grey marks of size 3.

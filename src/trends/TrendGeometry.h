@@ -39,7 +39,7 @@ int AxisBase(IPaneWindow& window);
 // The values of a series of group 2 for a whole draw to write in place, with its look set: first point 1,
 // drawn to the last displayed point. Empty when the pane has no such series.
 std::span<double> BeginTrendSeries(IPaneWindow& window, int series, const sTrendLook& look, XVector x);
-// Tells the scene that they are written.
+// Ends the writing of a series: the scene takes the values over.
 void EndTrendSeries(IPaneWindow& window);
 
 // Writes value(i) at positions from..to of a series and the hole value at the other displayed points. One

@@ -7,13 +7,6 @@
 
 namespace zantroq {
 
-namespace {
-
-constexpr int PriceControl = 341;
-constexpr int LeftButton = 1, RightButton = 2;
-
-} // namespace
-
 CTrendInteraction::CTrendInteraction(IPaneWindow& window, const IPriceSource& prices, CTrendLists& lists,
                                      IStatusBar& status, IMessageBox& box, IWindowTimer& timer)
     : m_window(window), m_prices(prices), m_trendLists(lists), m_status(status), m_box(box), m_timer(timer)
@@ -54,11 +47,11 @@ bool CTrendInteraction::OnMouseDown(int control, int button, int x, int y)
 {
     if (m_trendState == TrendIdle)
         return false;
-    if (button == RightButton) {
+    if (button == MouseRight) {
         OnRightClick();
         return true;
     }
-    if (button != LeftButton || control != PriceControl)
+    if (button != MouseLeft || control != FirstPaneControl)
         return false;
     OnLeftClick(x, y);
     return true;

@@ -3,6 +3,7 @@
 // events; chart window's thread.
 #pragma once
 
+#include "drawing/PaneControls.h"
 #include "drawing/PriceSource.h"
 #include "platform/WindowServices.h"
 #include "trends/TrendLists.h"
@@ -13,7 +14,6 @@ namespace zantroq {
 class CTrendInteraction
 {
 public:
-    static constexpr int FlashTimer = 108;
     static constexpr int FlashMilliseconds = 500;
     static constexpr int HitLimit = 11; // a distance below this many pixels is a hit
 
@@ -26,8 +26,8 @@ public:
 
     // True when the command was one of drawing or deleting trendlines.
     bool OnCommand(int command);
-    // Events of panes 341 to 351 in pane pixels; button 1 left, 2 right. False in state 0, where the window
-    // has its own rules, and for a left click beside the price pane.
+    // Events of a pane control in pane pixels; `button` is a MouseButton. False in state 0, where the window
+    // has its own rules, and for a left click outside the price pane.
     bool OnMouseDown(int control, int button, int x, int y);
     bool OnMouseMove(int x, int y);
     void OnFlashTimer();

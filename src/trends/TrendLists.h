@@ -2,6 +2,7 @@
 // they go with the data that they were drawn on. One per window, on its thread.
 #pragma once
 
+#include "drawing/PricePaneNumbers.h"
 #include "trends/TrendList.h"
 
 #include <array>
@@ -33,7 +34,6 @@ public:
     int SeriesCount() const override { return m_pool.Next() - 1; }
     int LabelCount() const override { return m_nextLabel; }
 
-    static constexpr int PriceLabels = 9; // labels up to this number belong to the price pane
     CBaseTrend* m_lastHit = nullptr;      // result of the last FindNearest
 
 private:

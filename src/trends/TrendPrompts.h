@@ -95,6 +95,8 @@ inline constexpr std::array<sTrendCommandRow, 9> TrendCommands{{
     {AskDeleteAllTrends, "Delete All Trendlines", TrendIdle, ""},
 }};
 
+inline constexpr int FlashTimer = 108; // flashes the trendline that a box asks about
+
 // Row of a trendline command; null for any other command.
 const sTrendCommandRow* FindTrendCommand(int command);
 

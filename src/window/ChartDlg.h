@@ -1,36 +1,35 @@
 // The chart window without its toolkit: from a symbol to a live chart, scrolling, zoom, pane layout,
-// inspection and deletion of points, bars. It owns the series, the panes and the draw manager and forwards
-// each event to the collaborator whose job it is.
+// inspection and deletion of points, bars. It owns the series, the panes, the draw manager and its
+// collaborators, each of which has one job, and gives each event to the collaborator whose job it is.
 //
 // Everything runs on one thread, the chart window's; the series alone is shared with the feed's worker. The
-// same core runs inside real widgets, off screen, and under fakes: what it needs of a desktop it asks of
-// sWindowServices.
+// same class runs inside real widgets, off screen, and under fakes: it asks sWindowServices for everything
+// that a desktop provides.
 //
-// Life: construct, AttachTrends if there are trendlines, Initialise once the services answer, then events,
-// Destroy (the destructor does it too). The services must outlive the window.
+// Life: construct, Initialise once the services answer, then events, Destroy (the destructor does it too). The
+// services must outlive the window.
 #pragma once
 
-#include "drawing/ChartWindow.h"
-#include "drawing/HistChartDrawManager.h"
-#include "market/ChartHistRequest.h"
-#include "platform/WindowServices.h"
-#include "platform/settings/SettingsKey.h"
-#include "window/ChartFeed.h"
+#include "window/AllPanes.h"
+#include "window/BatchCounters.h"
+#include "window/ChartLifecycle.h"
+#include "window/ChartsResizer.h"
+#include "window/DialogCommands.h"
+#include "window/DisplayRange.h"
+#include "window/ManagerDrawing.h"
 #include "window/MessageRecorder.h"
-#include "window/WindowCommands.h"
-#include "window/WindowDialogs.h"
-#include "window/WindowTrends.h"
+#include "window/PointInspection.h"
+#include "window/StoredChanges.h"
+#include "window/TrendDrawing.h"
+#include "window/WindowBars.h"
+#include "window/WindowPlacement.h"
 
 #include <array>
-#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace zantroq {
-
-class CChartsResizer;
-struct sChartParts;
 
 struct sChartDlgSetup
 {
@@ -43,7 +42,7 @@ struct sChartDlgSetup
     IWindowTrends* Trends = nullptr;     // null: the window's own
 };
 
-class CChartDlg : public IChartWindow
+class CChartDlg : public IChartWindow, private ILifecycleEvents
 {
 public:
     explicit CChartDlg(const sChartDlgSetup& setup);
@@ -58,10 +57,10 @@ public:
 
     // What the host sets.
     void SetSymbol(const std::string& text);
-    void SetResizeParentWindow(bool resize);
-    bool ResizeParentWindow() const;
+    void SetResizeParentWindow(bool resize) { m_placement.SetResizeParentWindow(resize); }
+    bool ResizeParentWindow() const { return m_placement.ResizeParentWindow(); }
 
-    // Events of the face. Control numbers are 341 to 351, pixels are the pane's own.
+    // Events of the face. `control` is FirstPaneControl and up, pixels are the pane's own.
     void OnTimer(int id);
     void OnCommand(int command);     // runs it, enabled or not; the two check buttons flip here
     void OnMenuCommand(int command); // a pick of the open context menu; 0 closes it
@@ -71,7 +70,7 @@ public:
     void OnChartMouseUp(int control, int button, int shift, int x, int y);
     void OnKeyPress(int control, int code);
     void OnSymbolChanged();
-    void OnSymbolEnter(); // Enter in the symbol box
+    void OnSymbolEnter() { DrawChart(); } // Enter in the symbol box
     void OnDataTypeChanged(int forced);
     void OnIntervalChanged();
     void OnResize();  // the client size changed, or the bars' height
@@ -84,54 +83,112 @@ public:
     bool ApplySetting(const std::string& name, const std::string& value, std::string& error);
     // A settings sheet closed with OK.
     void ApplySettings(const sSettingsEdit& edit);
+    // Text of the first part of the status line; held back while a trendline mode is armed.
+    void SetStatusText(const std::string& text) { m_status.Message(text); }
 
     // IChartWindow
-    const sChartSettings& Settings() const override;
-    sDisplayRange& Range() override;
-    const sDisplayRange& Range() const override;
-    int ChartPixelWidth() const override;
-    CChart2D& Pane(int number) override;
-    const CChart2D& Pane(int number) const;
-    bool IsCollapsed(int pane) const override;
-    int SelectedPoint() const override;
-    void SetSelectedPoint(int point) override;
-    bool ResetScale() const override;
-    void ClearResetScale() override;
-    void BeginBatch() override;
-    void EndBatch() override;
-    void BeginPriceBatch() override;
-    void EndPriceBatch() override;
-    int ScrollLimit() const override;
-    bool ScrollBarVisible() const override;
-    void SetScrollBarVisible(bool visible) override;
-    void UpdateZoomButtons() override;
-    // Text of the first part; held back while a trendline mode is armed.
-    void SetStatusText(const std::string& text);
-    // Text of the first part whatever is armed: the prompts of the trendline modes.
-    void SetPrompt(const std::string& text);
+    const sChartSettings& Settings() const override { return m_settings; }
+    sDisplayRange& Range() override { return m_display.Range(); }
+    const sDisplayRange& Range() const override { return m_display.Range(); }
+    int ChartPixelWidth() const override { return m_layout.PanesWidth(); }
+    CChart2D& Pane(int number) override { return m_panes.at(static_cast<std::size_t>(number)); }
+    const CChart2D& Pane(int number) const { return m_panes.at(static_cast<std::size_t>(number)); }
+    bool IsCollapsed(int pane) const override { return m_layout.IsCollapsed(pane); }
+    int SelectedPoint() const override { return m_inspection.SelectedPoint(); }
+    void SetSelectedPoint(int point) override { m_inspection.SetSelectedPoint(point); }
+    bool ResetScale() const override { return m_scaleReset; }
+    void ClearResetScale() override { m_scaleReset = false; }
+    void BeginBatch() override { m_batch.Begin(); }
+    void EndBatch() override { m_batch.End(); }
+    void BeginPriceBatch() override { m_batch.BeginPrice(); }
+    void EndPriceBatch() override { m_batch.EndPrice(); }
+    int ScrollLimit() const override { return m_services.Scroll.Limit(); }
 
     // What the window knows, for the snapshot, replay scripts and the face.
-    sChartSettings& MutableSettings(); // for trendline styles and tests; writes nothing
-    CChartHistRequest* Series() const; // null before Initialise and after Destroy
-    CHistChartDrawManager& DrawManager();
-    const CHistChartDrawManager& DrawManager() const;
-    const CChartsResizer& Resizer() const;
-    IWindowTrends& Trends() const;
-    const sWindowServices& Services() const;
-    const std::string& CurrentSymbol() const;
-    int Loading() const;                           // 1 while a chart loads
-    bool CompleteAndDrawn() const;                 // the reply is complete and on show
-    int ShownPanes() const;                        // price pane and displayed studies
-    int ClickedPane() const;                       // the pane of the last context menu
-    const std::string& StatusPart(int part) const; // 0 to 2
-    const std::optional<sContextMenu>& OpenMenu() const;
+    bool ScrollBarVisible() const { return m_services.Scroll.Visible(); }
+    CChartHistRequest* Series() const
+    {
+        return m_lifecycle.Series();
+    } // null before Initialise, after Destroy
+    const CSeriesReader& Prices() const { return m_prices; }
+    CHistChartDrawManager& DrawManager() { return m_manager; }
+    const CPaneLayout& Layout() const { return m_layout; }
+    IWindowTrends& Trends() const { return m_trends; }
+    const sWindowServices& Services() const { return m_services; }
+    const std::string& CurrentSymbol() const { return m_lifecycle.CurrentSymbol(); }
+    int Loading() const { return m_lifecycle.Loading() ? 1 : 0; }  // 1 while a chart loads
+    bool CompleteAndDrawn() const;                                 // the reply is complete and on show
+    int ShownPanes() const { return PaneCount(m_settings.Panes); } // price pane and displayed studies
+    int ClickedPane() const { return m_clickedPane; }              // the pane of the last context menu
+    const std::string& StatusPart(int part) const { return m_status.Part(part); } // 0 to 2
+    const std::optional<sContextMenu>& OpenMenu() const { return m_openMenu; }
     sContextMenu MenuOf(int pane) const; // what a pane's context menu would hold now
-    const std::vector<sAskedBox>& AskedBoxes() const;
-    IDialogDriver* OpenDialog() const; // null: no dialog is open
+    const std::vector<sAskedBox>& AskedBoxes() const { return m_recorder.Boxes(); }
+    IDialogDriver* OpenDialog() const { return m_dialogs.OpenDialog(); } // null: no dialog is open
 
 private:
-    std::array<CChart2D, PaneControls> m_panes; // there before the parts, which take them by number
-    std::unique_ptr<sChartParts> m_parts;
+    // ILifecycleEvents
+    void SavePosition() override { m_placement.SaveIfAsked(); }
+    void RememberSymbol(const std::string& symbol) override { m_bars.RememberSymbol(symbol); }
+    void RequestScaleReset() override { m_scaleReset = true; }
+    void ChartDropped() override { m_bars.ShowLastTrade(""); }
+    void ChartRequested() override;
+    void SeriesPolled() override;
+
+    enum class ScaleReset
+    {
+        AsChanged, // a fixed scale that was switched on fits itself once
+        Now
+    };
+
+    void RunCommand(int command);
+    void RestorePoints(int command);
+    void OnLeftPress(int pane, int x, int y);
+    void OnRightPress(int pane, int x, int y);
+    void ShowMenu(int pane, int x, int y);
+    bool IsShown(int pane) const { return pane >= 0 && pane < ShownPanes(); }
+
+    // The effects are a combination of SettingEffect, as the settings table gives them for what differs
+    // between the settings in force and those wanted, which are already stored.
+    void Apply(const sChartSettings& wanted, unsigned effects, ScaleReset scale);
+    void ApplyEffects(unsigned effects, const sPaneStack& wantedPanes);
+    std::string TakeSymbol();
+    void RebuildGrid();
+    void ShowEmptyPanes();
+    void RedrawWithoutRequest();
+
+    // Collaborators get what they need at construction, so the order matters: each uses those above it. The
+    // trendlines alone write into the status line, which holds messages back while they are armed.
+    std::array<CChart2D, PaneControls> m_panes;
+    CMessageRecorder m_recorder;
+    sWindowServices m_services;  // with the recorder as its message box
+    CRetryingKey m_key;          // takes the user's changes; loading reads the host's key
+    ILoginVerification* m_login; // may be null
+    sChartSettings m_settings;
+    CSettingsStore m_store;
+    CBatchCounters m_batch;
+    CSeriesReader m_prices;
+    CTrendDrawing m_ownTrends;
+    IWindowTrends& m_trends;
+    CStatusText m_status;
+    CHistChartDrawManager m_manager;
+    CPaneLayout m_layout;
+    CRangeBars m_rangeBars;
+    CManagerDrawing m_drawing;
+    CDisplayRange m_display;
+    CChartsResizer m_resizer;
+    CPointInspection m_inspection;
+    CWindowPlacement m_placement;
+    CWindowBars m_bars;
+    CAllPanes m_allPanes;
+    CStoredChanges m_storedChanges;
+    CDialogCommands m_dialogs;
+    CChartLifecycle m_lifecycle;
+    std::optional<sContextMenu> m_openMenu;
+    int m_clickedPane = 0;
+    bool m_scaleReset = false;
+    bool m_initialising = true; // a symbol set meanwhile is kept and starts no chart
+    bool m_ready = false;       // events are taken
 };
 
 } // namespace zantroq

@@ -1,5 +1,7 @@
 #include "window/ChartLifecycle.h"
 
+#include "settings/SettingIds.h"
+#include "settings/SettingsTable.h"
 #include "window/RequestBuilder.h"
 #include "window/WindowCommands.h"
 #include "window/WindowTexts.h"
@@ -17,12 +19,14 @@ constexpr const char* LoadingDataText = "Loading Data...";
 
 CChartLifecycle::CChartLifecycle(sChartSettings& settings, CSettingsStore& store,
                                  const sWindowServices& services, IChartFeed& feed, CStatusText& status,
-                                 CDisplayRange& range, IPaneDrawing& drawing, ILifecycleEvents& events)
+                                 IWindowTrends& trends, CDisplayRange& range, IPaneDrawing& drawing,
+                                 ILifecycleEvents& events)
     : m_settings(settings),
       m_store(store),
       m_services(services),
       m_feed(feed),
       m_status(status),
+      m_trends(trends),
       m_range(range),
       m_drawing(drawing),
       m_events(events)
@@ -109,8 +113,7 @@ bool CChartLifecycle::DrawChart()
 
 void CChartLifecycle::DropChart()
 {
-    if (m_trends != nullptr)
-        m_trends->ResetState();
+    m_trends.ResetState();
     FitFixedScale();
     m_services.Timer.Stop(ProgressTimer);
     UnwatchAndClear();
@@ -127,8 +130,7 @@ void CChartLifecycle::UnwatchAndClear()
 
 void CChartLifecycle::RequestChart()
 {
-    if (m_trends != nullptr)
-        m_trends->RemoveAll();
+    m_trends.RemoveAll();
     m_series->SetSymbol(m_currentSymbol);
     // The new type reaches the panes before they are cleared, since their axes and series counts depend on
     // it.
@@ -184,9 +186,9 @@ void CChartLifecycle::OnDataTypeChanged(int forced)
             UnwatchAndClear();
         // A type that nobody chose may be the default of one that could not be read.
         if (isChosen)
-            m_store.WriteInt("RequestDataType", request.DataType);
+            m_store.WriteInt(SettingName(DataTypeId), request.DataType);
         else
-            m_store.FillIn("RequestDataType", request.DataType);
+            m_store.FillIn(SettingName(DataTypeId), request.DataType);
         if (HasSymbolText())
             DrawChart();
     }
@@ -204,11 +206,11 @@ void CChartLifecycle::OnIntervalChanged()
     if (selected == request.IntervalIndex)
         return;
     request.IntervalIndex = selected;
-    m_store.WriteInt("RequestIntervalIndex", selected);
+    m_store.WriteInt(SettingName(IntervalIndexId), selected);
     m_services.Commands.Enable(CommandDrawChart, false);
     if (HasSymbolText())
         UnwatchAndClear();
-    m_store.FillIn("RequestDataType", request.DataType);
+    m_store.FillIn(SettingName(DataTypeId), request.DataType);
     if (HasSymbolText())
         DrawChart();
 }

@@ -1,4 +1,4 @@
-// The road from a symbol to a live chart: drops the old chart, sends the request, polls the series on a timer
+// From a symbol to a live chart: drops the old chart, sends the request, polls the series on a timer
 // and switches the window between its idle, loading and live states. Chart window's thread; the series alone
 // is shared with the worker.
 #pragma once
@@ -18,7 +18,7 @@ namespace zantroq {
 
 class IWindowTrends;
 
-// What the lifecycle tells the rest of its window.
+// What the lifecycle reports to its window.
 class ILifecycleEvents
 {
 public:
@@ -26,7 +26,7 @@ public:
     virtual void SavePosition() = 0; // if positions are to be saved
     virtual void RememberSymbol(const std::string& symbol) = 0;
     virtual void RequestScaleReset() = 0; // a fixed value axis fits itself once
-    virtual void ChartDropped() = 0;      // the series is empty, the panes still show what it was
+    virtual void ChartDropped() = 0;      // the series is empty; the panes still show the previous chart
     virtual void ChartRequested() = 0;    // symbol, type and interval are new
     virtual void SeriesPolled() = 0;      // a tick on a complete series
 };
@@ -35,10 +35,9 @@ class CChartLifecycle
 {
 public:
     CChartLifecycle(sChartSettings& settings, CSettingsStore& store, const sWindowServices& services,
-                    IChartFeed& feed, CStatusText& status, CDisplayRange& range, IPaneDrawing& drawing,
-                    ILifecycleEvents& events);
+                    IChartFeed& feed, CStatusText& status, IWindowTrends& trends, CDisplayRange& range,
+                    IPaneDrawing& drawing, ILifecycleEvents& events);
 
-    void SetTrends(IWindowTrends* trends) { m_trends = trends; }
     void Start(); // creates the series; "Ready..."
     void End();   // gives the series up
 
@@ -69,10 +68,10 @@ private:
     sWindowServices m_services;
     IChartFeed& m_feed;
     CStatusText& m_status;
+    IWindowTrends& m_trends;
     CDisplayRange& m_range;
     IPaneDrawing& m_drawing;
     ILifecycleEvents& m_events;
-    IWindowTrends* m_trends = nullptr; // not owned
     std::unique_ptr<CChartHistRequest> m_series;
     std::string m_currentSymbol;
     bool m_loading = false;

@@ -4,30 +4,16 @@
 
 namespace zantroq {
 
-namespace {
-
-constexpr int LastPlace = static_cast<int>(DisplayMaxPoints.size()) - 1;
-// The zoom-out button compares with this number and not with the last place of the list, so it stays usable
-// there.
-constexpr int ZoomOutPlace = 59;
-
-int PointsAt(int place)
-{
-    return DisplayMaxPoints[static_cast<std::size_t>(std::clamp(place, 0, LastPlace))];
-}
-
-} // namespace
-
-CDisplayRange::CDisplayRange(sChartSettings& settings, IScrollBar& bar, ICommandBar& commands,
-                             CStatusText& status, IPaneDrawing& drawing)
-    : m_settings(settings), m_bar(bar), m_commands(commands), m_status(status), m_drawing(drawing)
+CDisplayRange::CDisplayRange(sChartSettings& settings, IScrollBar& bar, CStatusText& status,
+                             IPaneDrawing& drawing)
+    : m_settings(settings), m_bar(bar), m_status(status), m_drawing(drawing)
 {
 }
 
 void CDisplayRange::SetUp()
 {
-    m_range.ptsIndex = std::clamp(m_settings.PtsIndex, 0, LastPlace);
-    m_range.shown = PointsAt(m_range.ptsIndex);
+    m_range.ptsIndex = std::clamp(m_settings.PtsIndex, 0, LastPointsPlace);
+    m_range.shown = PointsAtPlace(m_range.ptsIndex);
     m_bar.SetRange(0, m_range.shown);
     m_bar.SetPage(m_range.shown);
     m_bar.SetPosition(0);
@@ -37,8 +23,8 @@ void CDisplayRange::SetUp()
 
 void CDisplayRange::ResetShown()
 {
-    m_range.ptsIndex = std::clamp(m_settings.PtsIndex, 0, LastPlace);
-    m_range.shown = PointsAt(m_range.ptsIndex);
+    m_range.ptsIndex = std::clamp(m_settings.PtsIndex, 0, LastPointsPlace);
+    m_range.shown = PointsAtPlace(m_range.ptsIndex);
     m_bar.SetPage(m_range.shown);
 }
 
@@ -48,7 +34,8 @@ void CDisplayRange::RecomputeScrollStep()
         m_scrollStep = m_settings.ScrollItems;
         return;
     }
-    const double step = static_cast<double>(PointsAt(m_range.ptsIndex)) * m_settings.ScrollPercent / 100.0;
+    const double step =
+        static_cast<double>(PointsAtPlace(m_range.ptsIndex)) * m_settings.ScrollPercent / 100.0;
     m_scrollStep = step < 1 ? 1 : static_cast<int>(std::min(step, 1e9));
 }
 
@@ -85,7 +72,7 @@ void CDisplayRange::OnHScroll(ScrollCode code, int position)
         break;
     }
     m_range.scrollPos = x;
-    // A dragged thumb draws when it is let go, which the end of the scroll tells.
+    // A dragged thumb draws when it is released: the scroll ends with EndScroll.
     if (code == ScrollCode::ThumbPosition || code == ScrollCode::ThumbTrack)
         return;
     m_bar.SetPosition(x);
@@ -102,13 +89,13 @@ void CDisplayRange::ZoomIn()
         return;
     do {
         --m_range.ptsIndex;
-    } while (PointsAt(m_range.ptsIndex) >= count);
+    } while (PointsAtPlace(m_range.ptsIndex) >= count);
     ApplyPoints();
 }
 
 void CDisplayRange::ZoomOut()
 {
-    if (m_range.ptsIndex >= LastPlace)
+    if (m_range.ptsIndex >= LastPointsPlace)
         return;
     ++m_range.ptsIndex;
     ApplyPoints();
@@ -117,21 +104,12 @@ void CDisplayRange::ZoomOut()
 void CDisplayRange::ApplyPoints()
 {
     m_settings.PtsIndex = m_range.ptsIndex;
-    m_range.shown = PointsAt(m_range.ptsIndex);
+    m_range.shown = PointsAtPlace(m_range.ptsIndex);
     m_bar.SetPage(m_range.shown);
     m_range.scrollPos = m_bar.Position();
     m_drawing.Draw(m_bar.Position());
     if (!m_settings.ScrollByItems)
         RecomputeScrollStep();
-    UpdateZoomButtons();
-}
-
-void CDisplayRange::UpdateZoomButtons()
-{
-    const int count = m_drawing.Count();
-    m_commands.Enable(CommandZoomIn, m_range.ptsIndex != 0 && count > DisplayMaxPoints.front());
-    m_commands.Enable(CommandZoomOut,
-                      m_range.ptsIndex != ZoomOutPlace && PointsAt(m_range.ptsIndex) <= count);
 }
 
 bool CDisplayRange::AtLimit() const
@@ -170,6 +148,12 @@ void CDisplayRange::ReportPoints(int count)
 {
     m_status.Message(std::to_string(count) + " datapoints available.  Displaying " +
                      std::to_string(m_range.shown) + ".");
+}
+
+void CDisplayRange::ChangePoints()
+{
+    ResetShown();
+    Redraw();
 }
 
 void CDisplayRange::Redraw()

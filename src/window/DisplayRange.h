@@ -1,5 +1,5 @@
-// The stretch of the series on show: moved by the scroll bar, narrowed and widened by the zoom, and carried
-// along by new data while it stands at the live edge. Chart window's thread.
+// The displayed part of the series: the scroll bar moves it, the zoom narrows and widens it, and it follows
+// new data while it stands at the live edge. Chart window's thread.
 //
 // A scroll position s means that the rightmost point shown is index shown - 1 + s.
 #pragma once
@@ -15,8 +15,7 @@ namespace zantroq {
 class CDisplayRange
 {
 public:
-    CDisplayRange(sChartSettings& settings, IScrollBar& bar, ICommandBar& commands, CStatusText& status,
-                  IPaneDrawing& drawing);
+    CDisplayRange(sChartSettings& settings, IScrollBar& bar, CStatusText& status, IPaneDrawing& drawing);
 
     sDisplayRange& Range() { return m_range; }
     const sDisplayRange& Range() const { return m_range; }
@@ -28,12 +27,9 @@ public:
     void OnHScroll(ScrollCode code, int position);
     void ZoomIn();
     void ZoomOut();
-    void UpdateZoomButtons();
     void RecomputeScrollStep();
-    int ScrollStep() const
-    {
-        return m_scrollStep;
-    } // kept with the settings; the bar's own steps are 1 and the page
+    // Kept with the settings; the bar's own steps are 1 and the page.
+    int ScrollStep() const { return m_scrollStep; }
 
     // The timer's readings of a series of `count` points.
     void NoteLoading(int count) { m_range.knownCount = count; }
@@ -42,8 +38,8 @@ public:
     void ReportPoints(int count); // "%d datapoints available.  Displaying %d."
     bool AtLimit() const;         // the bar stands at its right end, as a short series always does
 
-    // Draws where the bar stands.
-    void Redraw();
+    void ChangePoints(); // takes a new "PTS INDEX" and draws where the bar stands then
+    void Redraw();       // draws where the bar stands
 
 private:
     void ApplyPoints(); // after a change of ptsIndex
@@ -51,7 +47,6 @@ private:
 
     sChartSettings& m_settings;
     IScrollBar& m_bar;
-    ICommandBar& m_commands;
     CStatusText& m_status;
     IPaneDrawing& m_drawing;
     sDisplayRange m_range;

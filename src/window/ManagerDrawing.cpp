@@ -1,32 +1,50 @@
 #include "window/ManagerDrawing.h"
 
-#include "drawing/PriceFormatter.h"
-
 namespace zantroq {
-
-int CManagerDrawing::Count() const
-{
-    return m_manager.Series() != nullptr ? m_manager.Count() : 0;
-}
 
 void CManagerDrawing::SetSource(CChartHistRequest* request, int dataType)
 {
-    m_manager.SetDataType(dataType);
-    m_manager.SetSeries(request);
+    m_prices.SetDataType(dataType);
+    m_prices.SetSeries(request);
 }
 
 void CManagerDrawing::ClearPanes()
 {
     ++m_chartNumber;
-    // Without a series the whole redraw sets the panes up and draws nothing. What an older reply may still
-    // append meanwhile is not shown, and the mark of an edited series stays until the new one has arrived.
-    CChartHistRequest* const series = m_manager.Series();
+    // Without a series the whole redraw sets the panes up and draws nothing. Points that an older reply may
+    // still append meanwhile are not shown, and the mark of an edited series stays until the new one has
+    // arrived.
+    CChartHistRequest* const series = m_prices.Series();
     const bool edited = m_manager.seriesEdited;
-    m_manager.SetSeries(nullptr);
+    m_prices.SetSeries(nullptr);
     m_manager.CreateStudies();
     m_manager.FullRedraw();
-    m_manager.SetSeries(series);
+    m_prices.SetSeries(series);
     m_manager.seriesEdited = edited;
+}
+
+void CManagerDrawing::FullRedraw()
+{
+    const CBatch batch(m_window);
+    Follow(m_manager.FullRedraw());
+}
+
+void CManagerDrawing::Draw(int position)
+{
+    const CBatch batch(m_window);
+    Follow(m_manager.Draw(position));
+}
+
+void CManagerDrawing::Update(int newPoints)
+{
+    const CBatch batch(m_window);
+    Follow(m_manager.Update(newPoints));
+}
+
+void CManagerDrawing::Follow(const std::optional<sDrawnExtent>& drawn)
+{
+    if (drawn)
+        m_bars.Follow(*drawn, m_window.Range().ptsIndex);
 }
 
 void CManagerDrawing::AdjustStudyBars()
@@ -36,10 +54,11 @@ void CManagerDrawing::AdjustStudyBars()
             study->AdjustStudyBars();
 }
 
+// By the series' format code, also where the readout would write a price plainly.
 std::string CManagerDrawing::PriceText(double price) const
 {
-    const CChartHistRequest* const series = m_manager.Series();
-    return ShippedPriceFormatter().Format(price, series != nullptr ? series->GetPriceFormat() : 0);
+    const sPriceWords words = m_prices.PriceWords();
+    return words.Formatter.Format(price, words.Code);
 }
 
 } // namespace zantroq

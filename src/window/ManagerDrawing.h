@@ -1,37 +1,49 @@
-// The draw manager as the window's collaborators see it. Chart window's thread.
+// The draw manager as the window's collaborators see it. Carries out what a draw reports: the scroll bar and
+// the zoom buttons follow inside the same batch. Chart window's thread.
 #pragma once
 
 #include "drawing/HistChartDrawManager.h"
 #include "window/PaneDrawing.h"
+#include "window/RangeBars.h"
 
 namespace zantroq {
 
 class CManagerDrawing : public IPaneDrawing
 {
 public:
-    explicit CManagerDrawing(CHistChartDrawManager& manager) : m_manager(manager) {}
+    // Nothing is owned; all must outlive this.
+    CManagerDrawing(IChartWindow& window, CHistChartDrawManager& manager, CSeriesReader& prices,
+                    CRangeBars& bars)
+        : m_window(window), m_manager(manager), m_prices(prices), m_bars(bars)
+    {
+    }
 
-    int Count() const override;
+    int Count() const override { return m_prices.Count(); }
     int ChartNumber() const override { return m_chartNumber; }
     void SetSource(CChartHistRequest* request, int dataType) override;
     void ClearPanes() override;
-    void FullRedraw() override { m_manager.FullRedraw(); }
-    void Draw(int position) override { m_manager.Draw(position); }
-    void Update(int newPoints) override { m_manager.Update(newPoints); }
+    void FullRedraw() override;
+    void Draw(int position) override;
+    void Update(int newPoints) override;
     void RefreshTitles() override { m_manager.RefreshTitles(); }
     void AdjustStudyBars() override;
     void RebuildStudies() override { m_manager.CreateStudies(); }
     void DeletePoint(int index) override { m_manager.DeletePoint(index); }
     bool SeriesEdited() const override { return m_manager.seriesEdited; }
     std::string MakeInfoText(int point) const override { return m_manager.MakeInfoText(point); }
-    void GetPoint(int index, sHIST_DATA& point) const override { m_manager.GetPoint(index, point); }
-    std::string Date(int index) const override { return m_manager.GetDate(index); }
-    std::string Time(int index) const override { return m_manager.GetTime(index, false); }
-    std::string MinuteTime(int index) const override { return m_manager.GetMinuteTime(index); }
+    void GetPoint(int index, sHIST_DATA& point) const override { m_prices.GetPoint(index, point); }
+    std::string Date(int index) const override { return m_prices.GetDate(index); }
+    std::string Time(int index) const override { return m_prices.GetTime(index, TimeDetail::Seconds); }
+    std::string MinuteTime(int index) const override { return m_prices.GetMinuteTime(index); }
     std::string PriceText(double price) const override;
 
 private:
+    void Follow(const std::optional<sDrawnExtent>& drawn);
+
+    IChartWindow& m_window;
     CHistChartDrawManager& m_manager;
+    CSeriesReader& m_prices;
+    CRangeBars& m_bars;
     int m_chartNumber = 0;
 };
 

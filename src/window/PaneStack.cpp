@@ -6,7 +6,6 @@ namespace zantroq {
 
 namespace {
 
-constexpr int GrabMargin = 3; // pixels to either side of a border
 constexpr int SmallPane = MinPaneHeight + GrabMargin;
 
 std::size_t At(int index)

@@ -1,5 +1,5 @@
-// The arithmetic of the pane stack, free of any window: which heights stored fractions and pane states give,
-// and what a border drag or a pane command does to them. Pure functions over sPaneStack.
+// The arithmetic of the pane stack, without a window: the heights that stored fractions and pane states give,
+// and how a border drag or a pane command changes them. Pure functions over sPaneStack.
 #pragma once
 
 #include "settings/ChartSettings.h"
@@ -10,12 +10,11 @@
 
 namespace zantroq {
 
-inline constexpr int MaxPanes = 11;
 inline constexpr int MinPaneHeight = 16; // pixels
-inline constexpr int NoMaximizedPane = 999;
+inline constexpr int GrabMargin = 3;     // pixels to either side of a border
 
 // Pixel positions: [0] is 0, [k + 1] the bottom of pane k.
-using PaneBottoms = std::array<int, 12>;
+using PaneBottoms = std::array<int, MaxPanes + 1>;
 
 int PaneCount(const sPaneStack& stack); // studies and the price pane, 1 to 11
 bool IsMinimized(const sPaneStack& stack, int pane);

@@ -1,5 +1,6 @@
 #include "window/PointInspection.h"
 
+#include "drawing/PricePaneNumbers.h"
 #include "window/WindowTexts.h"
 
 #include <algorithm>
@@ -12,10 +13,9 @@ namespace {
 constexpr int FollowDistance = 4;   // beyond it the nearest point in x is taken instead
 constexpr int ReadoutDistance = 10; // a click below it shows the readout
 constexpr int DeleteDistance = 9;   // a right click beyond it opens the menu
-constexpr int ReadoutLabel = 1;
-constexpr int HighSeries = 1, LowSeries = 2;
 
-int SegmentDistance(int x, int y, int x1, int y1, int x2, int y2)
+// Pixels from (x, y) to the bar from (x1, y1) to (x2, y2), its ends included; 1000 at most.
+int BarDistance(int x, int y, int x1, int y1, int x2, int y2)
 {
     const double dx = static_cast<double>(x2) - x1, dy = static_cast<double>(y2) - y1;
     const double mx = static_cast<double>(x) - x1, my = static_cast<double>(y) - y1;
@@ -37,7 +37,7 @@ sNearPoint NearestBar(const CPaneGroup& group, int shown, int x, int y)
         int x1 = 0, y1 = 0, x2 = 0, y2 = 0;
         group.DataToPixel(data.PointX(HighSeries, point), high, x1, y1);
         group.DataToPixel(data.PointX(HighSeries, point), low, x2, y2);
-        const int distance = SegmentDistance(x, y, x1, y1, x2, y2);
+        const int distance = BarDistance(x, y, x1, y1, x2, y2);
         if (distance < nearest.Distance)
             nearest = {point, distance};
     }

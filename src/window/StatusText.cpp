@@ -6,7 +6,7 @@ namespace zantroq {
 
 void CStatusText::Message(const std::string& text)
 {
-    if (m_trends != nullptr && m_trends->State() != 0)
+    if (m_trends.State() != 0)
         return;
     m_message = text;
     SetPart(0, m_notice.empty() ? text : text + "  " + m_notice);

@@ -14,18 +14,18 @@ class IWindowTrends;
 class CStatusText : public IStatusBar
 {
 public:
-    explicit CStatusText(IStatusBar& bar) : m_bar(bar) {}
-    void SetTrends(const IWindowTrends* trends) { m_trends = trends; }
+    // Nothing is owned. The constructor keeps `trends` and asks nothing of them.
+    CStatusText(IStatusBar& bar, const IWindowTrends& trends) : m_bar(bar), m_trends(trends) {}
 
     void Message(const std::string& text);
-    // Stands behind the messages until it is taken away with an empty text.
+    // Follows every message until it is cleared with an empty text.
     void SetNotice(const std::string& notice);
     void SetPart(int part, const std::string& text) override; // unconditional: prompts, and parts 1 and 2
     const std::string& Part(int part) const { return m_parts.at(static_cast<std::size_t>(part)); }
 
 private:
     IStatusBar& m_bar;
-    const IWindowTrends* m_trends = nullptr; // not owned
+    const IWindowTrends& m_trends;
     std::string m_message, m_notice;
     std::array<std::string, 3> m_parts;
 };

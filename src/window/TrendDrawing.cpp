@@ -24,7 +24,7 @@ sTrendRecord RecordOf(const CBaseTrend& trend)
 
 } // namespace
 
-CTrendDrawing::CTrendDrawing(IChartWindow& window, const IPriceSource& prices, IMessageBox& box,
+CTrendDrawing::CTrendDrawing(IPaneWindow& window, const IPriceSource& prices, IMessageBox& box,
                              IWindowTimer& timer, std::function<void(const std::string&)> prompt)
     : m_window(window),
       m_bar(std::move(prompt)),

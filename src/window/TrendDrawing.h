@@ -1,5 +1,5 @@
-// The trendlines of one chart window: its lists and the mouse machine that draws and deletes them, behind
-// what the window knows of them. Chart window's thread.
+// The trendlines of one chart window: its lists and the mouse machine that draws and deletes them. Implements
+// the interface by which the window uses them. Chart window's thread.
 #pragma once
 
 #include "drawing/PriceSource.h"
@@ -15,9 +15,9 @@ namespace zantroq {
 class CTrendDrawing : public IWindowTrends
 {
 public:
-    // `prompt` writes a text into the status bar's first part, whatever is armed. Nothing is owned; all must
-    // outlive this.
-    CTrendDrawing(IChartWindow& window, const IPriceSource& prices, IMessageBox& box, IWindowTimer& timer,
+    // `prompt` writes a text into the status line's first part, also while a mode is armed. Nothing is owned;
+    // all must outlive this.
+    CTrendDrawing(IPaneWindow& window, const IPriceSource& prices, IMessageBox& box, IWindowTimer& timer,
                   std::function<void(const std::string&)> prompt);
 
     int State() const override { return m_machine.State(); }
@@ -48,7 +48,7 @@ private:
         std::function<void(const std::string&)> m_prompt;
     };
 
-    IChartWindow& m_window;
+    IPaneWindow& m_window;
     CPromptBar m_bar;
     CTrendLists m_lists;
     CTrendInteraction m_machine;

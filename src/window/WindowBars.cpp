@@ -1,5 +1,7 @@
 #include "window/WindowBars.h"
 
+#include "settings/SettingIds.h"
+#include "settings/SettingsTable.h"
 #include "window/WindowCommands.h"
 #include "window/WindowDialogs.h"
 #include "window/WindowTexts.h"
@@ -59,7 +61,7 @@ bool CWindowBars::FlipGrid()
 {
     m_settings.Grid = m_services.Commands.IsChecked(CommandGrid) ? 0 : 1;
     m_services.Commands.Check(CommandGrid, m_settings.Grid != 0);
-    m_store.WriteInt("GRID", m_settings.Grid);
+    m_store.WriteInt(SettingName(GridId), m_settings.Grid);
     return m_settings.Grid != 0;
 }
 
@@ -67,7 +69,7 @@ bool CWindowBars::FlipPriceBar()
 {
     m_settings.ShowPriceBar = m_services.Commands.IsChecked(CommandPriceBar) ? 0 : 1;
     m_services.Commands.Check(CommandPriceBar, m_settings.ShowPriceBar != 0);
-    m_store.WriteInt("Show Price Bar", m_settings.ShowPriceBar);
+    m_store.WriteInt(SettingName(ShowPriceBarId), m_settings.ShowPriceBar);
     return m_settings.ShowPriceBar != 0;
 }
 

@@ -1,7 +1,8 @@
-// The window's numbers: commands, controls, timers and scroll codes, as toolbars, menus and replay scripts
-// use them.
+// The numbers of the window's commands, timers and scroll codes, which toolbars, menus and replay scripts
+// use. Plain data.
 #pragma once
 
+#include "drawing/PaneControls.h"
 #include "trends/TrendPrompts.h"
 
 #include <algorithm>
@@ -83,12 +84,8 @@ inline constexpr std::array<int, CommandCount> AllCommands = [] {
     return all;
 }();
 
-inline constexpr int FirstPaneControl = 341; // the price pane; 342 to 351 the studies in display order
-inline constexpr int PaneControls = 11;
-
 inline constexpr int ProgressTimer = 1029; // polls the series
 inline constexpr int ProgressPeriod = 250; // milliseconds
-inline constexpr int FlashTimer = 108;     // flashes the trendline that a box asks about
 
 enum class ScrollCode
 {
@@ -101,13 +98,6 @@ enum class ScrollCode
     LeftEnd,
     RightEnd,
     EndScroll
-};
-
-enum MouseButton : int
-{
-    MouseNone = 0,
-    MouseLeft = 1,
-    MouseRight = 2
 };
 
 } // namespace zantroq

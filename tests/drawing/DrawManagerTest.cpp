@@ -224,7 +224,7 @@ TEST_F(DrawManager, DeletedPointStaysOnShowUntilTheNextDraw)
     chart.manager.FullRedraw();
     chart.manager.DeletePoint(39);
     EXPECT_TRUE(chart.manager.seriesEdited);
-    EXPECT_EQ(chart.manager.Count(), 39);
+    EXPECT_EQ(chart.prices.Count(), 39);
     EXPECT_EQ(chart.Bars().PointY(4, 30), 139.5);
     chart.manager.Update(0); // the last bar on show is gone from the series: nothing to amend
     EXPECT_EQ(chart.Bars().PointY(4, 30), 139.5);
@@ -244,7 +244,7 @@ TEST_F(DrawManager, StudiesAreMadeAnewWhenTheDisplayedSetChanges)
     ASSERT_TRUE(chart.manager.Studies()[0]);
     EXPECT_EQ(chart.manager.Studies()[0]->kind, StudyMACD);
     EXPECT_EQ(chart.manager.Studies()[0]->chart, &chart.window.Pane(1));
-    EXPECT_EQ(chart.manager.Studies()[0]->prices, &chart.manager);
+    EXPECT_EQ(chart.manager.Studies()[0]->prices, &chart.prices);
     EXPECT_FALSE(chart.manager.Studies()[1]);
     chart.window.settings.Panes.StudyTypes = {99}; // an unknown kind makes no pane
     chart.manager.CreateStudies();
@@ -315,7 +315,7 @@ TEST_F(TickManager, TitleOfATickHasPriceDateAndTime)
     EXPECT_EQ(chart.Labels().Item(2).Text(), "Tick Price: 110.5  2014/01/02  09:40:00.250");
 }
 
-TEST(SeriesAccess, TitleNamesTheDataType)
+TEST(SeriesReader, TitleNamesTheDataType)
 {
     const char* names[] = {"Tick Price: x", "Minute Price: x", "Daily Price: x", "Weekly Price: x",
                            "Monthly Price: x"};
@@ -327,74 +327,75 @@ TEST(SeriesAccess, TitleNamesTheDataType)
     }
 }
 
-TEST(SeriesAccess, TicksHaveOnePriceAndThirtyTwoBitSizes)
+TEST(SeriesReader, TicksHaveOnePriceAndThirtyTwoBitSizes)
 {
     CSeriesFixture chart(TickData);
     chart.Add(1, 2, 3, 4, 0xFFFFFFFF);
-    EXPECT_EQ(chart.manager.High(0), 4);
-    EXPECT_EQ(chart.manager.Low(0), 4);
-    EXPECT_EQ(chart.manager.Open(0), 4);
-    EXPECT_EQ(chart.manager.Close(0), 4);
-    EXPECT_EQ(chart.manager.Volume(0), -1); // the size's sign is kept
+    EXPECT_EQ(chart.prices.High(0), 4);
+    EXPECT_EQ(chart.prices.Low(0), 4);
+    EXPECT_EQ(chart.prices.Open(0), 4);
+    EXPECT_EQ(chart.prices.Close(0), 4);
+    EXPECT_EQ(chart.prices.Volume(0), -1); // the size's sign is kept
 }
 
-TEST(SeriesAccess, OutsideTheSeriesEverythingIsZero)
+TEST(SeriesReader, OutsideTheSeriesEverythingIsZero)
 {
     CSeriesFixture chart(MinuteData);
     chart.Add(1, 2, 0.5, 1.5, 70);
     for (int index : {-1, 1, 1000000, -2147483647 - 1}) {
-        EXPECT_EQ(chart.manager.High(index), 0);
-        EXPECT_EQ(chart.manager.Low(index), 0);
-        EXPECT_EQ(chart.manager.Open(index), 0);
-        EXPECT_EQ(chart.manager.Close(index), 0);
-        EXPECT_EQ(chart.manager.Volume(index), 0);
+        EXPECT_EQ(chart.prices.High(index), 0);
+        EXPECT_EQ(chart.prices.Low(index), 0);
+        EXPECT_EQ(chart.prices.Open(index), 0);
+        EXPECT_EQ(chart.prices.Close(index), 0);
+        EXPECT_EQ(chart.prices.Volume(index), 0);
     }
     double prices[5] = {9, 9, 9, 9, 9};
-    chart.manager.ReadHigh(-2, 5, prices);
+    chart.prices.ReadHigh(-2, 5, prices);
     EXPECT_EQ(std::vector<double>(prices, prices + 5), (std::vector<double>{0, 0, 2, 0, 0}));
     std::int64_t volumes[3] = {9, 9, 9};
-    chart.manager.ReadVolume(-1, 3, volumes);
+    chart.prices.ReadVolume(-1, 3, volumes);
     EXPECT_EQ(std::vector<std::int64_t>(volumes, volumes + 3), (std::vector<std::int64_t>{0, 70, 0}));
-    chart.manager.ReadClose(-100, 3, prices);
+    chart.prices.ReadClose(-100, 3, prices);
     EXPECT_EQ(prices[2], 0);
 }
 
-TEST(SeriesAccess, WithoutASeriesTextsHaveTheirDefaults)
+TEST(SeriesReader, WithoutASeriesTextsHaveTheirDefaults)
 {
     CFakeChartWindow window;
-    CHistChartDrawManager manager(window, nullptr, nullptr);
-    EXPECT_EQ(manager.GetDate(5), "1900/01/01");
-    EXPECT_EQ(manager.GetTime(5, true), "00:00:00");
-    EXPECT_EQ(manager.Count(), 0);
-    EXPECT_EQ(manager.Close(0), 0);
+    CSeriesReader prices;
+    CHistChartDrawManager manager(window, prices, nullptr, nullptr);
+    EXPECT_EQ(prices.GetDate(5), "1900/01/01");
+    EXPECT_EQ(prices.GetTime(5, TimeDetail::Milliseconds), "00:00:00");
+    EXPECT_EQ(prices.Count(), 0);
+    EXPECT_EQ(prices.Close(0), 0);
     sHIST_DATA point;
     point.Close = 7;
-    manager.GetPoint(0, point);
+    prices.GetPoint(0, point);
     EXPECT_EQ(point.Close, 7);
     manager.FullRedraw();
     manager.Draw(0);
     manager.Update(0);
     manager.Update(3);
     manager.DeletePoint(0);
-    manager.RedrawTrends();
+    manager.PriceChart().RedrawTrends();
     EXPECT_EQ(manager.MakeInfoText(1), "");
 }
 
-TEST(SeriesAccess, DateTextsBeginAtIndexOne)
+TEST(SeriesReader, DateTextsBeginAtIndexOne)
 {
     CSeriesFixture chart;
     chart.AddCloses({1, 2, 3});
-    EXPECT_EQ(chart.manager.GetDate(0), "2014/01/03"); // index 1
-    EXPECT_EQ(chart.manager.GetDate(-5), "2014/01/03");
-    EXPECT_EQ(chart.manager.GetDate(2), "2014/01/04");
-    EXPECT_EQ(chart.manager.GetDate(99), "2014/01/04");
-    EXPECT_EQ(chart.manager.GetMinuteTime(1), "00:00:00min");
-    EXPECT_EQ(chart.manager.GetTime(0, false), "2014/01/02");
-    EXPECT_EQ(chart.manager.GetTime(99, false), "2014/01/04");
+    EXPECT_EQ(chart.prices.GetDate(0), "2014/01/03"); // index 1
+    EXPECT_EQ(chart.prices.GetDate(-5), "2014/01/03");
+    EXPECT_EQ(chart.prices.GetDate(2), "2014/01/04");
+    EXPECT_EQ(chart.prices.GetDate(99), "2014/01/04");
+    EXPECT_EQ(chart.prices.GetMinuteTime(1), "00:00:00min");
+    EXPECT_EQ(chart.prices.GetTime(0, TimeDetail::Seconds), "2014/01/02");
+    EXPECT_EQ(chart.prices.GetTime(99, TimeDetail::Seconds), "2014/01/04");
     sHIST_DATA point;
-    chart.manager.GetPoint(3, point);
+    chart.prices.GetPoint(3, point);
     EXPECT_EQ(point.Close, 3);
-    chart.manager.GetPoint(-3, point);
+    chart.prices.GetPoint(-3, point);
     EXPECT_EQ(point.Close, 1);
 }
 

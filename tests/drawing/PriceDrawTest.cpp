@@ -36,6 +36,7 @@ void FillForty(CSeriesFixture& chart)
 class CDeletingChart : public CHistPriceChart
 {
 public:
+    using CHistPriceChart::CHistPriceChart;
     std::vector<int> deletedIndexes;
 
 protected:
@@ -74,7 +75,7 @@ TEST(PriceDraw, GrowingSeriesFillsTheWindowUpToTheEntryOfThePointsList)
     chart.window.range.ptsIndex = 0;
     for (int i = 0; i < 35; ++i) {
         chart.Add(10, 12, 9, 11);
-        chart.manager.Draw(chart.manager.Count());
+        chart.manager.Draw(chart.prices.Count());
         EXPECT_EQ(chart.window.range.shown, std::min(i + 1, 30)) << i;
         EXPECT_EQ(chart.window.range.last, i);
     }
@@ -86,7 +87,7 @@ TEST(PriceDraw, DrawBeforeTheSetUpSetsUpFirst)
     chart.AddCloses({1, 2});
     chart.manager.Draw(0);
     EXPECT_EQ(chart.Bars().SeriesCount(), 1);
-    chart.manager.SetDataType(DailyData); // another chart is on its way
+    chart.prices.SetDataType(DailyData); // another chart is on its way
     chart.manager.Draw(0);
     EXPECT_EQ(chart.Bars().SeriesCount(), 4);
     EXPECT_EQ(chart.Labels().Count(), 9);
@@ -130,13 +131,13 @@ TEST(PriceDraw, EmptySeriesLeavesShownAndScalesToZero)
 {
     CSeriesFixture chart;
     chart.window.range.shown = 77;
-    chart.manager.Draw(0);
+    const sDrawnExtent drawn = chart.manager.Draw(0);
     EXPECT_EQ(chart.window.range.shown, 77);
     EXPECT_EQ(chart.Bars().PointCount(1), 0);
     // Code 14, range 0 counted as 0.01: the step is a quarter of it.
     EXPECT_DOUBLE_EQ(chart.Axes().Y().TickSpacing().Value(), 0.0025);
     EXPECT_EQ(chart.Axes().X().TickLabels().Count(), 0);
-    EXPECT_FALSE(chart.window.scrollBarVisible);
+    EXPECT_FALSE(drawn.FillsWindow);
 }
 
 TEST(PriceDraw, TickSeriesIsOneLineOfLastPrices)
@@ -211,7 +212,7 @@ TEST(PriceDraw, ScaleFitsThePricesOnShow)
     EXPECT_EQ(chart.Axes().Y2().TickLabels().Count(), 0);
     EXPECT_EQ(chart.manager.PriceChart().priceDigits, 3);
     EXPECT_EQ(chart.manager.PriceChart().maxVolume, 1029u);
-    EXPECT_EQ(chart.manager.GreatestVolume(), 1029u);
+    EXPECT_EQ(chart.prices.GreatestVolume(), 1029u);
 }
 
 TEST(PriceDraw, LabelsStandAtTheChosenSide)
@@ -268,10 +269,7 @@ TEST(PriceDraw, DeletedPointDrawsNothingAndDoesNotScale)
 {
     CSeriesFixture chart;
     FillForty(chart);
-    CDeletingChart pane;
-    pane.dlg = &chart.window;
-    pane.chart = &chart.window.Pane(1);
-    pane.manager = &chart.manager;
+    CDeletingChart pane(chart.window, chart.window.Pane(1), chart.prices, nullptr);
     pane.deletedIndexes = {0, 5};
     pane.SetUp();
     pane.Draw(0);
@@ -306,25 +304,34 @@ TEST(PriceDraw, VolumeIsCutToThirtyTwoBits)
     chart.Add(1, 1, 1, 1, 7);
     EXPECT_EQ(chart.manager.PriceChart().Volume(0), 0x7fffffff);
     EXPECT_EQ(chart.manager.PriceChart().Volume(1), 7);
-    EXPECT_EQ(chart.manager.Volume(0), 5000000000);
+    EXPECT_EQ(chart.prices.Volume(0), 5000000000);
 }
 
-TEST(PriceDraw, ScrollBarComesAndGoesWithTheSeriesLength)
+TEST(PriceDraw, ReportsTheCountAndWhetherTheSeriesFillsTheWindow)
 {
     CSeriesFixture chart;
-    chart.window.range.ptsIndex = 0;
+    chart.window.range.ptsIndex = 0; // 30 points
     for (int i = 0; i < 29; ++i)
         chart.Add(10, 12, 9, 11);
-    chart.window.scrollBarVisible = true;
-    chart.manager.Draw(0);
-    EXPECT_FALSE(chart.window.scrollBarVisible);
+    const sDrawnExtent shorter = chart.manager.Draw(0);
+    EXPECT_EQ(shorter.Count, 29);
+    EXPECT_FALSE(shorter.FillsWindow);
     chart.Add(10, 12, 9, 11);
-    chart.manager.Draw(0);
-    EXPECT_TRUE(chart.window.scrollBarVisible);
-    EXPECT_EQ(chart.window.scrollBarToggles, 2);
-    chart.manager.Draw(0);
-    EXPECT_EQ(chart.window.scrollBarToggles, 2);
-    EXPECT_EQ(chart.window.zoomButtonUpdates, 3);
+    const sDrawnExtent filled = chart.manager.Draw(0);
+    EXPECT_EQ(filled.Count, 30);
+    EXPECT_TRUE(filled.FillsWindow);
+}
+
+TEST(PriceDraw, AnUpdateOfTheLastBarReportsNoExtent)
+{
+    CSeriesFixture chart;
+    FillForty(chart);
+    ASSERT_TRUE(chart.manager.FullRedraw().has_value());
+    EXPECT_FALSE(chart.manager.Update(0).has_value());
+    chart.Add(10, 12, 9, 11);
+    ASSERT_TRUE(chart.manager.Update(1).has_value());
+    chart.request.ClearSeries();
+    EXPECT_FALSE(chart.manager.FullRedraw().has_value());
 }
 
 TEST(PriceDraw, AveragesLookBackPastTheWindow)

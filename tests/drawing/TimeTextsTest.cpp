@@ -16,12 +16,12 @@ TEST(TimeTexts, DateHasSlashes)
 
 TEST(TimeTexts, TimeFollowsTheDataType)
 {
-    EXPECT_EQ(PointTimeText(Morning, TickData, false), "09:30:01");
-    EXPECT_EQ(PointTimeText(Morning, TickData, true), "09:30:01.007");
-    EXPECT_EQ(PointTimeText(Morning, MinuteData, true), "09:30:01");
-    EXPECT_EQ(PointTimeText(Morning, DailyData, true), "2014/01/02");
-    EXPECT_EQ(PointTimeText(Morning, WeeklyData, false), "2014/01/02");
-    EXPECT_EQ(PointTimeText(Morning, MonthlyData, false), "2014/01/02");
+    EXPECT_EQ(PointTimeText(Morning, TickData, TimeDetail::Seconds), "09:30:01");
+    EXPECT_EQ(PointTimeText(Morning, TickData, TimeDetail::Milliseconds), "09:30:01.007");
+    EXPECT_EQ(PointTimeText(Morning, MinuteData, TimeDetail::Milliseconds), "09:30:01");
+    EXPECT_EQ(PointTimeText(Morning, DailyData, TimeDetail::Milliseconds), "2014/01/02");
+    EXPECT_EQ(PointTimeText(Morning, WeeklyData, TimeDetail::Seconds), "2014/01/02");
+    EXPECT_EQ(PointTimeText(Morning, MonthlyData, TimeDetail::Seconds), "2014/01/02");
 }
 
 TEST(TimeTexts, MinuteLikeTimeEndsInMin)
@@ -38,7 +38,7 @@ TEST(TimeTexts, MillisecondsHaveThreeDigits)
 TEST(TimeTexts, InvalidTimeSaysSo)
 {
     EXPECT_EQ(PointDateText(Invalid), "Invalid DateTime");
-    EXPECT_EQ(PointTimeText(Invalid, TickData, true), "Invalid DateTime");
+    EXPECT_EQ(PointTimeText(Invalid, TickData, TimeDetail::Milliseconds), "Invalid DateTime");
 }
 
 } // namespace

@@ -37,21 +37,14 @@ public:
     void BeginPriceBatch() override { ++priceBatchDepth; }
     void EndPriceBatch() override { --priceBatchDepth; }
     int ScrollLimit() const override { return scrollLimit; }
-    bool ScrollBarVisible() const override { return scrollBarVisible; }
-    void SetScrollBarVisible(bool visible) override
-    {
-        scrollBarVisible = visible;
-        ++scrollBarToggles;
-    }
-    void UpdateZoomButtons() override { ++zoomButtonUpdates; }
 
     sChartSettings settings;
     sDisplayRange range;
     std::array<CChart2D, 11> panes;
     std::array<bool, 11> collapsed{};
     int pixelWidth = 0, selectedPoint = NoPoint, scrollLimit = 0;
-    int batchDepth = 0, priceBatchDepth = 0, batches = 0, scrollBarToggles = 0, zoomButtonUpdates = 0;
-    bool resetScale = false, scrollBarVisible = false;
+    int batchDepth = 0, priceBatchDepth = 0, batches = 0;
+    bool resetScale = false;
 };
 
 } // namespace zantroq

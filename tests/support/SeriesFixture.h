@@ -23,15 +23,15 @@ class CSeriesFixture
 {
 public:
     explicit CSeriesFixture(int dataType = DailyData, IStudyFactory* studies = nullptr)
-        : manager(window, studies, &trends)
+        : manager(window, prices, studies, &trends)
     {
         static constexpr std::int32_t kinds[] = {TicksByDatapoints, IntervalsByDatapoints, DailyByDatapoints,
                                                  WeeklyByDatapoints, MonthlyByDatapoints};
         window.settings.Panes.StudyCount = 0;
         window.settings.Request.DataType = dataType;
         request.SetRequestKind(kinds[dataType]);
-        manager.SetSeries(&request);
-        manager.SetDataType(dataType);
+        prices.SetSeries(&request);
+        prices.SetDataType(dataType);
     }
 
     // One tick or bar; times are a minute apart from 2 January 2014 09:30 on, for day kinds a day apart.
@@ -66,6 +66,7 @@ public:
     CFakeChartWindow window;
     CFakeTrendLayer trends;
     CChartHistRequest request;
+    CSeriesReader prices;
     CHistChartDrawManager manager;
 };
 

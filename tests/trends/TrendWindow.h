@@ -47,7 +47,7 @@ public:
             data.SetSeriesCount(std::max(data.SeriesCount(), group == 1 ? 4 : 3));
             data.SetPointCount(1, shown);
         }
-        while (pane.PaneLabels().Count() < CTrendLists::PriceLabels)
+        while (pane.PaneLabels().Count() < PriceLabels)
             pane.PaneLabels().Add();
     }
 };

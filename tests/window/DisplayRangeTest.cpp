@@ -2,6 +2,8 @@
 
 #include "WindowFakes.h"
 
+#include "window/RangeBars.h"
+
 #include <gtest/gtest.h>
 
 namespace zantroq {
@@ -21,12 +23,12 @@ struct sRangeFixture
         Drawing.Calls.clear();
     }
     sFakeStatus StatusBar;
-    CStatusText Status{StatusBar};
+    sFakeTrends Trends;
+    CStatusText Status{StatusBar, Trends};
     sFakeScroll Bar;
-    sFakeCommands Commands;
     sFakeDrawing Drawing;
     sChartSettings Settings;
-    CDisplayRange Display{Settings, Bar, Commands, Status, Drawing};
+    CDisplayRange Display{Settings, Bar, Status, Drawing};
 };
 
 TEST(DisplayRange, StartsHiddenWithAPageOfItsPoints)
@@ -146,39 +148,51 @@ TEST(DisplayRange, ZoomOutStopsAtTheLastEntry)
     EXPECT_TRUE(view.Drawing.Calls.empty());
 }
 
-TEST(DisplayRange, ZoomButtonsFollowTheCount)
+TEST(RangeBars, ZoomButtonsFollowTheCount)
 {
-    sRangeFixture view(119);
-    view.Display.UpdateZoomButtons();
-    EXPECT_TRUE(view.Commands.On[CommandZoomIn]);
-    EXPECT_FALSE(view.Commands.On[CommandZoomOut]); // 120 is above 119
-    view.Drawing.Points = 120;
-    view.Display.UpdateZoomButtons();
-    EXPECT_TRUE(view.Commands.On[CommandZoomOut]);
-    view.Drawing.Points = 30;
-    view.Display.UpdateZoomButtons();
-    EXPECT_FALSE(view.Commands.On[CommandZoomIn]);
-    view.Drawing.Points = 31;
-    view.Display.UpdateZoomButtons();
-    EXPECT_TRUE(view.Commands.On[CommandZoomIn]);
+    sFakeCommands commands;
+    EnableZoomButtons(commands, 3, 119);
+    EXPECT_TRUE(commands.On[CommandZoomIn]);
+    EXPECT_FALSE(commands.On[CommandZoomOut]); // 120 is above 119
+    EnableZoomButtons(commands, 3, 120);
+    EXPECT_TRUE(commands.On[CommandZoomOut]);
+    EnableZoomButtons(commands, 3, 30);
+    EXPECT_FALSE(commands.On[CommandZoomIn]);
+    EnableZoomButtons(commands, 3, 31);
+    EXPECT_TRUE(commands.On[CommandZoomIn]);
 }
 
-TEST(DisplayRange, ZoomInIsNotOfferedAtTheFirstEntry)
+TEST(RangeBars, ZoomInIsNotOfferedAtTheFirstEntry)
 {
-    sRangeFixture view;
-    view.Settings.PtsIndex = 0;
-    view.Display.ResetShown();
-    view.Display.UpdateZoomButtons();
-    EXPECT_FALSE(view.Commands.On[CommandZoomIn]);
+    sFakeCommands commands;
+    EnableZoomButtons(commands, 0, 1000);
+    EXPECT_FALSE(commands.On[CommandZoomIn]);
 }
 
-TEST(DisplayRange, ZoomOutStaysOfferedAtTheLastEntryOfAFullSeries)
+TEST(RangeBars, ZoomOutStaysOfferedAtTheLastEntryOfAFullSeries)
 {
-    sRangeFixture view(245760);
-    view.Settings.PtsIndex = 14;
-    view.Display.ResetShown();
-    view.Display.UpdateZoomButtons();
-    EXPECT_TRUE(view.Commands.On[CommandZoomOut]);
+    sFakeCommands commands;
+    EnableZoomButtons(commands, 14, 245760);
+    EXPECT_TRUE(commands.On[CommandZoomOut]);
+}
+
+TEST(RangeBars, TheScrollBarComesAndGoesWithTheSeriesLengthAndPanesTakeTheirSizesThen)
+{
+    sFakeDesktop desktop;
+    sPaneStack stack;
+    std::array<CChart2D, MaxPanes> panes;
+    CPaneLayout layout(stack, panes, desktop.Host, desktop.Scroll);
+    CRangeBars bars(desktop.Scroll, desktop.Commands, layout);
+    bars.Follow({30, true}, 0);
+    EXPECT_TRUE(desktop.Scroll.Shown);
+    EXPECT_EQ(layout.Height(), 393); // 460 - 30 - 37
+    desktop.Host.Height = 560;
+    bars.Follow({31, true}, 0); // stays visible: nothing is sized
+    EXPECT_EQ(layout.Height(), 393);
+    bars.Follow({29, false}, 0);
+    EXPECT_FALSE(desktop.Scroll.Shown);
+    EXPECT_EQ(layout.Height(), 510); // 560 - 30 - 20
+    EXPECT_FALSE(desktop.Commands.On[CommandZoomIn]);
 }
 
 TEST(DisplayRange, ScrollStepIsAPercentageOfThePointsAndAtLeastOne)

@@ -358,7 +358,7 @@ TEST(Lifecycle, StatusTextsAreHeldBackWhileATrendlineModeIsArmed)
 {
     const auto chart = ChartOf(DailyData, true);
     chart->Chart("X", 200);
-    chart->Window->SetPrompt("Click somewhere");
+    chart->Window->SetStatusText("Click somewhere");
     chart->Trends.Mode = 1;
     chart->Append(1);
     chart->Tick();

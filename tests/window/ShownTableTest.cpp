@@ -89,7 +89,7 @@ TEST(ShownTable, DaysHaveNoTimeAndTheirNumbersReadBackExactly)
         EXPECT_EQ(std::stod(fields[4]), open - 0.7);
         EXPECT_EQ(std::stod(fields[5]), open + 0.1);
     }
-    EXPECT_EQ(Fields(lines[1])[6], std::to_string(chart.Window->DrawManager().Volume(0)));
+    EXPECT_EQ(Fields(lines[1])[6], std::to_string(chart.Window->Prices().Volume(0)));
 }
 
 TEST(ShownTable, TicksHaveAPriceAndTheirMilliseconds)

@@ -48,7 +48,7 @@ struct sStoredStack
         Host.Height = room + BarsAround;
         Resizer.Layout();
     }
-    int Bottom(int border) const { return Resizer.Bottoms()[static_cast<std::size_t>(border)]; }
+    int Bottom(int border) const { return Placed.Bottoms()[static_cast<std::size_t>(border)]; }
 
     // Presses on the place of a border and lets go at y, in pixels from the top of the panes.
     void Drag(int border, int y)
@@ -118,7 +118,8 @@ struct sStoredStack
     sFakeScroll Bar;
     sFakePointer Pointer;
     sFakeDrawing Drawing;
-    CChartsResizer Resizer{Stack, Store, Panes, Host, Bar, Pointer, Drawing, Batch};
+    CPaneLayout Placed{Stack, Panes, Host, Bar};
+    CChartsResizer Resizer{Stack, Store, Placed, Pointer, Bar, Drawing, Batch};
 };
 
 // Rooms from far too small for the stack to ample, crowded ones as often as others.
@@ -152,11 +153,11 @@ RC_GTEST_PROP(StoredPanes, HoldWhatThePlainRulesSayAfterEveryStepInAnyRoom, ())
             break;
         default:
             if (pane > 0)
-                stack.Drag(pane, *rc::gen::inRange(-40, stack.Resizer.Height() + 41));
+                stack.Drag(pane, *rc::gen::inRange(-40, stack.Placed.Height() + 41));
         }
         RC_ASSERT(stack.Difference() == "");
         RC_ASSERT(stack.LoadsBack());
-        RC_ASSERT(stack.Bottom(panes) == stack.Resizer.Height());
+        RC_ASSERT(stack.Bottom(panes) == stack.Placed.Height());
     }
 }
 

@@ -22,15 +22,15 @@ using Ints = std::vector<int>;
 
 Ints Bottoms(const CChartDlg& window)
 {
-    const auto& bottoms = window.Resizer().Bottoms();
+    const auto& bottoms = window.Layout().Bottoms();
     return {bottoms.begin(), bottoms.begin() + window.ShownPanes() + 1};
 }
 
 TEST(ChartsResizer, StacksThePanesBetweenTheBars)
 {
     sChartFixture chart; // 620x460, a tool bar of 28
-    EXPECT_EQ(chart.Window->Resizer().TopOffset(), 30);
-    EXPECT_EQ(chart.Window->Resizer().Height(), 410); // 460 - 30 - 20: no scroll bar
+    EXPECT_EQ(chart.Window->Layout().TopOffset(), 30);
+    EXPECT_EQ(chart.Window->Layout().Height(), 410); // 460 - 30 - 20: no scroll bar
     EXPECT_EQ(Bottoms(*chart.Window), (Ints{0, 271, 410}));
     EXPECT_EQ(chart.Desktop.Host.Rects[1], (sWindowRect{0, 301, 620, 440}));
     EXPECT_FALSE(chart.Desktop.Host.Visible[2]);
@@ -44,7 +44,7 @@ TEST(ChartsResizer, AVisibleScrollBarTakesItsRoom)
 {
     auto chart = ChartOf(DailyData);
     chart->Chart("X", 300);
-    EXPECT_EQ(chart->Window->Resizer().Height(), 393); // 460 - 30 - 37
+    EXPECT_EQ(chart->Window->Layout().Height(), 393); // 460 - 30 - 37
     EXPECT_EQ(chart->Window->Pane(0).PixelHeight() + chart->Window->Pane(1).PixelHeight(), 393);
 }
 
@@ -53,10 +53,10 @@ TEST(ChartsResizer, AResizeToNothingIsIgnored)
     sChartFixture chart;
     chart.Desktop.Host.Height = 0;
     chart.Window->OnResize();
-    EXPECT_EQ(chart.Window->Resizer().Height(), 410);
+    EXPECT_EQ(chart.Window->Layout().Height(), 410);
     chart.Desktop.Host.Height = 560;
     chart.Window->OnResize();
-    EXPECT_EQ(chart.Window->Resizer().Height(), 510);
+    EXPECT_EQ(chart.Window->Layout().Height(), 510);
 }
 
 TEST(ChartsResizer, ADraggedBorderMovesWhenItIsLetGoAndIsStored)
@@ -338,8 +338,8 @@ TEST(ChartsResizer, StatesThatWereNotChangedStayAsTheyAreStored)
     CBatchCounters batch(panes);
     sFakeDesktop desktop;
     sFakeDrawing drawing;
-    CChartsResizer resizer(stack, store, panes, desktop.Host, desktop.Scroll, desktop.Pointer, drawing,
-                           batch);
+    CPaneLayout layout(stack, panes, desktop.Host, desktop.Scroll);
+    CChartsResizer resizer(stack, store, layout, desktop.Pointer, desktop.Scroll, drawing, batch);
     resizer.Restore(1);
     EXPECT_EQ(key.Stored("Chart 0 Minimized"), "1");
     EXPECT_EQ(key.Stored("Maximized Chart Index"), "2");

@@ -6,7 +6,7 @@
 #include "qt/paint/PanePainter.h"
 #include "qt/widgets/BarFont.h"
 #include "window/ChartDlg.h"
-#include "window/ChartsResizer.h"
+#include "window/PaneLayout.h"
 
 #include <QBuffer>
 #include <QFileInfo>
@@ -99,11 +99,11 @@ void PaintScrollMark(QPainter& painter, const sChartPicture& picture)
 
 void PaintPicture(QPainter& painter, const sChartPicture& picture, const PaintPane& paintPane)
 {
-    const CChartsResizer& resizer = picture.Window.Resizer();
+    const CPaneLayout& layout = picture.Window.Layout();
     painter.fillRect(QRect(QPoint(0, 0), picture.Size), Back);
-    PaintHeading(painter, picture, resizer.TopOffset());
+    PaintHeading(painter, picture, layout.TopOffset());
     for (int pane = 0; pane < picture.Window.ShownPanes(); ++pane) {
-        const sPaneRect at = resizer.PaneRect(pane);
+        const sPaneRect at = layout.PaneRect(pane);
         if (at.Width > 0 && at.Height > 0)
             paintPane(pane, QRect(at.Left, at.Top, at.Width, at.Height));
     }
