@@ -149,41 +149,45 @@ sValueRange CHistStudyChart::ComputeLines(const std::vector<sStudyLine>& lines, 
     return range;
 }
 
-CHistStudyChart::sUpdatePlan CHistStudyChart::MakeRoom(int newPoints)
+sUpdatePlan CHistStudyChart::MakeRoom(int newPoints)
+{
+    sPaneBefore pane;
+    pane.Points = chart->PaneGroups(1).PaneData().PointCount(1);
+    pane.XLow = WholePart(chart->PaneArea().PaneAxes().X().ViewLow().Value());
+    pane.WindowPoints = PointsAtPlace(dlg->Range().ptsIndex);
+    pane.LastIndex = dlg->Range().last;
+    const sUpdatePlan plan = PlanUpdate(pane, newPoints);
+    MovePoints(plan);
+    MoveMarker(plan);
+    MoveXAxis(plan);
+    return plan;
+}
+
+void CHistStudyChart::MovePoints(const sUpdatePlan& plan)
 {
     const std::vector<sStudyLine> lines = Lines();
-    const std::int64_t had = chart->PaneGroups(1).PaneData().PointCount(1);
-    const int entry = std::clamp(dlg->Range().ptsIndex, 0, static_cast<int>(DisplayMaxPoints.size()) - 1);
-    const std::int64_t cap = DisplayMaxPoints[static_cast<std::size_t>(entry)];
-    const std::int64_t drop = std::max<std::int64_t>(had + newPoints - cap, 0),
-                       kept = std::max<std::int64_t>(had - drop, 0);
-    // A pane that held more than the window's points keeps its size.
-    const std::int64_t points = newPoints > drop ? had - drop + newPoints : had;
-    CPaneAxis& x = chart->PaneArea().PaneAxes().X();
-    const int xLow = WholePart(x.ViewLow().Value()) + static_cast<int>(drop);
-    const int xHigh = xLow - 1 + static_cast<int>(points);
-
     for (const sStudyLine& line : lines)
-        if (drop > 0 && kept > 0)
-            chart->PaneGroups(line.Group)
-                .PaneData()
-                .ShiftPoints(line.Series, static_cast<int>(kept), static_cast<int>(drop) + 1);
+        if (plan.Dropped > 0 && plan.Kept > 0)
+            chart->PaneGroups(line.Group).PaneData().ShiftPoints(line.Series, plan.Kept, plan.Dropped + 1);
     for (const int group : {1, 2})
         if (SeriesOfGroup(lines, group) > 0)
-            chart->PaneGroups(group).PaneData().SetPointCount(1, static_cast<int>(points));
+            chart->PaneGroups(group).PaneData().SetPointCount(1, plan.Points);
+}
 
+void CHistStudyChart::MoveMarker(const sUpdatePlan& plan)
+{
     CPaneMarker& marker = chart->PaneArea().PaneMarkers("x");
     if (marker.Point() != NoPoint)
-        marker.SetPoint(marker.Point() - (drop > 0 ? static_cast<int>(drop) : newPoints));
+        marker.SetPoint(marker.Point() - plan.MarkerShift);
+}
 
-    x.ViewLow().SetValue(xLow);
-    x.DataLow().SetValue(xLow);
-    x.ViewHigh().SetValue(xHigh + 0.5);
-    x.DataHigh().SetValue(xHigh + 0.5);
-
-    const int fresh = static_cast<int>(std::min<std::int64_t>(newPoints, points));
-    return {static_cast<int>(points), static_cast<int>(points) - fresh + 1, xLow - 1,
-            dlg->Range().last + 1 - fresh};
+void CHistStudyChart::MoveXAxis(const sUpdatePlan& plan)
+{
+    CPaneAxis& x = chart->PaneArea().PaneAxes().X();
+    x.ViewLow().SetValue(plan.XLow());
+    x.DataLow().SetValue(plan.XLow());
+    x.ViewHigh().SetValue(plan.XHigh() + 0.5);
+    x.DataHigh().SetValue(plan.XHigh() + 0.5);
 }
 
 void CHistStudyChart::WriteVolumeIntoLastPoint()
@@ -199,7 +203,7 @@ void CHistStudyChart::UpdateStudy(int newPoints)
     if (newPoints <= 0)
         return;
     const sUpdatePlan plan = MakeRoom(newPoints);
-    const int fresh = plan.Points - plan.FirstNew + 1;
+    const int fresh = plan.NewPoints();
     const std::vector<sStudyLine> lines = Lines();
     const auto size = static_cast<std::size_t>(fresh);
     std::vector<std::vector<double>> arrays(ComputedLines(lines), std::vector<double>(size, StudyHole));

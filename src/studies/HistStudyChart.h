@@ -1,6 +1,6 @@
-// What the ten study panes do alike: reading the series, fitting the x axis, loading curves into the scene,
-// appending live points, and the header. A pane says which lines it has, computes them over a stretch of the
-// series and fits its value axis. Holds no settings and no prices of its own. Chart window's thread.
+// The base of the ten study panes: reads the series, fits the x axis, writes curves into the scene, appends
+// live points and writes the header. A study names its lines, computes them over a part of the series and
+// fits its value axis. Holds no settings and no prices of its own. Chart window's thread.
 //
 // A pane's x values are 1 to the number of points shown after a whole draw; live points shift them upward.
 // Series count from 1, indices into the price series from 0.
@@ -9,6 +9,7 @@
 #include "drawing/BaseChart.h"
 #include "scene/BlockMinMax.h"
 #include "studies/StudyAxis.h"
+#include "studies/UpdatePlan.h"
 
 #include <cmath>
 #include <cstdint>
@@ -114,24 +115,20 @@ protected:
     // prefix and the value of a series of group 1 at a point; empty for the hole value.
     std::string ValueText(const char* prefix, int series, int point, int decimals) const;
 
-    // Parts of the two skeletons, for a pane that has its own.
-    struct sUpdatePlan
-    {
-        int Points;     // the pane's points after the update
-        int FirstNew;   // the first point to compute, from 1
-        int XOffset;    // a point's x is its number plus this
-        int FirstIndex; // the series index of FirstNew
-    };
+    // Steps of DrawStudy and UpdateStudy, for a pane that has its own versions of these.
     void PrepareGroups(int shown);
-    // Takes the points of a series that has lost its own; a pane without points stays as it was set up.
+    // Removes the pane's points after the series became empty; a pane without points keeps its set-up.
     void RemovePoints();
     sValueRange ComputeLines(const std::vector<sStudyLine>& lines, int first, int shown);
-    // Shifts and sizes all series, moves the marker and the x axis.
+    // Shifts and sizes all series, moves the marker and the x axis; newPoints is at least 1.
     sUpdatePlan MakeRoom(int newPoints);
     // Sets SetStudyYAxis from the axis's present data range, widened, if a value lies outside it.
     void WidenAxis(CLineValues values);
 
 private:
+    void MovePoints(const sUpdatePlan& plan);
+    void MoveMarker(const sUpdatePlan& plan);
+    void MoveXAxis(const sUpdatePlan& plan);
     void WriteVolumeIntoLastPoint();
 };
 

@@ -124,7 +124,7 @@ void CHistVOLChart::UpdateStudy(int newPoints)
         return;
     }
     const sUpdatePlan plan = MakeRoom(newPoints);
-    const int fresh = plan.Points - plan.FirstNew + 1;
+    const int fresh = plan.NewPoints();
     std::vector<double> values(static_cast<std::size_t>(fresh));
     double* out[] = {values.data()};
     Compute(plan.FirstIndex, fresh, out);
