@@ -1,10 +1,11 @@
 // Which folder of src/ may include which. Arrows point downwards; an include that does not is named with its
 // file and line.
+#include "LayerTable.h"
+
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
-#include <map>
 #include <regex>
 #include <sstream>
 #include <string>
@@ -12,41 +13,8 @@
 
 namespace {
 
+using zantroq::test::MayInclude;
 namespace fs = std::filesystem;
-
-using Table = std::map<std::string, std::vector<std::string>>;
-
-const Table& MayInclude()
-{
-    static const Table table{
-        {"platform", {}},
-        {"market", {"platform"}},
-        {"settings", {"platform"}},
-        {"scene", {"platform"}},
-        {"ink", {"platform", "scene"}},
-        {"paint", {"platform", "scene", "ink"}},
-        {"drawing", {"platform", "market", "settings", "scene"}},
-        {"studies", {"platform", "market", "settings", "scene", "drawing"}},
-        {"trends", {"platform", "market", "settings", "scene", "drawing"}},
-        {"search", {"platform", "market"}},
-        {"window", {"platform", "market", "settings", "scene", "drawing", "studies", "trends", "search"}},
-        {"printing",
-         {"platform", "market", "settings", "scene", "drawing", "studies", "trends", "search", "window"}},
-        {"replay",
-         {"platform", "market", "settings", "scene", "drawing", "studies", "trends", "search", "window"}},
-        {"export",
-         {"platform", "market", "settings", "scene", "drawing", "studies", "trends", "search", "window"}},
-        {"feed", {"platform", "market"}},
-        {"qt",
-         {"platform", "market", "settings", "scene", "ink", "paint", "drawing", "studies", "trends", "search",
-          "window", "printing", "replay", "export", "feed"}},
-        {"control",
-         {"platform", "market", "settings", "scene", "ink", "paint", "drawing", "studies", "trends", "search",
-          "window", "printing", "replay", "export", "feed", "qt"}},
-        {"resources", {}},
-    };
-    return table;
-}
 
 bool ToolkitAllowed(const std::string& folder)
 {
