@@ -20,8 +20,8 @@ struct sFactors
     double Short, Long, Signal;
 };
 
-// The computation from the start of the series. It moves on with the index asked for, since the values at one
-// index are a step from those at the index before.
+// Computes from the start of the series. Advances with the requested index, because the values of an index
+// are one step from those of the index before.
 class CFullMACD
 {
 public:
@@ -73,7 +73,7 @@ private:
         }
         EmaLong = sum / static_cast<double>(m_long);
         Macd = EmaShort - EmaLong;
-        m_sum = Macd; // the signal's seed holds this term and up to a period of further ones
+        m_sum = Macd; // the first sum of the signal has this term and up to a period of further ones
         m_next = m_long;
     }
 
@@ -87,11 +87,11 @@ private:
     const CPriceBlock& m_close;
     sFactors m_factors;
     std::int64_t m_short, m_long, m_signalPeriod;
-    std::int64_t m_next = 0; // the next index to take in; 0 before the seed
+    std::int64_t m_next = 0; // next index to include; 0 before the start averages are computed
     double m_sum = 0;
 };
 
-// Every index from `from` to `to` - 1 follows the one before, which the state is that of.
+// Continues from `state`, which must be that of index from - 1, and leaves it at to - 1.
 void Continue(const CPriceBlock& close, std::int64_t from, std::int64_t to, const sFactors& k,
               sMACDRunningState& state, double* __restrict macd, double* __restrict signal)
 {

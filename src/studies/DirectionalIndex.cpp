@@ -22,7 +22,7 @@ DoublePair Magnitude(const DoublePair& change)
     return DoublePair{std::fabs(change[0]), std::fabs(change[1])};
 }
 
-// Of the moves of high and low the smaller counts as 0, and both do when they are equal.
+// Of the moves of high and low, the smaller counts as 0, and both count as 0 if they are equal.
 DoublePair LargerMove(const DoublePair& moves)
 {
     const DoublePair other{moves[1], moves[0]}, none{};
@@ -81,8 +81,8 @@ struct sDirection
     void SmoothADX(double k) { Adx = (DX() - Adx) * k + Adx; }
 };
 
-// The computation from the start of the series. It moves on with the index asked for, since the values at one
-// index are a step from those at the index before.
+// Computes from the start of the series. Advances with the requested index, because the values of an index
+// are one step from those of the index before.
 class CFullADX
 {
 public:
@@ -91,7 +91,7 @@ public:
     {
     }
 
-    // The step stops one point short of an index below twice the period.
+    // Below twice the period, stops one point before the index.
     void MoveTo(std::int64_t index)
     {
         if (m_next == 0)
@@ -130,12 +130,12 @@ private:
     const CBars& m_bars;
     std::int64_t m_period;
     double m_k;
-    std::int64_t m_next = 0; // the next index to take in; 0 before the seed
+    std::int64_t m_next = 0; // next index to include; 0 before the start averages are computed
     double m_sum = 0;
 };
 
-// Every index from `from` to `to` - 1 follows the one before, which the state is that of. The two directions
-// stand side by side: both steps are the same, and one division serves both.
+// Continues from `state`, which must be that of index from - 1, and leaves it at to - 1. Both directions are
+// computed in one vector, with one division.
 void Continue(const CBars& bars, std::int64_t from, std::int64_t to, double k, sADXRunningState& state,
               double* __restrict plusDI, double* __restrict minusDI, double* __restrict adx)
 {

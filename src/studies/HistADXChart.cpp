@@ -36,7 +36,7 @@ void CHistADXChart::FitDrawnAxis(const sValueRange& range)
 {
     SetStudyYAxis(*chart, AxisLook(), range.Max, range.Min);
     if (dlg->Settings().Grid != 0)
-        ValueAxis().AxisGrid().SetSpacing(25); // whatever spacing the axis took
+        ValueAxis().AxisGrid().SetSpacing(25); // independent of the axis's own spacing
 }
 
 std::string CHistADXChart::HeadText() const

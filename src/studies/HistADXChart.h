@@ -1,22 +1,23 @@
-// Average directional index with +DI and -DI.
+// Average directional index with +DI and -DI. Chart window's thread.
 //
 // Origin: J. Welles Wilder, "New Concepts in Technical Trading Systems" (1978).
-// Formula: true range TR(j) is the largest of |high - low|, |close before - high|, |close before - low|. Of
-// the moves a = |high - high before| and b = |low - low before| the smaller counts as 0, and both do when
-// they are equal. Each is averaged by avg = (x - avg) / P + avg after a plain average over points 1 to P. +DI
-// = avgPlus * 100 / avgTR, -DI likewise; DX = |(+DI - -DI) * 100 / (-DI + +DI)|; ADX starts at index 2P with
-// the average of the P DX values before it and moves by adx = (DX - adx) / P + adx.
+//
+// Formula: the true range TR(j) is the largest of |high - low|, |close before - high| and |close before -
+// low|. Of the moves a = |high - high before| and b = |low - low before|, the smaller counts as 0, and both
+// count as 0 if they are equal. Each of the three is averaged: a plain average over points 1 to P, then avg =
+// (x - avg) / P + avg. +DI = avgPlus * 100 / avgTR, and -DI likewise; DX = |(+DI - -DI) * 100 / (-DI + +DI)|;
+// ADX starts at index 2P as the average of the P values of DX before it, then adx = (DX - adx) / P + adx.
 //
 // Differences from the textbook, all intended:
 // - The moves are absolute differences, so falling highs count as upward movement.
-// - +DI and -DI start at index P, and below 2P they are those of the index before: P and P + 1 have the same.
-// - Nothing is guarded: a true range of 0 gives infinities, and a DX of 0 / 0 stays in the ADX until the next
-// whole draw.
-// - The averages last reached are kept in one state for the process. An index that follows it continues on
-// it, which gives the
-//   same numbers unless the series is another one.
+// - +DI and -DI start at index P. Below index 2P they are those of the index before, so P and P + 1 have the
+//   same values.
+// - Denominators are not checked: a true range of 0 gives infinities, and a DX of 0 / 0 stays in the ADX
+//   until the next whole draw.
+// - The last averages are kept in one state for the process. A computation at the following index continues
+//   from them, which gives the same numbers unless it belongs to another series.
 // - Live points never change the value axis.
-// A period below 1 has no values.
+// A period below 1 gives no values.
 #pragma once
 
 #include "studies/DirectionalIndex.h"
@@ -27,10 +28,10 @@ namespace zantroq {
 class CHistADXChart : public CHistStudyChart
 {
 public:
-    // Leaves untouched what has no value at the index.
+    // Leaves a variable unchanged if it has no value at the index.
     void CalcADX(int index, double& plusDI, double& minusDI, double& adx);
 
-    // The state of the process, for tests: they set it before they draw.
+    // The state of the process. Only for tests, which set it before they draw.
     static sADXRunningState& StudyRunningState();
 
 protected:

@@ -1,12 +1,13 @@
-// Positive, negative and total money flow of a window.
+// Positive, negative and total money flow of a window. Chart window's thread.
 //
 // Origin: Gene Quong and Avrum Soudack, "Volume-weighted RSI: money flow" (1989).
-// Formula: the typical price is tp = (close + (low + high)) / 3. Over the bars i - P to i, volume * tp is
-// added to the positive flow where tp rose from the bar before and to the negative flow where it fell; both
-// are divided by P. The total is their sum.
 //
-// Differences from the textbook, all intended: the window has P + 1 terms over a divisor of P; the total is a
-// sum and not a difference; the first value is at index P + 1. A period below 1 has no values.
+// Formula: the typical price is tp = (close + (low + high)) / 3. Over the bars i - P to i, volume * tp is
+// added to the positive flow if tp is above the bar before and to the negative flow if it is below; both
+// flows are divided by P. The total is their sum.
+//
+// Differences from the textbook, all intended: the window has P + 1 terms but the divisor is P; the total is
+// a sum and not a difference; the first value is at index P + 1. A period below 1 gives no values.
 #pragma once
 
 #include "studies/HistStudyChart.h"
@@ -16,7 +17,7 @@ namespace zantroq {
 class CHistMFChart : public CHistStudyChart
 {
 public:
-    // Leaves both untouched where the index has no value.
+    // Leaves both variables unchanged if the index has no value.
     void CalcMoneyFlow(int index, double& positive, double& negative) const;
 
 protected:

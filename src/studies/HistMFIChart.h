@@ -1,11 +1,12 @@
-// Money flow index with two level lines, on a fixed axis of -0.5 to 100.5.
+// Money flow index with two level lines, on a fixed axis of -0.5 to 100.5. Chart window's thread.
 //
 // Origin: Gene Quong and Avrum Soudack, "Volume-weighted RSI: money flow" (1989).
-// Formula, from the flows of the money flow pane: MFI = ((pos - neg) * 50) / (neg + pos) + 50, which is the
-// textbook's 100 * pos / (pos + neg) with another rounding.
+//
+// Formula, with the flows of the money flow pane: MFI = ((pos - neg) * 50) / (neg + pos) + 50. This is the
+// textbook's 100 * pos / (pos + neg) with different rounding.
 //
 // Differences from the textbook, all intended: the window has P + 1 terms; the first value is at index P + 1;
-// no flow at all, 0 / 0, is not a number and is drawn as nothing. A period below 1 has no values.
+// without any flow, 0 / 0 gives not-a-number, which is not drawn. A period below 1 gives no values.
 #pragma once
 
 #include "studies/HistStudyChart.h"
@@ -15,7 +16,7 @@ namespace zantroq {
 class CHistMFIChart : public CHistStudyChart
 {
 public:
-    double CalcMFI(int index) const; // the hole value where there is none
+    double CalcMFI(int index) const; // the hole value if there is none
 
 protected:
     std::vector<sStudyLine> Lines() const override;

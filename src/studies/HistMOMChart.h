@@ -1,13 +1,15 @@
-// Momentum: the difference of the close from its value a period back, with a zero line.
+// Momentum: the difference between the close and the close one period before, with a zero line. Chart
+// window's thread.
 //
-// Origin: common to the technical literature; described as "momentum" by J. Welles Wilder (1978) and Martin
-// J. Pring (1980). Formula: MOM(i) = close(i) - close(i - P), from index P on.
+// Origin: common in the technical literature; described as "momentum" by J. Welles Wilder (1978) and Martin
+// J. Pring (1980).
+//
+// Formula: MOM(i) = close(i) - close(i - P), from index P on.
 //
 // Differences from the textbook, all intended:
-// - After a whole draw the value at point k of the pane is that of the bar before it. A live point is not
-// late: it has the
-//   value of its own bar until the next whole draw.
-// - With a fixed scale and at least 31 points in the series a draw leaves the value axis as it is.
+// - After a whole draw, point k of the pane has the value of the bar before it. A live point has the value of
+//   its own bar until the next whole draw.
+// - With a fixed scale and at least 31 points in the series, a draw does not change the value axis.
 #pragma once
 
 #include "studies/HistStudyChart.h"
@@ -17,7 +19,7 @@ namespace zantroq {
 class CHistMOMChart : public CHistStudyChart
 {
 public:
-    double CalcMomentum(int index) const; // the hole value where there is none
+    double CalcMomentum(int index) const; // the hole value if there is none
 
 protected:
     std::vector<sStudyLine> Lines() const override;

@@ -1,12 +1,12 @@
-// On-balance volume of a window, with a zero line.
+// On-balance volume of a window, with a zero line. Chart window's thread.
 //
 // Origin: Joseph E. Granville, "New Key to Stock Market Profits" (1963).
-// Formula: OBV(i) is the sum, over the last P bars up to i, of the bar's volume where its close is above the
-// close before, and of the volume taken away where it is below; an unchanged close adds nothing.
 //
-// Difference from the textbook, intended: the sum covers the last P bars and is not the running total from
-// the start of the data. The first value is at index P. A period of 0 or less sums nothing and gives 0 at
-// every point.
+// Formula: OBV(i) is a sum over the last P bars up to i. It adds the volume of a bar whose close is above the
+// close before and subtracts the volume of a bar whose close is below it; an unchanged close adds nothing.
+//
+// Difference from the textbook, intended: the sum covers the last P bars instead of all bars from the start
+// of the data. The first value is at index P. With a period of 0 or less the sum is 0 at every point.
 #pragma once
 
 #include "studies/HistStudyChart.h"
@@ -16,7 +16,7 @@ namespace zantroq {
 class CHistOBVChart : public CHistStudyChart
 {
 public:
-    double CalcOBV(int index) const; // the hole value where there is none
+    double CalcOBV(int index) const; // the hole value if there is none
 
 protected:
     std::vector<sStudyLine> Lines() const override;

@@ -1,12 +1,14 @@
-// Rate of change: the momentum as a percentage of the earlier close, drawn as bars.
+// Rate of change: the momentum as a percentage of the earlier close, drawn as bars. Chart window's thread.
 //
-// Origin: common to the technical literature; described by Martin J. Pring, "Technical Analysis Explained"
-// (1980). Formula: ROC(i) = (close(i) - close(i - P)) / close(i - P) * 100.
+// Origin: common in the technical literature; described by Martin J. Pring, "Technical Analysis Explained"
+// (1980).
+//
+// Formula: ROC(i) = (close(i) - close(i - P)) / close(i - P) * 100.
 //
 // Differences from the textbook, all intended:
 // - The first value is at index P + 1; index P has none, although it has a momentum.
-// - A close of 0 a period back gives a gap instead of an infinity.
-// - The stored color of a 100 % line is kept, and no line is drawn.
+// - If the earlier close is 0, the bar is a gap instead of an infinity.
+// - The color of a 100 % line is stored, but no such line is drawn.
 #pragma once
 
 #include "studies/HistStudyChart.h"
@@ -16,7 +18,7 @@ namespace zantroq {
 class CHistROCChart : public CHistStudyChart
 {
 public:
-    double CalcROC(int index) const; // the hole value where there is none
+    double CalcROC(int index) const; // the hole value if there is none
 
 protected:
     std::vector<sStudyLine> Lines() const override { return {{1, 1, DataColor()}}; }

@@ -1,24 +1,24 @@
-// Relative Strength Index of the close with two level lines, on a fixed axis of 0 to 100.
+// Relative Strength Index of the close with two level lines, on a fixed axis of 0 to 100. Chart window's
+// thread.
 //
 // Origin: J. Welles Wilder, "New Concepts in Technical Trading Systems" (1978).
-// Formula: RSI = 100 - 100 / (avgGain / avgLoss + 1) over the period P. The averages are seeded with the
-// plain averages of the gains and losses of points 1 to P of the series and then move by avg += (change -
+//
+// Formula: RSI = 100 - 100 / (avgGain / avgLoss + 1) with the period P. The averages start as the plain
+// averages of the gains and losses of points 1 to P of the series and are then updated by avg += (change -
 // avg) / P.
 //
 // Differences from the textbook, all intended:
-// - The value at point k of the pane is that of the bar before it.
-// - Only a computation that continues on the index last finished moves the averages so. One that starts in
-// the middle of the
-//   series (the leftmost point of a redraw) runs avg = (change / P + avg) - avg from the seed, in which the
-//   old average cancels: it starts from the last change alone, so there the curve stands at 0, at 100, or is
-//   not a number. It comes back to the textbook's within some P points. The curve therefore depends on where
-//   the display begins.
-// - Indices P and P + 1 have the same value, that of the seed.
-// - The state that is continued on is one for the process. Another chart, pane or symbol whose index happens
-// to follow the
-//   one last finished goes on from it.
-// - No change at all, 0 / 0, is not a number and is drawn as nothing.
-// A period below 1 has no values.
+// - Point k of the pane has the value of the bar before it.
+// - The averages are updated like this only if the computation continues from the last computed index. A
+//   computation that starts in the middle of the series (the leftmost point of a redraw) runs avg = (change /
+//   P + avg) - avg from the start values, in which the old average cancels. It thus depends on the last
+//   change alone, so the curve starts there at 0, at 100 or at not-a-number and approaches the textbook's
+//   within about P points. The curve therefore depends on where the display begins.
+// - Indices P and P + 1 have the same value, that of the start averages.
+// - There is one state for the process. Another chart, pane or symbol continues from it if its index happens
+//   to follow the last computed one.
+// - Without any change, 0 / 0 gives not-a-number, which is not drawn.
+// A period below 1 gives no values.
 #pragma once
 
 #include "studies/HistStudyChart.h"
@@ -29,10 +29,10 @@ namespace zantroq {
 class CHistRSIChart : public CHistStudyChart
 {
 public:
-    // The RSI of index position - 1; -1 where there is none.
+    // The RSI of index position - 1; -1 if there is none.
     double CalcRSI(int position);
 
-    // The state of the process, for tests: they set it before they draw.
+    // The state of the process. Only for tests, which set it before they draw.
     static sRSIRunningState& StudyRunningState();
 
 protected:

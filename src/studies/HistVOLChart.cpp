@@ -13,7 +13,7 @@ namespace zantroq {
 
 namespace {
 
-// The nearest 64-bit number that a double can be cut down to.
+// The value as a 64-bit integer, limited to the range where that is defined; 0 for not-a-number.
 std::int64_t WholeVolume(double value)
 {
     constexpr double limit = 9.2e18;
@@ -42,7 +42,7 @@ std::vector<sStudyLine> CHistVOLChart::Lines() const
     return lines;
 }
 
-// The pane's points can differ from those that the price pane has only while a window is being set up.
+// The pane and the price pane have different numbers of points only while the window is being set up.
 sVolumeScale CHistVOLChart::LoadVolumes(int first, int count, VolumeMaximum rule) const
 {
     CPaneData& volumes = chart->PaneGroups(1).PaneData();

@@ -1,19 +1,18 @@
-// The volume of each displayed point as bars, and optionally one average as a horizontal line.
+// The volume of each displayed point as bars, and optionally an average as a horizontal line. Chart window's
+// thread.
 //
 // Formula: the plotted value is the volume divided by VolumeDivisor, a power of ten that is 1 unless a volume
 // exceeds 2,147,483,647. The average is the plain mean over the whole series, or over its last P points, in
 // the same unit.
 //
 // Peculiarities, all intended:
-// - The average is that of the end of the series, wherever the display stands. Over all data its line covers
-// the whole pane;
-//   over P points it covers those P alone, so it lies to the right of a pane that is scrolled back. A live
-//   update places it one point further right on minute data than a draw does.
-// - When the divisor grows, the points plotted before are divided by the whole new divisor and not by ten, so
-// a second step in
-//   one draw shrinks them further than the later ones.
-// - With a fixed scale and more than 30 points a draw sets the axis to 1,000, unless it was asked to fit
-// again.
+// - The average belongs to the end of the series, whatever range is displayed. Over all data, its line covers
+//   the whole pane. Over P points, it covers only those P points, so it lies to the right of a pane that is
+//   scrolled back. On minute data a live update draws it one point further right than a draw does.
+// - When the divisor grows, earlier points are divided by the whole new divisor and not by ten, so a second
+//   step in one draw makes them smaller than later points of the same volume.
+// - With a fixed scale and more than 30 points, a draw sets the axis to 1,000, unless a new fit was
+//   requested.
 // - Live points never change the divisor.
 #pragma once
 
@@ -28,10 +27,10 @@ public:
     void DrawStudy() override;
     void UpdateStudy(int newPoints) override;
 
-    // Bars where a point has at least a pixel, connected lines below that.
+    // Selects bars if a point has at least one pixel, connected lines otherwise.
     void AdjustStudyBars() override;
 
-    // The average over the end of the series, in units of VolumeDivisor.
+    // The average at the end of the series, in units of VolumeDivisor.
     virtual std::int32_t CalcVolumeAverage() const;
 
     std::int32_t VolumeAverage = 0;
@@ -48,7 +47,7 @@ protected:
 private:
     bool ShowsAverage() const { return StudySettings().ShowVolumeAverage != 0; }
     bool AveragesAllData() const { return StudySettings().VolumeAverageAllData != 0; }
-    // The average's y values for the points from 1 on; minuteShift is taken from where it begins.
+    // Writes the average's y values from point 1 on. The line starts `minuteShift` points further left.
     void WriteAverageLine(int minuteShift) const;
     sVolumeScale LoadVolumes(int first, int count, VolumeMaximum rule) const;
     std::string VolumeText(double value) const;

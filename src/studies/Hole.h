@@ -1,4 +1,4 @@
-// The value that means "no value here" in study arithmetic: the pane's hole value.
+// The value that means "no value" in study arithmetic: the pane's hole value. Pure functions, any thread.
 #pragma once
 
 #include "scene/PaneObjects.h"
@@ -12,7 +12,7 @@ inline bool IsHole(double value)
     return value == StudyHole;
 }
 
-// What has no value leaves the variable as it is.
+// Leaves the variable unchanged if `value` is the hole value.
 inline void AssignValue(double& variable, double value)
 {
     if (!IsHole(value))

@@ -1,5 +1,5 @@
-// The arithmetic of the momentum and rate-of-change panes; the formulas are told in HistMOMChart.h and
-// HistROCChart.h.
+// The arithmetic of the momentum and rate-of-change panes; HistMOMChart.h and HistROCChart.h give the
+// formulas. No state; any thread that may read the prices.
 #pragma once
 
 #include "drawing/PriceSource.h"
@@ -8,8 +8,8 @@
 
 namespace zantroq {
 
-// out[i] is the value at `index` + i, for i from 0 to count - 1; the hole value where there is none. A period
-// of 0 compares a close with itself, a negative one with a later close.
+// out[i] is the value at `index` + i, for i from 0 to count - 1; the hole value if there is none. A period of
+// 0 compares a close with itself, a negative period with a later close.
 void ComputeMomentum(const IPriceSource& prices, std::int64_t index, int count, std::int32_t period,
                      double* out);
 void ComputeROC(const IPriceSource& prices, std::int64_t index, int count, std::int32_t period, double* out);

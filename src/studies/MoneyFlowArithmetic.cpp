@@ -20,14 +20,14 @@ void TypicalPrices(const IPriceSource& prices, std::int64_t from, std::int64_t t
         typical[i] = (c[i] + (l[i] + h[i])) / 3;
 }
 
-// down holds the volumes. A loop of its own, which the compiler does without branches: rising and falling
-// prices follow no rule that a processor could guess.
+// On entry `down` holds the volumes. In a separate loop, so that the compiler generates code without
+// branches: rising and falling prices are unpredictable.
 void SplitFlows(const double* __restrict typical, std::int64_t flows, double* __restrict up,
                 double* __restrict down)
 {
     for (std::int64_t i = 0; i < flows; ++i) {
         const double before = typical[i], now = typical[i + 1], flow = down[i] * now;
-        // Adding 0 leaves a sum as it is: one that starts at 0 never becomes -0.
+        // Adding 0 does not change a sum: one that starts at 0 never becomes -0.
         up[i] = now > before ? flow : 0.0;
         down[i] = now < before ? flow : 0.0;
     }
@@ -44,7 +44,8 @@ int FlowPiece(const IPriceSource& prices, std::int64_t index, int count, std::in
         return count;
     const std::int64_t windows = end - from, terms = p + 1, flows = windows + p;
 
-    // Element i of the flows is index from - p + i, of the typical prices one index before.
+    // Element i of the flows belongs to index from - p + i, element i of the typical prices to the index
+    // before.
     CStudyArray<double> typical(flows + 1);
     TypicalPrices(prices, from - p - 1, end, typical.Data());
     const CVolumeBlock volume(prices, &IPriceSource::ReadVolume, from - p, end);

@@ -38,8 +38,8 @@ sAverages Seed(const CPriceBlock& close, std::int64_t period)
     return {sum.Gain / divisor, sum.Loss / divisor};
 }
 
-// Not Wilder's smoothing: the old average cancels, so each average is the last change over the period. The
-// order of the terms is kept, because gain * k by itself rounds differently.
+// Not Wilder's smoothing: the old average cancels, so each average is the last change divided by the period.
+// Keep the order of the terms; gain * k by itself rounds differently.
 sAverages CatchUp(const CPriceBlock& close, std::int64_t period, std::int64_t n, sAverages average)
 {
     const double k = 1.0 / static_cast<double>(period);
@@ -51,7 +51,7 @@ sAverages CatchUp(const CPriceBlock& close, std::int64_t period, std::int64_t n,
     return average;
 }
 
-// Every index from `from` to `to` - 1 follows the one before, which the state is that of.
+// Continues from `state`, which must be that of index from - 1, and leaves it at to - 1.
 void Continue(const CPriceBlock& close, std::int64_t from, std::int64_t to, double k, sRSIRunningState& state,
               double* __restrict out)
 {

@@ -10,7 +10,8 @@ namespace zantroq {
 
 namespace {
 
-// One stage's values for the indices From up to, not including, an end; none where the end is not above From.
+// The values of one stage for the indices From up to but not including an end; empty if the end is not above
+// From.
 struct sStage
 {
     sStage(std::int64_t from, std::int64_t to) : From(from), Values(to - from) {}
@@ -20,7 +21,7 @@ struct sStage
     CStudyArray<double> Values;
 };
 
-// The raw values of a stage's indices, which are at least `period`.
+// Fills in the raw values of a stage, whose indices are at least `period`.
 void FillRaw(const IPriceSource& prices, std::int64_t period, sStage& raw)
 {
     const std::int64_t count = raw.Values.Size(), from = raw.From, to = from + count;
@@ -43,7 +44,7 @@ void FillRaw(const IPriceSource& prices, std::int64_t period, sStage& raw)
     }
 }
 
-// The plain average of the `period` values before each of a stage's indices.
+// Fills in the plain average of the `period` values before each index of a stage.
 void FillAverage(const sStage& values, std::int64_t period, sStage& average)
 {
     if (average.Values.Size() > 0)
@@ -51,7 +52,7 @@ void FillAverage(const sStage& values, std::int64_t period, sStage& average)
                     static_cast<double>(period), average.Values.Data());
 }
 
-// %K of `index` is the value one before it once `average` has begun, else the value of the index itself.
+// %K is the value of the index before once `average` has begun, otherwise the value of the index itself.
 void WriteStage(const sStage& values, const sStage& average, std::int64_t index, std::int64_t end, double* k,
                 double* d)
 {
@@ -77,7 +78,7 @@ void StochasticPiece(const IPriceSource& prices, std::int64_t index, int count, 
         std::fill_n(d, count, StudyHole);
         return;
     }
-    // Each stage is needed for one period before the stage above it, and not before it begins.
+    // Each stage needs the stage below it for one more period, but not before that stage begins.
     const auto begin = [&](std::int64_t stageStart, std::int64_t needed) {
         return std::clamp(needed, stageStart, std::max(stageStart, end));
     };

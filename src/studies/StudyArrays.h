@@ -1,5 +1,5 @@
-// Buffers for whole-range arithmetic: arrays that start unset, and stretches of a series read in one go.
-// Chart window's thread.
+// Buffers for computations over a range: uninitialised arrays, and pieces of a series read at once. Chart
+// window's thread.
 #pragma once
 
 #include "drawing/PriceSource.h"
@@ -12,10 +12,10 @@
 
 namespace zantroq {
 
-inline constexpr std::int64_t ShortestPiece = 1024; // points of a stretch of the series
+inline constexpr std::int64_t ShortestPiece = 1024; // in points of the series
 
-// An array whose elements are unset until written; sized once. That of a short stretch lies in the object
-// itself, since a whole draw makes some thousand of them.
+// An array of fixed size whose elements are uninitialised. A short array is stored inside the object, because
+// a whole draw creates some thousand of them.
 template<class T> class CStudyArray
 {
 public:
@@ -35,16 +35,17 @@ public:
     std::span<const T> Span() const { return {m_items, static_cast<std::size_t>(m_size)}; }
 
 private:
-    static constexpr std::int64_t Near = ShortestPiece + 128; // with the look-back of the usual periods
+    static constexpr std::int64_t Near =
+        ShortestPiece + 128; // a piece and the look-back of the usual periods
     std::int64_t m_size;
     T* m_items;
     std::unique_ptr<T[]> m_far;
     T m_near[Near];
 };
 
-// The values of the series' indices From() up to, not including, To(), addressed by index. Where the series
-// has none the value is 0, as for the single reads. The indices may be any 64-bit numbers; only To() - From()
-// costs.
+// The values of indices From() up to but not including To(), accessed by index. The value is 0 where the
+// series has none, as with single reads. Indices may be any 64-bit numbers; time and memory depend only on
+// To() - From().
 template<class T> class CSeriesBlock
 {
 public:
@@ -74,9 +75,10 @@ private:
     CStudyArray<T> m_values;
 };
 
-// Calls work(offset, length) for stretches that together are `count` points. A stretch is short enough for
-// its arrays to stay in the processor's cache and off the system's page tables, which at 245,760 points cost
-// more than the arithmetic, and long against the `lookback` points that each must read before its own.
+// Calls work(offset, length) for pieces that together are `count` points. A piece is short enough for its
+// arrays to stay in the processor's cache and to need few memory pages, whose set-up would cost more than the
+// arithmetic at 245,760 points. It is long compared with the `lookback` points that each piece must read
+// before its own.
 template<class Work> void InPieces(int count, std::int64_t lookback, const Work& work)
 {
     constexpr std::int64_t longest = std::numeric_limits<int>::max();

@@ -13,13 +13,13 @@ namespace {
 
 struct sUnit
 {
-    double From;    // the least step that takes it
-    double Divisor; // what a label's value is divided by
+    double From;    // smallest step with this unit
+    double Divisor; // divisor of a label's value
     int Exponent;
     const char* Suffix;
 };
 
-// Beyond it the powers of ten below leave 64 bits.
+// Above this, the powers of ten below would exceed 64 bits.
 constexpr std::int64_t GreatestVolumeAxis = 2000000000000000000;
 
 constexpr std::array<sUnit, 5> Units{

@@ -1,4 +1,4 @@
-// Makes the pane of a study kind. Stateless; may be shared by all windows.
+// Creates the pane of a study kind. Stateless; all windows may share it. Any thread.
 #pragma once
 
 #include "drawing/BaseChart.h"
@@ -8,7 +8,7 @@ namespace zantroq {
 class CStudyFactory : public IStudyFactory
 {
 public:
-    // With its kind set and nothing else; the caller owns it. Null for an unknown kind.
+    // Creates a pane with only its kind set. The caller owns it. Null for an unknown kind.
     CStudyChart* Create(int kind) override;
 };
 

@@ -1,5 +1,6 @@
-// The ten studies as a table. A study's class makes its curves, header and readout; its row says how an
-// export names its columns and how its pane is made. A new study is a class, a row here and its settings.
+// The table of the ten studies. The class of a study computes its curves, header and readout; its row creates
+// its pane and names its columns in an export. A new study needs a class, a row here and its settings.
+// Constant data, any thread.
 #pragma once
 
 #include "drawing/BaseChart.h"
@@ -9,7 +10,7 @@
 
 namespace zantroq {
 
-// A curve of a study pane as a column of an export.
+// A column of an export: a curve of a study pane.
 struct sStudyColumn
 {
     const char* Name;
@@ -20,7 +21,7 @@ struct sStudyRow
 {
     StudyKind Kind;
     std::unique_ptr<CStudyChart> (*Make)();
-    std::span<const sStudyColumn> Columns; // levels are left out, and the volumes, which are a column already
+    std::span<const sStudyColumn> Columns; // without levels, and without volumes, which every export has
 };
 
 const sStudyRow* FindStudy(int kind); // null for an unknown kind

@@ -9,7 +9,7 @@ namespace zantroq {
 
 namespace {
 
-// Half of what a double counts to without a gap.
+// Half of the range in which a double represents every integer.
 constexpr double Half = 4503599627370496.0;
 
 sVolumeScale ScaleLargeVolumes(const IPriceSource& prices, std::int64_t first, int count, VolumeMaximum rule,
@@ -26,8 +26,8 @@ sVolumeScale ScaleLargeVolumes(const IPriceSource& prices, std::int64_t first, i
             while (q > GreatestPlottedVolume) {
                 q /= 10;
                 scale.Divisor *= 10;
-                // By the whole divisor, not by ten: a second step shrinks the points before it further than
-                // it should, and the pane is known for it.
+                // By the whole divisor and not by ten: a second step makes earlier points smaller than it
+                // should. Intended (see HistVOLChart.h).
                 for (int j = 0; j < i; ++j)
                     scaled[j] /= scale.Divisor;
                 scale.Maximum /= scale.Divisor;
@@ -42,9 +42,9 @@ sVolumeScale ScaleLargeVolumes(const IPriceSource& prices, std::int64_t first, i
     return scale;
 }
 
-// sum and the volumes, added in order. The order does not matter, and integers are faster, while no partial
-// sum can leave the whole numbers that a double holds: no volume is above `exact`, which is Half shared out
-// among all volumes of the average.
+// Adds the volumes to `sum` in order. While no partial sum can exceed the integers that a double represents
+// exactly, integers give the same result faster; that is so if no volume is above `exact`, which is Half
+// divided by the number of volumes.
 double SumVolumes(const std::int64_t* volume, int count, double sum, double exact)
 {
     std::int64_t total = 0, least = 0, greatest = 0;
@@ -62,7 +62,7 @@ double SumVolumes(const std::int64_t* volume, int count, double sum, double exac
     return sum;
 }
 
-// False, with nothing of use written, when a volume needs a divisor.
+// Returns false if a volume needs a divisor; the output is invalid then.
 bool CopyVolumes(const IPriceSource& prices, std::int64_t first, int count, std::int64_t& greatest,
                  double* plotted)
 {

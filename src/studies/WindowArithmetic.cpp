@@ -28,8 +28,8 @@ void Combine(const double* __restrict in, std::int64_t count, std::int64_t dista
         out[i] = Rule::Pick(in[i], in[i + distance]);
 }
 
-// Windows of 1, 2, 4, ... values until two of them, overlapping, make the whole window. Overlap does no harm:
-// the pick of the earliest extreme is the same however often a value takes part.
+// Computes windows of 1, 2, 4, ... values until two of them together, overlapping, make up the window. The
+// overlap is harmless: the earliest extreme stays the same however often a value is compared.
 template<class Rule>
 void ExtremesInWindows(const double* __restrict in, std::int64_t count, std::int64_t terms, double start,
                        double* __restrict out)
@@ -51,9 +51,9 @@ void ExtremesInWindows(const double* __restrict in, std::int64_t count, std::int
     Combine<Rule>(from, count, terms - width, out);
 }
 
-// As many windows side by side as Parts vectors hold; each window's own additions keep their order. With a
-// divisor the divisions hide behind the next windows' additions. Returns how many windows are done, all but a
-// last few.
+// Sums as many windows in parallel as Parts vectors hold; the additions of each window keep their order. With
+// a divisor, the divisions overlap with the next additions. Returns the number of windows done; a few at the
+// end may remain.
 template<class Vector, std::int64_t Parts, bool Divide>
 [[gnu::always_inline]] inline std::int64_t SumBlocks(const double* in, std::int64_t count, std::int64_t terms,
                                                      double divisor, double* out)
