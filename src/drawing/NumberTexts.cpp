@@ -62,8 +62,7 @@ std::string RoundedThousandsText(double value)
 {
     if (std::isnan(value))
         return "nan";
-    // Sums of volumes stay far below; what does not is held at the ends of what can be rounded without
-    // overflow.
+    // Sums of volumes are far smaller; other values are limited to what can be rounded without overflow.
     constexpr double limit = 9.0e18;
     const auto whole = static_cast<std::int64_t>(std::clamp(value, -limit, limit));
     auto magnitude = static_cast<std::uint64_t>(whole < 0 ? -whole : whole);

@@ -1,5 +1,5 @@
-// Prices as texts. The feed sends a format code with its data; what a code means is a rule of its own, behind
-// an interface so that a host can bring another.
+// Prices as texts. The feed sends a format code with its data; an interface defines the meaning of the codes,
+// so that a host can replace it.
 #pragma once
 
 #include <string>
@@ -13,9 +13,9 @@ public:
     virtual std::string Format(double price, int code) const = 0;
 };
 
-// The rule that ships. Code 10 and above: code - 10 decimals. Codes 1 to 8: fractions of 2^code, not reduced:
-// "101 8/32" with code 5; a fraction of 0 is left out; a minus sign stands in front of the whole. Any other
-// code: "%0.12g".
+// The shipped rules. Code 10 and above: code - 10 decimals. Codes 1 to 8: fractions of 2^code, not reduced,
+// such as "101 8/32" with code 5; a fraction of 0 is omitted, and a minus sign precedes the whole part. Any
+// other code: "%0.12g". Stateless, any thread.
 class CFeedCodePriceFormatter : public IPriceFormatter
 {
 public:
@@ -24,8 +24,8 @@ public:
 
 const IPriceFormatter& ShippedPriceFormatter();
 
-// The same for a series without a format code (code 0), which has a text for each place.
-std::string PlainInfoPriceText(double price);    // in titles: "%0.12f", zeros at the end cut
-std::string PlainReadoutPriceText(double price); // in the readout: "%0.12g", zeros at the end cut
+// Prices of a series without a format code (code 0); the two places have different formats.
+std::string PlainInfoPriceText(double price);    // in titles: "%0.12f" without trailing zeros
+std::string PlainReadoutPriceText(double price); // in the readout: "%0.12g" without trailing zeros
 
 } // namespace zantroq

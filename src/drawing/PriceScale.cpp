@@ -7,7 +7,7 @@ namespace zantroq {
 
 namespace {
 
-constexpr int MostLabels = 1000; // never reached by a sound axis, which has fewer than ten
+constexpr int MostLabels = 1000; // never reached by a valid axis, which has fewer than ten
 
 template<std::size_t size> int FirstNotLess(const std::array<int, size>& steps, int value)
 {
@@ -29,8 +29,8 @@ int UnitParts(int parts, int formatCode)
     return finest < chosen ? static_cast<int>(finest) : chosen;
 }
 
-// Both ends out to a multiple of the step. A negative low end that is a multiple already moves one step
-// further down.
+// Moves both ends outward to a multiple of the step. A negative low end that is already a multiple moves one
+// step further down.
 void Snap(double& high, double& low, double step)
 {
     low = low - (std::fmod(low, step) + (low < 0 ? step : 0.0));
@@ -45,7 +45,8 @@ sPriceScale PlainScale(double high, double low)
     low = low - 0.1 * margin;
     const double step = RoundStep((high - low) * 0.25, false);
     const double rest = std::fmod(low, step);
-    // Not quite a multiple of the step: the rest of 0.0099 keeps the lowest label off the pane's edge.
+    // Not exactly a multiple of the step: the remaining 0.0099 keeps the lowest label off the edge of the
+    // pane.
     if (rest >= 0.01)
         low = low - rest + 0.0099;
     sPriceScale scale;
@@ -61,7 +62,7 @@ sPriceScale PlainScale(double high, double low)
 
 double RoundStep(double step, bool upwardOnly)
 {
-    constexpr double smallest = 1e-300; // below it the powers of ten run out before the step does
+    constexpr double smallest = 1e-300; // below it the powers of ten underflow before the step does
     if (!(step >= smallest) || std::isinf(step))
         return step;
     double power = 1.0;

@@ -1,5 +1,5 @@
-// The value axis of the price pane: a range of prices becomes an axis with round steps. Pure arithmetic; the
-// price pane writes the answer. Chart window's thread.
+// The value axis of the price pane: computes an axis with round steps from a range of prices. Pure functions,
+// any thread.
 #pragma once
 
 #include <optional>
@@ -7,27 +7,27 @@
 
 namespace zantroq {
 
-// A finished axis. Labels stand from FirstLabel up to High in steps of Step.
+// A computed axis, with labels in steps of Step up to High.
 struct sPriceScale
 {
     double Low = 0, High = 0, Step = 0;
     int LabelMethod = 0;
-    bool Plain = false;      // labels by "%g", else by the price formatter
-    bool LabelsAtLow = true; // else the first label stands one step above Low
-    // Parts of a unit that a narrow range is thought of in, 0 for a range above 4: halves to 256ths for the
-    // fractional format codes, decimal parts no finer than the price's last decimal for the others. The step
+    bool Plain = false;      // labels use "%g", otherwise the price formatter
+    bool LabelsAtLow = true; // otherwise the first label is one step above Low
+    // The parts into which a narrow range divides a unit: halves to 256ths for the fractional format codes,
+    // otherwise decimal parts no finer than the last decimal of the price; 0 for a range above 4. The step
     // does not depend on it.
     int UnitParts = 0;
 };
 
-// Nothing where low is above high, or where one is not a finite number: the axis then stays. formatCode is
-// the series' price format; plain is set while the series has none.
+// Returns nothing if low is above high or one of them is not finite; the axis must then stay unchanged.
+// `formatCode` is the price format of the series; `plain` is true while it has none.
 std::optional<sPriceScale> MakePriceScale(double high, double low, int formatCode, bool plain);
 
-// The values that get a label, from bottom to top. A step that rounding swallows ends the row.
+// The values of the labels from bottom to top. The list ends if a step is too small to change the value.
 std::vector<double> PriceScaleLabels(const sPriceScale& scale);
 
-// 1, 2, 5 or 10 times a power of ten near a raw step. upwardOnly looks for the power from 1 up and not below.
+// 1, 2, 5 or 10 times a power of ten near `step`. With `upwardOnly`, only powers from 1 upward are tried.
 double RoundStep(double step, bool upwardOnly);
 
 } // namespace zantroq

@@ -1,25 +1,26 @@
-// The axis that all panes share: a point takes the same room whatever the time to the next one, so x values
-// are the numbers 1 to the count of points shown. Pure arithmetic, and the writing of it into a pane. Chart
-// window's thread.
+// The x axis that all panes share: every point takes the same width whatever the time to the next, so x
+// values are 1 to the number of displayed points. XSpacing, XLabelCount and PixelsPerPoint are pure; SetXAxis
+// belongs to the chart window's thread.
 #pragma once
 
 #include "scene/Chart2D.h"
 
 namespace zantroq {
 
-// Points between two labels: (shown - 2) / 5 + 1 in integer division, which makes five labels.
+// The number of points between two labels: (shown - 2) / 5 + 1 in integer division, which gives five labels.
 int XSpacing(int shown);
 
-// Labels that go with that spacing: five, or one a point where the spacing is 1.
+// The number of labels with that spacing: five, or one per point if the spacing is 1.
 int XLabelCount(int shown);
 
-// Room of one point in pixels; widthPx is the pane's client width. A width that leaves nothing gives 1.
+// The width of a point in pixels; `widthPx` is the client width of the pane. 1 if no width is left.
 double PixelsPerPoint(int widthPx, int shown);
 
-// Both margins together: what of the client width is not plot.
+// Sum of both side margins.
 inline constexpr double SideMarginsPx = 81.0;
 
-// Range and spacings of a pane's x axis for so many points; the grid's spacing too where the grid is on.
+// Sets the range and the spacings of a pane's x axis for so many points; also the grid's spacing if the grid
+// is on.
 void SetXAxis(CChart2D& chart, int shown, bool grid);
 
 } // namespace zantroq

@@ -8,9 +8,10 @@ namespace zantroq {
 
 namespace {
 
-constexpr double FirstLabelLeftPx = 1.0; // room before the first label, by the side of the value axis
+constexpr double FirstLabelLeftPx =
+    1.0; // room before the first label, depending on the side of the value axis
 constexpr double FirstLabelRightPx = 41.25;
-constexpr double HalfLetterPx = 2.25; // half the width that a letter is taken to have
+constexpr double HalfLetterPx = 2.25; // half the assumed width of a letter
 constexpr double LabelGapPx = 12.0;
 
 std::string DateLine(const sXLabelView& view, const std::string& date, int index)

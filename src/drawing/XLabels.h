@@ -1,5 +1,5 @@
-// Which dates and times stand under the price pane and where. Pure arithmetic over two texts per index. Chart
-// window's thread.
+// Chooses the dates and times below the price pane and their positions. Pure functions, any thread that may
+// call Date and Time.
 #pragma once
 
 #include <functional>
@@ -10,13 +10,13 @@ namespace zantroq {
 
 struct sXLabelView
 {
-    int First = 0; // data index of the leftmost point shown
-    int Last = 0;  // of the rightmost
-    int Shown = 0; // points shown
+    int First = 0; // data index of the leftmost displayed point
+    int Last = 0;  // data index of the rightmost displayed point
+    int Shown = 0; // number of displayed points
     double PixelsPerPoint = 1;
-    bool AxisOnRight =
-        false; // the value axis's side; with it on the left the first label may stand nearer to the edge
-    bool Intraday = false;                      // ticks and minutes: a new date is followed by the time
+    // With the value axis on the left, the first label may be closer to the edge.
+    bool AxisOnRight = false;
+    bool Intraday = false;                      // ticks and minutes: the time follows a new date
     std::function<std::string(int)> Date, Time; // by data index
 };
 

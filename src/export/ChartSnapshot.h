@@ -1,5 +1,5 @@
-// The state of a chart window and of its panes as one JSON document; docs/snapshot.md describes the fields.
-// The same state writes the same bytes. Chart window's thread.
+// The state of a chart window and its panes as a JSON document; docs/snapshot.md describes the fields. The
+// same state gives the same bytes. Chart window's thread.
 #pragma once
 
 #include <string>

@@ -1,4 +1,4 @@
-// An open dialog as the state file of a window shows it: docs/snapshot.md. Pure function.
+// An open dialog in the JSON state of a window, see docs/snapshot.md. Pure function, any thread.
 #pragma once
 
 #include "platform/DialogDriver.h"

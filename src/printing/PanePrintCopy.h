@@ -1,5 +1,4 @@
-// What is printed of a pane: a copy of all it shows, recolored for paper, so that the pane on screen stays
-// as it is. Chart window's thread.
+// The copy of a pane for paper, so that the pane on screen does not change. Chart window's thread.
 #pragma once
 
 #include "platform/TemporaryFile.h"
@@ -11,10 +10,10 @@
 
 namespace zantroq {
 
-// The copy goes through a pane file in the folder, its name beginning with "CHT", which is gone on return. A
-// file that cannot be written or read leaves an empty pane of the client size. The copy's backgrounds are
-// white, everything else keeps its colors; its left and right margins and its box's left and width are fixed
-// at what they are; no view hears of it and it reacts to nobody.
+// Copies a pane through a temporary pane file in `folder`, whose name begins with "CHT". If the file cannot
+// be written or read, the copy is an empty pane of the client size. The backgrounds of the copy are white,
+// all other colors are unchanged. Its left and right margins and the left and width of its box are fixed at
+// their current sizes. No view is attached to it, and it handles no events.
 std::unique_ptr<CChart2D> MakePanePrintCopy(const CChart2D& pane, const sPaneSize& client,
                                             const std::string& folder = TemporaryFolder());
 

@@ -15,7 +15,7 @@ std::int64_t PictureHeight(std::span<const sPaneSize> panes)
     return height;
 }
 
-// One extent in both directions, so that the picture keeps its shape.
+// The same scale in both directions, so that the picture keeps its proportions.
 struct sMapping
 {
     std::int64_t Window = 1, Viewport = 0;

@@ -1,4 +1,4 @@
-// Where the panes of a chart stand on a printed page. Whole device pixels from the top left corner of the
+// The positions of a chart's panes on a printed page, in whole device pixels from the top left corner of the
 // printable area. Pure functions, any thread.
 #pragma once
 
@@ -9,11 +9,11 @@ namespace zantroq {
 
 struct sPrintPage
 {
-    int Width = 0, Height = 0; // of the printable area, in device pixels
+    int Width = 0, Height = 0; // printable area in device pixels
     int PixelsPerInchX = 0, PixelsPerInchY = 0;
 };
 
-struct sPaneSize // client size of a pane, in its own pixels
+struct sPaneSize // client size of a pane in its own pixels
 {
     int Width = 0, Height = 0;
 };
@@ -26,18 +26,18 @@ struct sPageBox
 
 enum class PageFit
 {
-    Height, // the picture is as high as the page and centred across
-    Width   // the picture is as wide as the page and centred down
+    Height, // as high as the page, centred horizontally
+    Width   // as wide as the page, centred vertically
 };
 
-// The picture is as wide as the first pane and as high as all of them. It fits by height when
-// page height * picture width < page width * picture height, else by width: it never leaves the page.
+// The picture is as wide as the first pane and as high as all panes together. It fits by height if page
+// height * picture width < page width * picture height, otherwise by width, so it never exceeds the page.
 PageFit FitOnPage(const sPrintPage& page, std::span<const sPaneSize> panes);
 
-// A box for each pane, stacked without gaps in the order given. Every size goes to device pixels on its own,
-// to the nearest with halves up, so that a stack may be half a pixel a pane longer than the picture as a
-// whole. The picture's place is half of what the page has left, cut to an integer. Empty for a picture
-// without a size.
+// A box for each pane, stacked without gaps in the given order. Each size is converted to device pixels
+// separately and rounded to the nearest, halves up, so the stack may differ from the whole picture by half a
+// pixel per pane. The offset is half of the remaining space, truncated to an integer. Empty if the picture
+// has no size.
 std::vector<sPageBox> PlacePanesOnPage(const sPrintPage& page, std::span<const sPaneSize> panes);
 
 } // namespace zantroq

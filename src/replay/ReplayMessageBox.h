@@ -1,5 +1,5 @@
-// A message box that a script answers: queued answers in order, then no, or ok where there is no "no". Chart
-// window's thread.
+// A message box that a script answers: first the queued answers in order, then no, or ok if there is no "no".
+// Chart window's thread.
 #pragma once
 
 #include "platform/WindowServices.h"
@@ -12,8 +12,8 @@ class CReplayMessageBox : public IMessageBox
 {
 public:
     void Queue(BoxAnswer answer) { m_answers.push_back(answer); }
-    // A queued answer that the box does not offer counts as the nearest: ok as yes, cancel as no, anything as
-    // ok where ok is all.
+    // A queued answer that the box does not offer is replaced by the nearest: ok by yes, cancel by no; every
+    // answer by ok if ok is the only button.
     BoxAnswer Ask(const std::string& text, const std::string& caption, BoxButtons buttons,
                   BoxIcon icon) override;
 

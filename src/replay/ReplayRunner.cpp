@@ -16,7 +16,7 @@ sReplayResult RunReplay(const sReplayScript& script, CChartDlg& window, CReplayM
         if (result.ExitCode != 0)
             break;
     }
-    // A wait that was cut short says nothing about the feed.
+    // An interrupted wait says nothing about the feed.
     constexpr int NoAnswer = 3;
     if (host.IsEnding() && result.ExitCode == NoAnswer)
         result = {};

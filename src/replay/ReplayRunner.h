@@ -1,5 +1,5 @@
-// Runs a checked replay script on a chart window, one step after the other. A dialog that is open at the end
-// is cancelled. Chart window's thread.
+// Runs a checked replay script on a chart window, step by step, and cancels a dialog that is open at the end.
+// Chart window's thread.
 #pragma once
 
 #include "replay/ReplayScript.h"

@@ -1,4 +1,4 @@
-// One step of a replay script: what it does and the words that it was written with. Chart window's thread.
+// A step of a replay script: its function and its words. Chart window's thread.
 #pragma once
 
 #include "platform/WindowServices.h"
@@ -11,33 +11,35 @@ namespace zantroq {
 
 class CChartDlg;
 
-// What a script needs beside the window: time, size and files.
+// The services that a script needs besides the window: time, size and files.
 class IReplayHost
 {
 public:
     virtual ~IReplayHost() = default;
     virtual void Wait(int milliseconds) = 0;
     virtual void Resize(int width, int height) = 0;
-    // Empty, or one sentence that says what is wrong. A wait goes on until the reply is complete and drawn.
+    // Waits until the reply is complete and drawn. This and the next three functions return an empty text, or
+    // a sentence that says what is wrong.
     virtual std::string WaitComplete(int milliseconds) = 0;
-    // The same until the search of the open dialog has ended.
+    // Waits until the search of the open dialog has ended.
     virtual std::string WaitSearch(int milliseconds) = 0;
     virtual std::string Print(const std::string& file) = 0;
     virtual std::string Snapshot(const std::string& file) = 0;
-    // A sentence about a step that did nothing; the script goes on.
+    // Reports a step that did nothing; the script continues.
     virtual void Warn(const std::string& sentence) = 0;
-    // Whether the program is to end before the script does. Waits then return at once.
+    // True if the program must end before the script does. Waits then return at once.
     virtual bool IsEnding() const { return false; }
 };
 
 struct sReplayResult
 {
-    int ExitCode = 0; // 0, 2 what the window does not take, 3 no complete reply in time, 4 a file that could
-                      // not be written
-    std::string Message; // one sentence that names the line
+    // 0; 2 for what the window does not accept; 3 for a reply that is late or incomplete; 4 for a file that
+    // cannot be written.
+    int ExitCode = 0;
+    std::string Message; // a sentence that names the line
 };
 
-// What a running script acts on.
+// The objects that a running script uses.
 struct sReplayStage
 {
     CChartDlg& Window;
@@ -47,7 +49,7 @@ struct sReplayStage
 
 struct sReplayStep
 {
-    // Does the step. The reader of the step chooses the function and fills the members that it uses.
+    // Runs the step. The reader of the step sets the function and the members that it uses.
     sReplayResult (*Run)(const sReplayStep& step, const sReplayStage& stage) = nullptr;
     int Line = 0; // in the script, from 1
     std::string Text, Name;

@@ -14,7 +14,7 @@ namespace zantroq {
 
 namespace {
 
-constexpr int LargestSide = 16384;         // pixels of a window
+constexpr int LargestSide = 16384;         // in pixels, of a window
 constexpr int LongestWait = 24 * 3600000;  // milliseconds
 constexpr int DefaultCompleteWait = 30000; // milliseconds
 
@@ -25,7 +25,7 @@ sReplayResult Failed(int exitCode, const sReplayStep& step, const std::string& m
     return {exitCode, "line " + std::to_string(step.Line) + ": " + message};
 }
 
-// A step that could not do anything warns, and the script goes on.
+// A step that had no effect is reported, and the script continues.
 sReplayResult WarnIf(const std::string& wrong, const sReplayStep& step, IReplayHost& host)
 {
     if (!wrong.empty())
@@ -108,7 +108,8 @@ sReplayResult RunResize(const sReplayStep& step, const sReplayStage& stage)
     return {};
 }
 
-// Empty, or why there is nothing to pick. A disabled item is there, but does nothing.
+// Returns an empty text, or the reason why there is nothing to pick. A disabled item exists but has no
+// effect.
 std::string PickFromMenu(CChartDlg& window, int command)
 {
     const std::string step = command == 0 ? "menu none" : "menu " + std::to_string(command);
@@ -170,7 +171,7 @@ sReplayResult RunSnapshot(const sReplayStep& step, const sReplayStage& stage)
     return wrong.empty() ? sReplayResult() : Failed(4, step, wrong);
 }
 
-// What a dialog step did: its words, and empty or why nothing was done.
+// The result of a dialog step: its words, and the reason why it had no effect, if any.
 struct sDialogOutcome
 {
     std::string Words, Wrong;
@@ -327,7 +328,7 @@ void ReadAnswer(CWordReader& words, sReplayStep& step)
     step.BoxReply = Answers[words.TakeChoice("the answer", Names)];
 }
 
-// Seconds, with or without decimals, as milliseconds.
+// Reads seconds, with or without decimals, as milliseconds.
 int TakeSeconds(CWordReader& words)
 {
     const std::string& word = words.Take("the time");

@@ -1,5 +1,5 @@
-// The steps of replay scripts as a table: the name, the usage that an error quotes, and the reader of its
-// words, which also chooses what the step does.
+// The table of replay steps: the name, the usage text for errors, and the reader of the step's words, which
+// also sets its function. Constant data, any thread.
 #pragma once
 
 #include "replay/ReplayStep.h"

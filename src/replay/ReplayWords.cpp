@@ -6,7 +6,8 @@ namespace zantroq {
 
 namespace {
 
-// Where a color is due (dialog set ID), its mark is no comment: there would be no value otherwise.
+// In the place of a color value (after dialog set ID), "#" does not begin a comment, because the value would
+// be missing.
 bool IsColorHere(const Words& words, std::string_view rest)
 {
     constexpr std::size_t Length = 7;

@@ -1,4 +1,5 @@
-// The words of one line of a replay script, and reading them one after the other. Errors are sScriptError.
+// The words of a line of a replay script, and a reader for them. Errors are thrown as sScriptError. Pure, any
+// thread.
 #pragma once
 
 #include <array>
@@ -9,7 +10,7 @@
 
 namespace zantroq {
 
-// Thrown: what is wrong with a line. The parser catches it and adds the line's number.
+// Thrown for an error in a line. The parser catches it and adds the line number.
 struct sScriptError
 {
     std::string Sentence;
@@ -17,12 +18,12 @@ struct sScriptError
 
 using Words = std::vector<std::string>;
 
-// Splits at blanks and tabs outside of double quotes; "#" outside of quotes ends the line.
+// Splits at blanks and tabs outside double quotes; "#" outside quotes ends the line.
 Words SplitWords(std::string_view line);
 
 std::string Quoted(const std::string& word);
 
-// Takes the words after the first, the name of the step, which the line must have. `what` names the word in
+// Reads the words after the first, which is the name of the step and must exist. `what` names a word in error
 // messages, such as "the control".
 class CWordReader
 {
@@ -30,19 +31,19 @@ public:
     CWordReader(const Words& words, const char* usage) : m_words(words), m_usage(usage) {}
     const std::string& Step() const { return m_words.front(); }
     bool More() const { return m_next < m_words.size(); }
-    bool TakeIf(const char* word); // true and past it if it comes next
+    bool TakeIf(const char* word); // if `word` is next, skips it and returns true
 
     const std::string& Take(const char* what);
     int TakeInt(const char* what, int low, int high); // decimal, or hexadecimal after "0x"
 
-    // The place of the next word in a list of choices.
+    // The index of the next word in a list of choices.
     template<std::size_t Count>
     std::size_t TakeChoice(const char* what, const std::array<const char*, Count>& choices)
     {
         return TakeChoice(what, choices.data(), Count);
     }
 
-    void End() const; // an error where a word is left over
+    void End() const; // throws if a word is left over
 
 private:
     std::size_t TakeChoice(const char* what, const char* const* choices, std::size_t count);

@@ -34,8 +34,8 @@ public:
     virtual std::int32_t CalcVolumeAverage() const;
 
     std::int32_t VolumeAverage = 0;
-    std::int64_t VolumeDivisor =
-        1; // what the plotted values were divided by; 1 at each draw. A power of ten.
+    // The divisor of the plotted values: a power of ten; 1 at the start of each draw.
+    std::int64_t VolumeDivisor = 1;
 
 protected:
     std::vector<sStudyLine> Lines() const override;

@@ -1,5 +1,6 @@
-// Four rays from the left anchor with 1, 0.618, 0.5 and 0.382 of the slope between the anchors (Leonardo of
-// Pisa's ratios). They run to the last displayed point whatever the extendable flag says.
+// Four rays from the left anchor with 1, 0.618, 0.5 and 0.382 of the slope between the anchors: ratios of the
+// Fibonacci numbers (Leonardo of Pisa, 1202). They always run to the last displayed point; the extendable
+// flag is ignored. Chart window's thread.
 #pragma once
 
 #include "trends/SlopingTrend.h"

@@ -1,4 +1,4 @@
-// A sloping line with a copy at a price offset.
+// A sloping line and a parallel copy at a price offset. Chart window's thread.
 #pragma once
 
 #include "trends/SlopingTrend.h"
@@ -18,8 +18,8 @@ public:
     void DescribeKind(sTrendRecord& record) const override { record.Offset = m_offset; }
 
     int m_series2;
-    double m_offset =
-        0.0; // price distance of the second line from the first; not finite when both anchors share an index
+    // Price of the copy minus that of the first line; not finite if both anchors have the same index.
+    double m_offset = 0.0;
 };
 
 } // namespace zantroq

@@ -33,8 +33,7 @@ void CPitchforkTrend::Draw()
         return;
     int third = 0, middle = 0;
     HandlePositions(third, middle);
-    // The middle may lie between two points: positions may be negative, so only the size of the fraction
-    // counts.
+    // The middle may lie between two points. Positions may be negative, so the remainder may be -1 or 1.
     const double fraction = ((m_startIndex + m_endIndex) % 2 != 0) ? 0.5 : 0.0;
     const double fork = ((m_value + m_endValue) * 0.5 - m_thirdValue) / (middle + fraction - third);
     DrawLine(m_series2, XVector::Keep, middle, fork, m_thirdValue, third);

@@ -1,6 +1,6 @@
-// Andrew's pitchfork: a base line through two anchors, a handle from a third point to the middle of the base
-// line, and two prongs through the base line's ends with the handle's slope. Prongs run to the last displayed
-// point whatever the extendable flag says.
+// Andrew's pitchfork (Alan H. Andrews): a base line through two anchors, a handle from a third point to the
+// middle of the base line, and two prongs with the handle's slope through the ends of the base line. Prongs
+// always run to the last displayed point; the extendable flag is ignored. Chart window's thread.
 #pragma once
 
 #include "trends/SlopingTrend.h"
@@ -10,7 +10,8 @@ namespace zantroq {
 class CPitchforkTrend : public CSlopingTrend
 {
 public:
-    // series2 is the handle's, series3 and series4 those of the prongs through the left and the right anchor.
+    // series2 is for the handle, series3 and series4 are for the prongs through the left and the right
+    // anchor.
     CPitchforkTrend(int series, int series2, int series3, int series4, int startIndex, double value,
                     const sTrendStyle& style);
     TrendKind Kind() const override { return TrendPitchfork; }
@@ -26,7 +27,7 @@ public:
 
     int m_series2;
     int m_thirdIndex = 0;
-    double m_thirdValue = -1.0; // below 0: there is no third point yet, and no fork is drawn
+    double m_thirdValue = -1.0; // below 0: no third point yet, so no handle and no prongs
     int m_series3, m_series4;
 
 private:

@@ -1,5 +1,5 @@
-// A straight line through two anchors; an extendable one goes on with its slope to the last displayed point,
-// never to the left.
+// A straight line through two anchors. An extendable line continues with its slope to the last displayed
+// point, never to the left. Also the base of the kinds with two anchors and a slope. Chart window's thread.
 #pragma once
 
 #include "trends/BaseTrend.h"
@@ -16,13 +16,13 @@ public:
     double GetEndValue() const override { return m_endValue; }
     void SetEndValue(double value) override { m_endValue = value; }
 
-    double m_endValue; // the price at m_endIndex; the first click's until the mouse moves
+    double m_endValue; // price at m_endIndex; that of the first click until the mouse moves
 
 protected:
-    // The least distance to the rays of a kind whose every series runs from the left anchor to the last
+    // The smallest distance to the rays of a kind whose series all run from the left anchor to the last
     // point.
     int NearestRay(int x, int y) const;
-    // vL + slope * (i - pL) from the left anchor to position `right`, plus an offset.
+    // Writes leftValue + slope * (i - left) at positions `left` to `right` of a series.
     void DrawLine(int series, XVector x, int right, double slope, double leftValue, int left);
 };
 

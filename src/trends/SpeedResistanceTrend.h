@@ -1,5 +1,6 @@
-// Three rays from the left anchor: the slope between the anchors, a third of it and two thirds of it (Edson
-// Gould's speed resistance lines). They run to the last displayed point whatever the extendable flag says.
+// Three rays from the left anchor with 1, two thirds and one third of the slope between the anchors: speed
+// resistance lines (Edson Gould). They always run to the last displayed point; the extendable flag is
+// ignored. Chart window's thread.
 #pragma once
 
 #include "trends/SlopingTrend.h"

@@ -15,7 +15,7 @@ namespace zantroq {
 
 namespace {
 
-// A kind whose constructor takes `Count` series numbers one by one.
+// Creates a line of a kind whose constructor takes the series numbers one by one.
 template<class Trend, std::size_t... Places>
 std::unique_ptr<CBaseTrend> MakeFrom(std::index_sequence<Places...>, std::span<const int> series, int index,
                                      double value, const sTrendStyle& style)

@@ -1,6 +1,6 @@
-// The kinds of trendlines as a table: what a snapshot calls a kind, how many series it takes and how a line
-// of it is made. Its command and menu text are a row of TrendCommands, its mouse states rows of the state
-// table in TrendPrompts.cpp.
+// The table of trendline kinds: the name in a snapshot, the numbers of series and labels, and the
+// constructor. The command and the menu text of a kind are in TrendCommands, its mouse states in the state
+// table of TrendPrompts.cpp. Constant data, any thread.
 #pragma once
 
 #include "trends/BaseTrend.h"
@@ -14,9 +14,9 @@ struct sTrendKindRow
 {
     TrendKind Kind;
     const char* Name; // in snapshots
-    int SeriesCount;  // series of group 2 of the price pane that one line takes
-    int LabelCount;   // labels of the price pane that one line takes
-    // `series` holds SeriesCount numbers in the order in which they were allocated.
+    int SeriesCount;  // series of group 2 of the price pane per line
+    int LabelCount;   // labels of the price pane per line
+    // `series` has SeriesCount numbers in the order of their allocation.
     std::unique_ptr<CBaseTrend> (*Make)(std::span<const int> series, int startIndex, double value,
                                         const sTrendStyle& style);
 };

@@ -1,5 +1,5 @@
-// One trendline as plain data, for the window's snapshot. The optional members are present only for the kinds
-// that have them.
+// A trendline as plain data for the window's snapshot. Optional members are present only for kinds that have
+// them.
 #pragma once
 
 #include "platform/Color.h"
@@ -12,7 +12,7 @@ namespace zantroq {
 
 struct sTrendRecord
 {
-    std::string Kind;   // the name in the row of its kind, such as "fibonacci-fan"
+    std::string Kind;   // name of its kind, such as "fibonacci-fan"
     int StartIndex = 0; // data indices, from 0
     int EndIndex = 0;
     double Value = 0;
