@@ -19,7 +19,8 @@ namespace {
 constexpr const char* ObjectPath = "/org/zantroq/Chart/1";
 constexpr const char* Interface = "org.zantroq.Chart1";
 constexpr const char* PropertiesInterface = "org.freedesktop.DBus.Properties";
-constexpr int SnapshotPatience = 20'000, LookAgain = 20; // ms; bus libraries give a call up after 25 s
+constexpr int SnapshotPatience = 20'000,
+              LookAgain = 20; // milliseconds; bus libraries abandon a call after 25 s
 
 constexpr const char* Description = R"( <interface name="org.zantroq.Chart1">
   <property name="StockSymbol" type="s" access="readwrite"/>
@@ -42,7 +43,7 @@ bool IsProperty(const QString& name)
     return false;
 }
 
-// Where there is no bus, its library would start one.
+// Without a bus, its library would start one.
 bool HasSessionBus()
 {
     if (!qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS"))
@@ -51,7 +52,7 @@ bool HasSessionBus()
     return !folder.isEmpty() && QFileInfo::exists(folder + "/bus");
 }
 
-// Clients of some languages cannot choose among the widths of integers.
+// Clients in some languages cannot choose the width of integers.
 std::optional<int> WholeNumber(const QVariant& value)
 {
     switch (value.typeId()) {
@@ -71,7 +72,7 @@ std::optional<int> WholeNumber(const QVariant& value)
     }
 }
 
-// What is wrong with a value for a property; empty: nothing, and the property has it now.
+// Sets a property. Returns an empty text, or what is wrong with the value.
 QString Put(CChartCtrl& control, const QString& name, const QVariant& value)
 {
     if (name == "StockSymbol") {
@@ -121,7 +122,7 @@ void CChartService::Register()
 {
     QDBusConnection bus = QDBusConnection::sessionBus();
     const QString service = QString("org.zantroq.Chart.pid%1").arg(QCoreApplication::applicationPid());
-    // The object first: whoever waits for the name finds it.
+    // Registers the object first, so that a client that waits for the name finds it.
     if (bus.isConnected() && bus.registerVirtualObject(ObjectPath, this) && bus.registerService(service))
         m_service = service;
 }
@@ -218,7 +219,7 @@ bool CChartService::Loading() const
     return window.Loading() != 0;
 }
 
-// Answers once the chart that was asked for is drawn; until then the program goes on.
+// Answers once the requested chart is drawn; the program continues meanwhile.
 void CChartService::Snapshot(const QDBusMessage& call)
 {
     const QString path = call.arguments().at(0).toString();

@@ -1,8 +1,8 @@
-// The chart on the session bus, so that programs in any language can drive it: service
-// org.zantroq.Chart.pidN, where N is this process, object /org/zantroq/Chart/1, interface org.zantroq.Chart1
-// with the control's five properties, PropertiesChanged, and Snapshot. docs/embedding.md has the details.
+// The chart on the D-Bus session bus, for programs in any language: service org.zantroq.Chart.pidN, where N
+// is the process id, object /org/zantroq/Chart/1, interface org.zantroq.Chart1 with the control's five
+// properties, PropertiesChanged and Snapshot. docs/embedding.md has the details.
 //
-// Window's thread. Nothing happens, and nothing is said, without a session bus.
+// Window's thread. Does nothing and reports nothing if there is no session bus.
 #pragma once
 
 #include <QDBusMessage>
@@ -15,7 +15,7 @@ class CChartCtrl;
 class CChartService : public QDBusVirtualObject
 {
 public:
-    explicit CChartService(CChartCtrl& control); // must outlive the service
+    explicit CChartService(CChartCtrl& control); // the control must outlive the service
     ~CChartService() override;
 
     QString introspect(const QString& path) const override;

@@ -18,7 +18,7 @@ void OnEndSignal(int)
 {
     const int before = errno;
     HasCome = true;
-    // A full pipe wakes the loop just as well.
+    // A full pipe wakes the loop too.
     [[maybe_unused]] const ssize_t written = ::write(Pipe[1], "", 1);
     errno = before;
 }

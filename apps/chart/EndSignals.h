@@ -1,5 +1,5 @@
-// The signals that end the program: SIGTERM, SIGINT, and SIGHUP unless it was ignored at the start, as nohup
-// does. They end it as closing its window does.
+// The signals that end the program like closing its window: SIGTERM, SIGINT, and SIGHUP unless it was ignored
+// at the start, as with nohup.
 #pragma once
 
 #include <QSocketNotifier>
@@ -8,15 +8,15 @@
 
 namespace zantroq {
 
-// From here on the signals set a flag in place of killing the process. Call once, before any thread starts.
-// Where no pipe can be made the signals go on killing the process.
+// From now on the signals set a flag instead of killing the process. Call once, before any thread starts. If
+// no pipe can be created, the signals still kill the process.
 void CatchEndSignals();
 
-// Whether one of the signals has come. Any thread.
+// True if one of the signals has arrived. Any thread.
 bool EndAsked();
 
-// Wakes the event loop of its thread when a signal comes, and after its construction if one came before.
-// At most one at a time.
+// Wakes the event loop of its thread when a signal arrives, or at once if one arrived before its
+// construction. At most one object at a time.
 class CEndSignals : public QObject
 {
     Q_OBJECT
@@ -27,7 +27,7 @@ signals:
     void Asked(); // once
 
 private:
-    std::unique_ptr<QSocketNotifier> m_notifier; // none where the signals are not caught
+    std::unique_ptr<QSocketNotifier> m_notifier; // null if the signals are not caught
 };
 
 } // namespace zantroq

@@ -1,5 +1,5 @@
-// The host's top-level window: the chart control, and above it a strip that says so when the market on show
-// is not a genuine one.
+// The program's top-level window: the chart control, and above it a strip that announces simulated markets.
+// Window's thread.
 #pragma once
 
 #include "control/ChartBody.h"
@@ -17,9 +17,9 @@ public:
 
     CChartCtrl& Control() { return *m_control; }
     CChartBody& Chart() { return CChartBody::Of(*m_control); }
-    // Sizes the window so that the chart window gets this client size, shown or not.
+    // Sizes the window so that the chart window has this client size, visible or not.
     void SetClientSize(const QSize& size);
-    // Shows the strip; the chart keeps its size where the window can grow. Also in pictures of the chart.
+    // Shows the strip, also in pictures of the chart. The chart keeps its size if the window can grow.
     void ShowNotice(const QString& text);
 
 protected:

@@ -1,4 +1,4 @@
-// zantroq-chart: shows a chart in a window, or draws it into files without one.
+// zantroq-chart: shows a chart in a window, or writes it to files without one.
 #include "CommandLine.h"
 #include "EndSignals.h"
 #include "Session.h"
@@ -28,7 +28,7 @@ constexpr const char* NoMemory = "there is not enough memory for this chart; mak
     std::_Exit(zantroq::ExitNotWritten);
 }
 
-// What is thrown where nobody can catch it: on another thread, or through the toolkit.
+// Handles exceptions that nobody can catch: on another thread, or through the toolkit.
 std::terminate_handler TerminateOtherwise = nullptr;
 
 void OnTerminate()
@@ -42,12 +42,12 @@ void OnTerminate()
         if (error.code() == std::errc::resource_unavailable_try_again)
             EndWithoutMemory();
     } catch (...) {
-        // An error of the program itself: said as ever.
+        // An error of the program itself, reported by the usual handler.
     }
     TerminateOtherwise();
 }
 
-// The toolkit ends the program when it finds no display; the user gets a sentence and an exit code instead.
+// The toolkit aborts the program if it finds no display; the user gets a sentence and an exit code instead.
 void OnToolkitMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
     if (type == QtFatalMsg) {
@@ -55,7 +55,7 @@ void OnToolkitMessage(QtMsgType type, const QMessageLogContext& context, const Q
                           "draw a picture without one");
         std::_Exit(zantroq::ExitUsage);
     }
-    // What the desktop lacks is no concern of someone who draws a chart.
+    // A user who draws a picture need not know what the desktop lacks.
     const bool ofDesktop =
         QByteArray(context.category).startsWith("qt.qpa") || message.startsWith("QStandardPaths");
     if (type != QtDebugMsg && type != QtInfoMsg && !ofDesktop)
@@ -89,11 +89,11 @@ int RunProgram(int argc, char** argv)
     if (!line)
         return exitCode;
     if (!line->NeedsDisplay()) {
-        // Whatever the desktop's variables say, nothing of it is touched.
+        // Makes the program independent of the desktop's environment variables.
         qputenv("QT_QPA_PLATFORM", "offscreen");
         qunsetenv("QT_QPA_PLATFORMTHEME");
         qunsetenv("QT_STYLE_OVERRIDE");
-        // The order in which fonts go into a PDF file follows a hash.
+        // The order of fonts in a PDF file depends on a hash.
         QHashSeed::setDeterministicGlobalSeed();
     }
     const QByteArray look = line->NeedsDisplay() ? qgetenv(LookVariable) : QByteArray();
@@ -102,7 +102,7 @@ int RunProgram(int argc, char** argv)
                  ": not a look; use light, dark or system");
         return ExitUsage;
     }
-    // Another program's window is one of X11, also on a desktop that has both.
+    // A window of another program is an X11 window, even on a desktop that also has Wayland.
     if (line->Into && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") &&
         !qEnvironmentVariableIsEmpty("DISPLAY"))
         qputenv("QT_QPA_PLATFORM", "xcb");
@@ -111,7 +111,7 @@ int RunProgram(int argc, char** argv)
     if (qEnvironmentVariableIsEmpty("QT_STYLE_OVERRIDE"))
         QApplication::setStyle("Fusion");
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
-    int count = 1; // the arguments are this program's own
+    int count = 1; // the toolkit must not read the arguments
     QApplication application(count, argv);
     QApplication::setApplicationName("zantroq-chart");
     QApplication::setApplicationVersion(ZANTROQ_VERSION);
@@ -124,7 +124,7 @@ int RunProgram(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
-    std::signal(SIGPIPE, SIG_IGN); // a peer or reader that went away is an error of one call
+    std::signal(SIGPIPE, SIG_IGN); // a closed connection or pipe is an error of one call
     TerminateOtherwise = std::set_terminate(OnTerminate);
     try {
         return zantroq::RunProgram(argc, argv);

@@ -1,5 +1,5 @@
-// zantroq-feed: the local feed as a program. Results on standard output, messages on standard error. Exits 0
-// after an interrupt, hang-up or termination signal, 2 for wrong usage or a port that cannot be had, 4 when
+// zantroq-feed: the local feed as a program. Results go to standard output, messages to standard error. Exit
+// codes: 0 after an interrupt, hang-up or termination signal; 2 for wrong usage or an unavailable port; 4 if
 // standard output cannot be written.
 #include "feed/server/FeedServer.h"
 
@@ -36,7 +36,7 @@ int FailOutput()
     return Fail(NoOutput, "standard output: cannot be written; give it a place that can");
 }
 
-// What is wrong with the arguments, and what to do.
+// A sentence that says what is wrong with the arguments and what to do.
 std::string UsageSentence(const CLI::App& app, const CLI::ParseError& error, std::span<char* const> arguments)
 {
     const std::string told = error.what();
@@ -65,7 +65,7 @@ int main(int argc, char** argv)
 {
     using namespace zantroq::feed;
     CLI::App app("Serves recorded and simulated markets to charts on this machine.", "zantroq-feed");
-    // Texts, so that a wrong number gets this program's own sentence.
+    // Read as texts, so that a wrong number gets this program's own message.
     std::string lookupPort = "9100", level1Port = "5009", speed = "1", seed = "1", folder;
     bool simulate = false;
     app.add_option("--lookup-port", lookupPort,
@@ -116,7 +116,7 @@ int main(int argc, char** argv)
         std::cerr << "zantroq-feed: " << sentence << std::endl;
     };
 
-    // The pipe that the output goes to may have lost its reader; that is an exit code here.
+    // If the reader of the output pipe has gone, the program must exit with a code, not be killed.
     std::signal(SIGPIPE, SIG_IGN);
     asio::io_context context;
     asio::signal_set signals(context, SIGINT, SIGTERM, SIGHUP);

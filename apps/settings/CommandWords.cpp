@@ -8,7 +8,7 @@ namespace {
 constexpr std::string_view EndOfSubcommand = "++";
 constexpr char Shield = '\1';
 
-// Any number of shields and then ++, so that what was typed with a shield comes back, too.
+// Any number of shields followed by ++, so that a word typed with a shield is restored too.
 bool IsShieldable(std::string_view word)
 {
     const auto begin = word.find_first_not_of(Shield);

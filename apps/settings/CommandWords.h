@@ -1,5 +1,6 @@
-// The words of the command line, made so that the command line library takes names and values as they are. It
-// reads ++ as the end of a subcommand, and where nothing stands behind --key= it takes the next word.
+// Prepares the words of the command line so that the command line library does not change names and values.
+// The library takes ++ as the end of a subcommand, and after --key= without a value it takes the next word.
+// Pure functions.
 #pragma once
 
 #include <string>
@@ -7,13 +8,13 @@
 
 namespace zantroq {
 
-// The words behind the program's name, in their order.
+// The words after the program's name, in order.
 std::vector<std::string> ShieldedWords(int argc, const char* const* argv);
 
-// A name or value as it was typed.
+// A name or a value as the user typed it.
 std::string Unshielded(const std::string& word);
 
-// A message of the library as the user may read it.
+// A message of the library in a form for the user.
 std::string WithoutShields(std::string message);
 
 } // namespace zantroq

@@ -10,7 +10,7 @@
 namespace zantroq {
 namespace {
 
-// Standard output may be a full disk or a closed pipe; only the flush tells.
+// Standard output may be a full disk or a closed pipe; only flushing shows it.
 int Print(const std::string& text)
 {
     std::cout.write(text.data(), static_cast<std::streamsize>(text.size())).flush();
@@ -33,7 +33,7 @@ void SayIfMissing(const CSettingsFile& file)
                  "write makes it");
 }
 
-// JSON cannot hold what is not UTF-8; one such value must not keep the others from being exported.
+// JSON cannot represent text that is not UTF-8; one such value must not prevent the export of the others.
 std::string Formatted(SettingsTree tree)
 {
     for (const std::string& gone : LeaveOutWhatIsNotUtf8(tree))
@@ -41,7 +41,7 @@ std::string Formatted(SettingsTree tree)
     return FormatSettings(tree);
 }
 
-// The word alone, in small or capital letters.
+// Only the word, in small or capital letters.
 bool IsYes(std::string_view answer)
 {
     constexpr std::string_view Blanks = " \t\r", Small = "yes", Capital = "YES";
@@ -97,7 +97,7 @@ int GetValue(CSettingsFile& file, const std::string& key, const std::string& nam
 int SetValue(CSettingsFile& file, const std::string& key, const std::string& name, const std::string& value,
              const std::string& type)
 {
-    // What could not be exported again is better refused here than found out there.
+    // Rejects what could not be exported later.
     for (const std::string& text : {key, name, value}) {
         if (!IsUtf8(text)) {
             Complain("the key, the name or the value is not UTF-8; type it in a UTF-8 terminal");

@@ -1,5 +1,5 @@
-// What zantroq-settings does, one function a subcommand. Results go to standard output, messages to standard
-// error; each answers the exit code of the program. A CSettingsFileError goes through to the caller.
+// The subcommands of zantroq-settings, one function each. Results go to standard output, messages to standard
+// error; each returns the exit code of the program. A CSettingsFileError is passed on to the caller.
 #pragma once
 
 #include "platform/settings/SettingsFile.h"
@@ -17,7 +17,7 @@ enum ExitCode : int
     ExitNotWritten = 4
 };
 
-// One sentence behind the program's name.
+// Prints the program's name and a sentence on standard error.
 void Complain(const std::string& sentence);
 
 int ListValues(CSettingsFile& file, const std::string& key, bool asJson);
@@ -25,7 +25,7 @@ int GetValue(CSettingsFile& file, const std::string& key, const std::string& nam
 int SetValue(CSettingsFile& file, const std::string& key, const std::string& name, const std::string& value,
              const std::string& type);
 int DeleteValue(CSettingsFile& file, const std::string& key, const std::string& name);
-// All keys where none is given.
+// Without a key, all keys.
 int ExportValues(CSettingsFile& file, const std::optional<std::string>& key, const std::string& target);
 int ImportValues(CSettingsFile& file, const std::optional<std::string>& key, const std::string& source);
 int ResetKey(CSettingsFile& file, const std::string& key, bool confirmed);

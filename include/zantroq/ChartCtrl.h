@@ -1,6 +1,6 @@
 /// @file
-/// The chart as a widget. A host sets a symbol; the control asks the market-data feed on this machine for its
-/// price history, draws it with the studies that the user chose, and follows it.
+/// The chart as a Qt widget. A host sets a symbol; the control requests the price history from the market-data
+/// feed on this machine, draws it with the studies that the user chose, and follows live trades.
 #pragma once
 
 #include <zantroq/Export.h>
@@ -20,54 +20,53 @@ class CChartBody;
 ///
 /// **Life.** Creating the control creates the chart window inside it and, for the first control of the
 /// process, the one worker thread that holds both connections to the feed. The constructor waits for these
-/// connections, a second at most. All controls of a process share the worker; the last control's destruction
-/// ends it, and a later control starts it afresh. There is no reconnection in between.
+/// connections at most a second. All controls of a process share the worker; the destruction of the last
+/// control ends it, and a later control starts a new one. A lost connection is not restored.
 ///
 /// **Threads.** Create, use and destroy controls on the thread of the QApplication. Any number may exist at
 /// once.
 ///
-/// **Errors.** Nothing throws and nothing fails: without a feed a chart stays in its loading text, and a
-/// property value outside of its range changes nothing.
+/// **Errors.** No function throws or fails: without a feed a chart stays in its loading state, and a property
+/// value outside its range is ignored.
 ///
-/// **Settings.** Colors, studies and requests are the user's. They are kept in one file for all controls of
-/// the user, and no host sees them.
+/// **Settings.** Colors, studies and requests are settings of the user. They are stored in one file for all
+/// controls of the user; hosts have no access to them.
 class ZANTROQ_CHART_EXPORT CChartCtrl : public QWidget
 {
     Q_OBJECT
 
-    /// The symbol to draw, empty at the start. Setting it draws a new chart, also when the text is the same
-    /// as before. An empty text leaves the chart on show as it is. The user may draw another symbol in the
-    /// control's own symbol box, which does not change this property. Not stored in forms: a host sets it
-    /// every time.
+    /// The symbol to draw, initially empty. Setting it draws a new chart, even if it is the same symbol. An
+    /// empty text keeps the displayed chart. The user may draw another symbol in the control's own symbol
+    /// box, which does not change this property. Not stored in forms: a host sets it every time.
     Q_PROPERTY(
         QString StockSymbol READ StockSymbol WRITE SetStockSymbol NOTIFY StockSymbolChanged STORED false)
 
     /// Whether the control places its top-level window, initially false. Setting it to true moves and sizes
-    /// the window to where a chart of the same title last stood, fitted to the screens; while it is true,
-    /// each new chart and the end of the control save the window's place. While it is false the control never
-    /// moves its host. On Wayland a window keeps its position, and only its size and maximized state are
-    /// restored. Not stored in forms.
+    /// the window to the stored position of a chart with the same title, fitted to the screens. While it is
+    /// true, each new chart and the end of the control store the window's position. While it is false, the
+    /// control never moves its host. On Wayland a window keeps its position; only its size and its maximized
+    /// state are restored. Not stored in forms.
     Q_PROPERTY(bool ResizeParentWindow READ ResizeParentWindow WRITE SetResizeParentWindow NOTIFY
                    ResizeParentWindowChanged STORED false)
 
     /// 0: flat, the initial value. 1: sunken, with an edge of two pixels. Other values are ignored.
     Q_PROPERTY(int Appearance READ Appearance WRITE SetAppearance NOTIFY AppearanceChanged)
 
-    /// 0: no border, the initial value. 1: a single line of one pixel, inside the sunken edge if there is
-    /// one. Other values are ignored.
+    /// 0: no border, the initial value. 1: a single line of one pixel, inside the edge if the control is
+    /// sunken. Other values are ignored.
     Q_PROPERTY(int BorderStyle READ BorderStyle WRITE SetBorderStyle NOTIFY BorderStyleChanged)
 
-    /// Whether the control takes mouse and keyboard, initially true. A disabled control goes on following its
-    /// symbol. It is the same as QWidget's `enabled`, so that a disabled parent disables the control as well.
+    /// Whether the control accepts mouse and keyboard, initially true. A disabled control continues to follow
+    /// its symbol. Same as QWidget's `enabled`, so a disabled parent disables the control too.
     Q_PROPERTY(bool Enabled READ isEnabled WRITE setEnabled NOTIFY EnabledChanged)
 
 public:
-    /// Creates the control and its chart window, which stands idle until a symbol is set.
-    /// @param parent the widget that will own the control, or null
+    /// Creates the control and its chart window, which is idle until a symbol is set.
+    /// @param parent the owner of the control, or null
     explicit CChartCtrl(QWidget* parent = nullptr);
 
-    /// Ends the chart, also in the middle of a load, and stops the worker if this was the process's last
-    /// control. Waits for the worker's end.
+    /// Ends the chart, even while it is loading. If this is the process's last control, stops the worker and
+    /// waits for its end.
     ~CChartCtrl() override;
 
     /// @return the text that the host set last
@@ -78,8 +77,8 @@ public:
 
     /// @return whether the control places its top-level window
     bool ResizeParentWindow() const;
-    /// Places the top-level window, and from then on saves its place.
-    /// @param resize false: the control never moves it
+    /// Places the top-level window and stores its position from then on.
+    /// @param resize false: the control does not move the window
     void SetResizeParentWindow(bool resize);
 
     /// @return 0 flat, 1 sunken
@@ -94,27 +93,27 @@ public:
     /// @param borderStyle 0 or 1; other values are ignored
     void SetBorderStyle(int borderStyle);
 
-    /// @return the size that a layout gives the control where nothing asks for another, in pixels
+    /// @return the preferred size in pixels
     QSize sizeHint() const override;
 
 signals:
-    /// StockSymbol has another value than before. @param symbol the new value
+    /// The value of StockSymbol has changed. @param symbol the new value
     void StockSymbolChanged(const QString& symbol);
-    /// ResizeParentWindow has another value than before. @param resize the new value
+    /// The value of ResizeParentWindow has changed. @param resize the new value
     void ResizeParentWindowChanged(bool resize);
-    /// Appearance has another value than before. @param appearance the new value
+    /// The value of Appearance has changed. @param appearance the new value
     void AppearanceChanged(int appearance);
-    /// BorderStyle has another value than before. @param borderStyle the new value
+    /// The value of BorderStyle has changed. @param borderStyle the new value
     void BorderStyleChanged(int borderStyle);
-    /// Enabled has another value than before. @param enabled the new value
+    /// The value of Enabled has changed. @param enabled the new value
     void EnabledChanged(bool enabled);
 
 protected:
-    /// Fits the chart window to the new size. @param event Qt's
+    /// Resizes the chart window. @param event from Qt
     void resizeEvent(QResizeEvent* event) override;
-    /// Draws edge and border. @param event Qt's
+    /// Draws edge and border. @param event from Qt
     void paintEvent(QPaintEvent* event) override;
-    /// Reports a change of Enabled. @param event Qt's
+    /// Reports a change of Enabled. @param event from Qt
     void changeEvent(QEvent* event) override;
 
 private:

@@ -1,4 +1,4 @@
-// Marks what libzantroq-chart exports; everything else in it stays hidden. Compiles as C and as C++.
+// Marks the symbols that libzantroq-chart exports; all others are hidden. Valid in C and C++.
 #ifndef ZANTROQ_EXPORT_H
 #define ZANTROQ_EXPORT_H
 

@@ -1,4 +1,4 @@
-// The edge around a control: what its stock properties Appearance and BorderStyle ask for.
+// The frame of a control, given by its properties Appearance and BorderStyle. Plain data.
 #pragma once
 
 namespace zantroq {
@@ -23,7 +23,7 @@ struct sControlFrame
 
     int EdgeWidth() const { return Appearance == AppearanceSunken ? SunkenWidth : 0; }
     int BorderWidth() const { return BorderStyle == BorderSingle ? SingleWidth : 0; }
-    // What the frame takes of each side of the control, in pixels.
+    // Width of the frame on each side of the control, in pixels.
     int Width() const { return EdgeWidth() + BorderWidth(); }
 };
 

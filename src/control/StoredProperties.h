@@ -1,12 +1,10 @@
-// The bytes in which a container keeps a control: the version number, then the stock properties. The symbol
-// and ResizeParentWindow are not in them; a host sets these every time.
+// The stored form of a control: the version number, then the stock properties, as little-endian numbers. The
+// symbol and ResizeParentWindow are not stored; a host sets them every time. Pure functions, any thread.
 //
 //     bytes  0 to 3   version, 0x10000
 //     bytes  4 to 5   Appearance
 //     bytes  6 to 7   BorderStyle
 //     bytes  8 to 9   Enabled, 0 or 1
-//
-// All numbers stand with the low byte first.
 #pragma once
 
 #include <cstddef>
@@ -29,7 +27,7 @@ struct sStoredProperties
 
 std::vector<std::uint8_t> WriteProperties(const sStoredProperties& properties);
 
-// False, with nothing changed, for bytes of another length or version, and for values out of range.
+// Returns false and changes nothing if the length or the version is wrong or a value is out of range.
 bool ReadProperties(std::span<const std::uint8_t> bytes, sStoredProperties& properties);
 
 } // namespace zantroq

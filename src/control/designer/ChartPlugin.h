@@ -1,4 +1,5 @@
-// The control in Qt Designer's widget box, and in forms that QUiLoader loads. Window thread.
+// Provides the control to Qt Designer's widget box and to forms that QUiLoader loads. Thread of the
+// application's widgets.
 #pragma once
 
 #include <QObject>

@@ -8,7 +8,7 @@
 namespace zantroq {
 namespace {
 
-// In units of the plot, which is as wide as it is high: 0 to 1, upwards.
+// In units of the square plot: 0 to 1, upwards.
 struct sCandle
 {
     double X, Open, High, Low, Close;

@@ -1,4 +1,4 @@
-// Two candles, grid, price bar and a label in the colors that are being chosen. Chart window's thread.
+// A preview of two candles, grid, price bar and a label in the chosen colors. Chart window's thread.
 #pragma once
 
 #include <QColor>

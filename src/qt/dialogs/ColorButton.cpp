@@ -7,7 +7,7 @@
 namespace zantroq {
 namespace {
 
-constexpr int FaceMargin = 4; // pixels of the button's frame that stay around the face
+constexpr int FaceMargin = 4; // width of the button's frame around the face, in pixels
 
 } // namespace
 
@@ -21,7 +21,7 @@ CButtonForColor::CButtonForColor(QWidget* parent) : QAbstractButton(parent)
 void CButtonForColor::SetColor(const QColor& color)
 {
     m_color = color;
-    // What a screen reader says of it.
+    // The description for screen readers.
     setAccessibleDescription(color.name());
     setToolTip(color.name());
     update();
@@ -59,7 +59,7 @@ void CButtonForColor::paintEvent(QPaintEvent*)
     if (!isEnabled())
         color.setAlphaF(0.35F);
     painter.fillRect(face, color);
-    // A face in the button's own color would be lost without an edge.
+    // A face in the button's own color needs an edge to be visible.
     painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::Mid));
     painter.drawRect(face.adjusted(0, 0, -1, -1));
     if (!hasFocus())

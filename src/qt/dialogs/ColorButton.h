@@ -1,5 +1,4 @@
-// A button that paints its whole face in the color it holds; pressing it opens the desktop's color dialog on
-// that color. Chart window's thread.
+// A button filled with its color; pressing it opens the desktop's color dialog. Chart window's thread.
 #pragma once
 
 #include <QAbstractButton>
@@ -15,8 +14,8 @@ public:
     explicit CButtonForColor(QWidget* parent = nullptr);
 
     QColor Color() const { return m_color; }
-    void SetColor(const QColor& color); // reports nothing
-    void Choose(const QColor& color);   // as if the color dialog had been closed with OK on it
+    void SetColor(const QColor& color); // emits no signal
+    void Choose(const QColor& color);   // as if the color were chosen in the color dialog
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }

@@ -61,7 +61,7 @@ void Add(Controls& controls, const QWidget& root, int number, const sControl& co
                                root.objectName().toStdString());
 }
 
-// The label that names a widget, as a person reads it.
+// The text of the label that belongs to a widget, as a person reads it.
 QString LabelOf(const QWidget& widget, const QWidget& root)
 {
     for (const QLabel* label : root.findChildren<QLabel*>())
@@ -216,7 +216,7 @@ std::string SetTime(QTimeEdit& edit, const std::string& value)
     return "";
 }
 
-// The rows of "0,2" or "none".
+// Parses "0,2" or "none".
 std::optional<std::vector<int>> RowsOf(const std::string& value, int count)
 {
     std::vector<int> rows;

@@ -1,6 +1,6 @@
-// The controls of a form by number. A widget carries its number in the dynamic property "control"; an edit
-// with arrows carries that of its arrows in "spinControl", so that one widget is two controls. Widgets
-// without a number take no part. Chart window's thread.
+// The controls of a form by number. A widget has its number in the dynamic property "control"; an edit with
+// arrows has the number of its arrows in "spinControl" and is thus two controls. Widgets without a number are
+// ignored. Chart window's thread.
 #pragma once
 
 #include "platform/DialogDriver.h"
@@ -19,17 +19,17 @@ struct sControl
 
 using Controls = std::map<int, sControl>;
 
-// All controls below a widget. Two with the same number: std::logic_error.
+// All controls below a widget. Throws std::logic_error if two have the same number.
 Controls FindControls(QWidget& root);
 
-// What a snapshot says of a control; a control counts as visible if it would be seen with the form on show.
+// The state of a control for a snapshot. A control counts as visible if it were visible with its form shown.
 sControlState DescribeControl(const sControl& control, const QWidget& root);
 
-// Does what a person would do to bring the value into the control. Empty, or one clause that says why the
-// control does not take it. The control must be visible and enabled.
+// Sets the value as a person would. Returns an empty text, or a clause that says why the control does not
+// accept it. The control must be visible and enabled.
 std::string SetControl(const sControl& control, const std::string& value);
 
-// The text without the mark of its mnemonic.
+// The text without the mnemonic's mark.
 QString PlainLabel(const QString& text);
 
 } // namespace zantroq

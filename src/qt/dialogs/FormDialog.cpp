@@ -18,9 +18,9 @@ void CFormDialog::Open()
     m_open = true;
     if (parentWidget()->isVisible())
         return open();
-    // Where the chart is drawn without a window nobody sees the dialog, but it has its size all the same.
+    // If the chart is drawn without a window, the dialog is not visible but needs its size.
     ensurePolished();
-    if (!testAttribute(Qt::WA_Resized)) // with no size set by its rules
+    if (!testAttribute(Qt::WA_Resized)) // its rules have set no size
         adjustSize();
 }
 

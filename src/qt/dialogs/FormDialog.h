@@ -1,6 +1,5 @@
-// A dialog of the chart window: one form, or a sheet of them. It is on the screen where the chart's window
-// is, and modal to the person, but Open returns at once. Escape and the window's close button cancel. Chart
-// window's thread.
+// A dialog of the chart window: one form, or a sheet of forms. It is visible if the chart's window is, and
+// modal for the user, but Open returns at once. Escape and the close button cancel it. Chart window's thread.
 #pragma once
 
 #include "platform/DialogDriver.h"
@@ -18,10 +17,10 @@ namespace zantroq {
 class CFormDialog : public QDialog, public IDialogFrame
 {
 public:
-    // The dialog opens over the window that `over` stands in, and goes with it.
+    // The dialog opens over the window of `over` and is destroyed with it.
     explicit CFormDialog(QWidget& over);
 
-    // When the dialog closes, OnClosed runs, and the dialog deletes itself later.
+    // Opens the dialog. When it closes, it calls OnClosed and deletes itself later.
     void Open();
     bool IsOpen() const { return m_open; }
     std::function<void(DialogEnd end)> OnClosed = [](DialogEnd) {};
@@ -30,13 +29,13 @@ public:
     void End(DialogEnd end) override;
 
     virtual CQtForm& FormOnShow() = 0;
-    // Of a sheet: the titles of its pages, and the number of the one on show.
+    // For a sheet: the titles of its pages, and the number of the visible page.
     virtual QStringList PageTitles() const { return {}; }
     virtual int PageOnShow() const { return -1; }
     virtual void TurnTo(int /*page*/) {}
-    // Of a dialog that searches.
+    // For a dialog with a search.
     virtual SearchProgress Search() const { return SearchProgress::NotStarted; }
-    // The buttons that close the dialog: controls 1 and 2 of its form, unless it says otherwise.
+    // The buttons that close the dialog: controls 1 and 2 of its form by default.
     virtual QAbstractButton* OkButton();
     virtual QAbstractButton* CancelButton();
 

@@ -83,7 +83,7 @@ std::string CFormDialogDriver::Press(int id)
     const sControl* const control = Usable(id, why);
     if (control == nullptr)
         return why;
-    // A color button would open the desktop's dialog, which a script cannot answer.
+    // A color button would open the desktop's dialog, which a script cannot use.
     if (control->Kind != ControlKind::Button)
         return Named(id) + " is not a button; give it a value with dialog set";
     qobject_cast<QAbstractButton*>(control->Widget)->click();

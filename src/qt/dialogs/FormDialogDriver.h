@@ -1,4 +1,4 @@
-// Drives the widgets of an open dialog for scripts, as a person would. Chart window's thread.
+// Operates the widgets of an open dialog for scripts, as a person would. Chart window's thread.
 #pragma once
 
 #include "platform/DialogDriver.h"
@@ -9,7 +9,7 @@ namespace zantroq {
 class CFormDialogDriver : public IDialogDriver
 {
 public:
-    explicit CFormDialogDriver(CFormDialog& dialog) : m_dialog(dialog) {} // outlives the driver
+    explicit CFormDialogDriver(CFormDialog& dialog) : m_dialog(dialog) {} // must outlive the driver
 
     sDialogState Describe() const override;
     std::string TurnToPage(const std::string& title) override;
@@ -21,7 +21,7 @@ public:
     SearchProgress Search() const override { return m_dialog.Search(); }
 
 private:
-    // The control, or null with the reason why a person could not use it.
+    // The control; null and the reason in `why` if a person could not use it.
     const sControl* Usable(int id, std::string& why);
 
     CFormDialog& m_dialog;

@@ -1,4 +1,4 @@
-// A sample of a line in its color and width, on the color of the fields around it. Chart window's thread.
+// A sample line in a color and a width, on the background of input fields. Chart window's thread.
 #pragma once
 
 #include <QColor>

@@ -37,7 +37,7 @@ bool HasKnownEnding(const QString& name)
     return false;
 }
 
-// A symbol may have a dot of its own, so that only a known ending is one.
+// A symbol may contain a dot, so only a known ending counts as one.
 QString WithEnding(const QString& name, const QString& ending)
 {
     const QString bare = HasKnownEnding(name) ? name.left(name.lastIndexOf('.')) : name;
@@ -52,7 +52,7 @@ QString PictureName(const QString& symbol)
     for (QChar& c : name)
         if (QString("/\\:*?\"<>|").contains(c) || c < ' ')
             c = '-';
-    if (name.startsWith('.')) // no hidden file
+    if (name.startsWith('.')) // avoids a hidden file
         name[0] = '-';
     return name + ".png";
 }

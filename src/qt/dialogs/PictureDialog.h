@@ -1,4 +1,4 @@
-// Asks where a picture of the chart is to go. Chart window's thread.
+// The file dialog for a picture of the chart. Chart window's thread.
 #pragma once
 
 #include <QString>
@@ -7,12 +7,12 @@ class QWidget;
 
 namespace zantroq {
 
-// The file that is proposed for a symbol's picture. A symbol may hold what no file name may.
+// The proposed file name for a symbol's picture, without characters that file names must not contain.
 QString PictureName(const QString& symbol);
 
-// Modal. The kind chosen in the dialog gives the name its ending; a known ending that the user types counts
-// more. The path of the file, which may exist if the user agreed; empty when cancelled. `folder` is where the
-// dialog begins, and takes where it ended.
+// Modal. Returns the path of the file, which may exist if the user agreed; empty if cancelled. The selected
+// kind gives the name its ending unless the user typed a known ending. The dialog starts in `folder` and sets
+// it to the folder of the chosen file.
 QString AskPicturePath(QWidget* parent, const QString& symbol, QString& folder);
 
 } // namespace zantroq

@@ -106,7 +106,7 @@ void CQtForm::BindControl(int number, const sControl& control)
     case ControlKind::Time:
         connect(&As<QTimeEdit>(id), &QTimeEdit::timeChanged, this, changed);
         break;
-    case ControlKind::Spin: // its edit reports
+    case ControlKind::Spin: // reported by its edit
     case ControlKind::Static:
         break;
     }
@@ -165,7 +165,7 @@ void CQtForm::SetText(int id, const std::string& text)
     else if (auto* button = qobject_cast<QAbstractButton*>(widget))
         button->setText(shown);
     else
-        SetControl(At(id), text); // a date or a time; another text leaves it as it is
+        SetControl(At(id), text); // a date or a time; any other text is ignored
 }
 
 void CQtForm::SetItems(int id, const std::vector<std::string>& items)
@@ -198,7 +198,7 @@ void CQtForm::SetChecked(int id, bool checked)
 {
     const CQuiet quiet(m_quiet);
     auto& button = As<QAbstractButton>(id);
-    // The one checked button of an exclusive group would refuse to go off.
+    // The checked button of an exclusive group cannot be unchecked otherwise.
     const bool exclusive = button.autoExclusive();
     if (!checked)
         button.setAutoExclusive(false);

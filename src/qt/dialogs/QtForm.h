@@ -1,5 +1,5 @@
-// The widgets of a form, usually made from a .ui file, as an IForm. It finds them by their numbers
-// (DialogControls.h) when it is made; widgets must not come or go afterwards. Chart window's thread.
+// Implements IForm with the widgets of a form, usually from a .ui file. The constructor finds them by their
+// numbers (DialogControls.h); widgets must not be added or removed later. Chart window's thread.
 #pragma once
 
 #include "platform/Form.h"
@@ -14,10 +14,10 @@ class CRowList;
 class CQtForm : public QObject, public IForm
 {
 public:
-    // The widget that holds the controls; it may be the dialog itself.
+    // `root` contains the controls; it may be the dialog itself.
     explicit CQtForm(QWidget& root);
 
-    // From here on the user's actions go to the rules, which must outlive the form.
+    // Sends the user's actions to the rules from now on; the rules must outlive the form.
     void Bind(IFormEvents& events);
 
     QWidget& Root() { return m_root; }
@@ -62,7 +62,7 @@ private:
     QWidget& m_root;
     const Controls m_controls;
     IFormEvents* m_events = nullptr;
-    int m_quiet = 0; // above 0 while the rules themselves set something
+    int m_quiet = 0; // above 0 while the rules set a control
 };
 
 } // namespace zantroq

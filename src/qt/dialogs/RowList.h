@@ -1,5 +1,5 @@
-// A list of rows with columns that holds very many rows: nothing is made for a row before it is looked at.
-// Rows may be dragged to lists of the same dialog where AllowDragging said so. Chart window's thread.
+// A list of rows and columns for very many rows: nothing is created for a row before it is displayed. Rows
+// can be dragged to lists of the same dialog if dragging is on. Chart window's thread.
 #pragma once
 
 #include "platform/Form.h"
@@ -49,7 +49,7 @@ public:
     bool Dragging() const { return m_dragging; }
     void SetDragging(bool dragging);
 
-    // Where the dragged row would go when it is let go at this point: before that row, or the count of rows.
+    // The row before which a row dropped at this point is inserted; the row count for the end.
     int DropRow(const QPoint& point) const;
 
 signals:
@@ -63,7 +63,7 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
-    CRowList* Source(const QDropEvent& event) const; // null: not a row of this dialog
+    CRowList* Source(const QDropEvent& event) const; // null if it is not a row of this dialog
 
     CRowModel* m_model;
     bool m_dragging = false;

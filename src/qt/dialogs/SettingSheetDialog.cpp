@@ -20,7 +20,7 @@
 namespace zantroq {
 namespace {
 
-// The page seen last in this run of the program, on whichever chart.
+// The last visible page in this run of the program, for all charts.
 int LastPage = 0;
 
 } // namespace
@@ -36,8 +36,8 @@ CSettingSheetDialog::CSettingSheetDialog(QWidget& over, const sSheetSubject& sub
     layout->addWidget(m_tabs);
     layout->addWidget(m_buttons);
     for (QAbstractButton* button : m_buttons->buttons())
-        button->setIcon(QIcon());                              // words alone, as in message boxes
-    m_buttons->button(QDialogButtonBox::Ok)->setDefault(true); // else the first button of a page would be
+        button->setIcon(QIcon());                              // texts without icons, as in message boxes
+    m_buttons->button(QDialogButtonBox::Ok)->setDefault(true); // not the first button of a page
     MakePages();
     m_sheet = std::make_unique<CSettingSheet>(static_cast<ISheetFace&>(*this), m_subject.Box,
                                               [this] { ClearRequestSettings(m_subject.Key); });

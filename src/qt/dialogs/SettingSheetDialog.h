@@ -1,5 +1,5 @@
-// The settings sheet as a window: five pages made from .ui files, with the rules of settings/pages behind
-// them. Chart window's thread.
+// The window of the settings sheet: five pages from .ui files, with the rules of settings/pages. Chart
+// window's thread.
 #pragma once
 
 #include "qt/dialogs/FormDialog.h"
@@ -22,7 +22,7 @@ public:
     CSettingSheetDialog(QWidget& over, const sSheetSubject& subject);
     ~CSettingSheetDialog() override;
 
-    // Of an accepted sheet: the chart's settings with what the pages changed.
+    // After OK: the chart's settings with the changes of the pages.
     sSettingsEdit Edit() const;
 
     CQtForm& FormOnShow() override;

@@ -1,5 +1,5 @@
-// An edit with arrows beside it: two controls in one widget. The edit takes any text unless it is strict; the
-// arrows step the whole number at its beginning within a range. Chart window's thread.
+// An edit with arrows: two controls in one widget. The edit accepts any text unless it is strict; the arrows
+// change the whole number at its beginning within a range. Chart window's thread.
 #pragma once
 
 #include <QAbstractSpinBox>
@@ -21,12 +21,14 @@ public:
     bool Strict() const { return m_strict; }
     void SetMinimum(int minimum) { m_minimum = minimum; }
     void SetMaximum(int maximum) { m_maximum = maximum; }
-    // Strict: nothing but a whole number of the range can be typed.
+    // If strict, only a whole number in the range can be typed.
     void SetStrict(bool strict) { m_strict = strict; }
 
     QString Text() const;
-    void SetText(const QString& text);  // reports nothing
-    bool TypeText(const QString& text); // as a person would; false, and unchanged, where it cannot be typed
+    void SetText(const QString& text); // reports nothing
+    bool
+    TypeText(const QString&
+                 text); // types like a person; returns false and changes nothing if the text cannot be typed
     void SelectAll() { selectAll(); }
 
     void stepBy(int steps) override;
@@ -42,7 +44,7 @@ protected:
     StepEnabled stepEnabled() const override;
 
 private:
-    int Value() const; // the number at the beginning of the text, 0 where there is none
+    int Value() const; // number at the beginning of the text, 0 if there is none
 
     int m_minimum = 1, m_maximum = 999;
     bool m_strict = false;

@@ -1,5 +1,4 @@
-// The symbol search as a window: a form with the rules of search/SymbolSearch.h behind it. Chart window's
-// thread.
+// The window of the symbol search: a form with the rules of search/SymbolSearch.h. Chart window's thread.
 #pragma once
 
 #include "platform/settings/SettingsKey.h"
@@ -15,11 +14,11 @@ namespace zantroq {
 class CSymbolSearchDialog : public CFormDialog
 {
 public:
-    // `feedKey` holds the feed's ports. Fetches the markets, which waits for the feed.
+    // `feedKey` has the feed's ports. The constructor fetches the markets, which waits for the feed.
     CSymbolSearchDialog(QWidget& over, const std::shared_ptr<ISettingsKey>& feedKey, IMessageBox& box);
     ~CSymbolSearchDialog() override;
 
-    const std::string& Result() const { return m_rules->Result(); } // of a dialog closed with OK
+    const std::string& Result() const { return m_rules->Result(); } // after OK
     SearchProgress Search() const override { return m_rules->Progress(); }
     CQtForm& FormOnShow() override { return *m_form; }
 
@@ -27,7 +26,7 @@ private:
     CWindowThread m_thread;
     CFindLookupMaker m_lookup;
     std::unique_ptr<CQtForm> m_form;
-    std::unique_ptr<CSymbolSearch> m_rules; // goes first
+    std::unique_ptr<CSymbolSearch> m_rules; // destroyed first
 };
 
 } // namespace zantroq

@@ -43,7 +43,7 @@ void CWindowDialogs::Drop()
 
 IDialogDriver* CWindowDialogs::OpenDialog()
 {
-    // A closed dialog lives on until its events have run out.
+    // A closed dialog exists until its events are processed.
     const bool open = m_dialog != nullptr && m_dialog->IsOpen();
     return open ? m_driver.get() : nullptr;
 }

@@ -1,4 +1,4 @@
-// Hands a worker's results to the thread that this object was made on.
+// Runs a worker's results on the thread that created this object. Post may be called on any thread.
 #pragma once
 
 #include "platform/WindowThread.h"

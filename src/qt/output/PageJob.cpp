@@ -82,7 +82,7 @@ void CPageJob::DrawHeading(const sHeading& heading)
                     m_device.logicalDpiY() / double(HeadingUnitsPerInch));
     m_painter.setFont(m_font.Font());
     m_painter.setPen(Qt::black);
-    // A picture as high as the page may have a dark title there.
+    // A picture as high as the page may have a dark title there, so the heading gets a white background.
     const int room = HeadingFontHeight / 2;
     m_painter.fillRect(heading.Left - room, 0, heading.Width + 2 * room, m_font.LineHeight(), Qt::white);
     for (const sHeadingRun& run : heading.Runs)

@@ -1,4 +1,4 @@
-// A print job on any of the toolkit's page devices: a printer, or a PDF file. Chart window's thread.
+// A print job on a page device of the toolkit: a printer or a PDF file. Chart window's thread.
 #pragma once
 
 #include "printing/ChartPrinting.h"
@@ -11,13 +11,13 @@
 
 namespace zantroq {
 
-// Texts of a page. Empty: what the desktop has in the usual order.
+// Font families of a page. Empty: the first that the desktop has of the usual ones.
 struct sPrintFonts
 {
     QString Heading, Panes;
 };
 
-// Serif text in heading units.
+// A serif font, measured in heading units.
 class CHeadingFont : public IHeadingFont
 {
 public:
@@ -34,17 +34,17 @@ private:
 
 enum class CopiesTo
 {
-    OwnDocuments, // each copy is a document of its own, as a printer takes them
-    OneFile       // all copies are pages of one file, which a document each would overwrite
+    OwnDocuments, // each copy is a separate document, as printers expect
+    OneFile       // all copies are pages of one file, because separate documents would overwrite it
 };
 
 class CPageJob : public IPrintJob
 {
 public:
-    // The device is not owned. A painter on it lives from the first document to the last, or to Finish.
+    // The device is not owned. A painter is active on it from the first document to the last, or to Finish.
     CPageJob(QPagedPaintDevice& device, int copies, CopiesTo to, const sPrintFonts& fonts);
 
-    bool Finish(); // ends a file; false when there is none
+    bool Finish(); // completes a file; false if there is none
 
     int Copies() const override { return m_copies; }
     bool StartDocument(const std::string& name) override;
@@ -63,7 +63,7 @@ private:
     QPainter m_painter;
     CPrintPage m_page;
     CHeadingFont m_font;
-    bool m_atFirstPage = false; // the painter's own beginning began a page
+    bool m_atFirstPage = false; // starting the painter has already started a page
 };
 
 } // namespace zantroq

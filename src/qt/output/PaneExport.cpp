@@ -40,7 +40,7 @@ QByteArray SvgBytes(const CChart2D& pane, const QSize& size)
 
 QByteArray PdfBytes(const CChart2D& pane, const QSize& size)
 {
-    constexpr int Fine = 4; // units a pane pixel, for smooth curves
+    constexpr int Fine = 4; // units per pane pixel, for smooth curves
     QBuffer bytes;
     bytes.open(QIODevice::WriteOnly);
     QPdfWriter pdf(&bytes);

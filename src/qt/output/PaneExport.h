@@ -1,4 +1,4 @@
-// A pane onto paper and into files.
+// A pane on paper and in files. Chart window's thread.
 #pragma once
 
 #include "scene/Chart2D.h"
@@ -9,8 +9,8 @@ class QPainter;
 
 namespace zantroq {
 
-// The page of a print job, or any other painter, as CChart2D::DrawToDevice wants it. The painter is not
-// owned. The family is the panes' text, empty for the usual one.
+// The page of a print job, or any other painter, as a device for CChart2D::DrawToDevice. The painter is not
+// owned. `family` is the font of the panes' texts; empty for the default.
 class CPrintPage : public IPrintDevice
 {
 public:
@@ -24,9 +24,10 @@ private:
     QString m_family;
 };
 
-// Writes a picture of the pane by the ending of the path: .png (at the ratio), .svg in pixels, .pdf or .json;
-// the same pane gives the same bytes, and a file that is there is replaced whole. False, with a sentence in
-// error, when the ending is another one or the file cannot be written.
+// Writes a picture of the pane of the kind given by its ending: .png (with `devicePixelRatio`), .svg in
+// pixels, .pdf or .json. The same pane gives the same bytes, and an existing file is replaced only when the
+// new one is complete. Returns false and sets `error` to a sentence if the ending is unknown or the file
+// cannot be written.
 bool SavePanePicture(const CChart2D& pane, const QString& path, double devicePixelRatio, QString& error);
 
 } // namespace zantroq

@@ -24,12 +24,12 @@ QString WritePictureFile(const QString& path, const QByteArray& bytes)
     };
     const QFileInfo there(path);
     if (there.exists() && !there.isFile() && !there.isDir()) {
-        // A pipe or a device is written to as it is; whoever may replace it must not.
+        // A pipe or a device is written to directly; it must never be replaced.
         QFile device(path);
         return WriteWhole(device, bytes) ? QString() : wrong(device);
     }
     QSaveFile file(path);
-    file.setDirectWriteFallback(true); // in a folder that takes no new file
+    file.setDirectWriteFallback(true); // in a folder where no file can be created
     return WriteWhole(file, bytes) && file.commit() ? QString() : wrong(file);
 }
 
@@ -39,13 +39,13 @@ QByteArray WithoutMoment(QByteArray pdf)
     const qsizetype at = pdf.indexOf(mark);
     if (at < 0)
         return pdf;
-    const QByteArray moment = "20000101000000"; // a date that is one
+    const QByteArray moment = "20000101000000"; // a valid date
     const qsizetype first = at + mark.size();
     const qsizetype end = pdf.indexOf(')', first);
     if (end - first < moment.size())
         return pdf;
     pdf.replace(first, moment.size(), moment);
-    // The zone, if one follows, keeps its shape.
+    // The time zone, if present, keeps its form.
     for (qsizetype place = first + moment.size(); place < end; ++place)
         if (pdf[place] >= '0' && pdf[place] <= '9')
             pdf[place] = '0';

@@ -1,4 +1,4 @@
-// Files that hold pictures of a chart. Any thread.
+// Files with pictures of a chart. Any thread.
 #pragma once
 
 #include <QByteArray>
@@ -7,16 +7,16 @@
 
 namespace zantroq {
 
-// Writes a whole file: whoever looks sees the old one or the new one; a pipe or a device takes the bytes and
-// stays what it is. Empty, or one sentence that names the path, why not, and what to do.
+// Replaces the file only when the new one is complete; a pipe or a device is written to directly. Returns an
+// empty text, or a sentence that names the path, the reason and what to do.
 QString WritePictureFile(const QString& path, const QByteArray& bytes);
 
-// A PDF file without the moment of its making, so that the same picture has the same bytes. The length of the
-// file and the places in it stay.
+// Removes the creation time from a PDF file, so that the same picture has the same bytes. The length of the
+// file and the offsets in it do not change.
 QByteArray WithoutMoment(QByteArray pdf);
 
-// An SVG file with its size in pixels, which is the picture's unit; the toolkit gives it in millimetres of
-// its own reckoning. The file is otherwise as it was.
+// Sets the size of an SVG file in pixels, the unit of the picture; the toolkit writes it in millimetres. The
+// rest of the file does not change.
 QByteArray SizedInPixels(const QByteArray& svg, const QSize& size);
 
 } // namespace zantroq

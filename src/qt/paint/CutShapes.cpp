@@ -17,7 +17,7 @@ enum class Edge
     Bottom
 };
 
-// How far a point lies inside of an edge; negative outside.
+// Distance of a point inside an edge; negative outside.
 double Inside(const QPointF& point, const QRectF& box, Edge edge)
 {
     switch (edge) {
@@ -33,7 +33,7 @@ double Inside(const QPointF& point, const QRectF& box, Edge edge)
     return box.bottom() - point.y();
 }
 
-// The shares of the way from a to b between which it lies in the box; false when it does not.
+// The fractions of the way from a to b between which the line is inside the box; false if it is outside.
 bool LiesWithin(const QPointF& a, const QPointF& b, const QRectF& box, double& from, double& to)
 {
     from = 0;
@@ -58,7 +58,7 @@ public:
         Out.Filled.setFillRule(Qt::WindingFill);
     }
 
-    // A straight piece; one that goes on where the piece before ended is joined to it.
+    // Adds a straight piece; joins it to the piece before if that ended at the same point.
     void Add(const QPointF& from, const QPointF& to, bool goesOn)
     {
         const QRectF ink = QRectF(from, to).normalized().adjusted(-m_half, -m_half, m_half, m_half);
@@ -88,7 +88,7 @@ private:
         Out.Filled.closeSubpath();
     }
 
-    // Bars and discs turn the same way, so that where they overlap is filled too.
+    // Bars and discs have the same orientation, so that their overlap is filled too.
     QPolygonF Bar(const QPointF& from, const QPointF& to) const
     {
         const QPointF way = to - from;
@@ -152,9 +152,9 @@ sCutStroke CutStroke(const QPainterPath& path, double width, const std::optional
                      const QRectF& box)
 {
     CStrokeCutter cutter(width, box);
-    // What lies further out leaves no ink in the box, and dashes there need not be counted one by one.
+    // Parts further out leave no ink in the box, and their dashes need not be counted.
     const QRectF near = box.adjusted(-width, -width, width, width);
-    double passed = 0; // of this part of the path
+    double passed = 0; // length passed in this part of the path
     bool first = true;
     for (int i = 1; i < path.elementCount(); ++i) {
         const QPointF a = path.elementAt(i - 1), b = path.elementAt(i);

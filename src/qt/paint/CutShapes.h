@@ -1,4 +1,4 @@
-// Shapes cut to a rectangle by arithmetic, for painters that do not clip. Any thread.
+// Cuts shapes to a rectangle by computation, for painters that do not clip. Pure functions, any thread.
 #pragma once
 
 #include <QPainterPath>
@@ -10,11 +10,11 @@
 
 namespace zantroq {
 
-// The part of a polygon in the box. What it winds around inside is wound around as often as before, so the
-// pieces of a shape with holes may be cut one by one.
+// The part of a polygon inside the box. Winding numbers inside do not change, so the parts of a shape with
+// holes may be cut separately.
 QPolygonF CutPolygon(const QPolygonF& polygon, const QRectF& box);
 
-// The part of a filled path in the box, its curves as polygons of a sixteenth of a unit.
+// The part of a filled path inside the box, with curves as polygons accurate to a sixteenth of a unit.
 QPainterPath CutPath(const QPainterPath& path, const QRectF& box);
 
 struct sDashes
@@ -24,12 +24,11 @@ struct sDashes
 
 struct sCutStroke
 {
-    QPainterPath Stroked; // to be stroked solid with the same width, flat ends and round joins
-    QPainterPath Filled;  // to be filled with the same color: the parts that the edge of the box cuts
+    QPainterPath Stroked; // to stroke with solid lines of the same width, flat ends and round joins
+    QPainterPath Filled;  // to fill with the same color: the parts cut by the edge of the box
 };
 
-// A stroke of a path of straight lines, as far as its ink lies in the box. Dashes begin anew with each part
-// of the path.
+// The part of a stroke of straight lines that is inside the box. Dashes restart with each part of the path.
 sCutStroke CutStroke(const QPainterPath& path, double width, const std::optional<sDashes>& dashes,
                      const QRectF& box);
 

@@ -36,7 +36,7 @@ void CPainterCanvas::Fill(const sPixelRect& rect, PixelColor color)
 
 void CPainterCanvas::Line(const sInkLine& line, const sPixelRect& plot)
 {
-    // Heights far outside are brought near, where a vector file's reader still has exact numbers for them.
+    // Limits heights far outside the plot, because readers of vector files lose precision for large numbers.
     const double far = 20.0 * std::max(1, plot.Height());
     const auto point = [&](int column, int height) {
         return QPointF(column + 0.5,
@@ -91,7 +91,7 @@ void CPainterCanvas::Text(int left, int top, std::string_view text, PixelColor c
     const QString line = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
     const QPointF base(left, top + m_text.Ascent());
     if (IsCutByHand(QRectF(left, top, m_text.Advance(text), m_text.LineHeight()), m_pane)) {
-        // A text that reaches out of the pane becomes the shapes of its letters.
+        // A text that extends beyond the pane is drawn as the shapes of its letters.
         QPainterPath letters;
         letters.addText(base, m_text.Font(), line);
         const QPainterPath cut = CutPath(letters, m_pane);

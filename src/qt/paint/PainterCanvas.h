@@ -1,4 +1,4 @@
-// Paints a pane through QPainter, for vector files and printed pages. A device pixel is one unit of the
+// Paints a pane with a QPainter, for vector files and printed pages. A device pixel is one unit of the
 // painter. Chart window's thread.
 #pragma once
 
@@ -13,7 +13,7 @@ namespace zantroq {
 class CPainterCanvas : public IPaneCanvas
 {
 public:
-    // Paints nothing outside `pane`. Neither the painter nor the text is owned.
+    // Paints only inside `pane`. Neither the painter nor the text is owned.
     CPainterCanvas(QPainter& painter, CPaneText& text, const sPixelRect& pane);
 
     void Fill(const sPixelRect& rect, PixelColor color) override;
@@ -29,7 +29,7 @@ private:
     QPainter& m_painter;
     CPaneText& m_text;
     const QRect m_pane;
-    const bool m_ignoresClips; // true for QSvgGenerator: shapes are then cut by arithmetic
+    const bool m_ignoresClips; // true for QSvgGenerator: shapes are then cut by computation
 };
 
 } // namespace zantroq

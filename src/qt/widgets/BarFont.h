@@ -1,5 +1,5 @@
-// The look that the bars around the panes share. Sizes are in pixels, so that a window of a given size lays
-// out the same whatever fonts the desktop has. Chart window's thread.
+// The font and the line color of the bars around the panes. Sizes are in pixels, so that a window of a given
+// size has the same layout whatever the desktop's fonts. Chart window's thread.
 #pragma once
 
 #include <QFont>

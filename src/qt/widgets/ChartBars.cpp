@@ -9,7 +9,7 @@
 namespace zantroq {
 namespace {
 
-constexpr int RowHeight = 29, RowGap = 3; // a row and the room that each adds to the bar
+constexpr int RowHeight = 29, RowGap = 3; // height of a row and the gap that each row adds
 constexpr int BandGap = 6, BoxTop = 3, BoxHeight = 24;
 constexpr int SymbolWidth = 180, LeastSymbolWidth = 120; // 120 dialog units
 constexpr int SettingWidth = 250, LeastSettingWidth = 200;

@@ -1,5 +1,5 @@
 // The bar above the panes, in three bands: the symbol box, the toolbar, and the type and interval boxes. They
-// stand in one row where the width allows it, else in two. Chart window's thread.
+// are in one row if the width allows it, otherwise in two. Chart window's thread.
 #pragma once
 
 #include "qt/widgets/ChoiceBox.h"
@@ -20,7 +20,7 @@ public:
     CChoiceBox& Type() { return *m_type; }
     CChoiceBox& Interval() { return *m_interval; }
 
-    // Places the bands in a bar of this width and answers its height.
+    // Places the bands in a bar of this width and returns its height.
     int LayOut(int width);
 
 protected:

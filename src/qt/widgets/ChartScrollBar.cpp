@@ -8,7 +8,7 @@ namespace zantroq {
 
 CChartScrollBar::CChartScrollBar(QWidget* parent) : QScrollBar(Qt::Horizontal, parent)
 {
-    setTracking(false); // the value follows when the thumb is let go
+    setTracking(false); // the value changes when the thumb is released
     setFocusPolicy(Qt::NoFocus);
     setAccessibleName("Time scroll bar");
     hide();
@@ -44,7 +44,7 @@ void CChartScrollBar::Show()
     QScrollBar::setRange(0, std::max(0, Limit()));
     setPageStep(std::max(1, m_page));
     setValue(m_position);
-    // A thumb in the user's hand stays there, though the view may follow new points meanwhile.
+    // A dragged thumb keeps its position even if the view follows new points.
     setSliderPosition(isSliderDown() ? held : m_position);
 }
 
@@ -56,7 +56,7 @@ void CChartScrollBar::SetVisible(bool visible)
 
 void CChartScrollBar::OnAction(int action)
 {
-    setSliderPosition(m_position); // the window says where the bar goes
+    setSliderPosition(m_position); // the window decides the new position
     switch (action) {
     case SliderSingleStepAdd:
         OnScroll(ScrollCode::LineRight, 0);

@@ -1,5 +1,6 @@
-// The horizontal scroll bar under the panes. The chart window decides where every action leads, so the widget
-// reports actions and stands where it is told; only a dragged thumb moves by itself. Chart window's thread.
+// The horizontal scroll bar below the panes. The chart window decides the effect of every action, so the
+// widget only reports actions and shows the position that the window sets; only a dragged thumb moves by
+// itself. Chart window's thread.
 #pragma once
 
 #include "platform/WindowServices.h"

@@ -17,7 +17,7 @@ CChoiceBox::CChoiceBox(QWidget* parent, const QStringList& items, const QString&
     connect(this, &QComboBox::activated, this, [this](int) { OnChosen(); });
 }
 
-// A wheel turned over the bars would start a request for each notch.
+// Each notch of the wheel would start a request.
 void CChoiceBox::wheelEvent(QWheelEvent* event)
 {
     event->ignore();

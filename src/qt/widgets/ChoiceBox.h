@@ -1,5 +1,5 @@
-// The type box and the interval box: a list of fixed texts. Only a choice of the user is reported, also that
-// of the item already chosen. Chart window's thread.
+// The type box and the interval box: a list of fixed texts. Reports only choices of the user, even of the
+// current item. Chart window's thread.
 #pragma once
 
 #include "platform/WindowServices.h"

@@ -12,7 +12,7 @@ namespace zantroq {
 namespace {
 
 constexpr int ButtonSize = 25, ButtonTop = 2, SeparatorWidth = 7, IconSize = 18;
-constexpr int ToolbarMargin = 2; // right of the last button
+constexpr int ToolbarMargin = 2; // to the right of the last button
 
 int GapWidth(const sToolbarCommand& row)
 {

@@ -1,5 +1,5 @@
-// The toolbar, and the state of every command by number, those without a button included. A press reports the
-// command alone: what a check button shows is what the chart window says. Chart window's thread.
+// The toolbar, and the state of every command by number, including those without a button. A press only
+// reports the command; the chart window sets the state of check buttons. Chart window's thread.
 #pragma once
 
 #include "platform/WindowServices.h"
@@ -18,7 +18,7 @@ namespace zantroq {
 class CCommandBar : public QWidget, public ICommandBar
 {
 public:
-    // Of all buttons and separators, in pixels.
+    // Width of all buttons and separators in pixels.
     static int ToolbarWidth();
 
     explicit CCommandBar(QWidget* parent);
@@ -30,7 +30,7 @@ public:
     bool IsEnabled(int command) const override { return m_disabled.count(command) == 0; }
     bool IsChecked(int command) const override;
 
-    // The button's action, null for a command without a button.
+    // The action of a button; null for a command without a button.
     QAction* Action(int command) const;
 
 protected:

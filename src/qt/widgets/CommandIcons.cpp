@@ -5,7 +5,7 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
-// Outside any namespace, where the resource's initialiser is; a static library needs it called.
+// Outside any namespace, as Q_INIT_RESOURCE requires; in a static library the initialiser must be called.
 static void LoadResources()
 {
     Q_INIT_RESOURCE(icons);
@@ -28,7 +28,7 @@ public:
         drawing.replace("currentColor", (mode == QIcon::Disabled ? m_faint : m_ink).name().toLatin1());
         QSvgRenderer renderer(drawing);
         if (mode == QIcon::Disabled)
-            painter->setOpacity(0.55); // the colored strokes rest as well
+            painter->setOpacity(0.55); // dims the colored strokes too
         renderer.render(painter, rect);
         painter->setOpacity(1);
     }

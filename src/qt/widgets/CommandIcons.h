@@ -1,5 +1,5 @@
-// The toolbar's icons: line drawings of our own, kept as SVG and drawn at whatever size and scale is asked
-// for, in the colors of the palette. Chart window's thread.
+// The icons of the toolbar: our own line drawings in SVG, rendered at any size and scale in the colors of the
+// palette. Chart window's thread.
 #pragma once
 
 #include <QIcon>
@@ -7,7 +7,8 @@
 
 namespace zantroq {
 
-// The drawing src/resources/icons/NAME.svg, empty for another name. After a change of the palette ask again.
+// The drawing src/resources/icons/NAME.svg; empty for an unknown name. Call again after a change of the
+// palette.
 QIcon NamedIcon(const QString& name, const QPalette& palette);
 
 } // namespace zantroq

@@ -8,7 +8,7 @@ void CContextMenuPopup::Open(const sContextMenu& model, int x, int y)
 {
     auto* menu = new QMenu;
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    // On a dark desktop a menu would hardly stand out from a dark chart under it.
+    // On a dark desktop a menu would hardly be visible over a dark chart.
     QPalette palette = menu->palette();
     if (palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness()) {
         palette.setColor(QPalette::Base, palette.color(QPalette::Window).lighter(115));
@@ -18,7 +18,8 @@ void CContextMenuPopup::Open(const sContextMenu& model, int x, int y)
     Fill(*menu, model.Items);
     if (Extend)
         Extend(*menu);
-    // The menu says that it hides before it says what was picked, so the answer waits a turn of the loop.
+    // The menu hides before it reports the chosen item, so the answer waits for the next turn of the event
+    // loop.
     connect(menu, &QMenu::aboutToHide, this,
             [this] { QTimer::singleShot(0, this, [this] { OnPicked(m_picked); }); });
     menu->popup(ToGlobal(model.Pane, x, y));

@@ -1,4 +1,4 @@
-// Opens the chart window's context menus as popups and reports what was picked. Chart window's thread.
+// Opens the chart window's context menus as popups and reports the chosen item. Chart window's thread.
 #pragma once
 
 #include "platform/WindowServices.h"
@@ -12,9 +12,10 @@ namespace zantroq {
 class CContextMenuPopup : public QObject, public IContextMenu
 {
 public:
-    std::function<QPoint(int pane, int x, int y)> ToGlobal; // a pixel of a pane on the screen
-    std::function<void(int command)> OnPicked;              // 0: closed without a pick
-    std::function<void(QMenu& menu)> Extend;                // adds items of the face; may be empty
+    std::function<QPoint(int pane, int x, int y)>
+        ToGlobal;                              // converts a pixel of a pane to screen coordinates
+    std::function<void(int command)> OnPicked; // 0: closed without a pick
+    std::function<void(QMenu& menu)> Extend;   // adds items of the Widgets layer; may be empty
 
     void Open(const sContextMenu& menu, int x, int y) override;
 

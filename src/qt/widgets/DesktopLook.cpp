@@ -5,7 +5,7 @@ namespace zantroq {
 QPalette DarkPalette()
 {
     const QColor text(0xe4, 0xe6, 0xe9), resting(0x7f, 0x86, 0x8f);
-    // The frames and shades of the widgets are worked out from these two.
+    // Frames and shades of widgets are derived from these two colors.
     QPalette palette(QColor(0x3a, 0x3f, 0x46), QColor(0x2a, 0x2d, 0x32));
     for (const QPalette::ColorRole role :
          {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {

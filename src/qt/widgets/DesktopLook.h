@@ -1,11 +1,11 @@
-// The dark look for desktops that do not hand their own palette to programs. Chart window's thread.
+// The dark palette for desktops that do not provide a palette of their own. Chart window's thread.
 #pragma once
 
 #include <QPalette>
 
 namespace zantroq {
 
-// Everything around the panes; their own colors are settings.
+// For everything around the panes; the panes' colors are settings.
 QPalette DarkPalette();
 
 } // namespace zantroq

@@ -13,13 +13,13 @@ sWindowRect FromRect(const QRect& rect)
     return {rect.left(), rect.top(), rect.left() + rect.width(), rect.top() + rect.height()};
 }
 
-// On Wayland a window neither chooses nor knows where it stands.
+// On Wayland a window can neither set nor read its position.
 bool WindowsHavePlaces()
 {
     return !QGuiApplication::platformName().startsWith("wayland");
 }
 
-// In a window of another program, which places it.
+// True inside a window of another program, which decides the position.
 bool IsEmbedded(const QWidget& window)
 {
     return window.windowHandle() != nullptr && window.windowHandle()->parent() != nullptr;
@@ -27,7 +27,7 @@ bool IsEmbedded(const QWidget& window)
 
 } // namespace
 
-// The toolkit takes "[*]" for its mark of changed documents, and two of them for the text.
+// The toolkit uses "[*]" as its mark of changed documents and "[*][*]" for the text "[*]".
 std::string CTopLevelWindow::Title() const
 {
     QString text = m_inside.window()->windowTitle();

@@ -1,4 +1,4 @@
-// The host's top-level window as the chart window sees it. Chart window's thread.
+// Implements the interface of the host's top-level window. Chart window's thread.
 #pragma once
 
 #include "platform/WindowServices.h"
@@ -13,7 +13,7 @@ namespace zantroq {
 class CTopLevelWindow : public ITopLevelWindow
 {
 public:
-    // A widget inside the window; it may be moved to another window at any time.
+    // `inside` is a widget in the window; it may be moved to another window at any time.
     explicit CTopLevelWindow(QWidget& inside) : m_inside(inside) {}
 
     std::string Title() const override;
@@ -29,8 +29,8 @@ public:
 private:
     QWidget& m_inside;
     std::string m_caption;
-    // What MoveTo asked for last. It stands for the place where windows have none, and for place and size
-    // inside another program's window, which stays as that program has it.
+    // The last rectangle passed to MoveTo. Replaces the position where windows have none, and position and
+    // size inside a window of another program, which decides them itself.
     QPoint m_place;
     QSize m_size;
 };

@@ -23,7 +23,7 @@ void CWindowTimer::timerEvent(QTimerEvent* event)
 {
     for (const auto& [id, number] : m_running) {
         if (number == event->timerId()) {
-            OnTick(id); // may start and stop timers, so the loop ends here
+            OnTick(id); // may start and stop timers, so the loop must end here
             return;
         }
     }

@@ -1,4 +1,4 @@
-// The chart window's timers by number, on the toolkit's event loop. Chart window's thread.
+// The chart window's timers by number, in the toolkit's event loop. Chart window's thread.
 #pragma once
 
 #include "platform/WindowServices.h"
@@ -22,7 +22,7 @@ protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
-    std::map<int, int> m_running; // the toolkit's number of each timer that runs
+    std::map<int, int> m_running; // the toolkit's number of each running timer
 };
 
 } // namespace zantroq
