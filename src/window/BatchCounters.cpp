@@ -4,7 +4,7 @@ namespace zantroq {
 
 void CBatchCounters::SetAll(bool batched)
 {
-    // A suspension of the price pane alone that is still open goes on.
+    // A suspension of the price pane alone continues.
     for (CChart2D& pane : m_panes)
         pane.SetBatched(batched || (m_inner > 0 && &pane == &m_panes.front()));
 }

@@ -1,5 +1,5 @@
-// Nested suspension of repainting. The outer counter stands for all panes, the inner one also counts
-// suspensions of the price pane alone. Chart window's thread.
+// Nested suspension of repainting. The outer counter counts suspensions of all panes; the inner one also
+// counts suspensions of the price pane alone. Chart window's thread.
 #pragma once
 
 #include "scene/Chart2D.h"

@@ -1,5 +1,5 @@
-// What a chart window asks of the feed's worker. One worker serves all windows of the process; every call is
-// made on the chart window's thread and none waits for an answer.
+// The interface of the feed's worker for a chart window. One worker serves all windows of the process. Every
+// function is called on the chart window's thread, and none waits for an answer.
 #pragma once
 
 #include <memory>
@@ -15,12 +15,12 @@ public:
     virtual void WatchSymbol(CChartHistRequest& request) = 0;
     virtual void UnwatchSymbol(CChartHistRequest& request) = 0;
     virtual void SendHistoryRequest(CChartHistRequest& request) = 0; // clears Complete
-    // The window's last word on a request: marks it dead, frees it at once where no reply is on its way, and
-    // leaves it to the worker otherwise, which frees it at the reply's end.
+    // Gives up a request: marks it dead and frees it at once, or, if a reply is still arriving, lets the
+    // worker free it at the end of the reply.
     virtual void Release(std::unique_ptr<CChartHistRequest> request) = 0;
 };
 
-// The check that a user is logged in, made once when a window starts.
+// The check that a user is logged in, done once when a window starts.
 class ILoginVerification
 {
 public:

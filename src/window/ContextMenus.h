@@ -1,5 +1,5 @@
-// The contents of the window's two context menus: 129 over the price pane, 212 over a study pane. Pure
-// functions.
+// The contents of the window's two context menus: 129 of the price pane, 212 of a study pane. Pure functions,
+// any thread.
 #pragma once
 
 #include "platform/WindowServices.h"
@@ -17,7 +17,7 @@ struct sMenuState
 sContextMenu BuildPriceMenu(const sPaneStack& stack, const sMenuState& state);
 sContextMenu BuildStudyMenu(const sPaneStack& stack, int pane);
 
-// The item of a command, also inside a submenu; null when the menu has none.
+// The item of a command, also in submenus; null if the menu does not have it.
 const sMenuItem* FindMenuItem(const std::vector<sMenuItem>& items, int command);
 
 } // namespace zantroq

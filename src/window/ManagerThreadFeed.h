@@ -1,4 +1,4 @@
-// The chart window's road to the process's one worker. Chart window's thread.
+// Connects the chart window to the process's one worker. Chart window's thread.
 #pragma once
 
 #include "window/ChartFeed.h"

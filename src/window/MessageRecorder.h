@@ -1,5 +1,4 @@
-// Every question the window asked, with its answer, on its way to the desktop's message box. Chart window's
-// thread.
+// Passes message boxes to the desktop and records each with its answer. Chart window's thread.
 #pragma once
 
 #include "platform/WindowServices.h"

@@ -1,5 +1,5 @@
-// What the mouse does over a pane while no trendline mode is armed: the marker follows it, a left click shows
-// a point's values, a right click offers to delete a bad point. Chart window's thread.
+// The effects of the mouse over a pane while no trendline mode is active: the marker follows the mouse, a
+// left click shows the values of a point, a right click offers to delete a bad point. Chart window's thread.
 #pragma once
 
 #include "drawing/ChartWindow.h"
@@ -12,7 +12,7 @@ namespace zantroq {
 struct sNearPoint
 {
     int Point = 0;       // displayed point number, from 1
-    int Distance = 1000; // pixels; 1000: none
+    int Distance = 1000; // in pixels; 1000: none
 };
 
 // The point near a pixel of the price pane: for ticks the nearest drawn point, for bars the nearest line from
@@ -30,12 +30,12 @@ public:
 
     void FollowMouse(int pane, int displayedPanes, int x, int y);
     void ShowReadout(int x, int y);
-    // False when no point is near, so that the context menu opens instead.
+    // Returns false if no point is near; the context menu opens then.
     bool OfferDeletion(int x, int y);
 
 private:
     bool IsTickData() const { return m_window.Settings().Request.DataType == TickData; }
-    sNearPoint NearPoint(int x, int y) const; // of the price pane and in the series
+    sNearPoint NearPoint(int x, int y) const; // only a point that is in the series
     int PointUnder(int pane, int x, int y);   // 0: none
     std::string DeletionText(int index) const;
 

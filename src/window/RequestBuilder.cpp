@@ -78,7 +78,7 @@ void FillRequest(CChartHistRequest& request, const sRequestSettings& settings, c
     if (IsIntervalKind(kind))
         request.SetIntervalSeconds(IntervalMinutesAt(settings.IntervalIndex) * 60);
     SetExtent(request, settings, kind);
-    // Also where the command has no place for it: the filter then drops points on this side.
+    // Also if the command has no field for it: then the filter drops points on this side.
     if (settings.TimeFilterOn[type]) {
         request.SetBeginFilterTime(settings.BeginFilterTimes[type]);
         request.SetEndFilterTime(settings.EndFilterTimes[type]);

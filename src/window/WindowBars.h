@@ -1,5 +1,5 @@
-// The bars around the panes: symbol box with its history, type and interval boxes, check buttons, and the
-// second and third part of the status bar. Chart window's thread.
+// The bars around the panes: symbol box with its history, type and interval boxes, check buttons, and parts 1
+// and 2 of the status bar. Chart window's thread.
 #pragma once
 
 #include "platform/WindowServices.h"
@@ -20,12 +20,12 @@ public:
     CWindowBars(sChartSettings& settings, CRetryingKey& key, const sWindowServices& services,
                 CStatusText& status);
 
-    void SetUp(const IWindowDialogs* dialogs); // boxes, checks, enabling, symbol history
-    void ShowSettings();                       // boxes and checks after a change of settings
+    void SetUp(const IWindowDialogs* dialogs); // boxes, check buttons, enabled states and symbol history
+    void ShowSettings();                       // boxes and check buttons, after a change of settings
     void RememberSymbol(const std::string& symbol);
-    // True when the key starts a symbol: the box then holds that character alone and has the keyboard.
+    // Returns true if the key starts a symbol: the box then contains only that character and has the focus.
     bool OnKeyPress(int code);
-    // The check buttons flip, are stored, and answer their new state.
+    // Toggle a check button, store its state and return it.
     bool FlipGrid();
     bool FlipPriceBar();
 

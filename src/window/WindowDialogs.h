@@ -1,6 +1,6 @@
-// The dialogs that the chart window opens. Each one may be missing; its command then stands disabled. A
-// dialog is modal to the person, but opening it returns at once, so that a script goes on beside it; what
-// follows from it is done when it closes. Chart window's thread.
+// The dialogs that the chart window opens. Each may be missing; its command is then disabled. A dialog is
+// modal for the user, but opening it returns at once, so that a script can continue; its result is processed
+// when it closes. Chart window's thread.
 #pragma once
 
 #include "platform/DialogDriver.h"
@@ -13,7 +13,7 @@
 
 namespace zantroq {
 
-// What a settings sheet closed with OK hands back.
+// The result of an accepted settings sheet.
 struct sSettingsEdit
 {
     sChartSettings Settings;
@@ -21,11 +21,11 @@ struct sSettingsEdit
     bool SaveRequestSettings = false; // "Save settings as default" on the data page
 };
 
-// What the settings sheet works on. All of it outlives the sheet.
+// The objects that the settings sheet uses. All must outlive the sheet.
 struct sSheetSubject
 {
-    const sChartSettings& Settings; // the chart's, also while the sheet is open
-    ISettingsKey& Key;              // where they are kept
+    const sChartSettings& Settings; // the current settings of the chart
+    ISettingsKey& Key;              // key of the stored settings
     IMessageBox& Box;
 };
 
@@ -39,11 +39,11 @@ public:
     virtual bool HasSymbolSearch() const { return false; }
     virtual bool HasSettingsSheet() const { return false; }
     virtual bool HasPrint() const { return false; }
-    // Nothing is called for a dialog that was cancelled. Not to be called while a dialog is open.
+    // Must not be called while a dialog is open. A cancelled dialog calls nothing.
     virtual void OpenSymbolSearch(SymbolChosen) {}
     virtual void OpenSettingsSheet(const sSheetSubject&, SettingsAccepted) {}
-    virtual void RunPrint() {} // returns when its dialog is closed
-    // The dialog that is open; null: none.
+    virtual void RunPrint() {} // returns after its dialog is closed
+    // The open dialog, or null.
     virtual IDialogDriver* OpenDialog() { return nullptr; }
 };
 

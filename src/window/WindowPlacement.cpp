@@ -9,9 +9,9 @@ namespace {
 
 constexpr int LeastExtent = 200;
 constexpr int GreatestExtent =
-    32'767; // pixels that a window system takes; a stored extent may exceed 32 bits
+    32'767; // limit of window systems in pixels; a stored extent may exceed 32 bits
 
-// One direction of the fit, in 64 bits since stored numbers may be anything.
+// Fits one direction, in 64 bits because stored numbers may be anything.
 void FitExtent(std::int32_t& low, std::int32_t& high, std::int32_t screenLow, std::int32_t screenHigh)
 {
     std::int64_t from = low, to = high;

@@ -1,5 +1,4 @@
-// Where the host's top-level window stood when a chart was last on show, stored by its title, and bringing it
-// back there. Chart window's thread.
+// Stores the position of the host's top-level window by its title and restores it. Chart window's thread.
 #pragma once
 
 #include "platform/WindowServices.h"
@@ -10,7 +9,8 @@
 
 namespace zantroq {
 
-// Moves a rectangle onto the screen and widens one of 200 pixels or less to 200 about its centre.
+// Moves a rectangle onto the screen, and enlarges a width or height of 200 pixels or less to 200 around its
+// centre.
 sWindowRect FitToScreen(sWindowRect rect, const sWindowRect& screen);
 
 class CWindowPlacement
@@ -18,12 +18,13 @@ class CWindowPlacement
 public:
     CWindowPlacement(ISettingsKey& key, ITopLevelWindow& top) : m_key(key), m_top(top) {}
 
-    void SetResizeParentWindow(bool resize); // true also brings the window to its stored place
+    void SetResizeParentWindow(bool resize); // true also moves the window to its stored position
     bool ResizeParentWindow() const { return m_resizeParent; }
 
-    void LoadWindowPosition(); // for the current title; what is missing takes its default
-    // Under the current title, and only where the host asked for it. A window that stands where a default put
-    // it, because its place could not be read, was not placed by the user: nothing is saved then.
+    void LoadWindowPosition(); // for the current title; missing values get defaults
+    // Stores the position under the current title if the host asked for it. Does nothing if the stored
+    // position could not be read and the window is still at the default position, because the user did not
+    // choose that one.
     void SaveIfAsked();
     const sWindowPosition& Position() const { return m_position; }
 
@@ -34,8 +35,9 @@ private:
     ITopLevelWindow& m_top;
     sWindowPosition m_position;
     bool m_resizeParent = false;
-    bool m_isUnread = false;                  // the position could not be read
-    std::optional<sWindowPosition> m_default; // where a default put the window in place of an unread position
+    bool m_isUnread = false; // the position could not be read
+    std::optional<sWindowPosition>
+        m_default; // default position used because the stored one could not be read
 };
 
 } // namespace zantroq

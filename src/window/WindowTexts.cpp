@@ -104,7 +104,7 @@ std::string SymbolFromKey(int code)
 {
     if (code >= 0x20 && code <= 0x6f)
         return SymbolBoxText(std::string(1, static_cast<char>(code)), false);
-    // The two codes above seven bits are the characters of that number, in UTF-8.
+    // The two codes above 7 bits are characters of that number, in UTF-8.
     if (code == 0xba)
         return "\xC2\xBA";
     if (code == -1)

@@ -1,4 +1,4 @@
-// The words of the window's messages, captions and questions. Pure functions, any thread.
+// The texts of the window's messages, captions and questions. Pure functions, any thread.
 #pragma once
 
 #include "market/HistoryRecords.h"
@@ -8,15 +8,15 @@
 
 namespace zantroq {
 
-// "Tick" to "Monthly"; empty for another number.
+// "Tick" to "Monthly"; empty for any other number.
 std::string DataTypeName(int dataType);
-// The minutes of an interval place, 1 for a place outside the list.
+// The minutes of an interval index; 1 for an index outside the list.
 int IntervalMinutesAt(int intervalIndex);
 
 std::string RetrievingText(int dataType, int count);
-// "5 - Minute" for intervals, else the type's name.
+// "5 - Minute" for intervals, otherwise the name of the type.
 std::string ChartCaption(const sRequestSettings& request);
-// "5 - SYMBOL" for intervals, else the symbol.
+// "5 - SYMBOL" for intervals, otherwise the symbol.
 std::string TitleLine(const sRequestSettings& request, const std::string& symbol);
 std::string WindowTitle(const std::string& symbol);
 
@@ -24,10 +24,9 @@ std::string TickDeletionText(const sHIST_DATA& point, const std::string& minuteT
 std::string IntervalDeletionText(int dataType, const std::string& prices, const std::string& time,
                                  const std::string& date);
 
-// What the symbol box makes of a text as it comes: upper case (ASCII), and with nothing selected at most 30
-// characters.
+// The symbol box's form of typed text: upper case (ASCII), and at most 30 characters if nothing is selected.
 std::string SymbolBoxText(const std::string& typed, bool textSelected);
-// The symbol box's text for a key pressed over a pane; empty for a key that does not start a symbol.
+// The symbol box's text after a key was pressed over a pane; empty if the key does not start a symbol.
 std::string SymbolFromKey(int code);
 
 } // namespace zantroq
