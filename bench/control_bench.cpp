@@ -1,8 +1,8 @@
-// What many controls cost.
+// The cost of many controls.
 //
-//   life [SPEED]  creates and destroys a control 1,000 times beside one that follows live trades, at ten
-//                 market seconds a second or SPEED; prints the memory of the process each hundred times
-//   paint         one frame of one control and of ten, all on live data; the median of 30, in processor time
+//   life [SPEED]  creates and destroys a control 1,000 times beside one that follows live trades, at SPEED (10)
+//                 market seconds per second; prints the memory of the process after each hundred
+//   paint         one frame of one control and of ten, all with live data: median of 30, in processor time
 #include "control/ChartBody.h"
 #include "feed/server/FeedServer.h"
 #include "market/ZantroPorts.h"
@@ -85,7 +85,7 @@ void Live(CControls& controls)
     for (int life = 1; life <= Lives; ++life) {
         const auto passing = controls.Open("SIM.WILD");
         if (life % 2 == 0)
-            CControls::AwaitDrawn(*passing); // the others go in the middle of their load
+            CControls::AwaitDrawn(*passing); // the others are destroyed while they load
         QApplication::processEvents();
         if (life % Hundred != 0)
             continue;
@@ -98,7 +98,7 @@ void Live(CControls& controls)
     }
 }
 
-// Of this thread alone, so that the worker, the feed and other programs of the machine do not count.
+// Processor time of this thread only, without the worker, the feed and other programs.
 double ProcessorMilliseconds()
 {
     timespec time{};
@@ -140,7 +140,7 @@ int main(int argc, char** argv)
 {
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
     QApplication application(argc, argv);
-    // Market seconds a second: nearly 0 lets the chart that stays, and the market, not grow.
+    // In market seconds per second: with nearly 0, neither the remaining chart nor the market grows.
     CControls controls(argc > 2 ? std::atof(argv[2]) : 10);
     const char* const what = argc > 1 ? argv[1] : "";
     if (std::strcmp(what, "paint") != 0)

@@ -1,10 +1,12 @@
-// How a zantroq-feed answers while other clients load it.
-//   quiet       100 one-minute bars of a simulated symbol, nobody else connected
-//   no lines    the same beside 8 clients that each sent 50 requests whose filter passes no point
-//   new symbols the same beside 8 clients that each sent 3,000 requests for simulated symbols never asked for
-//   watches     the same beside 8 clients that each watch 2,000 new simulated symbols
-//   closed      the same right after the 8 clients of "no lines" have closed
+// The response time of a zantroq-feed under the load of other clients.
+//
+//   quiet       100 one-minute bars of a simulated symbol, no other client connected
+//   no lines    the same, beside 8 clients that each sent 50 requests whose filter admits no point
+//   new symbols the same, beside 8 clients that each sent 3,000 requests for new simulated symbols
+//   watches     the same, beside 8 clients that each watch 2,000 new simulated symbols
+//   closed      the same, right after the 8 clients of "no lines" have disconnected
 //   end         from SIGTERM to the end of the program, beside the clients of "no lines"
+//
 // Usage: feed_load PATH-OF-ZANTROQ-FEED [REQUESTS]     (default 200)
 #include <asio.hpp>
 
@@ -30,7 +32,7 @@ double MillisecondsSince(TClock::time_point start)
     return std::chrono::duration<double, std::milli>(TClock::now() - start).count();
 }
 
-// One run of the program on free ports.
+// A run of the program on free ports.
 class CFeedProgram
 {
 public:
@@ -86,7 +88,7 @@ public:
         asio::read_until(m_socket, asio::dynamic_buffer(reply), "!ENDMSG!,\r\n");
         return MillisecondsSince(start);
     }
-    // Takes whatever comes, so that the feed is never held up by this client.
+    // Reads everything, so that this client never delays the feed.
     void Drain()
     {
         m_reader = std::thread([this] {

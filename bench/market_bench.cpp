@@ -1,14 +1,15 @@
-// Market engine benchmarks. Each prints lines a second ("items_per_second"); the yardsticks run in the same
+// Market engine benchmarks. Each prints lines per second ("items_per_second"); the yardsticks run in the same
 // call.
-//   YardstickFastFloat     the tick text in memory, a plain loop with fast_float into bare vectors, reserved
-//   YardstickWarm          the same into vectors whose memory has been used before, as no chart can have it
+//
+//   YardstickFastFloat     the tick text in memory: a plain loop with fast_float into reserved vectors
+//   YardstickWarm          the same into vectors whose memory has been used before, which no chart has
 //   TicksFromMemory        the same text through line cutter, parser, range check and append into a series
 //   TicksFromMemoryBounded the same with date and time bounds set, all points inside
-//   YardstickSocket        the text over a loopback socket, receiving and finding line ends only
-//   YardstickSocketKept    the same, and 60 bytes a line, as many as a tick takes, written to fresh memory
-//   TicksOverSocket        the text from a loopback feed to Complete, first byte to flag, another thread
-//                          polling every 1 ms; counters give the bytes a tick that the series added and the
-//                          process's resident memory in MB
+//   YardstickSocket        the text over a loopback socket, only receiving and finding line ends
+//   YardstickSocketKept    the same, and 60 bytes per line, as many as a tick takes, written to fresh memory
+//   TicksOverSocket        the text from a loopback feed to Complete, first byte to flag, while another thread
+//                          polls every 1 ms; counters give the bytes per tick that the series added and the
+//                          resident memory of the process in MB
 //   LiveTick               one level 1 trade merged into a tick series
 #include "market/HistoryReply.h"
 #include "market/Level1Stream.h"
@@ -34,7 +35,7 @@ namespace {
 
 constexpr int Lines = 2000000;
 
-// 72 bytes a line, CR LF included, with the identifier of the given request.
+// 72 bytes per line, CR LF included, with the identifier of the given request.
 std::string TickText(const std::string& identifier)
 {
     std::string text;
@@ -103,8 +104,8 @@ struct sColumns
     std::vector<char> Basis;
 };
 
-// What one would write by hand: commas found one after the other, numbers by fast_float, no check of
-// anything.
+// A loop as one would write it by hand: finds commas one by one, reads numbers with fast_float, checks
+// nothing.
 void PlainLoop(const std::string& text, sColumns& columns)
 {
     const char* at = text.data();
@@ -165,7 +166,7 @@ void YardstickFastFloat(benchmark::State& state)
 {
     const std::string text = TickText("0123456");
     for (auto _ : state) {
-        // As for the series below, fresh memory is part of the work and giving it back is not.
+        // As for the series below, allocating fresh memory counts and freeing it does not.
         sColumns columns;
         PlainLoop(text, columns);
         benchmark::DoNotOptimize(columns.Last.data());
@@ -259,11 +260,11 @@ double Seconds(Clock::time_point from)
     return std::chrono::duration<double>(Clock::now() - from).count();
 }
 
-// Receives the text and finds line ends; onLine(number of the line) for each.
+// Receives the text, finds line ends, and calls onLine(number of the line) for each.
 template<class F> void ReceiveLines(benchmark::State& state, F makeOnLine)
 {
     for (auto _ : state) {
-        const std::string text = TickText("0123456"); // anew, as below: it decides what memory is fresh
+        const std::string text = TickText("0123456"); // new, as below: this decides which memory is fresh
         sListener listener;
         std::thread feed([&] {
             const int connection = ::accept(listener.Handle, nullptr, nullptr);
@@ -340,7 +341,7 @@ void TicksOverSocket(benchmark::State& state)
         const long before = ResidentBytes();
         holder.SendHistoryRequest(*chart.Request);
         std::thread feed([&] { SendAll(connection, text); });
-        // The window's side: it asks for the count as its timer would, only far more often.
+        // The window's side: reads the count like its timer, but far more often.
         while (chart.Request->GetCount(FieldTime) == 0)
             std::this_thread::yield();
         const Clock::time_point first = Clock::now();

@@ -1,16 +1,15 @@
-// Painting panes into a kept picture, 1500x700 pane pixels, candles with axes, grid and labels.
-//   WholePane/P/S      P points at scale factor S, after a change of the value axis: every point is looked at
-//   again and every
-//                      pixel of ink is wiped and painted
-//   FromNothing/P/S    the same with an empty store of pixels: the whole picture is cleared as well
-//   LastBar/P          the last bar changed: its four values set, then the picture brought up to date
-//   ElevenPanes/P      eleven panes of 1500x127 (1500x1400 together), each after a change of its value axis;
-//   what is
-//                      known of blocks of a line's points stays
+// Painting panes into a cached picture: 1500x700 pane pixels, candles with axes, grid and labels.
+//
+//   WholePane/P/S      P points at scale factor S, after a change of the value axis: every point is examined and
+//                      every pixel of ink is cleared and painted
+//   FromNothing/P/S    the same with an empty cache: the whole picture is cleared as well
+//   LastBar/P          the last bar changed: its four values are set, then the picture is updated
+//   ElevenPanes/P      eleven panes of 1500x127 (1500x1400 together), each after a change of its value axis; the
+//                      minima and maxima of blocks of a line's points are kept
 //   Pick/P             the nearest point to a mouse that is far from every point, the worst case
 //   SaveLoad/P         a pane file written to a text and read back
-//   Yardstick/P        scanning four arrays, clearing the picture, one line a column
-//   PlotWidget/P       the plot widget that Debian packages, the same candles (only where it is installed)
+//   Yardstick/P        scanning four arrays, clearing the picture, one line per column
+//   PlotWidget/P       the plot widget in Debian's packages with the same candles (only if it is installed)
 #include "qt/paint/PanePainter.h"
 #include "scene/PaneFile.h"
 
@@ -122,7 +121,7 @@ std::unique_ptr<CChart2D> PricePane(int count, const sBars& bars, int height)
     return pane;
 }
 
-// Two value ranges in turn: nothing that was worked out for the one serves the other.
+// Alternates between two value ranges, so that nothing computed for one is useful for the other.
 void Shake(CChart2D& pane, const sBars& bars, bool wide)
 {
     const double range = bars.Greatest - bars.Least;

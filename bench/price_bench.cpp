@@ -1,10 +1,12 @@
-// The price pane's draw, series to scene, with a yardstick in the same run.
+// The price pane's draw, from series to scene, with a yardstick in the same run.
 //
-//   OnePass/N            yardstick: one pass over the four price arrays of N bars (least low, greatest high,
-//   two sums) WholeDraw/N          whole draw of N bars without curves WholeDrawAverages/N  the same with the
-//   three averages of the defaults (5, 10, 15) WholeDrawBands/N     the same with bands of period 20
-//   LastBar/N            a changed last bar: one live amendment of the series and its way into the scene
-//   Average999/245760    one average of the longest period that the settings offer, arithmetic alone
+//   OnePass/N            yardstick: one pass over the four price arrays of N bars (lowest low, highest high, two
+//                        sums)
+//   WholeDraw/N          whole draw of N bars without curves
+//   WholeDrawAverages/N  the same with the three averages of the defaults (5, 10, 15)
+//   WholeDrawBands/N     the same with bands of period 20
+//   LastBar/N            a changed last bar: one live update of the series, and its transfer into the scene
+//   Average999/245760    one average of the longest period that the settings offer, arithmetic only
 #include "drawing/BollingerBands.h"
 #include "support/SeriesFixture.h"
 

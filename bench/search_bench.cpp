@@ -1,14 +1,14 @@
 // Symbol search benchmarks; the argument is the number of symbols.
-//   YardstickStrcasestr  one pass over all descriptions with the C library's case-insensitive substring
-//   search,
-//                        which knows ASCII alone
-//   FindRare             a FIND by description that two rows in a thousand answer, from the command to the
-//                        last line of its reply
-//   FindNothing          the same with a text that no description holds
-//   FindCommon           the same with a text that every description holds
+//
+//   YardstickStrcasestr  one pass over all descriptions with the C library's case-insensitive substring search,
+//                        which handles only ASCII
+//   FindRare             a FIND by description that two rows in a thousand match, from the command to the last
+//                        line of its reply
+//   FindNothing          the same with a text that no description contains
+//   FindCommon           the same with a text that every description contains
 //   FindSymbols          a FIND by symbol
 //   FindUnicode          a FIND by description with a text that is not ASCII
-//   BuildIndex           the index made from its rows; counters give the bytes a symbol beside its text
+//   BuildIndex           the index built from its rows; counters give the bytes per symbol besides its text
 #include "feed/markets/CsvLine.h"
 #include "feed/protocol/FindAnswer.h"
 

@@ -1,12 +1,11 @@
-// Drawing trendlines with the mouse over candles, pane of 1500x700 pixels.
-//   Move/K/P        one mouse move while a line of kind K is drawn with P points shown: the line computed and
-//   the
-//                   picture brought up to date. The pointer goes over the whole plot. K: 0 horizontal, 1
-//                   sloping, 2 parallel (its second line), 3 pitchfork (its third point), 4 fan, 5
-//                   retracements, 6 speed
+// Drawing trendlines with the mouse over candles, in a pane of 1500x700 pixels.
+//
+//   Move/K/P        one mouse move while a line of kind K is drawn with P points displayed: the line is computed
+//                   and the picture updated. The pointer moves over the whole plot. K: 0 horizontal, 1 sloping,
+//                   2 parallel (its second line), 3 pitchfork (its third point), 4 fan, 5 retracements, 6 speed
 //   Compute/K/P     the same without painting
-//   DeleteClick/P  finding the line of a click with one of each kind on the pane, none of them near
-//   Yardstick/P     one array of P numbers written, the picture cleared
+//   DeleteClick/P   finding the line of a click with one line of each kind in the pane, none of them near
+//   Yardstick/P     one array of P numbers written, and the picture cleared
 #include "qt/paint/PanePainter.h"
 #include "trends/TrendInteraction.h"
 #include "trends/TrendWindow.h"
@@ -43,7 +42,7 @@ struct sSilentTimer : IWindowTimer
     void Stop(int) override {}
 };
 
-// A pane with candles and three averages behind the mouse machine.
+// A pane with candles and three averages, and the mouse state machine.
 struct sTrendPane
 {
     explicit sTrendPane(int points)
@@ -86,7 +85,7 @@ struct sTrendPane
     }
 
     void Click(int x, int y) { machine.OnMouseDown(341, 1, x, y); }
-    // As far as the last thing that the mouse moves.
+    // Starts a line up to the last part that follows the mouse.
     void Begin(int kind)
     {
         machine.OnCommand(Commands[kind]);
@@ -103,7 +102,7 @@ struct sTrendPane
     }
     void Move()
     {
-        // Over the plot in steps that meet every part of it; a third point stays left of the middle.
+        // Moves over the plot in steps that reach every part; a third point stays left of the middle.
         m_x = (m_x + 37) % (Width - 200);
         m_y = (m_y + 23) % (Height - 100);
         machine.OnMouseMove(100 + m_x * (machine.State() == PitchforkThird ? 5 : 10) / 10, 40 + m_y);

@@ -1,6 +1,6 @@
-// Bytes of any kind into the history road: cutter, handler, series. The first byte chooses the request's kind
-// and switches; lines that begin with '@' get the request's own identifier in its place, so that the fuzzer
-// need not guess the handle.
+// Arbitrary bytes as history lines: cutter, handler, series. The first byte selects the request's kind and
+// switches. A line that begins with '@' gets the request's own identifier instead, so that the fuzzer need
+// not guess the handle.
 #include "market/HistoryReply.h"
 #include "market/LineCutter.h"
 

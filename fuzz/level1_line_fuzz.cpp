@@ -1,5 +1,5 @@
-// Lines of any kind into the level 1 road, for one watched symbol "A" whose chart has a bar already. The
-// first byte chooses the request's kind and switches.
+// Arbitrary lines on the level 1 port, for one watched symbol "A" whose chart already has a bar. The first
+// byte selects the request's kind and switches.
 #include "market/Level1Stream.h"
 
 #include <stdexcept>

@@ -1,4 +1,4 @@
-// Bytes of any kind as replies of the lookup port, in pieces of any size: of the reference tables and of a
+// Arbitrary bytes as replies of the lookup port, in pieces of any size: replies of reference tables and of a
 // search.
 #include "search/FindReply.h"
 #include "search/LookupReply.h"

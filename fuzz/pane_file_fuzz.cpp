@@ -1,5 +1,6 @@
-// Any bytes as a pane file: loading either gives a pane that saves and loads back the same, or leaves the
-// pane as it was; and it gives what a tree of JSON values gives, which the long lists do not go through.
+// Arbitrary bytes as a pane file. Loading either gives a pane that saves and loads back the same, or leaves
+// the pane unchanged; and it gives the same as a tree of JSON values, which the fast reader of long lists
+// bypasses.
 #include "scene/PaneFile.h"
 
 #include <nlohmann/json.hpp>
@@ -11,7 +12,7 @@
 
 namespace {
 
-// The pane by the road of the JSON parser alone, as a text; empty where it is refused.
+// The pane loaded through the JSON parser alone, as a text; empty if it is refused.
 std::string LoadedAsTree(const std::string& text)
 {
     zantroq::CChart2D pane;
@@ -35,7 +36,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     try {
         PaneFromText(text, pane);
     } catch (const std::runtime_error& error) {
-        // What the parser alone would take: any depth, and a NUL byte as the end of the text.
+        // Errors of input that the parser alone would accept: any depth, and a NUL byte as the end of the
+        // text.
         const std::string what = error.what();
         const bool stricter =
             what.find("deeper in one another") != what.npos || what.find("NUL") != what.npos;
@@ -50,7 +52,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     PaneFromText(saved, copy);
     if (PaneToText(copy) != saved)
         std::abort();
-    // Geometry has an answer for whatever was loaded.
+    // Geometry must work for every loaded pane.
     int series = 0, point = 0, distance = 0, x = 0, y = 0;
     for (int group = 1; group <= 2; ++group) {
         const sPixelRect plot = pane.PlotRect();

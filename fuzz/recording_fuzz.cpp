@@ -1,5 +1,5 @@
-// Arbitrary text read as each kind of recording and as a symbol list; whatever comes out is built into longer
-// bars and asked for. The first byte chooses the kind of recording.
+// Arbitrary text read as a recording of each kind and as a symbol list; the result is built into longer bars
+// and requested. The first byte selects the kind of recording.
 #include "feed/markets/BarBuilder.h"
 #include "feed/markets/RecordedMarket.h"
 #include "feed/markets/Recording.h"

@@ -1,4 +1,4 @@
-// The exchange format of the settings: whatever is read must be written and read back the same.
+// The exchange format of the settings: everything that is read must be written and read back the same.
 #include "settings/SettingsExchange.h"
 
 #include <algorithm>

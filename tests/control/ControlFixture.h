@@ -1,5 +1,5 @@
-// Controls on a feed that answers each request for ticks with 30 of them, but never one for the symbol SLOW;
-// settings in memory.
+// Controls on a feed that answers each request for ticks with 30 ticks, except for the symbol SLOW; settings
+// in memory.
 #pragma once
 
 #include "control/ChartBody.h"
@@ -46,7 +46,7 @@ inline std::string ThirtyTicks(std::string_view command)
     return reply + id + ",!ENDMSG!,\r\n";
 }
 
-// A trade of the symbol as the level 1 port reports it; `k` tells trades apart.
+// A trade of the symbol as a level 1 line; `k` makes trades distinct.
 inline std::string TradeLine(const std::string& symbol, int k)
 {
     char line[200];

@@ -1,4 +1,4 @@
-// A chart control with a settings sheet, settings in memory and a feed that the test scripts.
+// A chart control with a settings sheet, settings in memory and a scripted feed.
 #pragma once
 
 #include "control/ChartBody.h"
@@ -93,7 +93,7 @@ protected:
                 all[name] = *text;
         return all;
     }
-    // Names whose values differ, in order.
+    // The names of values that differ, sorted.
     static std::vector<std::string> Differences(const Stored& before, const Stored& after)
     {
         std::vector<std::string> names;

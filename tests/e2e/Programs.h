@@ -1,5 +1,5 @@
-// Runs the built programs as a user or a script would: in processes of their own, with settings of their own,
-// in a folder that goes with the test.
+// Runs the built programs like a user or a script: in separate processes, with separate settings, in a folder
+// that is deleted after the test.
 #pragma once
 
 #include <QFile>
@@ -26,7 +26,7 @@ class CPrograms : public testing::Test
 protected:
     QString Path(const QString& name) const { return m_folder.filePath(name); }
 
-    // No display at all, unless a test says otherwise.
+    // Without a display, unless a test sets one.
     QProcessEnvironment Environment() const
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -69,7 +69,7 @@ protected:
     QTemporaryDir m_folder;
 };
 
-// zantroq-feed on two free ports, which the settings of the test then name.
+// zantroq-feed on two free ports, which are stored in the test's settings.
 class CProgramsWithFeed : public CPrograms
 {
 protected:

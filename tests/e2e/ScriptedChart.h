@@ -1,4 +1,4 @@
-// zantroq-chart under a replay script, on a feed that says exactly what a test tells it.
+// zantroq-chart with a replay script and a feed scripted by the test.
 #pragma once
 
 #include "Programs.h"
@@ -16,7 +16,7 @@ namespace zantroq::test {
 
 using nlohmann::json;
 
-// What a reply line ends with: the identifier of the command.
+// The identifier of a command, which every line of its reply begins with.
 inline std::string RequestId(std::string_view command)
 {
     return std::string(command.substr(command.rfind(',') + 1));
@@ -72,7 +72,7 @@ protected:
         Set("Level1Port", QString::number(m_scripted.Level1.Port()), key);
     }
 
-    // The answer to each history command: so many lines, and their end unless it is kept back.
+    // Sets the answer to each history command: `points` lines and, with `end`, the end line.
     void Serve(int points, Line line, bool end = true)
     {
         m_scripted.Lookup.SetResponder([points, line, end](std::string_view command) {
@@ -91,7 +91,7 @@ protected:
         Write("script.txt", script);
         return Chart(QStringList({"--replay", "script.txt"}) + words);
     }
-    // Plays a script that must run to its end; the state it wrote last under that name.
+    // Runs a script, which must end normally, and returns the last state that it wrote.
     json After(const std::string& script, const QStringList& words = {})
     {
         const sRun run = Play(script + "\nsnapshot end.json\n", words);
@@ -120,7 +120,7 @@ protected:
     CScriptedFeed m_scripted;
 };
 
-// The pane's pixel of a point: what lies between the margins is the range of the axes.
+// The pixel of a point in its pane: the area between the margins shows the range of the axes.
 inline std::string PixelOf(const json& pane, double x, double y)
 {
     const json &plot = pane.at("plot"), &axes = pane.at("axes");

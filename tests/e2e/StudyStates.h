@@ -1,5 +1,5 @@
-// The study panes of a state file against the plain definition, bit for bit: the state's numbers read back
-// exactly.
+// Compares the study panes of a state file with the plain definition, bit for bit: the numbers of a state can
+// be read back exactly.
 #pragma once
 
 #include "studies/PlainStudy.h"
@@ -62,14 +62,14 @@ inline void ExpectPane(const json& pane, const plain::sPane& twin)
         EXPECT_EQ(labels.at(i).at(1), twin.labels[i].second);
 }
 
-// The range of a state, as the plain definition takes it.
+// The range of a state, for the plain definition.
 inline plain::sView ViewOf(const json& state)
 {
     const json& range = state.at("range");
     return {range.at("first"), range.at("shown"), range.at("ptsIndex"), false};
 }
 
-// The steps that stack these studies under the price pane.
+// Script steps that display these studies below the price pane.
 inline std::string StackSteps(const std::vector<int>& kinds)
 {
     std::string steps = "set \"Number of displayed study charts\" " + std::to_string(kinds.size()) + "\n";

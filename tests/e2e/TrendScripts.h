@@ -1,5 +1,5 @@
-// Scripts that draw trendlines in the built chart, and the plain definition of what they must draw: worked
-// out from the axes and points that the snapshot tells, with no line of the chart's own code.
+// Scripts that draw trendlines in the built chart, and the plain definition of the expected lines, computed
+// from the axes and points of the snapshot without any code of the chart.
 #pragma once
 
 #include "Programs.h"
@@ -15,7 +15,7 @@ namespace zantroq::test {
 
 using nlohmann::json;
 
-// The price pane's pixels and data, by a snapshot.
+// The pixels and data of the price pane in a snapshot.
 struct sPlainPane
 {
     explicit sPlainPane(const json& state)
@@ -45,7 +45,7 @@ struct sPlainPane
     }
     int Index(int pixelX) const { return First - static_cast<int>(LowX) + static_cast<int>(X(pixelX) + 0.5); }
 
-    int Left, Right, Top, Bottom; // the first and last pixels of the plot
+    int Left, Right, Top, Bottom; // first and last pixels of the plot
     double LowX, HighX, LowY, HighY;
     int First, Shown;
 };
@@ -55,13 +55,13 @@ struct sPixelPoint
     int X, Y;
 };
 
-// What the anchors of a line are, by the places of the mouse.
+// The anchors of a line for given positions of the mouse.
 struct sPlainTrend
 {
     int Start = 0, End = 0, Third = 0;
     double Value = 0, EndValue = 0, Offset = 0, ThirdValue = 0;
 
-    // On which index the end lies, and the price there of the line through the start and the pointer.
+    // The index of the end, and the price at that index of the line through the start and the pointer.
     void MoveEnd(const sPlainPane& pane, sPixelPoint at)
     {
         End = std::max(1, pane.Index(at.X));
@@ -82,8 +82,7 @@ struct sPlainTrend
     }
 };
 
-// The price that each series of a line shows at a data index; not-a-number: nothing. In the order of the
-// series.
+// The price of each series of a line, in order, at a data index; not-a-number where it shows nothing.
 inline std::vector<double> PlainPrices(const std::string& kind, const sPlainTrend& t, int index)
 {
     const double none = std::nan("");
@@ -125,7 +124,8 @@ struct sTrendTool
     const char* Kind;
     int Command, FirstState, Series;
     const char* Setting; // "<...> Trendline Color"
-    double Points[3][2]; // places in the plot, 0 to 1 from its lower left; the third only where there is one
+    double Points[3]
+                 [2]; // positions in the plot, 0 to 1 from its lower left; the third only if the kind has one
     bool Third;
 };
 
@@ -158,7 +158,7 @@ protected:
         return {pane.Left + static_cast<int>(share[0] * (pane.Right - pane.Left)),
                 pane.Bottom - static_cast<int>(share[1] * (pane.Bottom - pane.Top))};
     }
-    // The steps that draw a whole line, its mode armed before.
+    // The steps that draw a whole line after its mode was started.
     static std::string DrawSteps(const sTrendTool& tool, const sPlainPane& pane)
     {
         std::string steps;
@@ -167,7 +167,7 @@ protected:
                 (point > 0 ? Move(At(pane, tool.Points[point])) : "") + Down(At(pane, tool.Points[point]));
         return steps;
     }
-    // Nothing is left to the pointer after the last click: this is the line that stands.
+    // The finished line, which no longer depends on the pointer.
     static sPlainTrend PlainOf(const sTrendTool& tool, const sPlainPane& pane)
     {
         sPlainTrend trend;
@@ -191,7 +191,7 @@ protected:
     {
         return json::parse(Bytes(QString::fromStdString(name) + ".json").toStdString());
     }
-    // The pane as it stands after the steps that every script begins with.
+    // The pane after the steps with which every script begins.
     sPlainPane
     Begin(const std::string& steps = "resize 800 600\ntype daily\nsymbol GOOG\ndraw\nwait complete\n")
     {
@@ -205,8 +205,8 @@ protected:
         return state.at("panes").at(0).at("groups").at(1).at("series").at(
             static_cast<std::size_t>(number - 1));
     }
-    // Every point of every series of a line is where the plain definition has it, however the window stands
-    // now.
+    // Expects every point of every series of a line where the plain definition puts it, whatever range is
+    // displayed now.
     static void ExpectDrawn(const json& state, const json& trend, const std::string& kind,
                             const sPlainTrend& plain)
     {

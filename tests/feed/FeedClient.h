@@ -17,8 +17,8 @@ public:
     }
 
     void Send(std::string_view text) { asio::write(m_socket, asio::buffer(text.data(), text.size())); }
-    // What arrives up to and with the text; what comes behind it stays for the next call. Empty when the feed
-    // closes first.
+    // Reads up to and including the text; later bytes are kept for the next call. Empty if the feed closes
+    // first.
     std::string ReadTo(std::string_view text)
     {
         std::size_t looked = 0;

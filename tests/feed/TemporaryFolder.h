@@ -1,4 +1,4 @@
-// A folder of its own for one test, gone with the test.
+// A folder for one test, deleted with this object.
 #pragma once
 
 #include <filesystem>

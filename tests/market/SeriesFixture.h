@@ -1,4 +1,4 @@
-// A request with the handlers of both sockets around it, without sockets: lines in, series out.
+// A request and the handlers of both sockets, without sockets: lines go in, the series comes out.
 #pragma once
 
 #include "market/ChartHistRequest.h"
@@ -71,12 +71,11 @@ public:
         return std::to_string(kind) + std::to_string(m_request->Handle());
     }
 
-    // A line of this request, what follows its identifier; parsed by the request's own kind unless told
-    // otherwise.
+    // Feeds a line of this request, given without its identifier; parsed by the request's own kind.
     void Feed(const std::string& rest) { FeedAs(m_request->GetRequestKind(), rest); }
     void FeedAs(int kind, const std::string& rest) { RawLine(Identifier(kind) + ',' + rest); }
     void RawLine(const std::string& line) { m_reply.OnLine(line); }
-    // As the socket hands out the lines of one receive, at whose end EndOfLines comes.
+    // Feeds a line as the socket does for the lines of one receive; EndOfLines must follow.
     void LineOfMany(const std::string& line) { m_reply.OnLineOfMany(line); }
     void Complete() { Feed("!ENDMSG!,"); }
     void EndOfLines() { m_reply.EndOfLines(); }
@@ -94,7 +93,7 @@ public:
         return FormatTime(m_request->GetTimeAt(index), "%Y-%m-%d %H:%M:%S");
     }
 
-    std::vector<std::string> Removed; // symbols that the feed was asked to stop
+    std::vector<std::string> Removed; // symbols whose updates the feed was asked to stop
 
 private:
     std::unique_ptr<CChartHistRequest> m_request;

@@ -1,5 +1,5 @@
-// A slow, plain model of history replies and live updates: strings and streams, no speed, written apart from
-// the code it checks.
+// A slow, plain model of history replies and live updates with strings and streams, written independently of
+// the code that it checks.
 #pragma once
 
 #include "market/HistoryRecords.h"
@@ -31,7 +31,7 @@ struct sPlainBar
     bool operator==(const sPlainBar&) const = default;
 };
 
-// An interval chart under live trades, with times as texts and whole seconds.
+// An interval chart with live trades; times are texts and whole seconds.
 class CPlainIntervals
 {
 public:

@@ -1,5 +1,5 @@
-// A font without a font: every character is six pane pixels wide, five of them solid and one half covered.
-// Blanks cover nothing.
+// A synthetic font: every character is six pane pixels wide, five of them solid and one half covered. Blanks
+// cover nothing.
 #pragma once
 
 #include "paint/TextMeasure.h"

@@ -1,4 +1,4 @@
-// A chart control on a feed inside the test, with settings in memory and a recording of its own: 100 days of
+// A chart control on a feed inside the test, with settings in memory and its own recording: 100 days, of
 // which day n (from 1) has open n, high n + 2, low n - 1, close n + 1 and volume 1000 n.
 #pragma once
 
@@ -59,8 +59,8 @@ protected:
         Body().SetClientSize({700, 500});
     }
 
-    // Draws daily bars of the recording, 30 points a window, with the bar at its limit: 71, where the last
-    // point stands at the right end as it does at 70.
+    // Draws daily bars of the recording, 30 displayed points, with the scroll bar at its limit: at 71 the
+    // last point is at the right end, as it is at 70.
     void Draw()
     {
         Window().Services().Type.Select(DailyData);

@@ -1,6 +1,6 @@
-// Comparison with the pictures kept in tests/golden. ZANTROQ_REMAKE_GOLDEN=1 in the environment writes them
-// anew; look at each before keeping it. A failed comparison leaves the picture that was painted and the
-// difference in the build folder.
+// Comparison with the pictures in tests/golden. With ZANTROQ_REMAKE_GOLDEN=1 in the environment they are
+// written; look at each before committing it. A failed comparison writes the painted picture and the
+// difference to the build folder.
 #pragma once
 
 #include <QImage>
@@ -8,8 +8,8 @@
 
 namespace zantroq::test {
 
-// Fails the test when the picture is not the kept one, but for a little tolerance of fonts and for that share
-// of the pixels.
+// Fails the test if the picture differs from the stored one by more than a small tolerance for fonts or in
+// more than this share of the pixels.
 void CompareWithGolden(const QImage& painted, const QString& file, double mostDifferent = 0.01);
 
 } // namespace zantroq::test

@@ -1,4 +1,4 @@
-// Small panes for the painter's tests: each shows one rule of drawing.
+// Small panes for the tests of the painter; each shows one rule of drawing.
 #pragma once
 
 #include "scene/Chart2D.h"
@@ -12,10 +12,10 @@ namespace zantroq::test {
 
 using Pane = std::unique_ptr<CChart2D>;
 
-// A pane of that size with dark text on white, its value labels on the left, and no data.
+// An empty pane of this size with dark text on white and value labels on the left.
 Pane EmptyPane(int width, int height);
 
-// Prices that wander without any randomness of the machine: the same on every run.
+// Pseudo-random prices, the same in every run.
 struct sBars
 {
     std::vector<double> High, Low, Open, Close;

@@ -1,4 +1,4 @@
-// What the symbol search needs, in memory.
+// The services of the symbol search, in memory.
 #pragma once
 
 #include "platform/BlockingConnection.h"
@@ -16,11 +16,11 @@
 
 namespace zantroq::test {
 
-// What a peer would do, and what it was sent. Shared by the connections made of it.
+// The behaviour of a peer, and what it received. Shared by the connections created from it.
 struct sPeer
 {
     bool Refuses = false, HasSockets = true;
-    std::vector<std::string> Blocks{}; // received one by one; then the peer closes
+    std::vector<std::string> Blocks{}; // returned one by one; then the peer closes
     int Connects = 0, Closes = 0;
     std::uint16_t Port = 0;
     std::string Sent{};
@@ -70,7 +70,7 @@ struct sFakeBox : IMessageBox
     }
 };
 
-// The test's own thread as the window's: what is posted waits for Run.
+// The test's thread as the window's thread: posted work waits for Run.
 class CTestWindowThread : public IWindowThread
 {
 public:
@@ -79,7 +79,7 @@ public:
         const std::lock_guard guard(m_lock);
         m_due.push_back(std::move(work));
     }
-    // Runs what is due; false when there was nothing.
+    // Runs posted work; false if there was none.
     bool Run()
     {
         std::deque<std::function<void()>> due;
@@ -97,7 +97,8 @@ private:
     std::deque<std::function<void()>> m_due;
 };
 
-// Keeps what a search sends: "R line", "X line" for errors, "-" for a search that ended without an answer.
+// Records the events of a search: "R line", "X line" for errors, "-" for a search that ended without an
+// answer.
 struct sRecordedEvents : ISymbolLookupEvents
 {
     std::vector<std::string> Lines;

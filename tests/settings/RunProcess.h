@@ -1,4 +1,4 @@
-// Runs something in a process of its own.
+// Runs something in a separate process.
 #pragma once
 
 #include <csignal>
@@ -10,10 +10,10 @@
 
 namespace zantroq::test {
 
-// An ordinary user, where the tests themselves run as one who may do anything.
+// An ordinary user, in case the tests run as a privileged user.
 inline constexpr unsigned OrdinaryUser = 65534;
 
-// A forked child; body must not touch the test framework. Its answer is the exit code.
+// Forks a child; `body` must not use the test framework. Its result is the exit code.
 inline pid_t StartChild(const std::function<int()>& body)
 {
     const pid_t child = ::fork();
@@ -22,7 +22,7 @@ inline pid_t StartChild(const std::function<int()>& body)
     return child;
 }
 
-// The exit code; 1000 + the signal where one ended it.
+// The exit code; 1000 + the signal if one ended the process.
 inline int WaitFor(pid_t child)
 {
     int status = 0;
@@ -31,7 +31,7 @@ inline int WaitFor(pid_t child)
     return WIFEXITED(status) ? WEXITSTATUS(status) : 1000 + WTERMSIG(status);
 }
 
-// Runs body as an ordinary user; all permissions count for it.
+// Runs `body` as an ordinary user, to whom file permissions apply.
 inline int AsOrdinaryUser(const std::function<int()>& body)
 {
     return WaitFor(StartChild([&] {

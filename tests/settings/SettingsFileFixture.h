@@ -1,4 +1,4 @@
-// A settings file in a folder of its own, and the states in which other processes may leave it.
+// A settings file in its own folder, and the states in which other processes may leave it.
 #pragma once
 
 #include "RunProcess.h"
@@ -28,7 +28,7 @@ struct sSettingsFileFixture : testing::Test
         ADD_FAILURE() << "no error";
         return {};
     }
-    // The file and what may lie beside it, each with its name.
+    // The file and its companions, each with its name.
     std::string AllBytes() const
     {
         std::string bytes;
@@ -52,7 +52,7 @@ struct sSettingsFileFixture : testing::Test
         EXPECT_TRUE(key->List().empty());
         EXPECT_TRUE(AllBytes() == before) << "the file or its log was changed";
     }
-    // Many values in the file, and one more in a log, as a process leaves them that dies.
+    // Many values in the file and one more in a log, as after the death of a process.
     void MakeFileWithPendingLog()
     {
         {
@@ -67,7 +67,7 @@ struct sSettingsFileFixture : testing::Test
                   0);
         ASSERT_GT(Contents(Path + "-wal").size(), 0u);
     }
-    // The same with another program's data base.
+    // The same with a database of another program.
     void DieAfterSql(const std::string& sql)
     {
         ASSERT_EQ(WaitFor(StartChild([&] {
@@ -77,7 +77,7 @@ struct sSettingsFileFixture : testing::Test
                   })),
                   SQLITE_OK);
     }
-    // A journal that SQLite would play back, of a file that had so many pages.
+    // A journal that SQLite would play back, for a file that had so many pages.
     void PutJournal(char pages)
     {
         std::string header("\xd9\xd5\x05\xf9\x20\xa1\x63\xd7\0\0\0\0\1\2\3\4\0\0\0\0\0\0\2\0\0\0\x10\0", 28);

@@ -1,4 +1,5 @@
-// A folder of its own for a test, in the system's temporary folder, gone with the test. Files in it as text.
+// A folder for one test in the system's temporary folder, deleted with this object. Reads and writes files as
+// text.
 #pragma once
 
 #include <cstdlib>

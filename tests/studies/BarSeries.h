@@ -1,4 +1,4 @@
-// A price series over plain vectors, and the ways tests make one.
+// A price series over plain vectors, and ways to create one.
 #pragma once
 
 #include "drawing/PriceSource.h"

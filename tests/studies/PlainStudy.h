@@ -1,6 +1,6 @@
-// The slow plain definition of the ten study panes, point by point and from scratch wherever the definition
-// is, with no code in common with the panes themselves: it keeps a pane as plain vectors. What the panes show
-// is compared with it bit for bit.
+// The slow plain definition of the ten study panes, computed point by point and from scratch wherever the
+// definition is, without code of the panes: it stores a pane as plain vectors. Tests compare the panes with
+// it bit for bit.
 #pragma once
 
 #include "BarSeries.h"

@@ -1,6 +1,5 @@
-// A form without a window: controls as plain values, and what a user does to them. A control comes into being
-// when it is first named, enabled, visible and empty. Radio buttons know their group once AddRadioGroup named
-// it.
+// A form without a window: controls as plain values, and the actions of a user. A control is created when it
+// is first named: enabled, visible and empty. AddRadioGroup defines the group of radio buttons.
 #pragma once
 
 #include "platform/Form.h"
@@ -35,7 +34,7 @@ public:
     void Bind(IFormEvents& events) { m_events = &events; }
     sFakeControl& operator[](int id) { return m_controls[id]; }
 
-    // What a user does. Every one must be possible: the control enabled and visible.
+    // Actions of a user. Each must be possible: the control must be enabled and visible.
     bool CanUse(int id) { return m_controls[id].Enabled && m_controls[id].Visible; }
     void Type(int id, const std::string& text) { m_controls[id].Text = text, m_events->OnChanged(id); }
     void Choose(int id, int index) { m_controls[id].Index = index, m_events->OnChanged(id); }

@@ -1,6 +1,5 @@
-// A feed for tests: two loopback ports on free numbers that record what clients send and send back what a
-// test tells them. A port serves its newest connection; everything a test asks of it may be asked on any
-// thread.
+// A feed for tests: two free loopback ports that record what clients send and send what a test tells them. A
+// port serves its newest connection. Tests may call all functions on any thread.
 #pragma once
 
 #include "market/ZantroPorts.h"
@@ -21,7 +20,7 @@ namespace zantroq::test {
 class CScriptedPort
 {
 public:
-    // Called with each line that comes, without its end, on the port's own thread; what it returns is sent
+    // Called with each received line, without its line end, on the port's own thread; its result is sent
     // back.
     using Responder = std::function<std::string(std::string_view line)>;
 
@@ -35,7 +34,7 @@ public:
 
     // Everything received so far, from all connections in order of arrival.
     std::string Received() const;
-    // Waits until what was received contains the text; false after the time-out.
+    // Waits until the received text contains `text`; false after the time-out.
     bool AwaitReceived(std::string_view text,
                        std::chrono::milliseconds timeout = std::chrono::seconds(10)) const;
     // Waits for a client; false after the time-out.
@@ -43,13 +42,13 @@ public:
     int Connections() const; // ever accepted
     bool PeerClosed() const; // the newest client has closed its side
 
-    // Sends all of the text to the newest client, waiting as needed, for the first client too. False when
-    // there is none.
+    // Sends all of the text to the newest client; waits as needed, also for the first client. False if there
+    // is none.
     bool Send(std::string_view text);
-    // Sends the text in pieces that end at these positions, with a pause between them so that each is
-    // received by itself.
+    // Sends the text in pieces that end at these positions, with a pause after each so that it is received
+    // separately.
     bool SendCut(std::string_view text, const std::vector<std::size_t>& cuts);
-    // Hangs up on the newest client.
+    // Closes the connection of the newest client.
     void CloseConnection();
 
 private:
@@ -81,7 +80,7 @@ struct CScriptedFeed
 // A port number that refuses connections.
 std::uint16_t RefusingPort();
 
-// Asks every millisecond until the answer is true; false after the time-out.
+// Calls `ask` every millisecond until it returns true; false after the time-out.
 bool AwaitTrue(const std::function<bool()>& ask,
                std::chrono::milliseconds timeout = std::chrono::seconds(20));
 

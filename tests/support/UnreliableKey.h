@@ -1,5 +1,5 @@
-// A settings key in memory whose reads and writes can be made to fail, as those of a settings file do while
-// another process holds it.
+// A settings key in memory whose reads and writes can be made to fail, like those of a settings file that
+// another process has locked.
 #pragma once
 
 #include "platform/settings/SettingsKey.h"

@@ -1,4 +1,4 @@
-// A whole chart window over a desktop in memory and a feed that answers when told to.
+// A whole chart window with a desktop in memory and a feed that answers when the test says so.
 #pragma once
 
 #include "WindowFakes.h"
@@ -31,7 +31,7 @@ struct sChartFixture
         Desktop.Symbol.Selected = -1;
         Window->OnSymbolChanged();
     }
-    // Asks for a chart and answers it with daily or tick points whose closes count up from 100.
+    // Requests a chart and answers with daily or tick points whose closes count up from 100.
     void Chart(const std::string& symbol, int points)
     {
         Type(symbol);

@@ -1,5 +1,4 @@
-// The rules of the pane stack once more, slowly and with one named pane at a time, as the yardstick of the
-// tests.
+// The rules of the pane stack implemented again, slowly and with one named pane at a time, for comparison.
 #pragma once
 
 #include <algorithm>
@@ -9,7 +8,7 @@ namespace zantroq::test {
 
 struct sPlainPane
 {
-    double Share = 0; // of the whole, 0 to 1
+    double Share = 0; // share of the whole, 0 to 1
     bool Minimized = false;
 };
 
@@ -64,7 +63,7 @@ struct sPlainStack
         return heights;
     }
 
-    // Whether the rules themselves leave some pane lower than 16 pixels although there is room for all.
+    // True if the rules leave a pane lower than 16 pixels although there is room for all.
     bool TooLow(int room) const
     {
         const auto heights = Heights(room);
@@ -108,8 +107,8 @@ struct sPlainStack
         Maximized = -1;
     }
 
-    // The border above pane `lower` goes to where the pane above it is `above` and the lower one `below`
-    // pixels high.
+    // Moves the border above pane `lower` so that the pane above is `above` and the lower pane `below` pixels
+    // high.
     void Drag(int lower, int above, int below)
     {
         const int upper = lower - 1;

@@ -1,4 +1,4 @@
-// The desktop of a chart window in memory: each service keeps what it was told.
+// The desktop of a chart window in memory: each service stores what it receives.
 #pragma once
 
 #include "market/ChartHistRequest.h"
@@ -48,7 +48,7 @@ struct sFakeBox : IMessageBox
     std::deque<BoxAnswer> Answers;
     std::vector<std::string> Texts, Captions;
     BoxIcon Icon = BoxIcon::None;
-    std::function<void()> WhileOpen = [] {}; // what goes on behind the box
+    std::function<void()> WhileOpen = [] {}; // runs while the box is open
     BoxAnswer Ask(const std::string& text, const std::string& caption, BoxButtons buttons,
                   BoxIcon icon) override
     {
