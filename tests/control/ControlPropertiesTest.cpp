@@ -1,4 +1,4 @@
-// The five properties as a host meets them: through the meta object and by their accessors.
+// The five properties as a host uses them: through the meta object and the accessors.
 #include "ControlFixture.h"
 
 #include "settings/WindowPosition.h"

@@ -1,4 +1,4 @@
-// Controls of one process and the worker that they share, and what is left when they have gone.
+// The controls of a process and the worker that they share, and what remains after the last control.
 #include "ControlFixture.h"
 
 #include "market/RequestTable.h"
@@ -23,7 +23,7 @@ int EntriesOf(const char* folder)
     return entries;
 }
 
-// What a process can leave open: threads, and file handles, sockets included.
+// What a process can leave open: threads and file handles, sockets included.
 struct sHeld
 {
     int Threads = EntriesOf("/proc/self/task");
@@ -93,7 +93,7 @@ TEST_F(Controls, TheLastOneUnwatchesItsSymbolBeforeTheConnectionsClose)
     EXPECT_TRUE(m_feed.Level1.AwaitReceived("wAAA\r\nrAAA\r\n"));
 }
 
-// The window unwatches its series at its end only where the symbol box holds a text.
+// At its end the window unwatches its series only if the symbol box has a text.
 TEST_F(Controls, TheLastOneUnwatchesItsSymbolAlsoFromAnEmptiedBox)
 {
     auto control = Make();
@@ -122,7 +122,7 @@ TEST_F(Controls, TenWindowsDrawTheirSymbols)
 
 TEST_F(Controls, ClosedInAnyOrderLeaveNothingBehind)
 {
-    // An idle one, one with a chart, one in the middle of a load.
+    // An idle control, one with a chart, one that is loading.
     const std::array<const char*, 3> symbols{"", "AAA", "SLOW"};
     const auto open = [&] {
         std::array<std::unique_ptr<CChartCtrl>, 3> controls;
@@ -137,10 +137,10 @@ TEST_F(Controls, ClosedInAnyOrderLeaveNothingBehind)
         return controls;
     };
     {
-        const auto first = open(); // what the toolkit keeps for good is there from here on
+        const auto first = open(); // everything that the toolkit keeps is open from here on
     }
     ASSERT_TRUE(PumpUntil([this] { return m_feed.Lookup.PeerClosed() && m_feed.Level1.PeerClosed(); }));
-    // The feed of this test keeps its side of closed connections: two handles a round.
+    // The feed of this test keeps its side of closed connections: two handles per round.
     int rounds = 0;
     const sHeld before;
     std::array<std::size_t, 3> order{0, 1, 2};

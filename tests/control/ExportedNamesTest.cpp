@@ -1,5 +1,5 @@
-// The library's exports, letter for letter: a name that is missing breaks hosts that were built before, and
-// one too many would have to be kept for good.
+// The exact list of the library's exports: a missing name breaks existing hosts, and an additional one would
+// have to be supported for ever.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -41,7 +41,7 @@ Names LinesOf(const std::string& text)
     return lines;
 }
 
-// "_ZN...": the last word of a line, without its version.
+// The names "_ZN...": the last word of each line, without its version.
 Names ExportedNames()
 {
     Names names;

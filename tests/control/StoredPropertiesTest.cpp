@@ -32,8 +32,8 @@ TEST(StoredProperties, BytesThatAreNotTheirsChangeNothing)
     const sStoredProperties kept{1, 1, false};
     const std::vector<Bytes> wrong{
         {},
-        {0, 0, 1, 0, 0, 0, 1, 0, 1},       // one short
-        {0, 0, 1, 0, 0, 0, 1, 0, 1, 0, 0}, // one too many
+        {0, 0, 1, 0, 0, 0, 1, 0, 1},       // one byte missing
+        {0, 0, 1, 0, 0, 0, 1, 0, 1, 0, 0}, // one byte too many
         {1, 0, 1, 0, 0, 0, 1, 0, 1, 0},    // another version
         {0, 0, 2, 0, 0, 0, 1, 0, 1, 0},    // a later one
         {0, 0, 1, 0, 2, 0, 1, 0, 1, 0},    // Appearance

@@ -1,4 +1,4 @@
-// A dialog with one control of every kind, through the form that rules see and the driver that scripts use.
+// A dialog with one control of each kind, used through the form of the rules and the driver of scripts.
 #include "qt/dialogs/ColorButton.h"
 #include "qt/dialogs/FormDialogDriver.h"
 #include "qt/dialogs/LinePicture.h"

@@ -1,4 +1,4 @@
-// The settings sheet by its real widgets, over a chart and a feed.
+// The settings sheet with its real widgets, a chart and a feed.
 #include "SheetFixture.h"
 
 #include "qt/dialogs/FormDialog.h"
@@ -25,14 +25,14 @@ struct sStep
     const char* Value;
 };
 
-// One control: what to do on its page, and what then stands in the store under which name.
+// One control: the action on its page, and the value and name that are stored.
 struct sCase
 {
     const char* Page;
     std::vector<sStep> Steps;
     const char* Name;
     const char* Value;
-    Names Besides{}; // other values that change along
+    Names Besides{}; // other values that also change
 };
 
 const char* const Colors = "Colors";
@@ -40,7 +40,7 @@ const char* const General = "General";
 const char* const Upper = "Upper Studies";
 const char* const Lower = "Lower Studies";
 
-// Colors as the store has them: 0x030201 is "#010203".
+// Colors as stored: 0x030201 is "#010203".
 const std::vector<sCase>& StoredCases()
 {
     static const std::vector<sCase> cases{
@@ -136,13 +136,13 @@ const std::vector<sCase>& StoredCases()
     return cases;
 }
 
-// Fields of the data page, each for ticks.
+// Fields of the data page, all for ticks.
 struct sRequestCase
 {
     std::vector<sStep> Steps;
     const char* Name;
     const char* Value;
-    const char* Wire; // in the command that goes out
+    const char* Wire; // in the command that is sent
 };
 
 const std::vector<sRequestCase>& RequestCases()
@@ -179,7 +179,7 @@ protected:
         for (const sStep& step : steps)
             Set(page, step.Id, step.Value);
     }
-    // The open one; a closed sheet lives on until its events have run out.
+    // The open sheet; a closed sheet exists until its events are processed.
     QDialog& Dialog()
     {
         for (QWidget* widget : QApplication::topLevelWidgets())
@@ -215,7 +215,7 @@ TEST_F(CSheetTest, EachControlReachesTheStoreTheMemoryTheWireAndTheNextRun)
         EXPECT_EQ(Differences(before, AllStored()), names);
         EXPECT_EQ(AllStored()[item.Name], item.Value);
         if (*item.Name == '\0')
-            continue; // two settings stand on the empty name; the next run reads both from it
+            continue; // two settings share the empty name; the next run reads both from it
         EXPECT_EQ(Memory(Window().Settings(), item.Name), item.Value);
         EXPECT_EQ(Memory(LoadChartSettings(*m_key->Memory), item.Name), item.Value);
     }
@@ -378,7 +378,7 @@ TEST_F(CSheetTest, TheDisplayedStudiesRebuildThePanes)
     EXPECT_EQ(panes.StudyTypes[1], StudyVolume);
     EXPECT_EQ(panes.StudyTypes[2], StudyMACD);
     EXPECT_EQ(Window().ShownPanes(), 4);
-    // Each new pane takes a quarter; the price pane had 0.66 of what is left, the volume pane 0.34.
+    // Each new pane gets a quarter; the price pane had 0.66 of the rest, the volume pane 0.34.
     EXPECT_NEAR(panes.Bounds[1], 0.5 * 0.66, 1e-12);
     EXPECT_NEAR(panes.Bounds[2], 0.5 * 0.66 + 0.25, 1e-12);
     EXPECT_NEAR(panes.Bounds[3], 0.5 * 0.66 + 0.25 + 0.5 * 0.34, 1e-12);

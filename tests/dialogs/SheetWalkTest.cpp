@@ -1,5 +1,5 @@
-// A random walk through the settings sheet, beside a plain model of it: texts by stored name. After every OK
-// and Cancel the chart's memory and the store are compared with the model.
+// A random walk through the settings sheet and a plain model of it: texts by stored name. After every OK and
+// Cancel, the chart's settings and the store are compared with the model.
 #include "SheetFixture.h"
 
 #include <random>
@@ -9,7 +9,7 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-// A control whose value is one stored setting, whatever else is chosen.
+// A control whose value is one stored setting, independent of other choices.
 struct sPlain
 {
     const char* Page;
@@ -79,7 +79,7 @@ class CWalk : public CSheetFixture
 protected:
     int Pick(int count) { return std::uniform_int_distribution<int>(0, count - 1)(m_random); }
 
-    // The six digits of a color and the number that the store has for it.
+    // The six digits of a color and its stored number.
     std::pair<std::string, std::string> PickColor()
     {
         const int red = Pick(256), green = Pick(256), blue = Pick(256);
@@ -165,8 +165,8 @@ protected:
         m_points[static_cast<std::size_t>(type)] = points;
     }
 
-    // Levels are plain numbers of a study that was visited; no period changes with ADX, Money Flow and MFI,
-    // whose stored one is that of their choice.
+    // Levels of a visited study are plain numbers. The periods of ADX, Money Flow and MFI do not change,
+    // because their stored period is that of their choice.
     void TouchStudy()
     {
         Set("Lower Studies", 328, "8");
@@ -212,7 +212,7 @@ protected:
         }
     }
 
-    // What the OK makes of points out of range, on the page or when its type was left.
+    // The result of points out of range, after OK or after the type was changed.
     std::string PointsText() const
     {
         std::string text;
@@ -288,7 +288,7 @@ protected:
     }
 
     std::mt19937 m_random{20261122};
-    Stored m_memory, m_pending, m_stored; // by stored name; of the store only what it has to hold
+    Stored m_memory, m_pending, m_stored; // by stored name; of the store only the expected values
     std::array<int, 5> m_points{1000, 1000, 1000, 1000, 1000}, m_memoryPoints = m_points;
     std::vector<int> m_displayed{6}, m_memoryDisplayed{6};
 };

@@ -1,4 +1,4 @@
-// The symbol search through its real widgets, on a feed inside the test.
+// The symbol search with its real widgets and a feed inside the test.
 #include "../qt/ChartFixture.h"
 
 #include "qt/dialogs/RowList.h"
@@ -33,7 +33,7 @@ protected:
     }
     void TearDown() override { m_chart.reset(); }
 
-    // Opens the dialog by the keyboard.
+    // Opens the dialog with the keyboard.
     void Open()
     {
         View().setFocus();
@@ -52,8 +52,7 @@ protected:
     }
     template<class TWidget> TWidget& Child(const char* name) { return *Dialog()->findChild<TWidget*>(name); }
     CRowList& Results() { return Child<CRowList>("results"); }
-    // The widget that has the keyboard while the dialog is the active window, which not every platform makes
-    // it.
+    // The widget with the focus if the dialog were the active window; not every platform activates it.
     QWidget* Focused() { return Dialog()->focusWidget(); }
     void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
     {
@@ -97,7 +96,7 @@ TEST_F(SymbolSearchDialog, EveryControlIsReachedWithTheTabKey)
         reached.insert(Focused()->objectName());
         Key(Qt::Key_Tab);
     }
-    // Of a group of radio buttons the tab key reaches the checked one, the arrows the others.
+    // In a group of radio buttons, the tab key reaches the checked button, the arrow keys reach the others.
     EXPECT_EQ(reached, (std::set<QString>{"text", "search", "descriptions", "results", "use", "cancel",
                                           "options", "markets", "filterRows"}));
     QTest::mouseClick(&Child<QRadioButton>("types"), Qt::LeftButton);

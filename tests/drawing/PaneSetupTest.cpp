@@ -62,8 +62,8 @@ TEST(PaneSetup, StudyPaneStartsEmptyWithItsTitle)
     EXPECT_EQ(chart.PaneInterior().Foreground(), 0x123456u);
 }
 
-// A pane keeps its place when another study is chosen for it; the one before must leave nothing that a
-// saved pane would still tell.
+// A pane stays in place when another study is chosen for it; the previous study must leave nothing that a
+// saved pane would contain.
 TEST(PaneSetup, StudyPaneForgetsTheStudyBefore)
 {
     CChart2D used, fresh;

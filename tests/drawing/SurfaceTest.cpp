@@ -89,7 +89,7 @@ TEST(Surface, ASuspendedLabelIsToldOnceWhenItResumes)
     EXPECT_EQ(pane.view.Times, 1);
 }
 
-// Its colors were told at once.
+// Regression: its colors were passed on at once.
 TEST(Surface, TheColorsOfASuspendedLabelWaitWithIt)
 {
     sWatchedPane pane;

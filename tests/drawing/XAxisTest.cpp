@@ -56,7 +56,7 @@ TEST(XAxis, RangeAndSpacingsFollowThePointsShown)
     EXPECT_EQ(x.AxisGrid().Spacing(), 12);
 }
 
-// Texts that tell their index: 1,440 points a day.
+// Texts that contain their index: 1,440 points per day.
 sXLabelView View(int first, int shown, double pixelsPerPoint)
 {
     sXLabelView view;
@@ -111,7 +111,7 @@ TEST(XLabels, DayBarsShowDatesOnly)
 TEST(XLabels, CrowdedLabelIsLeftOutButCountsAsPreviousText)
 {
     const std::vector<sXLabel> labels = MakeXLabels(View(0, 30, 1));
-    // Steps at 6, 12, 18 and 24 are all too near to 2; the last always stands.
+    // Steps at 6, 12, 18 and 24 are all too close to 2; the last label always appears.
     EXPECT_EQ(labels, (std::vector<sXLabel>{{2, "D0 T1"}, {30, "T29"}}));
     // At 24, with the previous text "T17" instead of the first one: 2 + (3 + 3) * 2.25 + 12 = 27.5; with 1.2
     // pixels a point 2 + 25.5 / 1.2 = 23.25 lets it through, where the first text's length would give 2 + 30

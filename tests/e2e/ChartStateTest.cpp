@@ -1,4 +1,4 @@
-// The state that the chart writes, against the recording it was drawn from, over the two real ports.
+// The state that the chart writes, compared with the recording, over the two real ports.
 #include "Programs.h"
 
 #include <nlohmann/json.hpp>

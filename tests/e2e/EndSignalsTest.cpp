@@ -1,4 +1,4 @@
-// Signals end zantroq-chart as closing its window does.
+// Signals end zantroq-chart like closing its window.
 #include "Programs.h"
 
 #include <QElapsedTimer>
@@ -18,7 +18,7 @@ protected:
         environment.insert("QT_QPA_PLATFORM", "offscreen");
         m_chart.setProcessEnvironment(environment);
         m_chart.setWorkingDirectory(m_folder.path());
-        // What the tests themselves were started with must not decide.
+        // The signals ignored by the test program itself must not matter.
         m_chart.setChildProcessModifier([] {
             for (const int number : {SIGTERM, SIGINT, SIGHUP})
                 std::signal(number, SIG_DFL);
@@ -44,7 +44,7 @@ protected:
             m_chart.waitForFinished(20);
         ASSERT_TRUE(QFile::exists(Path(name)));
     }
-    // The exit code, -1 where the signal killed the process.
+    // The exit code; -1 if the signal killed the process.
     int EndBy(int number)
     {
         EXPECT_EQ(::kill(static_cast<pid_t>(m_chart.processId()), number), 0);

@@ -1,5 +1,5 @@
-// Commands that come while a trendline is half drawn, and lines that stand while the chart is scrolled,
-// zoomed and extended by live trades in one session.
+// Commands during the drawing of a trendline, and lines that stay while the chart is scrolled, zoomed and
+// extended by live trades in one session.
 #include "ScriptedChart.h"
 #include "TrendScripts.h"
 
@@ -20,7 +20,7 @@ struct sTrendSteps : CTrendScripts
     using CTrendScripts::Snapshot;
 };
 
-// A tool armed, its first point clicked and the mouse moved to where the second would be.
+// Starts a tool, clicks its first point and moves the mouse to the second.
 std::string Half(const sTrendTool& tool, const sPlainPane& pane)
 {
     return sTrendSteps::Command(tool.Command) + sTrendSteps::Down(sTrendSteps::At(pane, tool.Points[0])) +
@@ -43,8 +43,8 @@ std::string Drawn(const std::string& type)
 class HalfDrawnTrend : public CScriptedChart
 {
 protected:
-    // Draws a chart and deletes its fifth point, half draws a line, brings the points back, goes on with the
-    // line that is gone, and draws one of the same kind.
+    // Draws a chart and deletes its fifth point, starts a line, restores the points, continues with the
+    // removed line, and draws another line of the same kind.
     void RestoreWhileHalfDrawn(const std::string& type, int command, double value, const sTrendTool& tool)
     {
         const std::string remove = Drawn(type) + "answer yes\nmouse down 341 2 " +
@@ -80,8 +80,7 @@ protected:
         EXPECT_EQ(trend.at("series"), Numbers(tool.Series));
         sTrendSteps::ExpectDrawn(again, trend, tool.Kind, sTrendSteps::PlainOf(tool, sPlainPane(restored)));
 
-        // Nothing is deleted any more, so the second restore asks nothing; the right click takes the line
-        // back.
+        // No point is deleted any more, so the second restore asks nothing; the right click removes the line.
         const json last = State("end.json");
         EXPECT_EQ(last.at("boxes").size(), 2u);
         EXPECT_EQ(last.at("trendState"), 0);
@@ -166,7 +165,7 @@ TEST_F(HalfDrawnTrend, FinishedLinesStandWhileTheChartIsScrolledZoomedAndExtende
     std::string steps = Drawn("tick");
     for (const sTrendTool& tool : TrendTools)
         steps += sTrendSteps::Command(tool.Command) + sTrendSteps::DrawSteps(tool, pane);
-    steps += sTrendSteps::Down({300, 120}, 2); // no mode is armed
+    steps += sTrendSteps::Down({300, 120}, 2); // no mode is active
     const std::vector<const char*> names{"drawn", "scrolled",  "scrolled-live", "far",
                                          "edge",  "edge-live", "near"};
     const auto trades = [this](const QString& file, int first) {

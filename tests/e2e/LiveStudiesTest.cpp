@@ -1,5 +1,5 @@
-// All ten studies of the whole program under live trades, from the feed's lines to the state file, against
-// the slow plain definition: bit for bit.
+// All ten studies of the whole program with live trades, from the feed's lines to the state file, compared
+// bit for bit with the slow plain definition.
 #include "ScriptedChart.h"
 #include "StudyStates.h"
 
@@ -14,8 +14,7 @@ struct sTrade
     int Size;
 };
 
-// Prices that rise, fall and stand still, in quarters, and sizes that follow no simple rule; every ninth is
-// 0.
+// Prices in quarters that rise, fall and repeat, and irregular sizes; every ninth size is 0.
 sTrade TradeAt(int k)
 {
     return {100 + (k * 37 % 23) * 0.25 + (k * k % 17 - 8) * 0.5, k % 9 == 0 ? 0 : 100 + k * 53 % 907};
@@ -63,7 +62,7 @@ std::string LiveTrade(int k, const sTrade& trade, int hour, int minute, int seco
 
 const std::vector<int> AllTen{0, 1, 2, 3, 4, 5, 6, 7, 8, 9};
 
-// The panes that the program must show, kept up by the plain definition.
+// The expected panes, updated by the plain definition.
 class CTwins
 {
 public:
@@ -106,8 +105,7 @@ private:
 class LiveStudies : public CScriptedChart
 {
 protected:
-    // Plays steps with `rests` waits; behind the n-th state file, 0.json and so on, the market says its n-th
-    // text.
+    // Runs steps with waits; after the n-th state file (0.json and so on), the market sends its n-th text.
     void PlayWithMarket(const std::string& steps, const std::vector<std::string>& texts)
     {
         std::string script = steps + "snapshot 0.json\n";

@@ -9,7 +9,7 @@ const std::string DailyX = "type daily\nsymbol X\ndraw\nwait complete\n";
 class PanesReplay : public CScriptedChart
 {
 protected:
-    // The pane command behind a right press beside the points; the window is closed behind it.
+    // The pane command in the menu of a right press beside the points; the program ends after it.
     json Pick(int control, int command)
     {
         return After(DailyX + "mouse down " + std::to_string(control) + " 2 3 3\nmenu " +
@@ -76,7 +76,7 @@ TEST_F(PanesReplay, TwoPanesAreMaximizedMinimizedAndRestored)
     EXPECT_EQ(States(2), "0 0 0");
     Pick(341, Minimize); // the maximized one: the other takes the room
     EXPECT_EQ(States(2), "1 1 0");
-    const json state = Pick(342, Restore); // at most one is normal: all are
+    const json state = Pick(342, Restore); // at most one is normal: all become normal
     EXPECT_EQ(States(2), "999 0 0");
     EXPECT_EQ(state.at("layout").at("bottoms").at(1).get<int>(),
               state.at("layout").at("height").get<int>() -

@@ -1,4 +1,4 @@
-// Deleting points through a right click, what live data does then, and bringing them back.
+// Deleting points with a right click, live data after that, and restoring the points.
 #include "ScriptedChart.h"
 
 namespace zantroq::test {
@@ -7,7 +7,7 @@ namespace {
 class PointsReplay : public CScriptedChart
 {
 protected:
-    // Steps that draw a chart of a type, and a right press on a point of it, found on a first run.
+    // Steps that draw a chart of a type and right-click a point of it, found in a first run.
     std::string Drawn(const std::string& type)
     {
         return "type " + type + "\nsymbol X\ndraw\nwait complete\n";

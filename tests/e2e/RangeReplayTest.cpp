@@ -1,4 +1,4 @@
-// Zoom, scroll bar, short and missing replies, as a script sees them.
+// Zoom, scroll bar, short and missing replies in scripts.
 #include "ScriptedChart.h"
 
 namespace zantroq::test {
@@ -29,7 +29,9 @@ using Bools = std::vector<bool>;
 
 TEST_F(RangeReplay, EachScrollCodeMovesAsItIsNamed)
 {
-    Serve(200, DayLine); // 120 shown; the bar stands at its limit 81, one beyond the last place that moves
+    Serve(
+        200,
+        DayLine); // 120 displayed; the bar is at its limit 81, one after the last position that moves the view
     EXPECT_EQ(Range(""), (Ints{80, 199, 120}));
     EXPECT_EQ(Range("scroll line-left\nscroll line-left"), (Ints{79, 198, 120}));
     EXPECT_EQ(Range("scroll line-right"), (Ints{80, 199, 120}));

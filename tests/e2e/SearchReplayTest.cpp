@@ -1,4 +1,4 @@
-// The symbol search in scripts: on a feed that says what a test tells it, and on the feeds that ship.
+// The symbol search in scripts: with a scripted feed and with the shipped feeds.
 #include "ScriptedChart.h"
 
 namespace zantroq::test {
@@ -7,7 +7,7 @@ namespace {
 class SearchReplay : public CScriptedChart
 {
 protected:
-    // The tables, and the answer to each search behind its identifier and comma.
+    // Serves the tables and answers each search with these rows after its identifier and comma.
     void ServeSearch(const std::string& rows, bool end = true)
     {
         m_scripted.Lookup.SetResponder([rows, end](std::string_view line) -> std::string {

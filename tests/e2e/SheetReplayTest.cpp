@@ -1,4 +1,4 @@
-// The settings sheet as scripts drive it, by the real program on a settings file.
+// The settings sheet in scripts, with the real program and a settings file.
 #include "ScriptedChart.h"
 
 #include <QDateTime>

@@ -1,5 +1,5 @@
-// Every kind of trendline drawn in the built chart by replayed mouse events, then scrolled, zoomed, extended
-// by live data and deleted, with its anchors, points, series and labels checked after each step.
+// Draws every kind of trendline in the built chart with replayed mouse events, then scrolls, zooms, extends
+// with live data and deletes it, and checks anchors, points, series and labels after each step.
 #include "TrendScripts.h"
 
 #include <algorithm>
@@ -167,14 +167,14 @@ TEST_F(TrendScripts, ColorWidthAndExtendableOfEachKindComeFromTheSettings)
             EXPECT_EQ(SeriesOf(state, number).at("line").at("width"), value % 5 + 2);
         }
     }
-    // A level line that is not extendable ends at its second click.
+    // A horizontal line that is not extendable ends at its second click.
     const json& y = SeriesOf(state, 4).at("y");
     const int end = state.at("trends").at(0).at("endIndex").get<int>() - sPlainPane(state).First;
     EXPECT_TRUE(y.at(static_cast<std::size_t>(end)).is_number());
     EXPECT_TRUE(y.at(static_cast<std::size_t>(end) + 1).is_null());
 }
 
-// The pool by its plain rule: numbers given back come first, the oldest of them first; else the next new one.
+// The pool by its plain rule: released numbers first, the oldest first, otherwise the next new number.
 struct sPlainPool
 {
     std::deque<int> Free;
@@ -197,8 +197,8 @@ struct sPlainPool
 TEST_F(TrendScripts, DeletionInEveryOrderGivesSeriesAndLabelsBack)
 {
     const sPlainPane pane = Begin();
-    // Two retracements with another line between them; each is clicked at its right end, where it stands
-    // alone.
+    // Two retracements with another line between them; each is clicked at its right end, where no other line
+    // is near.
     const sTrendTool lines[]{
         {"fibonacci-retracements", 32790, 13, 10, "", {{0.70, 0.95}, {0.75, 0.91}}, false},
         {"speed-resistance", 32788, 15, 3, "", {{0.1, 0.30}, {0.9, 0.33}}, false},
@@ -265,7 +265,7 @@ TEST_F(TrendScripts, DeletionInEveryOrderGivesSeriesAndLabelsBack)
                 EXPECT_EQ(state.at("status"), "Ready");
             }
         }
-        // The click without an answer was answered with no.
+        // The click without a queued answer was answered with no.
         const json boxes = State("3").at("boxes");
         ASSERT_EQ(boxes.size(), 4u);
         EXPECT_EQ(boxes.at(0),
@@ -287,7 +287,7 @@ TEST_P(LiveTrendScripts, LinesStayOnTheirPointsWhileNewOnesArrive)
     const std::string chart =
         std::string("resize 800 600\ntype ") + GetParam() + "\nsymbol SIM.CALM\ndraw\nwait complete\n";
     std::string steps = chart;
-    // Places are given in pixels, so the prices differ with the moment at which the chart was drawn.
+    // Positions are given in pixels, so prices depend on the time at which the chart was drawn.
     for (const sTrendTool& tool : TrendTools) {
         const sPixelPoint places[]{{300, 120}, {420, 90}, {200, 130}};
         steps += Command(tool.Command) + Down(places[0]) + Move(places[1]) + Down(places[1]);

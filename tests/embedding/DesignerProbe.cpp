@@ -1,9 +1,8 @@
-// Qt Designer's own editor without its windows: puts a chart on a form, sets all five properties in the
-// property editor's sheet, and saves the form. designer-probe, with QT_PLUGIN_PATH naming the plugin's
-// folder. Prints
+// Qt Designer's own editor without windows: puts a chart on a form, sets all five properties in the property
+// editor's sheet, and saves the form. QT_PLUGIN_PATH must contain the plugin's folder. Prints
 //
-//     box GROUP NAME          where the widget box has the chart
-//     icon yes|no             whether it has an icon of its own there
+//     box GROUP NAME          the chart's position in the widget box
+//     icon yes|no             whether it has an icon there
 //     property NAME shown|hidden
 //
 // and then the saved form.

@@ -1,4 +1,4 @@
-// The plugin inside Qt Designer's own editor. No feed runs: the chart on the form is harmless.
+// The plugin in Qt Designer's own editor. No feed runs: the chart on the form must do no harm.
 #include "InstalledCopy.h"
 
 namespace zantroq::test {

@@ -1,4 +1,4 @@
-// docs/embedding.md shows files of examples/ as they are.
+// docs/embedding.md shows the files of examples/ unchanged.
 #include <QDirIterator>
 #include <QFile>
 #include <QRegularExpression>

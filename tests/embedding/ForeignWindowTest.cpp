@@ -59,7 +59,7 @@ protected:
                       QStringList{"SIM.CALM", "--into", QString::number(m_window)} + more);
         ASSERT_TRUE(m_chart.waitForStarted());
     }
-    // Place and size of the one window inside of this program's.
+    // Position and size of the one window inside this program's window.
     std::string Inside() const
     {
         std::unique_ptr<xcb_query_tree_reply_t, decltype(&std::free)> tree(

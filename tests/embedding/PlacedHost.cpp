@@ -1,5 +1,5 @@
-// A host that has its window placed: placed-host TITLE SYMBOL. Prints the window's size and state once the
-// chart is drawn, "620 460 normal" or "... maximized", and ends.
+// A host whose window the chart places: placed-host TITLE SYMBOL. Prints the window's size and state once the
+// chart is drawn, "620 460 normal" or "... maximized", and exits.
 #include <zantroq/ChartCtrl.h>
 
 #include <QApplication>

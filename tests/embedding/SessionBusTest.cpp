@@ -34,7 +34,7 @@ protected:
         CInstalledCopy::TearDown();
     }
 
-    // Until the program's service is there.
+    // Starts the program and waits until its service exists.
     void StartChart()
     {
         QProcessEnvironment environment = Environment();
@@ -62,7 +62,7 @@ protected:
             Call("org.freedesktop.DBus.Properties", "Get", {"org.zantroq.Chart1", name});
         return reply.value().variant();
     }
-    // The name of the error; empty: it was taken.
+    // Returns the name of the error, or an empty text if the value was accepted.
     std::string Put(const char* name, const QVariant& value) const
     {
         return Call("org.freedesktop.DBus.Properties", "Set",

@@ -1,7 +1,7 @@
-// Watches a host from inside, without a line in it: QT_QPA_GENERIC_PLUGINS=zantroqwatch:FILE loads this into
-// any Qt program. Once every chart control of the program says how many data points it shows, the plugin
-// writes a picture of the first window into FILE, prints a line for each control, and ends the program with
-// 0; after a minute it ends it with 3.
+// Watches a host from inside without changing it: QT_QPA_GENERIC_PLUGINS=zantroqwatch:FILE loads this into
+// any Qt program. Once every chart control of the program reports its data points, the plugin writes a
+// picture of the first window into FILE, prints a line for each control, and ends the program with 0; after a
+// minute it ends it with 3.
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QGenericPlugin>

@@ -1,4 +1,5 @@
-// On Wayland no window may place itself. The control restores size and state there, without a word.
+// On Wayland windows cannot set their position. The control restores size and state there and reports
+// nothing.
 #include "InstalledCopy.h"
 
 #include <QThread>

@@ -1,5 +1,5 @@
-// The two halves of the protocol face to face, without sockets: the feed's sessions answer what the chart's
-// commands ask, and the chart's handlers read the answers. Expected values are those of the recordings below.
+// Both sides of the protocol together, without sockets: the feed's sessions answer the chart's commands, and
+// the chart's handlers read the answers. Expected values come from the recordings below.
 #include "TemporaryFolder.h"
 #include "feed/protocol/Level1Session.h"
 #include "feed/protocol/LookupSession.h"
@@ -15,7 +15,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// Calls with each line of a text, and with the empty ones that CR LF pairs leave.
+// Calls `call` with each line of a text, and with the empty lines of CR LF pairs.
 template<class Call> void EachLine(std::string_view text, Call call)
 {
     while (!text.empty()) {
@@ -54,7 +54,7 @@ protected:
         return m_request;
     }
 
-    // Sends the request and reads the whole reply; the number of points that it gave.
+    // Sends the request and reads the whole reply. Returns the number of new points.
     int Load()
     {
         m_request.ClearSeries();
@@ -67,7 +67,7 @@ protected:
         return m_request.GetCount(FieldTime);
     }
 
-    // What the level 1 port says to these lines, read by the chart.
+    // Sends these lines to the level 1 port and passes its answers to the chart.
     void Say(std::string_view lines)
     {
         std::string text;
@@ -114,7 +114,7 @@ protected:
 TEST_F(ChartReadsFeed, TicksByPointsDaysAndRange)
 {
     Request(TicksByDatapoints, "TK").SetExtendedTrades(true);
-    EXPECT_EQ(Load(), 3); // 0 points ask for all
+    EXPECT_EQ(Load(), 3); // 0 points means all
     EXPECT_TRUE(m_request.IsComplete());
     const sHIST_POINT tick = Point(1);
     EXPECT_EQ(tick.Time, MakeTime({2014, 1, 3, 9, 30, 0}, 250));
@@ -224,7 +224,7 @@ TEST_F(ChartReadsFeed, LiveTradesFollowOnTheHistory)
     Say(WatchCommand("TK"));
     EXPECT_EQ(m_request.GetPriceFormat(), 12) << "two decimals, from the fundamental line";
     EXPECT_EQ(Load(), 2);
-    Trade(1h); // the newest day's two ticks again, behind the last point; one is an extended trade
+    Trade(1h); // the newest day's two ticks again, after the last point; one is an extended trade
     ASSERT_EQ(m_request.GetCount(FieldTime), 3);
     EXPECT_EQ(TimeOf(2), "2014-01-03 09:30:01");
     EXPECT_EQ(Point(2).Last, 10.25);
@@ -232,7 +232,7 @@ TEST_F(ChartReadsFeed, LiveTradesFollowOnTheHistory)
     EXPECT_EQ(m_removed, (std::vector<std::string>{}));
 }
 
-// Without bid and ask, and with the day that it brings taken whole.
+// The summary has no bid and ask, and its day is taken completely.
 TEST_F(ChartReadsFeed, ASummaryOfANewerDayGivesADailyChartItsBar)
 {
     m_folder.Write("NEW.daily.csv", "date,open,high,low,close,volume,open_interest\n"
@@ -256,7 +256,7 @@ TEST_F(ChartReadsFeed, ASummaryOfANewerDayGivesADailyChartItsBar)
     EXPECT_EQ(bar.OpenInterest, 0u);
 }
 
-// The chart answers what it did not ask for by a remove command, and the feed stops.
+// The chart answers an unwanted update with a remove command, and the feed stops.
 TEST_F(ChartReadsFeed, UpdatesThatNobodyWantsEnd)
 {
     Say(Level1SetupText());

@@ -1,4 +1,4 @@
-// The program zantroq-feed from outside: its first line, its messages and its exit codes.
+// The program zantroq-feed: its first line, its messages and its exit codes.
 #include "FeedClient.h"
 #include "TemporaryFolder.h"
 
@@ -20,11 +20,11 @@
 namespace zantroq::feed {
 namespace {
 
-// One run. Ends the program, by its own process number, when the test ends first.
+// One run. Ends the program by its process number if the test ends first.
 class CFeedProgram
 {
 public:
-    // Where no output file is named, the test reads the output.
+    // Without an output file, the test reads the output.
     explicit CFeedProgram(std::vector<std::string> arguments, const char* output = nullptr,
                           rlim_t descriptors = 0)
         : m_errors(m_folder.Path() / "errors")
@@ -69,7 +69,7 @@ public:
         return line;
     }
     void Signal(int number) const { kill(m_process, number); }
-    // The exit code; -1 when a signal ended it.
+    // The exit code; -1 if a signal ended it.
     int Wait()
     {
         int status = 0;
@@ -241,7 +241,7 @@ TEST(FeedProgram, HelpAndVersionAreResults)
     EXPECT_EQ(version.Errors(), "");
 }
 
-// Asking again at once for the next client kept a core busy for as long as no descriptor was left.
+// Regression: retrying at once for the next client kept a core busy while no descriptor was left.
 TEST(FeedProgram, WithoutADescriptorForTheNextClientItWaits)
 {
     CFeedProgram program({"--lookup-port", "0", "--level1-port", "0"}, nullptr, 20);
@@ -262,7 +262,7 @@ TEST(FeedProgram, WithoutADescriptorForTheNextClientItWaits)
     EXPECT_LT(seconds, 0.6);
 }
 
-// With 1,024 descriptors and 1,500 silent clients a new one was refused.
+// Regression: with 1,024 descriptors and 1,500 silent clients, a new client was refused.
 TEST(FeedProgram, SilentClientsGiveTheirDescriptorsToANewOne)
 {
     CFeedProgram program({"--lookup-port", "0", "--level1-port", "0"}, nullptr, 64);

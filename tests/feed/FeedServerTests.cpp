@@ -184,7 +184,7 @@ TEST(FeedServer, WatchedSimulationsTradeUntilRemoved)
     second.Send("S,SELECT UPDATE FIELDS,,Symbol,Most Recent Trade\nwSIM.CALM\r\n");
     std::string a = first.ReadTo("P,SIM.CALM,"), b = second.ReadTo("P,SIM.CALM,");
     EXPECT_NE(a.find("S,SIMULATED,SIM.CALM\r\nF,SIM.CALM,"), std::string::npos);
-    // Each client's market begins at the last recorded point and goes the same way.
+    // The market of each client begins at the last recorded point and continues identically.
     for (int i = 0; i < 20; ++i) {
         a = first.ReadTo("Q,SIM.CALM,");
         b = second.ReadTo("Q,SIM.CALM,");
@@ -223,8 +223,8 @@ TEST(FeedServer, ToldOfBadRowsInsideStart)
     EXPECT_NE(notices[0].find("X.daily.csv:3: "), std::string::npos);
 }
 
-// Eight clients whose requests yield no line, or that ask for ever new simulated symbols, once kept the feed
-// from everybody else for more than a minute, even after they had left.
+// Regression: eight clients whose requests yield no line, or that request ever new simulated symbols, blocked
+// the feed for all others for more than a minute, even after they had disconnected.
 TEST(FeedServer, HeavyWorkOfOthersHoldsUpNobody)
 {
     CFeedServer server(Options());
@@ -250,7 +250,7 @@ TEST(FeedServer, HeavyWorkOfOthersHoldsUpNobody)
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(20));
 }
 
-// Idle connections were kept for ever.
+// Regression: idle connections were kept for ever.
 TEST(FeedServer, ASilentClientIsClosedAfterAWhileAndOneThatSpokeIsNot)
 {
     sFEED_OPTIONS options = Options();

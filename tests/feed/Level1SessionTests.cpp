@@ -1,4 +1,4 @@
-// The level 1 conversation, without sockets and with a clock that the test turns.
+// The level 1 dialogue, without sockets and with a clock that the test sets.
 #include "feed/protocol/Level1Session.h"
 
 #include "TemporaryFolder.h"
@@ -36,7 +36,7 @@ constexpr std::string_view AllFields =
     "Code,TickID,Most Recent Trade "
     "Market Center,Bid Market Center,Ask Market Center,Message Contents,Most Recent Trade Conditions";
 
-// What a summary says about its day.
+// The fields of a summary about its day.
 constexpr std::string_view DayFields = "S,SELECT UPDATE FIELDS,Symbol,Most Recent Trade Date,Most Recent "
                                        "Trade TimeMS,Most Recent Trade,Open,High,"
                                        "Low,Close,Total Volume,Open Interest";
@@ -147,7 +147,7 @@ TEST_F(Level1Session, RecordedTicksOfTheDayStayInItsValuesWhenTradesGoOn)
     }
 }
 
-// A second chart of a symbol that moves already is served like the first.
+// A second chart of a symbol with live trades is served like the first.
 TEST_F(Level1Session, ASummaryInBetweenTellsOfTheWholeDay)
 {
     CLevel1Session session(m_catalog, {.SimulateAll = true});
@@ -279,9 +279,9 @@ TEST_F(Level1Session, AfterDailyBarsTradesBeginOnTheNextWeekdayMorning)
     ASSERT_FALSE(first.empty());
     EXPECT_EQ(first[14], "01/06/2014"); // the 3rd was a Friday
     EXPECT_TRUE(first[10].starts_with("09:30:"));
-    EXPECT_EQ(first[2], first[3]);   // a new day's volume
+    EXPECT_EQ(first[2], first[3]);   // the volume of a new day
     EXPECT_EQ(first[12], first[15]); // and open
-    EXPECT_EQ(first[13], "11.00");   // the close before
+    EXPECT_EQ(first[13], "11.00");   // the previous close
 }
 
 TEST_F(Level1Session, TheSameSeedGivesTheSameTradesAndSpeedOnlyTheirPace)
@@ -296,7 +296,8 @@ TEST_F(Level1Session, TheSameSeedGivesTheSameTradesAndSpeedOnlyTheirPace)
     EXPECT_EQ(quick, plain);
 }
 
-// A wait beyond what the clock can count once came out as a moment of the past, and every trade at once.
+// Regression: a wait longer than the clock can represent became a time in the past, and all trades came at
+// once.
 TEST_F(Level1Session, TheSlowestSpeedWaitsForEver)
 {
     for (const double speed : {1e-9, 1e-13, 1e-300, 5e-324}) {
@@ -391,7 +392,7 @@ TEST_F(Level1Session, AReplayedRowThatIsNoTradeChangesBidAndAskAlone)
     EXPECT_EQ(lines[2], "Q,QU,09:30:03.001,201.00,30,80,10,200.75,201.25,ba,");
 }
 
-// There is no price to begin with, and nothing goes on from it.
+// There is no price to start with, and nothing to continue.
 TEST_F(Level1Session, ASymbolThatWasNeverTradedHasNoPrice)
 {
     m_folder.Write("NO.tick.csv", "time,last,size,bid,ask,basis\n2014-01-06 09:30:00,5.00,10,4.90,5.10,X\n");
@@ -416,11 +417,11 @@ TEST_F(Level1Session, QuotesOfARecordingAreRecordedOnesOrEmpty)
         CLevel1Session session(m_catalog, {.ReplayTicks = replay});
         Say(session, fields);
         EXPECT_EQ(Lines(Say(session, "wQU")).back(), "P,QU,201.00,30,200.75,0,201.25,0,Cbaohlv,");
-        // Newer minutes tell of no quotes.
+        // Newer minutes contain no quotes.
         EXPECT_EQ(Lines(Say(session, "wQM")).back(), "P,QM,202.00,0,,0,,0,Cohlv,");
         EXPECT_EQ(Lines(Say(session, "wDY")).back(), "P,DY,11.00,0,,0,,0,Cohlcv,");
     }
-    // Invented ones go with the word for it.
+    // Simulated quotes are announced as simulated.
     CLevel1Session session(m_catalog, {.SimulateAll = true});
     Say(session, fields);
     const auto lines = Lines(Say(session, "wDY"));
@@ -428,7 +429,8 @@ TEST_F(Level1Session, QuotesOfARecordingAreRecordedOnesOrEmpty)
     EXPECT_EQ(lines.back(), "P,DY,11.00,0,10.99,100,11.01,100,Cbaohlcv,");
 }
 
-// The replay goes on behind the last point, which is Friday's; the day after it begins with extended trades.
+// The replay continues after the last point, which is on Friday; the day after it begins with extended
+// trades.
 TEST_F(Level1Session, ADayOpensWithItsFirstRegularTrade)
 {
     m_folder.Write("EX.tick.csv", "time,last,size,basis\n2014-01-03 00:00:00,10.00,1,E\n"
@@ -441,7 +443,7 @@ TEST_F(Level1Session, ADayOpensWithItsFirstRegularTrade)
     Say(session, "wEX");
     const auto lines = Trades(session, 48h);
     ASSERT_EQ(lines.size(), 5u);
-    // Friday's last regular price is the close before; its open, high and low are nothing to the new day.
+    // Friday's last regular price is the previous close; its open, high and low do not apply to the new day.
     EXPECT_EQ(lines[0], "Q,EX,01/04/2014,10.00,,,,9.50,1,1,Ebav,");
     EXPECT_EQ(lines[1], "Q,EX,01/04/2014,11.00,,,,9.50,3,2,Obav,");
     EXPECT_EQ(lines[2], "Q,EX,01/04/2014,9.00,9.00,9.00,9.00,9.50,7,3,Cbaohlv,");
@@ -449,7 +451,7 @@ TEST_F(Level1Session, ADayOpensWithItsFirstRegularTrade)
     EXPECT_EQ(lines[4], "Q,EX,01/04/2014,30.00,9.00,9.50,9.00,9.50,31,5,Ebav,");
 }
 
-// A daily chart that wants regular trades alone takes such a summary for nothing.
+// A daily chart without extended trades ignores such a summary.
 TEST_F(Level1Session, ASummaryBeforeTheFirstRegularTradeIsAnExtendedOne)
 {
     m_folder.Write("EX.daily.csv", "date,open,high,low,close,volume\n2014-01-03,5,6,4,5.5,100\n");
@@ -466,7 +468,7 @@ TEST_F(Level1Session, AClientWatchesABoundedNumberOfSymbols)
 {
     m_folder.Write("ABCDEFGHIJK.daily.csv", "date,open,high,low,close\n2014-01-02,1,1,1,1\n");
     m_catalog.AddFolder(m_folder.Path());
-    // One market under 2,048 spellings, each of which is a watch of its own.
+    // One market under 2,048 spellings, each a separate watch.
     const auto spelling = [](unsigned bits) {
         std::string symbol = "abcdefghijk";
         for (std::size_t i = 0; i < symbol.size(); ++i)
@@ -479,7 +481,7 @@ TEST_F(Level1Session, AClientWatchesABoundedNumberOfSymbols)
         ASSERT_TRUE(Say(session, "w" + spelling(i)).starts_with("F,"));
     const std::string next = spelling(2000);
     EXPECT_EQ(Say(session, "w" + next), "N," + next + ",Too many symbols are watched\r\n");
-    // One that is watched already is no more.
+    // A symbol that is already watched does not count again.
     EXPECT_TRUE(Say(session, "w" + spelling(7)).starts_with("F,"));
     Say(session, "r" + spelling(7));
     EXPECT_TRUE(Say(session, "w" + next).starts_with("F,"));
@@ -533,7 +535,7 @@ TEST_F(Level1Session, SimulatedTradesOfOnePriceForEverNeverMove)
         EXPECT_EQ(line, "Q,SIM.FLAT,20.00,");
 }
 
-// A block of 3,000 watches of new simulated symbols once kept the feed from everybody else until all were
+// Regression: a block of 3,000 watches of new simulated symbols blocked the feed for all others until it was
 // done.
 TEST_F(Level1Session, LinesAreAnsweredInSlices)
 {

@@ -1,4 +1,4 @@
-// The lookup port's conversation, without sockets. Expected replies are worked out by hand from the small
+// The dialogue of the lookup port, without sockets. Expected replies are computed by hand from the small
 // recordings below.
 #include "feed/protocol/LookupSession.h"
 
@@ -132,7 +132,7 @@ TEST_F(LookupSession, ARangeIncludesBothEnds)
               "2,!ENDMSG!,\r\n");
 }
 
-// The end of a whole second came out a second early on days that count below zero.
+// Regression: the end of a whole second was a second too early on days before 1970.
 TEST_F(LookupSession, ARangeBefore1970IncludesBothEnds)
 {
     CTemporaryFolder second;
@@ -142,7 +142,7 @@ TEST_F(LookupSession, ARangeBefore1970IncludesBothEnds)
     EXPECT_EQ(Ask("HTT,OLD,19600301 093000,19600301 160000,,,,1,2"),
               "2,1960-03-01 09:30:00.000,2,0,0,2,2,0,C\r\n2,1960-03-01 16:00:00.000,3,0,0,3,3,0,C\r\n"
               "2,1960-03-01 16:00:00.999,4,0,0,4,4,0,C\r\n2,!ENDMSG!,\r\n");
-    // However far back: the days of the calendar are fewer than a 64-bit number can count.
+    // Any number of days: the calendar has fewer days than a 64-bit number.
     EXPECT_EQ(Ask("HTD,OLD,9223372036854775807,,,,1,1"), Ask("HTX,OLD,0,1,1"));
 }
 
@@ -273,7 +273,7 @@ TEST_F(LookupSession, ReferenceTablesAreRowsAndAnEndMark)
         const std::string reply = Ask(command);
         EXPECT_TRUE(reply.ends_with("\r\n!ENDMSG!,\r\n"));
         EXPECT_NE(reply.find("\r\n9,SIM,"), std::string::npos);
-        // The last row is lost on its readers and so names nothing.
+        // Readers lose the last row, so it names nothing.
         EXPECT_NE(reply.find("\r\n0,NONE,"), std::string::npos);
     }
     EXPECT_TRUE(Ask("SLM").starts_with("1,LOCAL,Recordings of this machine,1,Recorded\r\n"));
@@ -284,13 +284,13 @@ TEST_F(LookupSession, FindLooksThroughSymbolsAndDescriptions)
 {
     EXPECT_EQ(Ask("FIND,7,s,d,,"), "7,DY,2,1,Daily  Inc.\r\n7,!ENDMSG!,\r\n");
     EXPECT_EQ(Ask("FIND,7,d,TOCK,,"), "7,TK,3,5,Tick Tock\r\n7,!ENDMSG!,\r\n");
-    // Not named in symbols.csv: the symbol stands for the description.
+    // Not listed in symbols.csv: the symbol is the description.
     EXPECT_EQ(Ask("FIND,7,s,MN,,"), "7,MN,1,1,MN\r\n7,!ENDMSG!,\r\n");
     EXPECT_EQ(Ask("FIND,7,d,no such thing,,"), "7,!ENDMSG!,\r\n");
     EXPECT_EQ(Ask("FIND,7,d,daily  inc,,"), Ask("FIND,7,s,DY,,"));
 }
 
-// The kind and the ids are the last two fields, however many commas the text holds.
+// The kind and the ids are the last two fields, however many commas the text contains.
 TEST_F(LookupSession, FindTakesTextsWithCommas)
 {
     EXPECT_EQ(Ask("FIND,7,d,Daily, Inc,,"), Ask("FIND,7,s,DY,,"));
@@ -382,7 +382,7 @@ TEST_F(LookupSession, TheRowOfALaterFolderHolds)
         << "a recording renames nothing";
 }
 
-// However little of a reply fits, and however often it is asked for more.
+// Whatever the size of the pieces and the number of calls.
 TEST_F(LookupSession, FindIsTheSameInPieces)
 {
     const std::string whole = Ask("FIND,7,d,brewing,e,10 11");
@@ -398,7 +398,7 @@ TEST_F(LookupSession, FindIsTheSameInPieces)
     EXPECT_EQ(joined, whole);
 }
 
-// A search that finds nothing still gives the feed's thread up while it looks.
+// A search without results also returns when the slice ends.
 TEST_F(LookupSession, ASliceAlsoEndsASearchThatFindsNothing)
 {
     CLookupSession session(m_catalog);
@@ -431,7 +431,8 @@ TEST_F(LookupSession, RepliesKeepTheOrderOfTheirCommandsWhateverTheBlockSize)
     EXPECT_EQ(joined, block.Text());
 }
 
-// A reply without a line never gave the feed's thread up, so one client's request stopped all others.
+// Regression: a reply without lines never returned when the slice ended, so one client's request blocked all
+// others.
 TEST_F(LookupSession, ASliceAlsoEndsAReplyThatYieldsNoLine)
 {
     CLookupSession session(m_catalog);
@@ -487,7 +488,7 @@ TEST_F(LookupSession, SimulatedHistoryIsToldOnce)
     EXPECT_NE(m_notices[0].find("SIM.CALM: simulated"), std::string::npos);
 }
 
-// Every name that begins with "SIM." is a market, and a client can think of any number of them.
+// Every name that begins with "SIM." is a market, so a client can request any number of them.
 TEST_F(LookupSession, UnlistedSimulatedMarketsAreKeptInABoundedNumber)
 {
     const std::string before = Ask("HTX,SIM.Q0,20,1,0");
@@ -506,7 +507,7 @@ TEST_F(LookupSession, UnlistedSimulatedMarketsAreKeptInABoundedNumber)
     EXPECT_FALSE(listed.expired());
     EXPECT_FALSE(recorded.expired());
     EXPECT_EQ(Ask("HTX,SIM.Q0,20,1,0"), before);
-    // What was made anew is told of anew.
+    // A market made again is announced again.
     ASSERT_EQ(m_notices.size(), 2u);
     EXPECT_EQ(m_notices[0], m_notices[1]);
 }
@@ -540,7 +541,7 @@ TEST_F(LookupSession, ATooLongSymbolIsNone)
         ": a symbol of more than 100 bytes cannot be asked for; the file is not used"));
 }
 
-// What a client sends need not be text, and a notice goes to a terminal.
+// A client may send bytes that are not text, and a notice goes to a terminal.
 TEST_F(LookupSession, NoticesHoldNoRawBytesOfAClient)
 {
     Ask("HDX,SIM.\x1b[31m\xff\x01,1,1,6");
@@ -566,7 +567,7 @@ TEST_F(LookupSession, ALaterFolderReplacesARecordingOfTheSameKindAlone)
     EXPECT_NE(m_notices[1].find("SIM.X.daily.csv"), std::string::npos);
 }
 
-// A pipe would hold the feed up until somebody writes to it, and a folder has no size to read by.
+// A pipe would block the feed until somebody writes to it, and a folder cannot be read.
 TEST_F(LookupSession, WhatIsNoPlainFileIsNoRecording)
 {
     CTemporaryFolder second;
@@ -582,7 +583,7 @@ TEST_F(LookupSession, WhatIsNoPlainFileIsNoRecording)
     EXPECT_EQ(Ask("HDX,LAST,0,1,6"), "6,2020-01-01,1,1,1,1,0,0\r\n6,!ENDMSG!,\r\n");
 }
 
-// Every line that the page on recordings shows is served as it shows it.
+// Every line on the page about recordings is served as shown.
 TEST_F(LookupSession, TheExamplesOfTheDocumentationHold)
 {
     std::ifstream file(ZANTROQ_DOCS "/recordings.md");

@@ -1,4 +1,4 @@
-// Bars against a slow plain model, and the promises of the simulated markets.
+// Bars compared with a slow plain model, and the guarantees of the simulated markets.
 #include "feed/markets/BarBuilder.h"
 #include "feed/markets/RandomNumbers.h"
 #include "feed/markets/RecordedMarket.h"
@@ -17,7 +17,7 @@ struct sPLAIN_BAR
     std::int64_t Volume = 0;
 };
 
-// One bar for each interval end, each made by looking through all ticks.
+// One bar for each interval end, each computed by examining all ticks.
 std::map<TFeedTime, sPLAIN_BAR> PlainBars(const std::vector<sFEED_TICK>& ticks, int seconds)
 {
     std::map<TFeedTime, sPLAIN_BAR> bars;

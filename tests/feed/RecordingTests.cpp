@@ -181,7 +181,7 @@ TEST(Recordings, ABasisIsOneLetter)
                                                          "x:4: basis is not one letter: \"?\""}));
 }
 
-// Genuine files have them: rounded, adjusted, or a bar sent twice. What they hold is shown.
+// Genuine files contain rounded or adjusted prices and bars sent twice. They are shown as recorded.
 TEST(Recordings, OddPricesAndStampsAreServedAsTheyStand)
 {
     sRECORDING_REPORT report;
@@ -257,7 +257,7 @@ TEST(Recordings, RowsOutOfOrderAreSortedAndEqualTimesKeepTheirOrder)
 
 TEST(Recordings, ManyRowsOutOfOrderAreSortedStably)
 {
-    // Times fall back again and again, and each stands for 50 rows.
+    // Times go back repeatedly, and each occurs in 50 rows.
     std::string text = "time,last,tick_id\n";
     for (int i = 0; i < 3000; ++i) {
         const int second = i * 37 % 60;
@@ -273,7 +273,8 @@ TEST(Recordings, ManyRowsOutOfOrderAreSortedStably)
     }
 }
 
-// The last line of a file that was cut off while it was written lost its last fields, which counted as 0.
+// Regression: the last line of a file that was cut off during writing lost its last fields, which counted as
+// 0.
 TEST(Recordings, ARowWithFewerFieldsThanTheHeaderIsABadRow)
 {
     sRECORDING_REPORT report;
@@ -299,7 +300,7 @@ TEST(Recordings, ALineTooLongIsABadRow)
 
 TEST(FileLines, AreTheSameAsThoseOfTheTextWhereverABlockEnds)
 {
-    // Lines of every length around, so that their ends of two bytes fall on every side of a block's end.
+    // Lines of many lengths, so that their two-byte ends fall on every side of a block's end.
     std::string text;
     for (std::size_t i = 0; text.size() < 1'500'000; ++i)
         text += std::string(i % 701, 'x') + std::to_string(i) +
@@ -355,7 +356,7 @@ TEST(SymbolList, ColumnsAreFoundByNameAndADescriptionMayBeMissing)
     EXPECT_EQ(listed[0].Symbol, "A");
     EXPECT_EQ(listed[0].MarketId, 2);
     EXPECT_EQ(listed[0].SecurityTypeId, 255);
-    EXPECT_EQ(listed[0].Description, "A"); // the symbol stands for it
+    EXPECT_EQ(listed[0].Description, "A"); // replaced by the symbol
     EXPECT_EQ(listed[1].Symbol, "B");
     EXPECT_EQ(report.SkippedRows, 0u);
 }
@@ -386,7 +387,7 @@ TEST(SymbolList, ABadRowNamesFileAndLineAndCostsThatRowAlone)
                                }));
 }
 
-// A level 1 line that carries it has to fit a reader's 4,096 bytes.
+// A level 1 line with the description must fit a reader's 4,096 bytes.
 TEST(SymbolList, ALongDescriptionIsCutBetweenItsCharacters)
 {
     sRECORDING_REPORT report;

@@ -1,4 +1,4 @@
-// The index of the symbol search against a plain scan of its rows.
+// The index of the symbol search compared with a plain scan of its rows.
 #include "feed/markets/SimulatedSymbols.h"
 #include "feed/markets/SymbolIndex.h"
 

@@ -1,4 +1,4 @@
-// Who gets the feed's thread next, and who is still there to work for.
+// The order in which clients get the feed's thread, and the detection of clients that have left.
 #include "feed/server/PeerWatch.h"
 #include "feed/server/WorkTurns.h"
 
@@ -10,7 +10,7 @@
 namespace zantroq::feed {
 namespace {
 
-// Takes the whole of each slice until it has had enough of them.
+// Uses each slice completely until it has had enough of them.
 class CBusyWorker : public CWorker
 {
 public:
@@ -24,7 +24,7 @@ public:
     int Slices;
 };
 
-// Has one short piece of work, and more of it as soon as that is done, as a client that asks ahead.
+// Has one short piece of work and gets another as soon as it is done, like a client that sends ahead.
 class CEagerWorker : public CWorker, public std::enable_shared_from_this<CEagerWorker>
 {
 public:
@@ -68,7 +68,7 @@ struct sCONNECTION
     tcp::socket Peer{Context}, Own{Context};
 };
 
-// What a peer did reaches the other socket a moment later.
+// An action of a peer reaches the other socket a moment later.
 bool LeavesSoon(CPeerWatch& watch)
 {
     for (int i = 0; i < 1000; ++i) {

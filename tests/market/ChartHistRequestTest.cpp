@@ -510,7 +510,7 @@ TEST(GrowableArray, IndexesOutsideAreInvalidArguments)
     EXPECT_THROW(array.SetCount(-1), std::invalid_argument);
 }
 
-// The rest of a reply that nobody wants any more may come in between a clearing and the new kind.
+// The rest of an unwanted reply may arrive between the clearing and the new kind.
 TEST(ChartHistRequest, AKindThatFillsOtherArraysBeginsWithEmptyOnes)
 {
     constexpr int kinds[] = {TicksByDatapoints, IntervalsByDatapoints, DailyByDatapoints};

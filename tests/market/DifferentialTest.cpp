@@ -1,4 +1,4 @@
-// Random replies and random live traffic against slow, plain models.
+// Random replies and random live traffic compared with slow, plain models.
 #include "market/LineCutter.h"
 #include "market/SeriesFixture.h"
 #include "market/SlowHistoryModel.h"
@@ -45,7 +45,7 @@ std::string Digits(int value, int width)
     return text;
 }
 
-// Time stamps of which some name days and times that do not exist.
+// Time stamps, some of which name days and times that do not exist.
 rc::Gen<std::string> Stamp()
 {
     return rc::gen::map(rc::gen::tuple(rc::gen::inRange(1, 14), rc::gen::inRange(0, 34),
@@ -79,7 +79,7 @@ std::uint32_t PlainUnsigned(const std::string& text)
     return value > 4294967295LL ? 4294967295u : static_cast<std::uint32_t>(value);
 }
 
-// The points that the lines of a tick reply make, line by line.
+// The points of a tick reply, line by line.
 std::vector<sTick> PlainTicks(const std::vector<std::string>& lines, bool extended)
 {
     std::vector<sTick> ticks;
@@ -298,7 +298,7 @@ RC_GTEST_PROP(Level1AgainstModel, RandomTradesMakeTheModelsDays, ())
     }
 }
 
-// Live lines of all types around a reply that ends somewhere among them: until then only the newest counts.
+// Live lines of all types before and after the end of a reply: before it, only the newest counts.
 RC_GTEST_PROP(Level1AgainstModel, RandomTradesAroundALoadMakeTheModelsTicks, ())
 {
     const bool extended = *rc::gen::arbitrary<bool>();

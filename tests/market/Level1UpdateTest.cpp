@@ -395,7 +395,7 @@ TEST(Level1Fundamental, AShortOneIsAnInvalidArgument)
     EXPECT_EQ(chart.Request().GetPriceFormat(), 14);
 }
 
-// A line that ends in front of what one chart reads of it costs that chart alone.
+// A line too short for one chart is dropped for that chart only.
 TEST(Level1Symbols, ALineTooShortForOneSeriesReachesTheOthers)
 {
     for (const bool shortFirst : {true, false}) {

@@ -19,7 +19,7 @@ class CFeeder
 public:
     explicit CFeeder(int capacity = CLineCutter::StreamCapacity) : Cutter(capacity) {}
 
-    // Puts in as much as there is room for; returns how much.
+    // Writes as much as fits; returns how much.
     std::size_t Put(std::string_view text)
     {
         const auto room = Cutter.Room();
@@ -35,7 +35,7 @@ public:
     Lines Seen;
 };
 
-// The rule told plainly: each CR or LF ends a line, and a line is read up to its first zero byte.
+// The plain rule: each CR or LF ends a line, and a line is read up to its first zero byte.
 Lines PlainLines(const std::string& text)
 {
     Lines lines;
@@ -165,7 +165,7 @@ TEST(LineFields, FieldsBehindTheLastOneKeptAreNotLookedAt)
 
 RC_GTEST_PROP(LineFields, AnyLineSplitsLikeThePlainLoop, ())
 {
-    // Lines below, at and above the 64 bytes that are looked at together.
+    // Lines below, at and above the 64 bytes that are examined together.
     const std::string line = *rc::gen::container<std::string>(*rc::gen::inRange<std::size_t>(0, 200),
                                                               rc::gen::elementOf(std::string("abcdefgh,")));
     Lines expected(1);

@@ -1,4 +1,4 @@
-// What docs/feed-protocol.md shows is what happens: its tables and lines are read from the page and tried.
+// Checks docs/feed-protocol.md: reads its tables and lines from the page and tries them.
 #include "market/ChartHistRequest.h"
 #include "market/HistoryCommand.h"
 #include "market/Level1Command.h"
@@ -32,7 +32,7 @@ const std::string& Page()
     return page;
 }
 
-// The page with its line ends as blanks, for sentences that run over them.
+// The page with blanks instead of line ends, to find sentences that span lines.
 std::string Prose()
 {
     std::string text = Page();
@@ -57,7 +57,7 @@ Row Split(const std::string& line, char at)
     return parts;
 }
 
-// The rows of the table whose heading begins so, cell by cell.
+// The cells of the table whose heading begins with `heading`, row by row.
 std::vector<Row> TableBelow(const std::string& heading)
 {
     std::vector<Row> rows;
@@ -73,14 +73,14 @@ std::vector<Row> TableBelow(const std::string& heading)
     return rows;
 }
 
-// What stands between the first two backticks behind `before`.
+// The text between the first two backticks after `before`.
 std::string Quoted(const std::string& text, const std::string& before = "")
 {
     const std::size_t open = text.find('`', text.find(before) + before.size());
     return text.substr(open + 1, text.find('`', open + 1) - open - 1);
 }
 
-// A line as the sockets hand it on: one that is too short is dropped there.
+// Handles a line like the sockets: drops it if it is too short.
 template<class Line> void Guarded(Line line)
 {
     try {
@@ -229,7 +229,7 @@ TEST(ProtocolDocument, TheLineTakenApartHoldsWhatIsSaidOfIt)
     EXPECT_EQ(point.Basis, "C");
 }
 
-// Every row of the table of bad lines, by the words in its first cell.
+// Checks every row of the table of bad lines, identified by its first cell.
 TEST(ProtocolDocument, EachBadLineEndsAsShown)
 {
     using Try = std::function<void(CSeriesFixture&, const std::string& cell)>;
@@ -286,7 +286,7 @@ TEST(ProtocolDocument, EachBadLineEndsAsShown)
         found->second(chart, row[0]);
         EXPECT_EQ(chart.Count(), 0) << row[0];
         EXPECT_FALSE(chart.Request().IsComplete()) << row[0];
-        chart.Feed(GoodTick); // the lines behind it go on
+        chart.Feed(GoodTick); // later lines are handled
         EXPECT_EQ(chart.Count(), 1) << row[0];
         ++tried;
     }

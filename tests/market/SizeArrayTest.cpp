@@ -1,4 +1,4 @@
-// Sizes of which the zeros in front are only counted against a plain vector.
+// Sizes whose leading zeros are only counted, compared with a plain vector.
 #include "market/SizeArray.h"
 
 #include <gtest/gtest.h>
@@ -60,7 +60,7 @@ RC_GTEST_PROP(SizeArray, AnyOperationsGiveWhatAPlainVectorGives, ())
             break;
         }
         case 2: {
-            // The room stands whatever is written under way.
+            // The room remains, whatever is written in between.
             array.PrepareAdd();
             if (count > 0) {
                 array.SetAt(at, size);

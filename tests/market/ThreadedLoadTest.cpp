@@ -1,5 +1,5 @@
 // The worker and one series under load: a feed sends a long reply and live trades together while the window's
-// thread reads, sends and watches. Made for ThreadSanitizer, and a check of the counts in every build.
+// thread reads, sends and watches. Meant for ThreadSanitizer; checks the counts in every build.
 #include "market/ManagerThreadHolder.h"
 #include "market/SeriesFixture.h"
 #include "support/ScriptedFeed.h"

@@ -1,4 +1,4 @@
-// Ticks that wait for each other on their way into the series must be seen by nobody.
+// The batching of ticks must not be visible.
 #include "market/TickBatch.h"
 
 #include "market/SeriesFixture.h"
@@ -36,7 +36,7 @@ sTickBatch RandomBatch()
     return ticks;
 }
 
-// All that a series says about one point.
+// All values of a point in a series.
 auto Told(const CChartHistRequest& request, int index)
 {
     sHIST_POINT p;
@@ -160,7 +160,7 @@ TEST(TickBatch, LinesOfTwoRequestsReachEachItsOwn)
 
 TEST(TickBatch, LinesOfAnotherKindKeepTheirPlace)
 {
-    // The request was given bars while its reply of ticks is still coming.
+    // The request's kind was changed to bars while its reply of ticks is arriving.
     CSeriesFixture chart(IntervalsByDatapoints);
     chart.LineOfMany(TickOf(chart, 1));
     chart.LineOfMany(chart.Identifier(3) + ",2014-01-02 09:31:00,4,1,2,3,500,7");

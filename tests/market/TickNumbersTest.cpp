@@ -1,4 +1,4 @@
-// The numbers of a tick line that are read side by side against the same numbers read by the C library.
+// The numbers of a tick line read in parallel, compared with the C library.
 #include "market/TickNumbers.h"
 
 #include <bit>
@@ -36,7 +36,7 @@ std::uint32_t PlainUnsigned(const std::string& text)
     return errno != 0 || size > 0xFFFFFFFFul ? 0xFFFFFFFFu : static_cast<std::uint32_t>(value);
 }
 
-// What the fields say by the C library; the tests run in its "C" locale.
+// The fields as the C library reads them; the tests run in its "C" locale.
 Bits Expected(const std::vector<std::string>& f)
 {
     const auto price = [&](std::size_t i) {
@@ -61,7 +61,7 @@ std::string Line(const std::vector<std::string>& fields)
 void CheckLine(const std::vector<std::string>& fields)
 {
     const std::string text = Line(fields);
-    // In a block of its own, so that a byte read outside it is seen by the sanitizer.
+    // In a separate block, so that the sanitizer detects a read outside it.
     const std::unique_ptr<char[]> line(new char[text.size()]);
     text.copy(line.get(), text.size());
     const HistoryFields split(std::string_view(line.get(), text.size()));

@@ -75,7 +75,7 @@ TEST(RasterCanvas, ALevelLineCoversWholePixels)
     EXPECT_EQ(sheet.Row(5), "........................");
 }
 
-// Of columns 0 to 11 the first 8 are inked, of a short dash the first 3 of 6.
+// Of columns 0 to 11 the first 8 have ink; of a short dash the first 3 of 6.
 TEST(RasterCanvas, DashesOfALineStandOnFixedColumns)
 {
     sSheet longDashes, shortDashes;
@@ -135,7 +135,7 @@ TEST(RasterCanvas, OnlyRecordedPaintingIsTaken)
     EXPECT_TRUE(sheet.Canvas.TakeRecord().empty());
 }
 
-// A ruled line's dashes count from its own start, 8 on and 4 off, whatever part of it is drawn.
+// The dashes of a ruled line count from its own start, 8 on and 4 off, whatever part of it is drawn.
 TEST(RuledLine, PartsDrawnOneByOneFitTogether)
 {
     const sRuledLine line{{1, 3, 24, 4}, RuleDirection::Horizontal, LineLongDashes, Black};

@@ -13,7 +13,7 @@ using namespace zantroq;
 
 namespace {
 
-// The C library in the "C" locale, which a test program starts in.
+// The result of the C library in the "C" locale, in which a test program starts.
 double Reference(const std::string& text)
 {
     return std::strtod(text.c_str(), nullptr);
@@ -42,7 +42,7 @@ std::int32_t ReferenceInt(const std::string& text)
         std::min<std::int64_t>(std::max<std::int64_t>(value, INT32_MIN), INT32_MAX));
 }
 
-// A 32-bit strtoul from the 64-bit one: the size is held at its limit before the sign is applied.
+// A 32-bit strtoul based on the 64-bit one: the number is limited before the sign is applied.
 std::uint32_t ReferenceUnsigned(const std::string& text)
 {
     const bool negative = text.find('-') < text.find_first_of("0123456789");

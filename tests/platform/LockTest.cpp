@@ -11,7 +11,7 @@ TEST(Lock, OneThreadAtATimeIsInside)
 {
     constexpr int Threads = 4, Rounds = 20000;
     CLock lock;
-    long count = 0; // not atomic: the lock is all that keeps it right
+    long count = 0; // not atomic: only the lock protects it
     std::vector<std::thread> threads;
     for (int i = 0; i < Threads; ++i)
         threads.emplace_back([&] {

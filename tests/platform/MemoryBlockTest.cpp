@@ -26,7 +26,7 @@ using namespace zantroq;
 
 TEST(MemoryBlock, ContentsSurviveEveryGrowth)
 {
-    // From the C library's memory over a mapping of its own to a larger mapping.
+    // From the C library's memory to a separate mapping and to a larger mapping.
     sMemoryBlock block;
     std::size_t filled = 0;
     for (const std::size_t bytes :
@@ -48,7 +48,7 @@ TEST(MemoryBlock, ContentsSurviveEveryGrowth)
 #if defined(__linux__) && !defined(ZANTROQ_PLAIN_BLOCKS)
 constexpr std::size_t MegaByte = 1024 * 1024;
 
-// Whether the system knows the whole of a block as one mapping.
+// True if the whole block is one mapping of the system.
 bool IsOneMapping(const sMemoryBlock& block)
 {
     const auto begin = reinterpret_cast<std::uintptr_t>(block.Data), end = begin + block.Bytes;
@@ -64,7 +64,7 @@ bool IsOneMapping(const sMemoryBlock& block)
     return false;
 }
 
-// Most kernels move a block only then; before Linux 6.17 a block of two mappings could not grow any further.
+// Most kernels can remap a block only then; before Linux 6.17 a block of two mappings could not grow.
 TEST(MemoryBlock, ALargeOneStaysOneMappingHoweverOftenItGrows)
 {
     sMemoryBlock block;

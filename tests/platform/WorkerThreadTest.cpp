@@ -100,7 +100,7 @@ TEST(AsyncSocket, ReceivesAndSendsUntilThePeerHangsUp)
     EXPECT_TRUE(AwaitTrue([&] { return socket.Bytes == 1000; }));
     port.CloseConnection();
     EXPECT_TRUE(AwaitTrue([&] { return socket.SawEnd.load(); }));
-    // Neither a signal nor a wait for a peer that is gone.
+    // Neither a signal nor a wait for a closed peer.
     AwaitTrue([&] { return socket.Send("late") < 0; });
     EXPECT_EQ(socket.Send("late"), -1);
     thread.Stop();

@@ -1,5 +1,5 @@
-// Pictures of the whole chart in several sizes and settings, compared with those kept in tests/golden. The
-// market is a slow wave with a trend on it.
+// Pictures of the whole chart in several sizes and settings, compared with those in tests/golden. The market
+// is a slow wave with a trend.
 #include "qt/ChartFixture.h"
 #include "qt/GoldenPicture.h"
 #include "qt/output/ChartPicture.h"
@@ -9,7 +9,7 @@
 namespace zantroq::test {
 namespace {
 
-// Texts are hinted a little differently from one font library to the next.
+// Font libraries hint texts slightly differently.
 constexpr double MostDifferent = 0.01;
 
 class CChartGoldenTest : public CChartFixture

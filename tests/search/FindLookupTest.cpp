@@ -1,4 +1,4 @@
-// The lookup object that ships, against a scripted port.
+// The shipped symbol lookup with a scripted port.
 #include "search/FindLookup.h"
 
 #include "SearchFakes.h"
@@ -121,7 +121,7 @@ TEST_F(FindLookup, AFeedThatHasGoneGivesNoAnswer)
     EXPECT_EQ(m_events.Lines.back(), "-");
 }
 
-// The window must not wait for a feed that does not answer when the dialog closes.
+// The window must not wait for a silent feed when the dialog closes.
 TEST_F(FindLookup, AnObjectThatGoesWhileItWaitsGoesAtOnceAndSendsNoEvent)
 {
     auto lookup = Make(m_port.Port());

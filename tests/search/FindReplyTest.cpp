@@ -1,4 +1,4 @@
-// Replies to the FIND line, in whatever pieces they come, without a socket.
+// Replies to a FIND line in pieces of any size, without a socket.
 #include "search/FindReply.h"
 
 #include "SearchFakes.h"

@@ -19,7 +19,7 @@ sLookupSetup SetupOf(const CScriptedPort& port, int limitMs = BlockingLimitMs)
     return {MakePortKey(port.Port(), 1), MakeBlockingConnection(limitMs), nullptr};
 }
 
-// Ends the process when a broken connection raises the signal that hosts do not expect.
+// Ends the process if a broken connection raises the signal that hosts do not expect.
 struct sSigPipeKills
 {
     sSigPipeKills() { std::signal(SIGPIPE, SIG_DFL); }
@@ -56,8 +56,7 @@ TEST(LookupFeed, AFeedThatIsNotRunningLeavesTheTableUnloaded)
     EXPECT_FALSE(markets.Loaded());
 }
 
-// Behind a SLM line that ends at the last byte, the rest of the reply goes the same way through any cut that
-// leaves the end mark whole.
+// However the reply is cut outside its end mark, the result is the same.
 TEST(LookupFeed, AReplyCutOutsideOfItsEndMarkIsTheSame)
 {
     const std::string answer = "2,N,North\r\n3,S,South\r\n!ENDMSG!,\r\n";

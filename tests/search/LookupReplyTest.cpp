@@ -83,7 +83,7 @@ TEST(LookupReply, WhatStandsBehindAZeroByteOfABlockIsLost)
     EXPECT_EQ(RowsOf({"1,A\n2,\0B\n!ENDMSG!"sv, "\n3,C\n"sv}), (TRows{{1, {"A"}}, {2, {}}, {3, {"C"}}}));
 }
 
-// The end mark is looked for in one block alone, and only that block is trimmed.
+// The end mark is searched in one block only, and only that block is trimmed.
 TEST(LookupReply, AReplyCutAtEachByteDependsOnWhereTheEndMarkIsCut)
 {
     const std::string whole = Two + "!ENDMSG!,\r\n";
@@ -96,7 +96,7 @@ TEST(LookupReply, AReplyCutAtEachByteDependsOnWhereTheEndMarkIsCut)
         const bool split = cut > mark && cut < markEnd;
         EXPECT_EQ(more, split) << cut;
         TRows expected{{1, {"A", "Alpha\r"}}};
-        // Behind a line end that came in an earlier block, the mark stands at the start of its block.
+        // If the line end came in an earlier block, the mark is at the start of its block.
         if (cut == mark)
             expected.push_back({2, {"B", "Beta\r"}});
         else if (split) // the mark itself becomes a row of id 0

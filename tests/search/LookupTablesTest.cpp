@@ -1,4 +1,4 @@
-// The two reference tables over a peer in memory.
+// The two reference tables with a peer in memory.
 #include "search/LookupSystemInfo.h"
 
 #include "SearchFakes.h"

@@ -1,4 +1,4 @@
-// What docs/feed-protocol.md shows of tables and searches is what happens: its lines are read from the page.
+// Checks what docs/feed-protocol.md shows about tables and searches: reads its lines from the page.
 #include "feed/markets/ReferenceTables.h"
 #include "search/FindReply.h"
 #include "search/LookupReply.h"
@@ -12,7 +12,7 @@
 namespace zantroq {
 namespace {
 
-// The line as the page shows it, by its beginning.
+// The line of the page that begins with this text.
 std::string Shown(const std::string& beginning)
 {
     std::ifstream page(ZANTROQ_DOCS "/feed-protocol.md");

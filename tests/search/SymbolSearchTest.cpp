@@ -1,4 +1,4 @@
-// The symbol search dialog's rules over a form, a lookup object and a feed in memory.
+// The rules of the symbol search dialog with a form, a lookup and a feed in memory.
 #include "search/SymbolSearch.h"
 
 #include "SearchFakes.h"
@@ -136,7 +136,7 @@ TEST_F(SymbolSearch, TheOptionsToggleTheSize)
 TEST_F(SymbolSearch, FilterRowsComeByIdAndSkipHoles)
 {
     Open();
-    // Id 5 holds a carriage return alone, which makes its text longer than that of a hole.
+    // Id 5 has only a carriage return, so its text is longer than that of an empty row.
     ASSERT_EQ(m_form.RowCount(SearchFilterRows), 4);
     EXPECT_EQ(FilterRow(0), "MAIN - Main");
     EXPECT_EQ(FilterRow(1), "NASDAQ - Nasdaq Stock Market");
@@ -349,7 +349,7 @@ TEST_F(SymbolSearch, CarriageReturnsOfLastTokensAreNotShown)
     EXPECT_EQ(FilterRow(0), "EQUITY - Equity");
 }
 
-// Each attempt may wait for five seconds: a feed that is gone is asked once for all rows, not for each.
+// Each attempt may take five seconds: an absent feed is asked once for all rows, not once per row.
 TEST_F(SymbolSearch, ATableThatCannotBeHadIsTriedOnceForAllResults)
 {
     m_markets.Refuses = true;

@@ -98,7 +98,7 @@ TEST_F(RetryingKey, ChangesAreCarriedOutInTheirOrderUpToTheOneThatIsRefused)
     EXPECT_EQ(log, "abbbc");
 }
 
-// A retry every two seconds must not hold up the window; a change that the user makes may.
+// A retry every two seconds must not block the window; a change by the user may.
 TEST(RetryingKeyWaiting, ARetryWaitsForNobody)
 {
     struct sWaitingKey final : ISettingsKey

@@ -131,7 +131,7 @@ TEST_F(CSheetTest, PagesStandInTheOrderOfTheSheet)
 
 TEST_F(CSheetTest, AnOkWithoutAChangeHandsBackWhatCameIn)
 {
-    // Numbers that no field can show as they are.
+    // Numbers that no field can show unchanged.
     m_settings.Grid = 5;
     m_settings.ScrollPercent = 500;
     m_settings.Overlays.BandDeviations = 2.0051;
@@ -166,7 +166,7 @@ TEST_F(CSheetTest, EverySettingIsOnOnePageOrHasAReasonToBeOnNone)
 
 namespace {
 
-// Another value than the present one, as its text.
+// A value different from the current one, as text.
 std::string AnotherNumber(const sSettingRow& row, const std::string& now)
 {
     const int value = std::stoi(now);

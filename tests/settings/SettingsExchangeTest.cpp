@@ -53,7 +53,7 @@ TEST(SettingsExchange, AnythingElseIsRefused)
               "value \"n\" of key \"K\": its value must be a text");
 }
 
-// Of two values by one name the library keeps the last in silence.
+// The library silently keeps the last of two values with the same name.
 TEST(SettingsExchange, ANameThatStandsTwiceIsRefused)
 {
     EXPECT_EQ(ErrorOf(R"({"K":{"a":{"type":"sz","value":"1"}},"K":{"b":{"type":"sz","value":"2"}}})"),
@@ -65,7 +65,7 @@ TEST(SettingsExchange, ANameThatStandsTwiceIsRefused)
     EXPECT_EQ(ErrorOf(R"({"K":{"a":{"type":"sz","value":"1"}},"L":{"a":{"type":"sz","value":"2"}}})"), "");
 }
 
-// Reading took a time that grew with the square of the number of values: minutes for this many.
+// Regression: the time of reading grew with the square of the number of values: minutes for this many.
 TEST(SettingsExchange, AHundredThousandValuesAreRead)
 {
     std::string text = "{\"K\":{";
@@ -77,7 +77,7 @@ TEST(SettingsExchange, AHundredThousandValuesAreRead)
     EXPECT_EQ(tree.at("K").find("n99999")->second, SettingValue(99'999u));
 }
 
-// The JSON library reports such a number by an error of its own kind, which went past the handler.
+// Regression: the JSON library reports such a number with a different exception, which was not handled.
 TEST(SettingsExchange, ANumberBeyondAllRangesIsAFormatError)
 {
     EXPECT_NE(ErrorOf(R"({"K":{"n":{"type":"dword","value":44e92967295}}})"), "");
@@ -111,7 +111,7 @@ TEST(SettingsExchange, AListingLineKeepsEachValueOnItsLineAndInItsColumn)
     EXPECT_EQ(ListingLine("a\tb", std::string("c\nd\re")), "a\\tb\tsz\tc\\nd\\re");
     EXPECT_EQ(ListingLine("b", Bytes{0, 171}), "b\tbinary\t00ab");
     EXPECT_EQ(ListingLine("x", std::string("\x01\x7f")), "x\tsz\t\\x01\\x7f");
-    // A backslash stands as it is unless it could be taken for one of the above.
+    // A backslash is unchanged unless it could be mistaken for one of the above.
     EXPECT_EQ(ListingLine("a\\b/%", std::string("C:\\dir")), "a\\b/%\tsz\tC:\\dir");
     EXPECT_EQ(ListingLine("C:\\temp", std::string("\\")), "C:\\\\temp\tsz\t\\");
     EXPECT_EQ(ListingLine("\\\t", std::string("\\\\q")), "\\\\\\t\tsz\t\\\\\\q");

@@ -1,4 +1,4 @@
-// Files that are refused, with the logs beside them, and files that only look as if they had to be.
+// Files that are refused, with their logs, and files that only look like it.
 #include "SettingsFileFixture.h"
 
 #include <sys/stat.h>
@@ -50,8 +50,8 @@ TEST_F(SettingsFileRefusal, AnotherProgramsDataBaseIsLeftAlone)
     ExpectLeftAlone(SettingsProblem::NotSettings);
 }
 
-// Opening a file may play back a journal, and closing it brings the log into it; both happened to files that
-// were refused.
+// Regression: opening a file may play back a journal, and closing it moves the log into it; both happened to
+// refused files.
 TEST_F(SettingsFileRefusal, ABrokenPageKeepsTheLogAsItIs)
 {
     MakeFileWithPendingLog();
@@ -143,7 +143,7 @@ TEST_F(SettingsFileRefusal, AFolderOrAPipeIsNoSettingsFile)
     EXPECT_EQ(ProblemOfReading(), SettingsProblem::Unreadable);
 }
 
-// Both programs waited for ever for somebody to write into the pipe.
+// Regression: both programs waited for ever for a writer of the pipe.
 TEST_F(SettingsFileRefusal, APipeInThePlaceOfASideFileIsRefusedAtOnce)
 {
     for (const bool withFile : {true, false})

@@ -123,8 +123,8 @@ TEST_F(SettingsFile, ALockedFileSaysSoAndTheKeyWaitsOnlyOnce)
     EXPECT_EQ(key->Read("a"), SettingValue(1u));
 }
 
-// A window that starts while the file is locked runs on the defaults and must not write them: the lock may be
-// gone by then. But what the user changes afterwards is to be written.
+// A window that starts while the file is locked uses the defaults and must not write them, because the lock
+// may be released any moment. Later changes by the user must be written.
 TEST_F(SettingsFile, AKeyTellsWhatIsMissingFromWhatALockKeptFromBeingRead)
 {
     CSettingsFile(Path).Write("K", "PTS INDEX", std::string("7"));
@@ -144,8 +144,8 @@ TEST_F(SettingsFile, AKeyTellsWhatIsMissingFromWhatALockKeptFromBeingRead)
     EXPECT_EQ(key->Read("GRID").Result(), ReadResult::Missing);
 }
 
-// A window on a fresh file reads and writes its defaults in turn. Each read that went through under the
-// other process's write lock made the next write wait again: the start took five minutes.
+// Regression: a window on a new file reads and writes its defaults in turn. Each read that succeeded during
+// another process's write lock made the next write wait again: the start took five minutes.
 TEST_F(SettingsFile, AWriteLockThatLetsReadsThroughIsWaitedForOnce)
 {
     CSettingsFile(Path).Write("K", "a", 1u);
@@ -208,8 +208,8 @@ TEST_F(SettingsFile, AReadOnlyFileIsReadAndNotWritten)
     std::filesystem::permissions(Folder.File(""), std::filesystem::perms(0755));
 }
 
-// Without the -shm file SQLite cannot follow a log in a folder that cannot be written. It was looked for
-// beside a link, too, and not found there, so that values were read without it.
+// Without the -shm file SQLite cannot read a log in a read-only folder. Regression: the log was searched
+// beside the link and not found, so values were read without it.
 TEST_F(SettingsFile, AReadOnlyFileIsReadWithItsPendingLog)
 {
     const CTemporaryFolder elsewhere;
@@ -315,7 +315,7 @@ TEST_F(SettingsFile, AFileThatIsRemovedUnderAnOpenKeyIsMadeAnew)
 TEST_F(SettingsFile, AFailedWriteAllChangesNothing)
 {
     CSettingsFile(Path).Write("K", "a", 1u);
-    // The file may not grow any further, so the transaction breaks in its middle.
+    // The file must not grow, so the transaction fails in the middle.
     EXPECT_EQ(test::WaitFor(test::StartChild([&] {
                   CSettingsFile file(Path, std::chrono::milliseconds(50));
                   SettingsTree tree;

@@ -28,7 +28,7 @@ using Ints5 = std::array<std::int32_t, 5>;
 using Ints10 = std::array<std::int32_t, 10>;
 using Texts5 = std::array<std::string, 5>;
 
-// Everything that users of the record may rely on.
+// Everything that users of the record may assume.
 void ExpectUsable(const sChartSettings& s, const std::string& what)
 {
     SCOPED_TRACE(what);
@@ -130,7 +130,7 @@ TEST_F(SettingsLoader, OlderPeriodsEndAsOneListAndAreGone)
             << name;
 }
 
-// A process that is killed in between, or a file that takes no writes, would lose the periods otherwise.
+// Otherwise, a process that is killed in between or a read-only file would lose the periods.
 TEST_F(SettingsLoader, OlderPeriodsGoOnlyWhenTheListStands)
 {
     struct sKey : ISettingsKey
@@ -163,7 +163,8 @@ TEST_F(SettingsLoader, OlderPeriodsGoOnlyWhenTheListStands)
     EXPECT_EQ(key.DeletedBefore, 0);
 }
 
-// A window that starts while another process holds the file reads nothing, and the lock may go at any moment.
+// A window that starts while another process has locked the file reads nothing, and the lock may be released
+// at any moment.
 TEST_F(SettingsLoader, NothingIsWrittenInPlaceOfWhatCouldNotBeRead)
 {
     test::sUnreliableKey key;
@@ -314,7 +315,7 @@ TEST_F(SettingsLoader, StudyColorsAreLoadedInStudyOrder)
     }
 }
 
-// Ten thousand values of all kinds of nonsense: the record stays usable.
+// Ten thousand nonsensical values: the record remains usable.
 TEST_F(SettingsLoader, NoStoredNonsenseMakesTheRecordUnusable)
 {
     const std::vector<std::string> nonsense{"",

@@ -1,4 +1,4 @@
-// Several processes and threads at one file, and processes that die in the middle.
+// Several processes and threads on one file, and processes that are killed.
 #include "RunProcess.h"
 #include "TemporaryFolder.h"
 #include "platform/settings/SettingsFile.h"
@@ -34,7 +34,7 @@ TEST(SettingsProcesses, NoWriteIsLostBetweenProcessesThatCreateTheFileTogether)
     EXPECT_EQ(CSettingsFile(path).List("K").size(), std::size_t(Processes * Writes));
 }
 
-// Reads and writes of the same values at the moment in which the file is made: none may fail for the others.
+// Reads and writes of the same values while the file is created: none may fail because of the others.
 TEST(SettingsProcesses, WindowsThatStartTogetherOnAFreshFileLeaveAllDefaults)
 {
     std::size_t expected = 0;

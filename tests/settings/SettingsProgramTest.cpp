@@ -1,4 +1,4 @@
-// zantroq-settings from outside: what it prints, its exit codes, and what it leaves in the file.
+// The program zantroq-settings: its output, its exit codes, and the file that it leaves.
 #include "RunProcess.h"
 #include "TemporaryFolder.h"
 #include "platform/settings/SettingsFile.h"
@@ -42,7 +42,7 @@ struct SettingsProgram : testing::Test
         const int code = test::WaitFor(child);
         return {code, out.empty() ? test::Contents(outFile) : "", test::Contents(Folder.File("err"))};
     }
-    // One clear sentence behind the program's name, nothing on standard output.
+    // One clear sentence after the program's name, and nothing on standard output.
     void ExpectError(const sRun& run, int code, const std::string& about)
     {
         EXPECT_EQ(run.Code, code) << run.Err;
@@ -68,7 +68,7 @@ TEST_F(SettingsProgram, SetGetListAndDeleteWorkOnExactNames)
                                  "[a,b]\tsz\tv of [a,b]\na/b\tsz\tv of a/b\nlist\tsz\tv of list\n");
 }
 
-// The command line library takes ++ for the end of a subcommand.
+// The command line library treats ++ as the end of a subcommand.
 TEST_F(SettingsProgram, TwoPlusSignsAreANameAndAValueLikeAnyOther)
 {
     EXPECT_EQ(Run({"set", "++", "v"}).Code, 0);
@@ -143,7 +143,7 @@ TEST_F(SettingsProgram, AMissingFileIsSaidAndNotMade)
     EXPECT_FALSE(std::filesystem::exists(Folder.File("sub")));
 }
 
-// The list spoke of a first write that would make the file, and then that write failed.
+// Regression: the list announced that the first write would create the file, and then that write failed.
 TEST_F(SettingsProgram, APathThroughAPlainFileIsSaidAtOnce)
 {
     test::PutFile(Folder.File("sub"), "a plain file");
@@ -155,8 +155,8 @@ TEST_F(SettingsProgram, APathThroughAPlainFileIsSaidAtOnce)
     EXPECT_EQ(test::Contents(Folder.File("sub")), "a plain file");
 }
 
-// A look at the bytes of the file must not give up the locks that the process has on it: another process
-// would take the log away under the first connection, and the writes behind that would be lost.
+// Reading the bytes of the file must not release the locks of the process: another process would remove the
+// log of the first connection, and later writes would be lost.
 TEST_F(SettingsProgram, ASecondLookAtAFileKeepsTheLocksOfTheFirst)
 {
     CSettingsFile first(Store);
@@ -210,7 +210,7 @@ TEST_F(SettingsProgram, AnExportImportsElsewhere)
     EXPECT_EQ(Run({"list", "--json", "--key", "K"}).Out, Run({"export", "-", "--key", "K"}).Out);
 }
 
-// One text that another program had stored kept every other value from being exported.
+// Regression: one text stored by another program prevented the export of all other values.
 TEST_F(SettingsProgram, WhatIsNotUtf8IsNamedAndLeftOutOfAnExport)
 {
     const SettingsTree sound{{"K", {{"a", std::string("1")}}}};

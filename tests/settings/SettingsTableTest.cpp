@@ -10,7 +10,7 @@
 namespace zantroq {
 namespace {
 
-// Number, name, type and the text that a fresh store holds: written down apart from the table under test.
+// Number, name, type and stored default of each setting, written independently of the table under test.
 struct sExpected
 {
     int Id;
@@ -156,7 +156,7 @@ constexpr std::pair<int, const char*> OtherNames[] = {
 
 constexpr int CountId = 32882;
 
-// A key that notes the order in which names are first asked for.
+// A key that records the order in which names are first read.
 class CNotingKey final : public ISettingsKey
 {
 public:

@@ -46,7 +46,7 @@ TEST(StoredNumber, ADoubleHasSixDecimals)
     EXPECT_EQ(TextFromDouble(0.66), "0.660000");
     EXPECT_EQ(TextFromDouble(1.0), "1.000000");
     EXPECT_EQ(TextFromDouble(-1.0 / 3), "-0.333333");
-    EXPECT_EQ(TextFromDouble(0.0000005), "0.000000"); // the nearest double lies below the half
+    EXPECT_EQ(TextFromDouble(0.0000005), "0.000000"); // the nearest double is below the half
     EXPECT_EQ(TextFromDouble(std::numeric_limits<double>::max()).size(), 309u + 7u);
 }
 

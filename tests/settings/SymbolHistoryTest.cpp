@@ -50,8 +50,8 @@ TEST_F(SymbolHistory, EmptyAndMissingEntriesAreLeftOutOnLoading)
     EXPECT_EQ(History.Items(), (std::vector<std::string>{"X", "Y"}));
 }
 
-// Two windows: the older one knows less than is stored. Its list took the front places, and behind it stood
-// symbols that were in it already.
+// Regression, two windows: the older one knows fewer symbols than are stored. After it stored its list,
+// symbols that were already in the list followed.
 TEST_F(SymbolHistory, NothingStaysStoredBehindTheEndOfTheList)
 {
     for (const char* symbol : {"C1", "C2"})

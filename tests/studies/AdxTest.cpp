@@ -156,7 +156,7 @@ TEST(Adx, LivePointsNeverChangeTheAxisAndKeepTheCurve)
     EXPECT_EQ(pane.Values(1), live);
 }
 
-// One bar without a true range gave the pane no axis at all.
+// Regression: one bar without a true range left the pane without an axis.
 TEST(Adx, AnInfinityDoesNotWidenTheAxis)
 {
     CAdxPane pane(1, 30);

@@ -27,8 +27,8 @@ int LinesOf(int kind)
     }
 }
 
-// All lines' values at one index; `second` is the histogram. Values that the study leaves alone stay as they
-// come in.
+// The values of all lines at one index; `second` is the histogram. Values that the study does not set keep
+// their previous value.
 struct sPoint
 {
     double y[4] = {Hole, Hole, Hole, Hole};
@@ -287,7 +287,7 @@ void sPane::Draw(int kind, const CBarSeries& series, const sChartSettings& setti
     default:
         max = 0;
         min = 100;
-        // ADX: an infinity says nothing of the range that the other points need.
+        // ADX: an infinity does not affect the range that the other points need.
         for (std::size_t k = 0; k < x.size(); ++k)
             for (const auto& line : lines)
                 if (!std::isinf(line[k]))
@@ -349,7 +349,7 @@ void sPane::DrawVolume(const CBarSeries& series, const sChartSettings& settings,
     Average(series, settings, view, view.shown, settings.Request.DataType == 1 ? 1 : 0);
 }
 
-// Answers the number of points after the update.
+// Returns the number of points after the update.
 long long sPane::Shift(const sView& view, int n)
 {
     const long long p = static_cast<long long>(x.size()),

@@ -1,5 +1,5 @@
-// What a pane shows after any mixture of draws, scrolls, live updates, new symbols and a second chart in the
-// process is bit for bit what the plain definition gives.
+// After any mixture of draws, scrolls, live updates, new symbols and a second chart in the process, a pane
+// equals the plain definition bit for bit.
 #include "PlainStudy.h"
 #include "StudyPane.h"
 
@@ -31,7 +31,7 @@ bool SameBits(double a, double b)
            std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b);
 }
 
-// How the bars of one series come about.
+// How the bars of a series are generated.
 struct sShape
 {
     bool Ticks = false;
@@ -250,7 +250,7 @@ void CompareWithPlainDefinition(int kind)
     chart.Check();
     ForgetRunningStates();
     states = {};
-    // A second chart of the process works on the same running states.
+    // A second chart of the process uses the same running states.
     CTwins other(kind, random, states);
     other.Check();
     const int steps = *rc::gen::inRange(1, 40);

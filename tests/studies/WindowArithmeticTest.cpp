@@ -1,5 +1,5 @@
-// Sums, means and extremes of sliding windows against a loop over each window, bit for bit, for counts and
-// lengths around the blocks in which they are worked out.
+// Sums, means and extremes of sliding windows compared bit for bit with a loop over each window, for counts
+// and lengths around the block sizes.
 #include "studies/WindowArithmetic.h"
 
 #include <gtest/gtest.h>
@@ -12,7 +12,7 @@
 namespace zantroq {
 namespace {
 
-// Of very different sizes, so that another order of additions would show.
+// Numbers of very different sizes, so that another order of additions would be visible.
 std::vector<double> Numbers(std::size_t count)
 {
     std::mt19937 random(4711);

@@ -156,7 +156,7 @@ bool CScriptedPort::PeerClosed() const
 
 bool CScriptedPort::Send(std::string_view text)
 {
-    // A client's connection stands before this side has accepted it.
+    // A client is connected before this side has accepted.
     if (!AwaitConnection())
         return false;
     int connection = -1;

@@ -1,6 +1,6 @@
-// Linked into every test program: no test reads or writes the user's settings, none needs a display, and all
-// see the same fonts, sizes and colors whatever desktop they run on. Runs before main; the programs that a
-// test starts inherit it.
+// Linked into every test program: no test reads or writes the user's settings or needs a display, and all see
+// the same fonts, sizes and colors on every desktop. Runs before main; programs that a test starts inherit
+// it.
 #include <cstdlib>
 #include <initializer_list>
 

@@ -1,4 +1,4 @@
-// What each kind writes into its series, against the plain rule worked out point by point.
+// The values that each kind writes into its series, compared with the plain rule computed point by point.
 #include "TrendFixture.h"
 
 #include "trends/FibonacciFanTrend.h"

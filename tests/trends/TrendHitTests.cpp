@@ -1,5 +1,5 @@
-// Hit distances at every pixel of a small pane, against a brute-force distance to the drawn polyline, and
-// properties of drawing.
+// Hit distances at every pixel of a small pane compared with the brute-force distance to the drawn polyline,
+// and properties of drawing.
 #include "TrendFixture.h"
 
 #include <algorithm>
@@ -28,8 +28,7 @@ double SegmentLength(const sPixel& p, const sPixel& a, const sPixel& b)
 class TrendHit : public CTrendTest
 {
 protected:
-    // The first and last visible points of a series, as the pane's own pixels have them; false: fewer than
-    // two.
+    // The first and last visible points of a series in pixels of the pane; false if there are fewer than two.
     bool Ends(int series, sPixel& left, sPixel& right) const
     {
         int visible = 0;
@@ -45,7 +44,7 @@ protected:
         return visible > 1;
     }
 
-    // Between the ends of a line the distance to the infinite line through them, beyond an end the distance
+    // Between the ends of a line, the distance to the infinite line through them; beyond an end, the distance
     // to that end; the nearest of all lines, not rounded.
     double RuleDistance(const CBaseTrend& trend, int x, int y) const
     {
@@ -119,8 +118,8 @@ TEST_F(TrendHit, EveryPixelOfASmallPaneAgreesWithTheRuleWorkedOutSlowly)
                 for (int x = plot.Left; x < plot.Right; ++x) {
                     const int hit = trend.HitDistance(x, y);
                     const double rule = RuleDistance(trend, x, y);
-                    // The signed distance is rounded half up before its sign goes, so one side reads up to a
-                    // pixel and a half low.
+                    // The signed distance is rounded half up before its sign is removed, so on one side it is
+                    // up to a pixel and a half too low.
                     ASSERT_GT(hit, rule - 1.5) << command << " at " << x << "," << y;
                     ASSERT_LE(hit, rule + 0.5 + 1e-9) << command << " at " << x << "," << y;
                 }
@@ -144,8 +143,8 @@ RC_GTEST_FIXTURE_PROP(TrendHit, DistanceIsNeverBelowTheTrueOneByMoreThanItsRound
     for (int n = 0; n < 40; ++n) {
         const int x = *rc::gen::inRange(58, 577), y = *rc::gen::inRange(17, 369);
         const int hit = trend.HitDistance(x, y);
-        // A pixel more than the rounding of the rule: a pitchfork clicked from right to left is hit along a
-        // part of its prong, whose end has a rounding of its own.
+        // One pixel more than the rounding of the rule: a pitchfork clicked from right to left is hit along a
+        // part of its prong, whose end is rounded separately.
         if (hit != NotHittable)
             RC_ASSERT(hit >= std::min(RuleDistance(trend, x, y), SegmentsDistance(trend, x, y)) - 2.5);
     }

@@ -1,5 +1,4 @@
-// The mouse state machine as a table: every state meets every event, and each cell says the state, the prompt
-// and the effect.
+// The state machine as a table: every state and every event, with the resulting state, prompt and effect.
 #include "TrendFixture.h"
 
 #include "trends/PitchforkTrend.h"
@@ -13,7 +12,7 @@ namespace {
 
 constexpr const char* Unchanged = "untouched";
 
-// How to bring the machine into each state, and what each event does there.
+// How to reach each state, and the effect of each event there.
 struct sStateCell
 {
     int state;
@@ -103,7 +102,7 @@ constexpr std::array<sArming, 8> Armings{{{32779, 1, HBegin},
 class TrendMachine : public CTrendTest
 {
 protected:
-    // A machine of its own for each cell, so that the cells do not see each other.
+    // A separate machine for each cell, so that cells do not influence each other.
     struct sFresh
     {
         CTrendLists lists;
@@ -246,7 +245,7 @@ TEST_F(TrendMachine, RequestAloneRemovesAllLinesAndLeavesTheStateAsItIs)
         fresh.machine.OnRequest();
         EXPECT_EQ(fresh.machine.State(), cell.state);
         EXPECT_EQ(fresh.lists.Count(), 0);
-        // Whatever comes next finds no line and does no harm.
+        // Later events find no line and do no harm.
         MoveTo(fresh, 25, 75);
         Click(fresh, 341, 1, 25, 75);
         Click(fresh, 341, 2, 25, 75);
@@ -388,7 +387,8 @@ TEST_F(TrendMachine, RubberBandPassesUnderThePointer)
     }
 }
 
-// The order of the operations is part of the result: the index joins the fraction before the start leaves it.
+// The order of the operations affects the result: the fraction is added to the index before the start is
+// subtracted.
 TEST_F(TrendMachine, EndPriceIsWorkedOutInOneOrder)
 {
     prices.count = 300000;

@@ -95,7 +95,7 @@ TEST_F(TrendPool, EarlierKindAndEarlierLineWinATie)
     EXPECT_EQ(lists.m_lastHit, first);
 }
 
-// The rule rounds half up with the sign still on, so below a sloping line four pixels read three.
+// The rule rounds half up before the sign is removed, so below a sloping line four pixels give three.
 TEST_F(TrendPool, SlopingLineIsOnePixelNearerFromBelow)
 {
     auto trend = std::make_unique<CSlopingTrend>(lists.AllocateSeries(), 110, 100.0, sTrendStyle{0, 1, 0});
@@ -162,8 +162,8 @@ TEST_F(TrendPool, SettersReachEveryMemberOfAKind)
     }
 }
 
-// Three lines of every kind, deleted in each of the six orders: a deleted line's series come back in order
-// and hold only holes, and those of the others are untouched.
+// Three lines of each kind, deleted in each of the six orders: the series of a deleted line are released in
+// order and contain only holes, and those of the others are unchanged.
 TEST_F(TrendPool, EveryOrderOfDeletionGivesEverySeriesBackAndLeavesTheOthersAlone)
 {
     for (int command : {DrawHorizontal, DrawSloping, DrawParallel, DrawPitchfork, DrawFan, DrawRetracements,

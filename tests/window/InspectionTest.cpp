@@ -16,7 +16,7 @@ struct sPixel
     int X = 0, Y = 0;
 };
 
-// Where a displayed point's value of a series stands on the price pane.
+// The pixel of a displayed point's value in the price pane.
 sPixel At(sChartFixture& chart, int series, int point)
 {
     const CPaneGroup& group = chart.Window->Pane(0).PaneGroups(1);
@@ -26,7 +26,7 @@ sPixel At(sChartFixture& chart, int series, int point)
     return pixel;
 }
 
-// A daily chart of 20 points; the point k has close 100 + k % 10, high and low one beyond.
+// A daily chart of 20 points; point k has the close 100 + k % 10, the high one above and the low one below.
 std::unique_ptr<sChartFixture> DailyChart(bool fakeTrends = false)
 {
     auto chart = ChartOf(DailyData, fakeTrends);
@@ -143,7 +143,7 @@ TEST(PointInspection, ADeletedBarIsAskedForInFullAndGoes)
     EXPECT_EQ(chart->Window->Series()->GetCount(FieldTime), 19);
     EXPECT_EQ(chart->Window->Series()->GetCloseAt(4), 105);
     EXPECT_EQ(chart->Window->Range().shown, 19);
-    EXPECT_EQ(chart->Window->Range().knownCount, 20); // new points wait until it is made up for
+    EXPECT_EQ(chart->Window->Range().knownCount, 20); // new points wait until the count is reached again
     EXPECT_EQ(chart->Desktop.Menu.Opened, 0);
 }
 
@@ -247,8 +247,8 @@ TEST(PointInspection, DeletingTheLastPointLeavesTheMarkerWhereItIs)
     EXPECT_EQ(chart->Window->SelectedPoint(), 20);
 }
 
-// A symbol with a comma drops the chart on show and asks for nothing, so its picture stands over an empty
-// series.
+// A symbol with a comma drops the displayed chart and requests nothing, so the panes still show it over an
+// empty series.
 TEST(PointInspection, ADroppedChartMarksShowsAndDeletesNothing)
 {
     auto chart = DailyChart();
@@ -269,7 +269,7 @@ TEST(PointInspection, ADroppedChartMarksShowsAndDeletesNothing)
 TEST(PointInspection, AChartThatIsReplacedWhileItsPointIsAskedAboutKeepsAllPoints)
 {
     auto chart = DailyChart();
-    // The host sets another symbol, whose reply comes, while the question stands.
+    // The host sets another symbol, and its reply arrives, while the message box is open.
     chart->Desktop.Box.WhileOpen = [&] {
         chart->Window->SetSymbol("Y");
         for (int k = 0; k < 20; ++k) {
@@ -339,7 +339,7 @@ std::string StudyHeader(sChartFixture& chart)
     return chart.Window->Pane(1).PaneLabels().Item(1).Text();
 }
 
-// Points of 300 days, each with a volume of its own; the window stands at the end of it.
+// Points of 300 days with different volumes; the view is at the end.
 std::unique_ptr<sChartFixture> ChartOfUnlikeDays(int dataType)
 {
     auto chart = ChartOf(dataType);
@@ -370,7 +370,7 @@ TEST(PointInspection, TitlesStayWithTheMarkedPointWhileItIsScrolledAndEmptyWhenI
         const std::string title = PriceTitle(*chart), header = StudyHeader(*chart);
         EXPECT_NE(title.find("379"), std::string::npos) << title;
         EXPECT_NE(header.find("1,279"), std::string::npos) << header;
-        // One step from behind the limit to it, and ten more.
+        // One step back to the limit, and ten more.
         for (int k = 0; k < 11; ++k)
             chart->Window->OnHScroll(ScrollCode::LineLeft, 0);
         EXPECT_EQ(chart->Window->SelectedPoint(), 110);

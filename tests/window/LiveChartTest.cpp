@@ -1,4 +1,4 @@
-// A chart window over the real worker and a feed on two loopback ports.
+// A chart window with the real worker and a feed on two loopback ports.
 #include "WindowFakes.h"
 
 #include "market/ManagerThreadHolder.h"

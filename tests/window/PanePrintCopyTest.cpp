@@ -13,7 +13,7 @@ namespace {
 
 constexpr ColorValue Night = 0x1a1008, Chalk = 0xe0e0e0, White = 0xFFFFFF;
 
-// A folder of this test alone, so that nobody else's files are counted.
+// A folder for this test only, so that no other files are counted.
 struct sFolder
 {
     sFolder()
@@ -28,7 +28,7 @@ struct sFolder
     std::string Path;
 };
 
-// Every kind of state off its default.
+// Changes every kind of state from its default.
 void Fill(CChart2D& pane)
 {
     for (CPaneInterior* interior :

@@ -1,5 +1,4 @@
-// Numbers worked by hand from the rule: window extent the picture's size, viewport extent the page's, in both
-// directions the same.
+// Numbers computed by hand: the picture's size is scaled to the page by the same factor in both directions.
 #include "printing/PrintLayout.h"
 
 #include <gtest/gtest.h>

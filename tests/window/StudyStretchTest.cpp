@@ -1,4 +1,4 @@
-// The study panes of a tick chart show the stretch of the price pane, whatever was drawn between two timer
+// The study panes of a tick chart show the same range as the price pane, whatever was drawn between two timer
 // ticks.
 #include "ChartWindowFixture.h"
 
@@ -11,7 +11,7 @@ namespace {
 
 using namespace test;
 
-// A tick chart with the volume study alone; the size of each trade is its index.
+// A tick chart with only the volume study; the size of each trade is its index.
 struct sTickChart : sChartFixture
 {
     explicit sTickChart(int points)
@@ -76,7 +76,7 @@ TEST(StudyStretch, ADrawBetweenATradeAndTheTimerDoublesNoPoint)
     }
 }
 
-// A thumb dragged to the end moves the bar alone; the timer draws there.
+// A thumb dragged to the end moves only the bar; the timer draws there.
 TEST(StudyStretch, AThumbDraggedToTheEndBringsTheStudiesAlong)
 {
     sTickChart chart(500);
