@@ -27,7 +27,7 @@ words=("$@")
 if [[ -n "${DISPLAY:-}" || -n "${WAYLAND_DISPLAY:-}" ]]; then
     exec "$programs/zantroq-chart" "${words[@]}"
 fi
-# No display: a picture, with settings of its own so that the user's stay as they are.
+# Without a display: a picture, with separate settings so that the user's do not change.
 picture="$PWD/build/chart.png"
 ZANTROQ_SETTINGS="$PWD/build/picture-settings.db" "$programs/zantroq-chart" "${words[@]}" --size 900x700 --snapshot "$picture"
 echo "There is no display; the chart is in $picture"

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Builds everything and runs all tests. What stands on the command line goes to ctest, such as -R Trend.
+# Builds everything and runs all tests. Arguments are passed to ctest, for example -R Trend.
 set -euo pipefail
 cd "$(dirname "$0")"
 packaging/install-packages.sh build run test

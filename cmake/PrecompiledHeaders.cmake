@@ -1,7 +1,7 @@
-# Most of the time of a build goes into reading the same headers of the standard library, Qt and GoogleTest again for each file; they
-# are read once for each library and once for all test programs. None of our own headers is among them. Every file still includes what
-# it uses; builds without precompiled headers see to that. With ccache they stay off, since it keeps more without them;
-# -DZANTROQ_CCACHE=OFF chooses them over it.
+# A build spends most of its time parsing the same headers of the standard library, Qt and GoogleTest for each file. With
+# precompiled headers they are parsed once per library and once for all test programs. Our own headers are not included. Every
+# file still includes what it uses, which builds without precompiled headers check. With ccache they are off, because ccache hits
+# more often without them; -DZANTROQ_CCACHE=OFF prefers them.
 set(precompile ON)
 if(CMAKE_CXX_COMPILER_LAUNCHER MATCHES "ccache")
     set(precompile OFF)
@@ -17,7 +17,7 @@ set(ZANTROQ_QT_HEADERS ${ZANTROQ_STANDARD_HEADERS}
     <QLineEdit> <QMenu> <QMouseEvent> <QPainter> <QPainterPath> <QPalette> <QPdfWriter> <QPointer> <QScrollBar> <QSignalBlocker>
     <QString> <QSvgGenerator> <QSvgRenderer> <QTemporaryDir> <QTimer> <QToolButton> <QWheelEvent> <QWidget>)
 
-# zantroq_precompile(TARGET HEADER...): the headers are read once for the target.
+# zantroq_precompile(TARGET HEADER...): precompiles the headers for the target.
 function(zantroq_precompile target)
     if(ZANTROQ_PCH)
         target_precompile_headers(${target} PRIVATE ${ARGN})

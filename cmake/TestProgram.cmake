@@ -1,6 +1,6 @@
-# What all test programs share: that file and the precompiled headers, once without Qt and once with it. The precompiled headers ask for
-# the same options in every program, hence position independent code and the least optimisation that keeps the slow models bearable,
-# and for no definition that a program lacks, hence those of that one file.
+# The parts shared by all test programs: TestEnvironment.cpp and the precompiled headers, once without Qt and once with it.
+# Precompiled headers require the same options in every program, hence position-independent code and the lowest optimisation at
+# which the slow models are usable. They also require that no program lacks a definition of that file.
 set_source_files_properties(${CMAKE_SOURCE_DIR}/tests/support/TestEnvironment.cpp PROPERTIES COMPILE_DEFINITIONS
     "ZANTROQ_TEST_FOLDER=\"${CMAKE_BINARY_DIR}\";ZANTROQ_TEST_FONTS=\"${CMAKE_SOURCE_DIR}/tests/support/fonts.conf\"")
 function(zantroq_test_environment name headers)
@@ -22,9 +22,9 @@ endif()
 
 # zantroq_test_program(NAME SOURCES... [LABELS label...] [LIBRARIES lib...])
 #
-# A GoogleTest program whose tests each become a ctest test; with ZANTROQ_TEST_PER_PROGRAM, which suits builds whose programs start
-# slowly, whole programs in three parts. Tests labelled "threaded" also run under ThreadSanitizer.
-# Every program is linked with TestEnvironment.cpp, which keeps it away from the user's settings and from any display.
+# Adds a GoogleTest program. Each of its tests becomes a ctest test; with ZANTROQ_TEST_PER_PROGRAM, for builds whose programs
+# start slowly, each program becomes three parts. Tests labelled "threaded" also run under ThreadSanitizer. Every program is
+# linked with TestEnvironment.cpp, which isolates it from the user's settings and from any display.
 function(zantroq_test_program name)
     cmake_parse_arguments(arg "" "" "SOURCES;LABELS;LIBRARIES" ${ARGN})
     set(environment test_environment)
@@ -39,7 +39,7 @@ function(zantroq_test_program name)
     target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/tests)
     zantroq_warn_only_under_sanitizers(${name})
     target_link_libraries(${name} PRIVATE zantroq_test_options chartcore ${arg_LIBRARIES} GTest::gmock GTest::gtest_main)
-    # An empty value would shift the properties behind it.
+    # An empty value would shift the properties after it.
     if(NOT arg_LABELS)
         set(arg_LABELS unit)
     endif()
@@ -50,7 +50,7 @@ function(zantroq_test_program name)
         add_dependencies(threaded_tests ${name})
     endif()
     if(ZANTROQ_TEST_PER_PROGRAM)
-        # In three parts, so that a long program does not keep the other cores waiting at the end.
+        # In three parts, so that the other cores do not wait for a long program at the end.
         foreach(part 0 1 2)
             add_test(NAME ${name}.${part} COMMAND ${name} --gtest_brief=1)
             set_tests_properties(${name}.${part} PROPERTIES LABELS "${arg_LABELS}" TIMEOUT 1800

@@ -72,7 +72,7 @@ trend() {
             printf 'mouse move 341 0 %s %s\nmouse down 341 1 %s %s\n' "$1" "$2" "$1" "$2"
             shift 2
         done
-        # The right click ends the mode, and its prompt with it.
+        # The right click ends the mode and removes its prompt.
         printf 'mouse down 341 2 5 5\nsnapshot "%s"\n' "$images/$name.png"
     } >"$work/script.txt"
     "$bin/zantroq-chart" --feed embedded --replay "$work/script.txt"
@@ -86,7 +86,7 @@ trend fibonacci-fan 32789 88 88 345 125
 trend fibonacci-retracements 32790 260 92 345 158
 trend speed-resistance 32788 88 88 345 150
 
-# window NAME LOOK: the window as a person sees it, with the mouse over a day.
+# window NAME LOOK: the window on a display, with the mouse over a day.
 window() {
     Xvfb -displayfd 3 -screen 0 1280x800x24 3>"$work/display" 2>/dev/null &
     server=$!

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Writes the reference of the public headers to build/reference/html. Fails at the first thing that is not documented.
+# Writes the reference of the public headers to build/reference/html. Fails if anything is not documented.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 mkdir -p build/reference

@@ -1,14 +1,14 @@
 #!/usr/bin/env bash
-# build-release.sh [--tests] [TARGET...]: builds the release configuration in build/release, says what it is doing and about how long
-# that takes. Programs and tests share the folder: adding the tests compiles nothing again. Words in ZANTROQ_CMAKE go to cmake at each
-# first configuration, such as -DZANTROQ_WERROR=ON.
+# build-release.sh [--tests] [TARGET...]: builds the release configuration in build/release and prints what it does and how long
+# that will take. Programs and tests share the folder, so adding the tests compiles nothing again. Words in ZANTROQ_CMAKE are
+# passed to cmake at the first configuration, for example -DZANTROQ_WERROR=ON.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 folder=build/release
 tests=OFF
 [[ "${1:-}" == "--tests" ]] && { tests=ON; shift; }
 
-# A folder that has the tests keeps them, and one that is configured is left to ninja, which sees a changed CMakeLists.txt by itself.
+# A folder configured with tests keeps them. A configured folder is left to ninja, which detects a changed CMakeLists.txt itself.
 configured() {
     [[ "$folder/build.ninja" -nt CMakePresets.json ]] || return 1
     [[ "$tests" == OFF ]] || grep -q '^ZANTROQ_TESTS:BOOL=ON$' "$folder/CMakeCache.txt"
@@ -31,7 +31,7 @@ cores=$(nproc)
 jobs=${CMAKE_BUILD_PARALLEL_LEVEL:-$cores}
 minutes=$(( (steps * 3 / (jobs < cores ? jobs : cores) + 59) / 60 ))
 [[ "$steps" -gt 10 ]] && echo "Building $steps files; on $cores cores this takes up to about $minutes minutes"
-# On a terminal ninja shows its progress in one line; in a log that would be a line for each file.
+# On a terminal ninja shows its progress in one line; in a log each file would be a line.
 quiet=()
 [[ -t 1 ]] || quiet=(--quiet)
 exec cmake --build "$folder" --parallel "$jobs" ${1:+--target "$@"} -- "${quiet[@]}"

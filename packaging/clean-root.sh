@@ -16,7 +16,7 @@ suite=bookworm
 tree=/root/zantroq-chart
 status=${CLEAN_ROOT_STATUS:-/dev/null}
 
-# With a user namespace of our own the files of the root belong to this user's subordinate ids.
+# In a user namespace the files of the root belong to this user's subordinate ids.
 as=() mode=root
 [[ $(id -u) -eq 0 ]] || { as=(unshare --user --map-auto --map-root-user); mode=unshare; }
 
@@ -27,7 +27,7 @@ not_run() {
     exit 0
 }
 
-# Runs "$@" inside, in a mount and process namespace of its own: its mounts and processes end with it, whatever happens.
+# Runs "$@" inside, in a separate mount and process namespace: its mounts and processes end with it.
 inside() {
     "${as[@]}" unshare --mount --pid --fork --kill-child -- bash -euc '
         root=$1; shift
@@ -51,7 +51,7 @@ done
 apt_options() {
     apt-config dump | grep -E '^Acquire::(https?::|Retries|Check-Valid-Until|Check-Date)' | sed -n '/ "";$/!p' || true
 }
-# The entries of Debian itself among this machine's sources; none on a machine of another kind, whose mirror mmdebstrap knows.
+# Debian's own entries in this machine's package sources; none on other systems, for which mmdebstrap knows a mirror.
 debian_sources() {
     # shellcheck disable=SC2016
     apt-get indextargets --format '$(ORIGIN) $(CODENAME) $(REPO_URI) $(RELEASE) $(COMPONENT)' 'Created-By: Packages' 2>/dev/null |

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# install-packages.sh PURPOSE...: installs what is missing of the Debian packages listed for these purposes (build, run, test, bench,
-# check). Needs root or sudo only when something is missing. What apt prints goes to build/packages.log and is shown when it fails.
+# install-packages.sh PURPOSE...: installs the missing Debian packages for these purposes (build, run, test, bench, check). Needs
+# root or sudo only if a package is missing. The output of apt goes to build/packages.log and is shown if apt fails.
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# tidy-changed.sh BUILD-FOLDER: clang-tidy over the sources of the core that changed last, at most 6 files of the last 20 commits. The
-# folder holds compile_commands.json of a clang build. Every finding of .clang-tidy is shown; those of the static analyzer, which stand
-# for errors on some path through the code, fail.
+# tidy-changed.sh BUILD-FOLDER: runs clang-tidy on the most recently changed sources of the core, at most 6 files of the last 20
+# commits. The folder must contain compile_commands.json of a clang build. All findings of .clang-tidy are shown; those of the
+# static analyzer, which are errors on some path through the code, make it fail.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 base=$(git rev-list --max-count=21 HEAD | tail -n 1)
