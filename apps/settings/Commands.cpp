@@ -37,7 +37,7 @@ void SayIfMissing(const CSettingsFile& file)
 std::string Formatted(SettingsTree tree)
 {
     for (const std::string& gone : LeaveOutWhatIsNotUtf8(tree))
-        Complain(gone + " is not UTF-8, which JSON cannot hold; it was left out, set it anew or delete it");
+        Complain(gone + " is not UTF-8, which JSON cannot hold; it was left out, set it again or delete it");
     return FormatSettings(tree);
 }
 

@@ -31,12 +31,12 @@ void AddWord(CLI::App* command, const std::string& name, std::string& word, cons
 
 sSubcommands Describe(CLI::App& app, sCommandLine& line)
 {
-    app.add_option("--key", line.Key, "Path of the key; the chart's unless told")->type_name("PATH");
+    app.add_option("--key", line.Key, "Path of the key (default: the key of the chart)")->type_name("PATH");
     app.set_version_flag("--version", "zantroq-settings " ZANTROQ_VERSION);
     app.require_subcommand(1);
     app.fallthrough();
     app.footer("The settings file is $ZANTROQ_SETTINGS, else $XDG_CONFIG_HOME/zantroq/settings.db, else\n"
-               "~/.config/zantroq/settings.db. A NAME or VALUE that begins with a hyphen goes behind --.\n"
+               "~/.config/zantroq/settings.db. Write -- before a NAME or VALUE that begins with a hyphen.\n"
                "Exit codes: 0 done, 1 not there or not readable, 2 wrong usage, 4 could not be written.");
     sSubcommands commands{};
     commands.List = app.add_subcommand("list", "Print NAME<TAB>TYPE<TAB>VALUE, a line a value");
@@ -46,7 +46,7 @@ sSubcommands Describe(CLI::App& app, sCommandLine& line)
     commands.Set = app.add_subcommand("set", "Store one value");
     AddWord(commands.Set, "NAME", line.Name, "Exact name of the value");
     AddWord(commands.Set, "VALUE", line.Value, "Text, number, or hexadecimal digits, by the type");
-    commands.Set->add_option("--type", line.Type, "sz, dword or binary; sz unless told")->type_name("TYPE");
+    commands.Set->add_option("--type", line.Type, "sz, dword or binary (default: sz)")->type_name("TYPE");
     commands.Delete = app.add_subcommand("delete", "Remove one value");
     AddWord(commands.Delete, "NAME", line.Name, "Exact name of the value");
     commands.Export = app.add_subcommand("export", "Write all keys, or the one of --key, to a JSON file");

@@ -136,7 +136,7 @@ Json ParseShallow(std::string_view text)
 void RequireUtf8(const std::string& text, const std::string& what)
 {
     if (!IsUtf8(text))
-        throw CSettingsFormatError(what + " is not UTF-8, which JSON cannot hold; set it anew or delete it");
+        throw CSettingsFormatError(what + " is not UTF-8, which JSON cannot hold; set it again or delete it");
 }
 
 } // namespace

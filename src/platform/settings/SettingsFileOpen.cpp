@@ -308,7 +308,7 @@ void CSettingsFile::FailForeign()
 {
     throw CSettingsFileError(
         SettingsProblem::NotSettings,
-        m_path + ": this data base is not a settings file; set ZANTROQ_SETTINGS to another file");
+        m_path + ": this database is not a settings file; set ZANTROQ_SETTINGS to another file");
 }
 
 void CSettingsFile::Fail(int code, Access access)
