@@ -1,4 +1,5 @@
-// What a price pane and a study pane have in common, and the interface of a study pane. Chart window's thread.
+// The common base of the price pane and the study panes, and the interface of a study pane. Chart window's
+// thread.
 #pragma once
 
 #include "drawing/ChartWindow.h"
@@ -12,10 +13,10 @@ class CBaseChart
 {
 public:
     virtual ~CBaseChart() = default;
-    CChart2D* chart = nullptr; // not owned; set by the draw manager when the pane is made
+    CChart2D* chart = nullptr; // not owned; set by the draw manager
 };
 
-// A study pane as the draw manager sees it.
+// The interface of a study pane for the draw manager.
 class CStudyChart : public virtual CBaseChart
 {
 public:
@@ -23,28 +24,28 @@ public:
     virtual double GetLow(int index) const = 0;
     virtual double GetOpen(int index) const = 0;
     virtual double GetClose(int index) const = 0;
-    virtual double GetValue(int index) const { return GetClose(index); } // the price a study works on
+    virtual double GetValue(int index) const { return GetClose(index); } // price that the study uses
     virtual std::int64_t GetVolume(int index) const = 0;
     virtual int GetPointCount() const = 0;
-    virtual void DrawStudy() = 0;                     // the whole displayed range
-    virtual void UpdateStudy(int newPoints) = 0;      // append live points
+    virtual void DrawStudy() = 0;                     // draws the whole displayed range
+    virtual void UpdateStudy(int newPoints) = 0;      // appends live points
     virtual std::string GetStudyInfoText() const = 0; // the pane's header
-    // The study's line of the readout, opening with a newline; empty where its first series has no value at
+    // The study's line of the readout, which starts with a newline; empty if its first series has no value at
     // the displayed point (from 1).
     virtual std::string ReadoutText(int point) const = 0;
     virtual void AdjustStudyBars() {} // fits bar widths after a zoom or resize
 
-    // Writes GetStudyInfoText into the pane's header, its label 1.
+    // Writes GetStudyInfoText into label 1, the header of the pane.
     virtual void RefreshStudyHeader() = 0;
 
     IPaneWindow* dlg = nullptr;           // not owned
     int kind = 0;                         // a StudyKind
-    int pane = 0;                         // 1 to 10: the pane's place in the window
-    bool collapsed = false;               // shows only its title
+    int pane = 0;                         // 1 to 10: position in the window
+    bool collapsed = false;               // only the title is visible
     const IPriceSource* prices = nullptr; // not owned
 };
 
-// Makes the study of a kind; implemented above the drawing side.
+// Creates studies; implemented in src/studies.
 class IStudyFactory
 {
 public:

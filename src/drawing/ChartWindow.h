@@ -1,5 +1,5 @@
-// What panes, studies and trendlines need of their chart window, as interfaces, so that drawing/ does not
-// include window/. Chart window's thread.
+// The interfaces of the chart window for panes, studies and trendlines, so that drawing/ does not include
+// window/. Chart window's thread.
 #pragma once
 
 #include "scene/Chart2D.h"
@@ -12,13 +12,13 @@ struct sDisplayRange
 {
     int first = 0;
     int last = 0;
-    int shown = 120;    // points shown: an entry of DisplayMaxPoints, or fewer for a shorter series
-    int ptsIndex = 3;   // place in DisplayMaxPoints
-    int scrollPos = 0;  // the scroll position last asked for
-    int knownCount = 0; // points that the panes have taken in
+    int shown = 120;    // displayed points: an entry of DisplayMaxPoints, or fewer in a shorter series
+    int ptsIndex = 3;   // index in DisplayMaxPoints
+    int scrollPos = 0;  // last requested scroll position
+    int knownCount = 0; // number of points that the panes have
 };
 
-// What a study or a trendline needs of its window.
+// The interface for studies and trendlines.
 class IPaneWindow
 {
 public:
@@ -28,27 +28,28 @@ public:
     virtual const sDisplayRange& Range() const = 0;
     virtual int ChartPixelWidth() const = 0; // client width of the panes, in pixels
     virtual CChart2D& Pane(int number) = 0;  // 0 the price pane, k study k
-    virtual bool ResetScale() const = 0;     // a fixed value axis fits itself in this draw
+    virtual bool ResetScale() const = 0;     // a fixed value axis must be fitted in this draw
     virtual void BeginPriceBatch() = 0;      // suspends repainting of the price pane; nested
     virtual void EndPriceBatch() = 0;
 };
 
-// What the price pane and the draw manager need besides.
+// The additional interface for the price pane and the draw manager.
 class IChartWindow : public IPaneWindow
 {
 public:
     using IPaneWindow::Range;
     virtual sDisplayRange& Range() = 0;
-    // True for a pane that shows only its title: minimised with none maximised, or another pane is maximised.
+    // True for a pane that shows only its title: it is minimised and none is maximised, or another pane is
+    // maximised.
     virtual bool IsCollapsed(int pane) const = 0;
 
-    // The marker: the displayed point number, or NoPoint.
+    // The marked point: a displayed point number, or NoPoint.
     virtual int SelectedPoint() const = 0;
     virtual void SetSelectedPoint(int point) = 0;
 
     virtual void ClearResetScale() = 0;
 
-    // Repaint suspension of all panes, nested.
+    // Suspend repainting of all panes; calls may be nested.
     virtual void BeginBatch() = 0;
     virtual void EndBatch() = 0;
 
@@ -82,15 +83,16 @@ private:
     IPaneWindow& m_window;
 };
 
-// The trendlines as the price pane sees them.
+// The trendlines as an interface for the price pane.
 class ITrendLayer
 {
 public:
     virtual ~ITrendLayer() = default;
     // The last series number in use in group 2 of the price pane, at least PriceOverlays.
+    // The last series number in use in group 2 of the price pane, at least 3.
     virtual int SeriesCount() const = 0;
-    virtual int LabelCount() const = 0; // labels in use on the price pane, at least PriceLabels
-    virtual void DrawAll() = 0;         // every line, list by list
+    virtual int LabelCount() const = 0; // number of labels in use on the price pane, at least PriceLabels
+    virtual void DrawAll() = 0;         // draws all lines, list by list
 };
 
 } // namespace zantroq

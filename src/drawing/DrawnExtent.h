@@ -1,5 +1,5 @@
-// What a whole draw reports to its caller. The window's scroll bar and zoom buttons depend on it, and the
-// panes below the window know neither.
+// The result of a whole draw. The window's scroll bar and zoom buttons depend on it, but panes do not know
+// them. Plain data.
 #pragma once
 
 namespace zantroq {
@@ -7,7 +7,7 @@ namespace zantroq {
 struct sDrawnExtent
 {
     int Count = 0;            // points of the series
-    bool FillsWindow = false; // the series has at least the points that the window is set to show
+    bool FillsWindow = false; // the series has at least as many points as the window is set to show
 };
 
 } // namespace zantroq

@@ -85,7 +85,7 @@ sDrawnExtent CHistChartDrawManager::Draw(int position)
     return drawn;
 }
 
-// The volume study reads the greatest volume that the price pane found.
+// The volume study uses the largest volume found by the price pane.
 sDrawnExtent CHistChartDrawManager::DrawPrices(int position)
 {
     const sDrawnExtent drawn = priceChart.Draw(position);
@@ -93,8 +93,8 @@ sDrawnExtent CHistChartDrawManager::DrawPrices(int position)
     return drawn;
 }
 
-// The studies wrote their headers before their markers moved along with the view, and the title does not know
-// yet whether its point is still on show.
+// The studies wrote their headers before their markers moved with the view, and the title may describe a
+// point that is no longer displayed.
 void CHistChartDrawManager::RefreshMarkedTitles()
 {
     if (dlg.SelectedPoint() != NoPoint)
@@ -112,8 +112,8 @@ void CHistChartDrawManager::DrawStudies()
     studiesEnd = dlg.Range().last + 1;
 }
 
-// Brings the studies to the end of the stretch that the price pane shows. A draw since the last live update
-// may have shown them some of the new points already.
+// Updates the studies up to the last point of the price pane. A draw since the last live update may already
+// have shown some of the new points.
 void CHistChartDrawManager::UpdateStudies()
 {
     const int newPoints = dlg.Range().last + 1 - studiesEnd;
@@ -148,7 +148,7 @@ std::optional<sDrawnExtent> CHistChartDrawManager::Update(int newPoints)
     const sDrawnExtent drawn = DrawPrices(dlg.ScrollLimit());
     if (ticks) {
         UpdateStudies();
-        // The studies move their own markers along with their points.
+        // Each study moves its own marker together with its points.
         priceChart.chart->PaneArea().PaneMarkers("x").SetPoint(dlg.SelectedPoint());
     } else {
         DrawStudies();

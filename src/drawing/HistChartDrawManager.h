@@ -1,6 +1,5 @@
-// Stands between the chart window and the panes: owns the price pane and the study panes, decides what is
-// redrawn whole and what only at its last point, and builds the text under the mouse. One per chart window,
-// on its thread.
+// The draw manager: owns the price pane and the study panes, decides what is redrawn completely and what only
+// at its last point, and builds the text under the mouse. One per chart window, on the window's thread.
 #pragma once
 
 #include "drawing/BaseChart.h"
@@ -18,7 +17,8 @@ namespace zantroq {
 class CHistChartDrawManager
 {
 public:
-    // `studiesFactory` may be null: then no study panes are made. So may `trendLayer`. Nothing is owned.
+    // `studiesFactory` may be null, then there are no study panes; `trendLayer` may be null too. Nothing is
+    // owned.
     CHistChartDrawManager(IChartWindow& window, CSeriesReader& reader, IStudyFactory* studiesFactory,
                           ITrendLayer* trendLayer);
     ~CHistChartDrawManager();
@@ -28,19 +28,19 @@ public:
     CHistPriceChart& PriceChart() { return priceChart; }
     std::array<std::unique_ptr<CStudyChart>, 10>& Studies() { return studies; }
 
-    void CreateStudies(); // destroys all studies and makes one for each displayed
+    void CreateStudies(); // destroys all studies and creates the displayed ones
 
-    // Sets all panes up anew, makes the studies where the displayed set has changed, and draws at the live
-    // edge. For a complete series that has arrived and after a change of settings. An empty series leaves
-    // empty panes and reports nothing.
+    // Sets up all panes, recreates the studies if the displayed ones have changed, and draws at the live
+    // edge. Call when a series is complete and after a change of settings. An empty series leaves empty panes
+    // and returns nothing.
     std::optional<sDrawnExtent> FullRedraw();
-    sDrawnExtent Draw(int position); // every zoom, scroll, restore and deletion
-    // Live data: how many points follow those drawn; 0 for a change of the last one. Reports nothing where
-    // nothing was drawn whole.
+    sDrawnExtent Draw(int position); // for every zoom, scroll, restore and deletion
+    // Draws live data: `newPoints` new points at the end, or 0 for a change of the last point. Returns
+    // nothing unless the panes were drawn completely.
     std::optional<sDrawnExtent> Update(int newPoints);
-    void DeletePoint(int index); // from the series alone; the panes follow at the next Draw
-    void RefreshTitles();        // the price pane's title and every study's header
-    // The readout of a displayed point, counted from 1. Empty for a point that is not shown.
+    void DeletePoint(int index); // only from the series; the next Draw updates the panes
+    void RefreshTitles();        // the title of the price pane and the headers of all studies
+    // The readout of a displayed point, counted from 1. Empty for other points.
     std::string MakeInfoText(int point) const;
 
     bool seriesEdited = false; // a point was deleted since the last full load
@@ -54,14 +54,14 @@ private:
     void UpdateLastBar();
     void RefreshReadout();
     void PlaceMarkers();
-    void RefreshMarkedTitles(); // if a point is marked
+    void RefreshMarkedTitles(); // only if a point is marked
 
     IChartWindow& dlg;
     CSeriesReader& prices;
     IStudyFactory* studyFactory;
     CHistPriceChart priceChart;
     std::array<std::unique_ptr<CStudyChart>, 10> studies;
-    int studiesEnd = 0; // the index after the last point that the studies show
+    int studiesEnd = 0; // index after the last point that the studies show
 };
 
 } // namespace zantroq

@@ -68,7 +68,7 @@ void CHistPriceChart::SetUpLabels()
     const int wanted = m_trends ? m_trends->LabelCount() : PriceLabels;
     while (labels.Count() < PriceLabels)
         AddPlainLabel(*chart, settings);
-    while (labels.Count() < wanted) // those of the retracements
+    while (labels.Count() < wanted) // labels of retracements
         AddPlainLabel(*chart, settings)
             .Interior()
             .SetForeground(settings.Trends[TrendFibonacciRetracements].Color);
@@ -81,7 +81,7 @@ void CHistPriceChart::SetUp()
     SetChartType();
     ApplyPriceStyles(*chart, Settings(), Shape());
     if (FitsScale())
-        SetUpValueAxes(*chart); // else the fixed axis outlives the set-up
+        SetUpValueAxes(*chart); // otherwise the fixed axis would survive the set-up
     SetUpPaneFrame(*chart, Settings(), PricePlotBottomPx, Settings().PriceLabelColor);
     SetGrid(*chart, Settings());
 }
@@ -94,7 +94,7 @@ void CHistPriceChart::NarrowCandles()
 
 sDrawnExtent CHistPriceChart::Draw(int position)
 {
-    // A resize can ask for a draw while a chart still loads, before its set-up.
+    // A resize can cause a draw while a chart is loading, before its set-up.
     if (Bars().SeriesCount() != PriceSeriesOf(Shape()) || Curves().SeriesCount() < PriceOverlays)
         SetUp();
     chart->PaneLabels().Item(ReadoutLabel).SetShown(false);
@@ -144,7 +144,7 @@ void CHistPriceChart::MakeRoom(const sDrawnPoints& points)
     curves.SetPointCount(1, points.Count);
     bars.NumberPoints();
     curves.NumberPoints();
-    // A trendline drawn since the set-up has brought its series along.
+    // A trendline drawn after the set-up has added its series.
     if (curves.LastShownSeries() != 0 && curves.LastShownSeries() < curves.SeriesCount())
         curves.SetLastShownSeries(curves.SeriesCount());
 }
@@ -196,7 +196,7 @@ sPriceRange CHistPriceChart::FitToPrices(const sDrawnPoints& points)
     return range;
 }
 
-// Widens the value axis where a curve leaves it.
+// Widens the value axis if a curve exceeds it.
 void CHistPriceChart::DrawCurves(const sDrawnPoints& points, sPriceRange prices)
 {
     const bool fits = FitsScale();
@@ -268,7 +268,7 @@ bool CHistPriceChart::UpdateLastPoint()
 {
     CPaneData& bars = Bars();
     const int points = bars.PointCount(1);
-    // The bar that stands last in the pane: the worker may have appended the next one already.
+    // The last bar in the pane: the worker may already have appended the next one.
     const int index = dlg->Range().last;
     if (points == 0 || index < 0 || index >= Count())
         return false;

@@ -1,8 +1,8 @@
-// The top pane: price bars, moving averages, bands, its x labels and value axis. Everything it shows is
-// computed anew from the series at each whole draw. Chart window's thread.
+// The price pane: price bars, moving averages, bands, x labels and value axis. Each whole draw computes
+// everything from the series. Chart window's thread.
 //
-// Group 1 holds the price (ticks) or high, low, open and close (bars). Group 2 holds the averages or bands;
-// the trendlines follow. PricePaneNumbers.h has the numbers of labels and series.
+// Group 1 contains the price (ticks) or high, low, open and close (bars). Group 2 contains the averages or
+// bands; trendlines follow. PricePaneNumbers.h has the numbers of labels and series.
 #pragma once
 
 #include "drawing/BaseChart.h"
@@ -42,25 +42,29 @@ public:
     virtual double Close(int index) const { return m_prices.Close(index); }
     virtual double High(int index) const { return m_prices.High(index); }
     virtual double Low(int index) const { return m_prices.Low(index); }
-    virtual std::int32_t Volume(int index) const { return CutVolume(m_prices.Volume(index)); } // to 32 bits
+    virtual std::int32_t Volume(int index) const
+    {
+        return CutVolume(m_prices.Volume(index));
+    } // limited to 32 bits
     virtual int Count() const { return m_prices.Count(); }
 
-    void SetUp(); // at the start of a chart: labels, margins, axes, colors
-    // The whole draw; a position outside the series is held at its nearer end.
+    void SetUp(); // call at the start of a chart: labels, margins, axes, colors
+    // The whole draw; a position outside the series is clamped.
     sDrawnExtent Draw(int position);
-    // A live change of the last bar: writes that point alone. False: it has the same values already.
+    // Updates the last bar after a live change: writes only that point. Returns false if its values are
+    // unchanged.
     bool UpdateLastPoint();
     void RefreshTitle();
     void RedrawTrends();
     void SetYScale(double high, double low);
-    void NarrowCandles(); // fits the candles' width to the room of a point
+    void NarrowCandles(); // fits the width of candles to the width of a point
 
-    std::uint32_t maxVolume = 0;  // greatest volume when the value axis was last fitted
-    std::int32_t priceDigits = 1; // digits before the point of the highest price then
+    std::uint32_t maxVolume = 0;  // largest volume when the value axis was last fitted
+    std::int32_t priceDigits = 1; // digits of the highest price before the point at that time
 
 protected:
-    // Fills in which of `count` points from `first` on are marked deleted; an empty list marks none. The feed
-    // marks no point.
+    // Marks which of `count` points from `first` on are deleted; an empty list means none. The feed marks no
+    // point.
     virtual void ReadDeletedMarks(int first, int count, std::vector<std::uint8_t>& marks) const;
 
 private:
@@ -70,7 +74,7 @@ private:
     bool TickSeries() const { return m_prices.GetDataType() == TickData; }
     bool Intraday() const; // ticks and minutes
     PriceShape Shape() const { return PriceShapeOf(Settings(), m_prices.GetDataType()); }
-    bool FitsScale() const; // false: the value axis stays as it is
+    bool FitsScale() const; // false: the value axis does not change
 
     void SetUpLabels();
     void PlaceRange(int position, int count, int wanted);

@@ -1,5 +1,5 @@
-// A vector of numbers that are all written before they are read; setting a quarter of a million of them to
-// zero first would take measurable time.
+// An array of numbers that are all written before they are read. Not initialised, because zeroing a quarter
+// of a million numbers takes measurable time.
 #pragma once
 
 #include <cstddef>
@@ -14,7 +14,7 @@ public:
     CNumbers() = default;
     explicit CNumbers(std::size_t size) { Resize(size); }
 
-    // Gives up the values.
+    // Discards the values.
     void Resize(std::size_t size)
     {
         m_values = std::make_unique_for_overwrite<double[]>(size);

@@ -1,11 +1,11 @@
-// The numbers by which events name the panes and the mouse buttons.
+// The numbers of panes and mouse buttons in events.
 #pragma once
 
 #include "settings/ChartSettings.h"
 
 namespace zantroq {
 
-inline constexpr int FirstPaneControl = 341; // the price pane; 342 to 351 the studies in display order
+inline constexpr int FirstPaneControl = 341; // price pane; 342 to 351 are the studies in display order
 inline constexpr int PaneControls = MaxPanes;
 
 enum MouseButton : int

@@ -20,7 +20,7 @@ void SetUpGroup(CPaneGroup& group)
     data.SetPointCount(1, 0);
 }
 
-// What single studies set for themselves.
+// Resets what individual studies have changed.
 void ForgetStudy(CPaneArea& area)
 {
     const CChart2D fresh;
@@ -158,7 +158,7 @@ void MoveValueAxis(CChart2D& chart, AxisSide side)
     CPaneAxes& axes = chart.PaneArea().PaneAxes();
     CTickLabels& from = (side == AxisSide::Right ? axes.Y() : axes.Y2()).TickLabels();
     CTickLabels& to = (side == AxisSide::Right ? axes.Y2() : axes.Y()).TickLabels();
-    // Nothing to move when the labels stand on that side already.
+    // Without labels there is nothing to move: they are already on the new side.
     if (from.Count() > 0) {
         to.RemoveAll();
         for (int number = 1; number <= from.Count(); ++number)

@@ -10,7 +10,7 @@ namespace zantroq {
 
 namespace {
 
-// The longest way back that a curve reaches from its first point.
+// The longest period of a displayed curve.
 int LongestPeriod(const sOverlaySettings& settings)
 {
     if (settings.ShowBands != 0)
@@ -31,7 +31,7 @@ sPriceRange NothingSeen()
     return range;
 }
 
-// Displayed points at the left edge that have no band yet.
+// The number of displayed points at the left edge without a band.
 int WarmUp(const sOverlaySettings& settings, const sDrawnPoints& points)
 {
     const long long reach = static_cast<long long>(settings.BandPeriod) - points.First;
@@ -42,7 +42,7 @@ int WarmUp(const sOverlaySettings& settings, const sDrawnPoints& points)
 
 sPriceRange CPriceOverlays::Draw(const sOverlaySettings& settings, const sDrawnPoints& points, BandRange rule)
 {
-    CNumbers lookBack; // closes from before the drawn points on, where a curve reaches back
+    CNumbers lookBack; // closes from before the drawn points on, if a curve needs them
     const sCloseRun closes = LoadCloses(settings, points, lookBack);
     if (settings.ShowBands == 0)
         return DrawAverages(settings, points, closes);
@@ -50,7 +50,7 @@ sPriceRange CPriceOverlays::Draw(const sOverlaySettings& settings, const sDrawnP
     return rule == BandRange::OfTheDrawnPoints ? drawn : RangeOfAllBands(settings, points.SeriesCount);
 }
 
-// The closes that the curves are made of. The pane's own serve where no curve reaches back before them.
+// Provides the closes for the curves: those in the pane, unless a curve needs earlier closes.
 sCloseRun CPriceOverlays::LoadCloses(const sOverlaySettings& settings, const sDrawnPoints& points,
                                      CNumbers& lookBack) const
 {
@@ -133,7 +133,7 @@ sPriceRange CPriceOverlays::RangeOfAllBands(const sOverlaySettings& settings, in
     return range;
 }
 
-// The values of a curve, all of which the caller writes.
+// The values of a curve, for the caller to write.
 std::span<double> CPriceOverlays::ValuesOf(int series)
 {
     m_hasValues[static_cast<std::size_t>(series - 1)] = true;
@@ -148,7 +148,7 @@ void CPriceOverlays::MarkDrawn(int series, int warmUp)
     curves.AdvanceDrawn(series, curves.PointCount(series) - warmUp);
 }
 
-// A curve that is no longer shown must leave no values in its series.
+// Clears the series of a curve that is no longer displayed.
 void CPriceOverlays::Clear(int series)
 {
     bool& hasValues = m_hasValues[static_cast<std::size_t>(series - 1)];

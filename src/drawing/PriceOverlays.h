@@ -1,6 +1,6 @@
 // The curves over the prices: three moving averages or the three Bollinger Bands, in series 1 to 3 of group 2
-// of the price pane. Bands take the place of averages while both are switched on. A curve that is not shown
-// is all holes. Computed anew at each whole draw. Chart window's thread.
+// of the price pane. If both are switched on, bands replace averages. A hidden curve consists of holes. Each
+// whole draw computes the curves. Chart window's thread.
 #pragma once
 
 #include "drawing/MovingAverages.h"
@@ -18,16 +18,17 @@
 
 namespace zantroq {
 
-// The stretch of the series that one draw works on.
+// The part of the series that one draw uses.
 struct sDrawnPoints
 {
     int First = 0; // data index
     int Count = 0;
-    int SeriesCount = 0;               // points of the whole series when the draw began
-    std::vector<std::uint8_t> Deleted; // one mark for each point; empty: none is deleted
+    int SeriesCount = 0;               // number of points in the whole series at the start of the draw
+    std::vector<std::uint8_t> Deleted; // one mark per point; empty: none is deleted
 };
 
-// Which values of the bands the value axis has to hold. Averages count over the drawn points in both cases.
+// Which values of the bands the value axis must include. Averages are included over the drawn points in both
+// cases.
 enum class BandRange
 {
     OfTheDrawnPoints,
@@ -39,8 +40,8 @@ class CPriceOverlays
 public:
     CPriceOverlays(CChart2D& pane, const IPriceSource& prices) : m_pane(pane), m_prices(prices) {}
 
-    // Computes the curves of `points`, whose prices stand in group 1 already, and answers the range of their
-    // values: infinite ends where there are none.
+    // Computes the curves of `points`, whose prices are already in group 1, and returns the range of their
+    // values; its ends are infinite if there are none.
     sPriceRange Draw(const sOverlaySettings& settings, const sDrawnPoints& points, BandRange rule);
 
 private:

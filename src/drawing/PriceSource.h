@@ -1,6 +1,6 @@
-// What studies and the price pane read of a series. CSeriesReader implements it over the running request,
-// tests over plain vectors. Single reads answer 0 outside the series and take the series' lock for one value;
-// the bulk reads take it once.
+// Read access to a series for studies and the price pane. CSeriesReader implements it over the current
+// request, tests over plain vectors. A single read returns 0 outside the series and takes the series' lock
+// for one value; a bulk read takes it once.
 #pragma once
 
 #include <cstdint>
@@ -11,7 +11,7 @@ class IPriceSource
 {
 public:
     virtual ~IPriceSource() = default;
-    // On tick data all four are the trade price.
+    // On tick data, all four return the price of the trade.
     virtual double High(int index) const = 0;
     virtual double Low(int index) const = 0;
     virtual double Open(int index) const = 0;
@@ -20,12 +20,12 @@ public:
     virtual std::int64_t Volume(int index) const = 0;
     virtual int Count() const = 0;
 
-    // The greatest volume that the price pane found when it last fitted its value axis; with a fixed axis
-    // that is asked to fit again, the greatest of the whole series.
+    // The largest volume found when the price pane last fitted its value axis; for a fixed axis that is
+    // fitted again, the largest of the whole series.
     virtual std::uint32_t GreatestVolume() const { return 0; }
 
-    // Bulk reads of `count` elements from index `first`: out receives exactly count values, 0 where the
-    // series has none (indices below 0 or past the end), so that they agree with the single reads.
+    // Bulk reads of `count` elements from index `first` on. `out` receives exactly `count` values, 0 for
+    // indices outside the series, like the single reads.
     virtual void ReadHigh(int first, int count, double* out) const = 0;
     virtual void ReadLow(int first, int count, double* out) const = 0;
     virtual void ReadOpen(int first, int count, double* out) const = 0;

@@ -8,7 +8,7 @@ namespace zantroq {
 
 namespace {
 
-// The series of a candle that carry its looks: a rising body, a falling body and the outline.
+// The series whose styles define a candle: the rising body, the falling body and the outline.
 constexpr int UpCandle = 2, DownCandle = 3, CandleOutline = 4;
 
 void ApplyCandleStyles(CChart2D& pane, const sChartSettings& settings)
@@ -51,7 +51,7 @@ void ApplyPriceStyles(CChart2D& pane, const sChartSettings& settings, PriceShape
 
 void SetCandleWidth(CChart2D& pane, double widthPx)
 {
-    constexpr int leastOutlined = 3; // pixels from which a candle keeps its outline
+    constexpr int leastOutlined = 3; // narrowest candle with an outline, in pixels
     const int pixels = static_cast<int>(widthPx);
     CPaneGroup& bars = pane.PaneGroups(1);
     bars.SeriesStyles(UpCandle).LineLook().SetWidth(pixels);

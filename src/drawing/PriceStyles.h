@@ -1,4 +1,4 @@
-// The line styles, colors and chart types of the price pane, taken from the settings. Chart window's thread.
+// The line styles, colors and chart types of the price pane according to the settings. Chart window's thread.
 #pragma once
 
 #include "scene/Chart2D.h"
@@ -6,7 +6,7 @@
 
 namespace zantroq {
 
-// What group 1 of the price pane shows.
+// The contents of group 1 of the price pane.
 enum class PriceShape
 {
     Line, // tick data: one series
@@ -15,15 +15,15 @@ enum class PriceShape
 };
 
 PriceShape PriceShapeOf(const sChartSettings& settings, int dataType);
-inline int PriceSeriesOf(PriceShape shape) // series of group 1
+inline int PriceSeriesOf(PriceShape shape) // number of series in group 1
 {
     return shape == PriceShape::Line ? 1 : 4;
 }
 
-// The styles of all price series, and of the averages or bands over them.
+// Sets the styles of all price series and of the averages or bands.
 void ApplyPriceStyles(CChart2D& pane, const sChartSettings& settings, PriceShape shape);
 
-// Fits candles to the room of a point: widthPx is rounded down. Below three pixels they lose their outline.
+// Sets the width of candles to `widthPx`, rounded down. Below three pixels they have no outline.
 void SetCandleWidth(CChart2D& pane, double widthPx);
 
 } // namespace zantroq

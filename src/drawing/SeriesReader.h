@@ -1,6 +1,6 @@
-// Reads the series of a chart for the panes: single values, whole stretches at once, prices as words, and the
-// dates and times of points as texts. One per chart window, on its thread. Each read takes the series' lock
-// once, so the worker can go on filling the series between two reads.
+// Reads the series of a chart for the panes: single values, ranges of values, formatted prices, and dates and
+// times of points as texts. One per chart window, on the window's thread. Each read takes the series' lock
+// once, so that the worker can extend the series between two reads.
 #pragma once
 
 #include "drawing/InfoText.h"
@@ -20,7 +20,7 @@ public:
     void SetDataType(int type) { m_dataType = type; }
     int GetDataType() const { return m_dataType; }
 
-    // An index outside the series gives 0.
+    // These return 0 for an index outside the series.
     double High(int index) const override;
     double Low(int index) const override;
     double Open(int index) const override;
@@ -36,21 +36,20 @@ public:
     std::uint32_t GreatestVolume() const override { return m_greatestVolume; }
     void SetGreatestVolume(std::uint32_t volume) { m_greatestVolume = volume; }
 
-    sPriceWords PriceWords() const; // how prices of this series are written; plain without a series
+    sPriceWords PriceWords() const; // formats of this series' prices; plain without a series
 
-    // An index below 1 reads as 1, an index past the end as the last. Without any point "1900/01/01" and
-    // "00:00:00".
+    // An index below 1 counts as 1, one past the end as the last. Without points "1900/01/01" and "00:00:00".
     std::string GetDate(int index) const;
     std::string GetMinuteTime(int index) const;
-    // An index outside the series reads as the nearer end.
+    // The index is clamped to the series.
     std::string GetTime(int index, TimeDetail detail) const;
-    // The index is held between 0 and Count(), which reads as the last. Without any point the record keeps
-    // its values.
+    // The index is clamped to 0 up to Count(), which means the last point. Without points the record is
+    // unchanged.
     void GetPoint(int index, sHIST_DATA& point) const;
     sTIME_W_MILLISECONDS TimeAt(int index) const;
 
 private:
-    int PriceField(int barField) const; // ticks have one price for all four
+    int PriceField(int barField) const; // ticks use one price for all four
     int VolumeField() const;
     double PriceAt(int field, int index) const;
     void ReadPrices(int field, int first, int count, double* out) const;

@@ -1,5 +1,5 @@
-// Searches a stretch of a series for its least low, greatest high and greatest volume. Reads in blocks of
-// 16,384 points, which stay in the processor's nearest cache. Chart window's thread.
+// Finds the lowest low, the highest high and the largest volume in a range of a series. Reads blocks of
+// 16,384 points, which fit into the processor's first-level cache. Chart window's thread.
 #pragma once
 
 #include "drawing/PriceRange.h"
@@ -10,15 +10,15 @@
 
 namespace zantroq {
 
-// Fills in which of `count` points from index `first` on are marked deleted; an empty list marks none.
+// Marks which of `count` points from index `first` on are deleted; an empty list means none.
 using ReadMarks = std::function<void(int first, int count, std::vector<std::uint8_t>& marks)>;
 
-inline constexpr int ScanBlock = 16384; // points read at a time
+inline constexpr int ScanBlock = 16384; // points per read
 
-// Widens the price ends of `range` by the first `count` points of the series.
+// Widens the prices of `range` by the first `count` points of the series.
 void ScanPrices(sPriceRange& range, const IPriceSource& prices, int count, const ReadMarks& readMarks);
 
-// Widens the greatest volume of `range` by `count` points from index `first` on.
+// Raises the largest volume of `range` by `count` points from index `first` on.
 void ScanVolumes(sPriceRange& range, const IPriceSource& prices, int first, int count,
                  const ReadMarks& readMarks);
 

@@ -1,5 +1,5 @@
-// The date and time of a point as texts. Wall-clock times as the feed printed them, "C" locale. Pure
-// functions, any thread.
+// The date and the time of a point as texts, as the feed sent them, in the "C" locale. Pure functions, any
+// thread.
 #pragma once
 
 #include "platform/CalendarTime.h"
@@ -8,7 +8,7 @@
 
 namespace zantroq {
 
-// What the texts read where there is no point at all.
+// The texts if there is no point at all.
 inline constexpr const char* NoDateText = "1900/01/01";
 inline constexpr const char* NoTimeText = "00:00:00";
 

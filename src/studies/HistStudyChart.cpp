@@ -43,7 +43,7 @@ std::size_t ComputedLines(const std::vector<sStudyLine>& lines)
 void sValueRange::Widen(const sBlockedValues& values, std::size_t first, std::size_t end)
 {
     sMinMax found;
-    // Of a 0 and a -0 the earlier one counts, which the quick search does not tell.
+    // Of 0 and -0 the earlier one counts, which the fast search does not distinguish.
     const bool isFound = FindMinMax(values, first, end, found) && found.Least != 0 && found.Greatest != 0;
     const bool isTaken = !FiniteAlone || (std::isfinite(found.Least) && std::isfinite(found.Greatest));
     if (isFound && isTaken) {
@@ -98,7 +98,7 @@ void CHistStudyChart::DrawStudy()
     if (shown <= 0)
         return;
     if (GetPointCount() == 0) {
-        RemovePoints(); // the range keeps its number of points, which nothing could be computed for
+        RemovePoints(); // the display range keeps its number of points, although none can be computed
         return;
     }
     PrepareGroups(shown);
@@ -114,7 +114,7 @@ void CHistStudyChart::DrawStudy()
     RefreshStudyHeader();
 }
 
-// In stretches that are still in the processor's cache when they are looked at for the axis.
+// Works in pieces that are still in the processor's cache when the axis is fitted to them.
 sValueRange CHistStudyChart::ComputeLines(const std::vector<sStudyLine>& lines, int first, int shown)
 {
     struct sWritten
@@ -199,7 +199,7 @@ void CHistStudyChart::WriteVolumeIntoLastPoint()
 void CHistStudyChart::UpdateStudy(int newPoints)
 {
     if (newPoints == 0)
-        WriteVolumeIntoLastPoint(); // no live data leads here
+        WriteVolumeIntoLastPoint(); // cannot be reached by live data
     if (newPoints <= 0)
         return;
     const sUpdatePlan plan = MakeRoom(newPoints);
@@ -271,7 +271,7 @@ void CHistStudyChart::RefreshStudyHeader()
     header.SetAttachment(AttachToPixel);
     header.SetAnchorSide(AnchorBelowRight);
     header.SetPixelAnchor(chart->PaneArea().PlotFrame().LeftMargin().Value(),
-                          0); // above the value axis's end
+                          0); // above the end of the value axis
     header.SetText(GetStudyInfoText());
     header.SetShown(true);
 }

@@ -6,7 +6,7 @@ namespace {
 
 struct sLevel
 {
-    double Ratio; // of the range, downward from the higher price
+    double Ratio; // fraction of the range, downward from the higher price
     int Pattern;
     const char* Text;
 };
@@ -23,7 +23,7 @@ constexpr std::array<sLevel, CFibonacciRetracementsTrend::Levels> LevelTable{{
     {4.236, LineLongDashes, "423.6%"},
 }};
 constexpr int LevelOfLow = 5;
-constexpr int LabelRoom = 15; // pixels that two labels keep between them
+constexpr int LabelRoom = 15; // smallest distance of two labels in pixels
 
 } // namespace
 

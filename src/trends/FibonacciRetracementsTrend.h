@@ -1,6 +1,7 @@
-// The diagonal between two anchors and nine level lines at Fibonacci ratios of their price range, measured
-// downward from the higher price whichever was clicked first, each with a percentage label. Levels run from
-// the left anchor to the last displayed point whatever the extendable flag says; the lowest can be negative.
+// The diagonal between two anchors and nine level lines at Fibonacci ratios of their price range, each with a
+// percentage label. Levels go down from the higher price, whichever was clicked first, and may be negative.
+// They always run from the left anchor to the last displayed point; the extendable flag is ignored. Chart
+// window's thread.
 #pragma once
 
 #include "trends/SlopingTrend.h"
@@ -25,7 +26,7 @@ public:
     void SetFirstLabel(int label) override { m_firstLabel = label; }
     void DescribeKind(sTrendRecord& record) const override { record.FirstLabel = m_firstLabel; }
 
-    // Adds the nine labels, hidden, to the price pane; answers the number of the first.
+    // Adds nine hidden labels to the price pane. Returns the number of the first.
     static int AddLabels(IPaneWindow& window);
 
     std::array<int, Levels> m_levelSeries;
@@ -34,8 +35,8 @@ public:
 private:
     double LevelPrice(int level) const;
     void DrawLevel(int level, const sSpan& span);
-    // Puts the label of a level beside its line; shownPixelY is the pixel y of the last label shown so far,
-    // and is moved on.
+    // Places the label of a level beside its line. `shownPixelY` is the pixel y of the last label shown so
+    // far; it is updated.
     void PlaceLabel(int level, const sSpan& span, int& shownPixelY);
 };
 

@@ -7,7 +7,7 @@ void SetUpTrendSeries(IPaneWindow& window, int series)
     CPaneGroup& group = window.Pane(0).PaneGroups(2);
     CPaneData& data = group.PaneData();
     data.SetSeriesCount(series);
-    // The price pane's set-up limited what is shown to the series there were then.
+    // The set-up of the price pane limited the shown series to those that existed then.
     if (data.LastShownSeries() != 0 && data.LastShownSeries() < series)
         data.SetLastShownSeries(series);
     CSeriesStyle& style = group.SeriesStyles(series);

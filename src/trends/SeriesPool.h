@@ -1,5 +1,6 @@
 // The series numbers of group 2 of the price pane that trendlines draw into. Numbers 1 to 3 belong to the
-// price pane; a number given back is used again, first in first out, before any new one.
+// price pane. A released number is used again, first in first out, before a new number. Chart window's
+// thread.
 #pragma once
 
 #include "drawing/ChartWindow.h"
@@ -15,7 +16,7 @@ public:
     static constexpr int FirstSeries = PriceOverlays + 1;
 
     explicit CSeriesPool(IPaneWindow& window) : m_window(window) {}
-    // A free number; a never-used one is set up first: solid line, grey marks of size 3.
+    // Returns a free number. The series of a new number is first set up: solid line, grey marks of size 3.
     int Allocate();
     void GiveBack(int series) { m_freeSeries.push_back(series); }
     void Reset();
@@ -24,11 +25,11 @@ public:
 
 private:
     IPaneWindow& m_window;
-    int m_nextSeries = FirstSeries; // the next never-used number
+    int m_nextSeries = FirstSeries; // next new number
     std::deque<int> m_freeSeries;
 };
 
-// Brings group 2 up to a new series, shows it and gives it the look of a new trendline.
+// Creates a series in group 2, shows it and gives it the style of a new trendline.
 void SetUpTrendSeries(IPaneWindow& window, int series);
 
 } // namespace zantroq

@@ -108,7 +108,7 @@ void CTrendInteraction::StartLine(int x, int y)
     int index = -1;
     double value = 0;
     PointFromPixels(x, y, &index, &value);
-    // A horizontal line cannot start on the very first point; every other kind can.
+    // A horizontal line cannot start at the first point; every other kind can.
     const int lowest = row.Kind == TrendHorizontal ? 1 : 0;
     if (index < lowest || index > m_prices.Count())
         return;
@@ -166,7 +166,7 @@ void CTrendInteraction::OnDeleteClick(int x, int y)
             m_trendState = TrendIdle;
             return;
         }
-    } else if (m_currentTrend) { // else it went while the box was open, with a new chart
+    } else if (m_currentTrend) { // otherwise a new chart removed it while the box was open
         CPriceBatch batch(m_window);
         m_currentTrend->SetMarkers(false);
     }
@@ -218,7 +218,7 @@ bool CTrendInteraction::MoveEndPoint(int index, int xi, double x, double y)
         return false;
     trend.m_endIndex = index;
     if (m_trendState != HorizontalEnd) {
-        // The anchor sits on a whole index, yet the line passes under the pointer.
+        // The anchor is at a whole index, but the line must pass under the pointer.
         const int start = trend.m_startIndex;
         trend.SetEndValue(((y - trend.m_value) / ((x - xi) + index - start)) * (index - start) +
                           trend.m_value);
@@ -229,7 +229,8 @@ bool CTrendInteraction::MoveEndPoint(int index, int xi, double x, double y)
 bool CTrendInteraction::MoveSecondLine(double x, double y)
 {
     CBaseTrend& trend = *m_currentTrend;
-    // No guard: with both anchors on one index the offset is not finite, and the second line is not drawn.
+    // Not checked: if both anchors have the same index, the offset is not finite and the second line is not
+    // drawn.
     const double slope = (trend.GetEndValue() - trend.m_value) / (trend.m_endIndex - trend.m_startIndex);
     trend.SetOffset((y - trend.m_value) -
                     slope * (x + m_window.Range().first - AxisBase(m_window) - trend.m_startIndex));
@@ -242,8 +243,8 @@ bool CTrendInteraction::MoveThirdPoint(int index, int xi, double x, double y)
     const double middle = (trend.m_startIndex + trend.m_endIndex) * 0.5;
     if (index >= middle)
         return false;
-    // Half the difference of the two prices, not their mean: the third price differs from the pointer's by
-    // the fraction of x only.
+    // Half the difference of the two prices, not their mean, so the third price differs from the pointer's
+    // only by the fraction of x.
     const double half = (trend.m_value - trend.GetEndValue()) * 0.5;
     trend.SetThirdPoint(index, half + ((y - half) / ((x - xi) + index - middle)) * (index - middle));
     return true;

@@ -1,6 +1,6 @@
-// The mouse state machine with which the user draws and deletes trendlines on the price pane. A mode stays
-// armed after a line is finished, so that line after line can be drawn until a right click ends it. Driven by
-// events; chart window's thread.
+// The state machine for drawing and deleting trendlines on the price pane with the mouse. A mode stays active
+// after a line is finished, so that further lines can be drawn, until a right click ends it. Driven by
+// events. Chart window's thread.
 #pragma once
 
 #include "drawing/PaneControls.h"
@@ -15,16 +15,16 @@ class CTrendInteraction
 {
 public:
     static constexpr int FlashMilliseconds = 500;
-    static constexpr int HitLimit = 11; // a distance below this many pixels is a hit
+    static constexpr int HitLimit = 11; // a distance below this is a hit, in pixels
 
-    // Nothing is owned. The prices tell how many points there are.
+    // Nothing is owned. `prices` gives the number of points.
     CTrendInteraction(IPaneWindow& window, const IPriceSource& prices, CTrendLists& lists, IStatusBar& status,
                       IMessageBox& box, IWindowTimer& timer);
 
     int State() const { return m_trendState; }
     CBaseTrend* Current() const { return m_currentTrend; }
 
-    // True when the command was one of drawing or deleting trendlines.
+    // Returns true if the command belongs to drawing or deleting trendlines.
     bool OnCommand(int command);
     // Events of a pane control in pane pixels; `button` is a MouseButton. False in state 0, where the window
     // has its own rules, and for a left click outside the price pane.
@@ -32,9 +32,9 @@ public:
     bool OnMouseMove(int x, int y);
     void OnFlashTimer();
 
-    // A new chart: back to state 0 without a prompt. The lines themselves go with OnRequest.
+    // Call at a new chart: returns to state 0 without a prompt. OnRequest removes the lines.
     void OnNewChart() { m_trendState = TrendIdle; }
-    // The start of a history request: all lines go, an armed mode stays.
+    // Call at the start of a history request: removes all lines; an active mode stays.
     void OnRequest();
 
 private:
@@ -58,8 +58,8 @@ private:
     IMessageBox& m_box;
     IWindowTimer& m_timer;
     int m_trendState = TrendIdle;
-    CBaseTrend* m_currentTrend =
-        nullptr; // the line being drawn, or the one found for deletion; owned by its list
+    // The line being drawn, or the line to be deleted; owned by its list.
+    CBaseTrend* m_currentTrend = nullptr;
 };
 
 } // namespace zantroq

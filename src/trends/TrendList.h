@@ -15,17 +15,18 @@ public:
     CTrendList(IPaneWindow& window, CSeriesPool& pool) : m_owner(window), m_pool(pool) {}
 
     CBaseTrend* Add(std::unique_ptr<CBaseTrend> trend);
-    // The first member with the strictly smallest distance, or null with distance -1.
+    // Returns the line with the smallest distance and sets `distance`; of equal distances the first line.
+    // Null and -1 if the list is empty.
     CBaseTrend* FindNearest(int x, int y, int* distance) const;
     void DrawAll();
-    void RemoveAll(); // erases and deletes from last to first, and empties the series pool
+    void RemoveAll(); // erases and deletes all lines, the last first, and resets the series pool
     void SetAllColors(ColorValue color);
     void SetAllWidths(int width);
     void SetAllExtendable(int flag);
-    // If the trendline is a member: erases it and gives its first series back.
+    // If the line is a member, erases it and releases its first series.
     bool ReleaseFirstSeries(CBaseTrend* trend);
     int AllocateSeries() { return m_pool.Allocate(); }
-    // Takes a member out and deletes it, without touching the pane.
+    // Removes and deletes a member without erasing it from the pane.
     void Remove(CBaseTrend* trend);
 
     bool Holds(const CBaseTrend* trend) const { return IndexOf(trend) >= 0; }

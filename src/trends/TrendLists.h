@@ -1,5 +1,5 @@
-// The seven trendline lists of a chart window with their pool of series and labels. Lines are never stored:
-// they go with the data that they were drawn on. One per window, on its thread.
+// The seven trendline lists of a chart window with their pool of series and labels. Lines are never stored;
+// they are removed together with the data on which they were drawn. One per window, on the window's thread.
 #pragma once
 
 #include "drawing/PricePaneNumbers.h"
@@ -15,10 +15,11 @@ class CTrendLists : public ITrendLayer
 public:
     explicit CTrendLists(IPaneWindow& window);
 
-    // The nearest of all lists; on a tie the earlier kind wins. Null with distance -1 when there is no line.
+    // The nearest line of all lists; of equal distances, that of the earlier kind. Null and distance -1 if
+    // there are no lines.
     CBaseTrend* FindNearest(int x, int y, int* distance);
     void DrawAll() override;
-    // Erases a line, gives its series back in order and deletes it; what is in no list is ignored.
+    // Erases a line, releases its series in order and deletes it. Ignores a line that is in no list.
     void Delete(CBaseTrend* trend);
     void RemoveAll();
     int Count() const;
@@ -27,14 +28,14 @@ public:
     CTrendList& List(TrendKind kind) { return *m_lists[static_cast<std::size_t>(kind)]; }
     const CTrendList& List(TrendKind kind) const { return *m_lists[static_cast<std::size_t>(kind)]; }
     int AllocateSeries() { return m_pool.Allocate(); }
-    // Makes the nine labels of a retracement; answers the number of the first.
+    // Creates the nine labels of a retracement. Returns the number of the first.
     int AllocateLabels();
     const CSeriesPool& Pool() const { return m_pool; }
 
     int SeriesCount() const override { return m_pool.Next() - 1; }
     int LabelCount() const override { return m_nextLabel; }
 
-    CBaseTrend* m_lastHit = nullptr;      // result of the last FindNearest
+    CBaseTrend* m_lastHit = nullptr; // result of the last FindNearest
 
 private:
     IPaneWindow& m_owner;

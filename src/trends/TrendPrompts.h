@@ -1,4 +1,5 @@
-// The commands, states and prompts of drawing trendlines with the mouse, as tables. Plain data.
+// The commands, states and prompts of drawing trendlines with the mouse, as tables. Constant data, any
+// thread.
 #pragma once
 
 #include "settings/ChartSettings.h"
@@ -43,7 +44,7 @@ enum TrendCommand : int
     DrawRetracements = 32790
 };
 
-// What a state waits for.
+// The input that a state waits for.
 enum class TrendStep
 {
     None,
@@ -53,16 +54,16 @@ enum class TrendStep
     Delete
 };
 
-// One row a state: what a left click does in it, where it leads and the prompt that it writes.
+// One row per state: the effect of a left click, the next state and the prompt.
 struct sTrendStateRow
 {
     TrendStep Step;
     TrendKind Kind;     // the kind being drawn
-    TrendState Next;    // after an accepted left click
-    const char* Prompt; // written by that click
+    TrendState Next;    // state after an accepted left click
+    const char* Prompt; // shown after that click
 };
 
-// Row of a state, 0 to 17.
+// The row of a state, 0 to 17.
 const sTrendStateRow& TrendRow(int state);
 
 inline constexpr const char* PromptDelete = "Click on a trendline to delete (Right click to cancel)";
@@ -71,11 +72,11 @@ struct sTrendCommandRow
 {
     int Command;
     const char* MenuText;
-    TrendState State; // the mode that the command arms; TrendIdle: it arms none
+    TrendState State; // mode that the command starts; TrendIdle: none
     const char* Prompt;
 };
 
-// All trendline commands: those that draw, in the order of their menu, then those that delete.
+// All trendline commands: drawing commands in the order of their menu, then deleting commands.
 inline constexpr std::array<sTrendCommandRow, 9> TrendCommands{{
     {DrawHorizontal, "Horizontal", HorizontalStart,
      "Click on the beginning point of the new horizontal trendline (Right click to cancel)"},
@@ -97,7 +98,7 @@ inline constexpr std::array<sTrendCommandRow, 9> TrendCommands{{
 
 inline constexpr int FlashTimer = 108; // flashes the trendline that a box asks about
 
-// Row of a trendline command; null for any other command.
+// The row of a trendline command; null for other commands.
 const sTrendCommandRow* FindTrendCommand(int command);
 
 } // namespace zantroq

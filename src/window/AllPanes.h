@@ -1,5 +1,5 @@
-// What all panes of a window show alike: marker, grid, colors and the side of the value axis. Each change is
-// one repaint. Chart window's thread.
+// Changes that apply to all panes of a window: marker, grid, colors and the side of the value axis. Each
+// change causes one repaint. Chart window's thread.
 #pragma once
 
 #include "drawing/ChartWindow.h"
@@ -11,9 +11,9 @@ class CAllPanes
 public:
     explicit CAllPanes(IChartWindow& window) : m_window(window) {} // not owned
 
-    void ShowMarkers(); // by "Show Price Bar"
+    void ShowMarkers(); // according to "Show Price Bar"
     void SetGrids();
-    void MoveValueAxes(); // to the side of the settings, with their labels
+    void MoveValueAxes(); // to the side in the settings, with their labels
     void SetColors();     // background, axis texts, price bar, and the labels of the price pane
 
 private:

@@ -81,7 +81,7 @@ void CChartsResizer::OnMouseMove(int pane, int y)
 bool CChartsResizer::OnButtonDown(int pane, int y)
 {
     y = m_layout.FromTop(pane, y);
-    // A press without a move to it (a script, a touch) counts where it is.
+    // A press without a preceding move (script, touch) counts at its own position.
     m_dragBorder = m_layout.BorderAt(y);
     m_nearBorder = m_dragBorder != 0;
     if (!m_nearBorder)
@@ -98,11 +98,11 @@ void CChartsResizer::OnButtonUp(int pane, int y)
         return;
     m_dragging = false;
     m_pointer.HideDragLine();
-    // The layout may have changed under a drag, so that its border is gone.
+    // The layout may have changed during a drag, so its border may be gone.
     if (m_dragBorder >= PaneCount(m_stack))
         return;
     const int lowest = LowestBorder(), highest = HighestBorder();
-    if (lowest > highest) // no room for two panes: the border stays
+    if (lowest > highest) // no room for two panes: the border does not move
         return;
     const sPaneStack before = m_stack;
     PaneBottoms bottoms = m_layout.Bottoms();
@@ -150,7 +150,7 @@ void CChartsResizer::SetStudies(std::span<const int> studies)
 
 void CChartsResizer::StoreStates(const sPaneStack& before)
 {
-    // What did not change may never have been read, so what is stored of it stays.
+    // A value that did not change may never have been read, so its stored value is kept.
     const auto store = [&](const std::string& name, int value, int old) {
         if (value != old)
             m_store.WriteInt(name, value);

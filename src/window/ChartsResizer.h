@@ -1,5 +1,5 @@
 // Lets the user drag the borders between the panes, and minimises, maximises and restores panes. Every change
-// is stored at once and laid out. Chart window's thread.
+// is stored and laid out at once. Chart window's thread.
 #pragma once
 
 #include "platform/WindowServices.h"
@@ -20,25 +20,25 @@ public:
     CChartsResizer(sPaneStack& stack, CSettingsStore& store, CPaneLayout& layout, IPointerFeedback& pointer,
                    const IScrollBar& bar, IPaneDrawing& drawing, CBatchCounters& batch);
 
-    void SetUp();  // takes the loaded stack; a maximised pane that is not displayed is none
-    void Layout(); // sizes the panes, and draws at the scroll bar's position if there is a point
+    void SetUp();  // applies the loaded stack; ignores a maximised pane that is not displayed
+    void Layout(); // sizes the panes, then draws at the scroll position if there is a point
 
-    // Events of a pane; y in its own pixels. The pointer near a border takes the split shape.
+    // Events of a pane; y is in pixels of the pane. Near a border the pointer gets the split shape.
     void OnMouseMove(int pane, int y);
-    bool OnButtonDown(int pane, int y); // true when a drag began
+    bool OnButtonDown(int pane, int y); // true if a drag has started
     void OnButtonUp(int pane, int y);
     bool Dragging() const { return m_dragging; }
 
     void Maximize(int pane);
     void Minimize(int pane);
     void Restore(int pane);
-    void SetStudies(std::span<const int> studies); // a new list of displayed studies
+    void SetStudies(std::span<const int> studies); // sets a new list of displayed studies
 
 private:
-    int LowestBorder() const; // where the dragged border may stand
+    int LowestBorder() const; // limits of the dragged border
     int HighestBorder() const;
-    void StoreStates(const sPaneStack& before); // flags and the maximised pane
-    void Changed(const sPaneStack& before);     // after a command or a drag
+    void StoreStates(const sPaneStack& before); // stores the flags and the maximised pane
+    void Changed(const sPaneStack& before);     // call after a command or a drag
 
     sPaneStack& m_stack;
     CSettingsStore& m_store;

@@ -13,16 +13,16 @@ namespace zantroq {
 class CDialogCommands
 {
 public:
-    // `accepted` is called with each settings sheet that was closed with OK. Nothing is owned; `dialogs` may
-    // be null: then every command says that its feature is not available.
+    // `accepted` is called for each accepted settings sheet. Nothing is owned. `dialogs` may be null; then
+    // every command reports that its feature is not available.
     CDialogCommands(IWindowDialogs* dialogs, const sWindowServices& services, CStatusText& status,
                     CRetryingKey& key, sChartSettings& settings, IWindowDialogs::SettingsAccepted accepted);
 
-    void RunSearch(); // a symbol that was found goes into the symbol box
+    void RunSearch(); // puts the found symbol into the symbol box
     void RunSettings();
     void RunPrint();
     const IWindowDialogs* Dialogs() const { return m_dialogs; }
-    IDialogDriver* OpenDialog() const; // null: none is open
+    IDialogDriver* OpenDialog() const; // null if none is open
 
 private:
     void Unavailable(const char* feature);

@@ -84,7 +84,7 @@ void CDisplayRange::OnHScroll(ScrollCode code, int position)
 void CDisplayRange::ZoomIn()
 {
     const int count = m_drawing.Count();
-    // The search below needs an entry under the count; the button is not offered without one.
+    // The search below needs an entry below the count; otherwise the button is disabled.
     if (m_range.ptsIndex <= 0 || count <= DisplayMaxPoints.front())
         return;
     do {
@@ -134,8 +134,8 @@ void CDisplayRange::ShowFirst(int count)
 
 void CDisplayRange::FollowLiveEdge(int count)
 {
-    // A chart that began empty does not follow by itself; a count that a deletion lowered makes new points
-    // wait.
+    // A chart that was empty at first does not follow by itself. If a deletion lowered the count, new points
+    // wait until it is reached again.
     if (m_range.knownCount > count || m_range.knownCount == 0 || !AtLimit())
         return;
     MoveBarTo(count);

@@ -1,7 +1,7 @@
-// The displayed part of the series: the scroll bar moves it, the zoom narrows and widens it, and it follows
-// new data while it stands at the live edge. Chart window's thread.
+// The displayed range of the series: the scroll bar moves it, the zoom changes its size, and it follows new
+// data while it is at the live edge. Chart window's thread.
 //
-// A scroll position s means that the rightmost point shown is index shown - 1 + s.
+// At scroll position s the rightmost displayed point has index shown - 1 + s.
 #pragma once
 
 #include "drawing/ChartWindow.h"
@@ -22,27 +22,27 @@ public:
     bool FirstFill() const { return m_firstFill; }
     void ExpectFirstFill() { m_firstFill = true; }
 
-    void SetUp();      // at the window's start: shown and bar from "PTS INDEX", bar hidden
-    void ResetShown(); // at a new chart: shown and the bar's page from "PTS INDEX"
+    void SetUp();      // at the window's start: range and bar from "PTS INDEX", bar hidden
+    void ResetShown(); // at a new chart: range and page of the bar from "PTS INDEX"
     void OnHScroll(ScrollCode code, int position);
     void ZoomIn();
     void ZoomOut();
     void RecomputeScrollStep();
-    // Kept with the settings; the bar's own steps are 1 and the page.
+    // Follows the settings; the scroll bar itself uses steps of 1 and of a page.
     int ScrollStep() const { return m_scrollStep; }
 
-    // The timer's readings of a series of `count` points.
+    // The timer has read `count` points from the series.
     void NoteLoading(int count) { m_range.knownCount = count; }
-    void ShowFirst(int count); // sets the bar and has everything drawn
+    void ShowFirst(int count); // sets the bar and draws everything
     void FollowLiveEdge(int count);
     void ReportPoints(int count); // "%d datapoints available.  Displaying %d."
-    bool AtLimit() const;         // the bar stands at its right end, as a short series always does
+    bool AtLimit() const;         // the bar is at its right end, as it always is for a short series
 
-    void ChangePoints(); // takes a new "PTS INDEX" and draws where the bar stands then
-    void Redraw();       // draws where the bar stands
+    void ChangePoints(); // applies a new "PTS INDEX" and draws at the new scroll position
+    void Redraw();       // draws at the scroll position
 
 private:
-    void ApplyPoints(); // after a change of ptsIndex
+    void ApplyPoints(); // call after a change of ptsIndex
     void MoveBarTo(int count);
 
     sChartSettings& m_settings;

@@ -11,9 +11,8 @@ void CManagerDrawing::SetSource(CChartHistRequest* request, int dataType)
 void CManagerDrawing::ClearPanes()
 {
     ++m_chartNumber;
-    // Without a series the whole redraw sets the panes up and draws nothing. Points that an older reply may
-    // still append meanwhile are not shown, and the mark of an edited series stays until the new one has
-    // arrived.
+    // Without a series the full redraw sets up the panes and draws nothing. Points that an older reply still
+    // appends are not shown, and the flag of an edited series is kept until the new series has arrived.
     CChartHistRequest* const series = m_prices.Series();
     const bool edited = m_manager.seriesEdited;
     m_prices.SetSeries(nullptr);
@@ -54,7 +53,7 @@ void CManagerDrawing::AdjustStudyBars()
             study->AdjustStudyBars();
 }
 
-// By the series' format code, also where the readout would write a price plainly.
+// Uses the series' format code, also where the readout would use the plain format.
 std::string CManagerDrawing::PriceText(double price) const
 {
     const sPriceWords words = m_prices.PriceWords();

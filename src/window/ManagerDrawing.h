@@ -1,5 +1,5 @@
-// The draw manager as the window's collaborators see it. Carries out what a draw reports: the scroll bar and
-// the zoom buttons follow inside the same batch. Chart window's thread.
+// Implements the drawing interface of the window's collaborators with the draw manager. After a draw it
+// updates the scroll bar and the zoom buttons in the same batch. Chart window's thread.
 #pragma once
 
 #include "drawing/HistChartDrawManager.h"

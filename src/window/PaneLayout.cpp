@@ -8,7 +8,8 @@ namespace zantroq {
 namespace {
 
 constexpr int StatusBarHeight = 20;
-constexpr int ScrollBarFromBottom = 35; // its top above the client area's bottom; it is 15 pixels high
+constexpr int ScrollBarFromBottom =
+    35; // top of the bar above the bottom of the client area; the bar is 15 pixels high
 constexpr int BarsBelow = 37, StatusBelow = 20;
 constexpr int ToolBarGap = 2;
 

@@ -1,8 +1,8 @@
-// Where the panes and bars stand in the client area: turns the stored heights into pixels, places panes and
+// The positions of panes and bars in the client area: converts the stored heights to pixels, places panes and
 // bars, and sizes the scenes. Draws nothing. Chart window's thread.
 //
-// Pane positions are pixels below the top of pane 0; pane 0 begins TopOffset() pixels below the client area's
-// top.
+// Pane positions are in pixels from the top of pane 0, which is TopOffset() pixels below the top of the
+// client area.
 #pragma once
 
 #include "platform/WindowServices.h"
@@ -24,9 +24,9 @@ public:
     // Nothing is owned; all must outlive the layout.
     CPaneLayout(const sPaneStack& stack, std::span<CChart2D> panes, IPaneHost& host, const IScrollBar& bar);
 
-    // Places panes and bars for the client size and the scroll bar's visibility of this moment.
+    // Places panes and bars for the current client size and visibility of the scroll bar.
     void SizePanes();
-    // Takes bottoms that a border drag moved, until panes are sized again.
+    // Sets bottoms that a border drag has moved; valid until the panes are sized again.
     void SetBottoms(const PaneBottoms& bottoms) { m_bottoms = bottoms; }
 
     const sPaneStack& Stack() const { return m_stack; }
@@ -35,11 +35,11 @@ public:
     sPaneRect PaneRect(int pane) const; // empty for a pane that is not displayed
     int TopOffset() const { return m_topOffset; }
     int PanesWidth() const { return m_panesWidth; }
-    int Height() const { return m_height; } // of all panes together
+    int Height() const { return m_height; } // height of all panes together
 
-    // A position of an event of a pane; the pane under it may be another one.
+    // The position of an event of a pane. The event may be over another pane.
     int FromTop(int pane, int y) const { return m_bottoms.at(static_cast<std::size_t>(pane)) + y; }
-    int PaneAt(int pane, int y) const; // the pane itself where there is none
+    int PaneAt(int pane, int y) const; // the pane itself if there is none
     int BorderAt(int fromTop) const;   // 0: none
 
 private:

@@ -34,7 +34,7 @@ int FirstNormalPane(const sPaneStack& stack)
     return NoMaximizedPane;
 }
 
-// The two given panes become normal, all others minimised.
+// Makes the two given panes normal and minimises all others.
 void KeepOnlyTwo(sPaneStack& stack, int one, int other)
 {
     for (int pane = 0; pane < PaneCount(stack); ++pane)
@@ -42,7 +42,7 @@ void KeepOnlyTwo(sPaneStack& stack, int one, int other)
     stack.MaximizedIndex = NoMaximizedPane;
 }
 
-// Truncation to a pixel that stays in the room whatever the stored fractions are.
+// Truncates to a pixel within the height, whatever the stored fractions.
 int ToPixel(double value, int height)
 {
     if (!(value > 0))
@@ -215,7 +215,7 @@ void ReplaceStudies(sPaneStack& stack, std::span<const int> studies)
 {
     const sPaneStack old = stack;
     const int count = std::min(static_cast<int>(studies.size()), MaxPanes - 1);
-    const auto oldPane = [&old](int kind) { // the pane that shows a study, 0 for none
+    const auto oldPane = [&old](int kind) { // the pane of a study; 0 if it has none
         for (int pane = 1; pane < PaneCount(old); ++pane)
             if (old.StudyTypes[At(pane - 1)] == kind)
                 return pane;
@@ -248,7 +248,7 @@ void ReplaceStudies(sPaneStack& stack, std::span<const int> studies)
         if (from != 0 && old.MaximizedIndex == from)
             stack.MaximizedIndex = pane;
     }
-    // The sum of the parts may miss the end by a rounding.
+    // The sum of the parts may differ from 1 by rounding.
     stack.Bounds[At(count + 1)] = 1.0;
 }
 

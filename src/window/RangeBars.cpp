@@ -7,7 +7,7 @@ namespace zantroq {
 
 namespace {
 
-// The zoom-out button compares with this number and not with the last place of the list, so it stays usable
+// The zoom-out button compares with this number instead of the last index of the list, so it stays enabled
 // there.
 constexpr int ZoomOutPlace = 59;
 

@@ -1,4 +1,4 @@
-// The scroll bar's visibility and the zoom buttons, which follow what a draw reports. Chart window's thread.
+// Sets the scroll bar's visibility and the zoom buttons from the result of a draw. Chart window's thread.
 #pragma once
 
 #include "drawing/DrawnExtent.h"
@@ -7,7 +7,7 @@
 
 namespace zantroq {
 
-// Enables the zoom buttons for a place in DisplayMaxPoints and a series of `count` points.
+// Enables the zoom buttons for an index in DisplayMaxPoints and a series of `count` points.
 void EnableZoomButtons(ICommandBar& commands, int ptsIndex, int count);
 
 class CRangeBars
@@ -19,8 +19,8 @@ public:
     {
     }
 
-    // Shows the scroll bar for a series that fills the window and hides it for a shorter one; panes then take
-    // their new sizes, without a draw.
+    // Shows the scroll bar for a series that fills the window and hides it for a shorter one; resizes the
+    // panes without drawing.
     void Follow(const sDrawnExtent& drawn, int ptsIndex);
 
 private:

@@ -4,8 +4,8 @@ namespace zantroq {
 
 void CStoredChanges::OnTick()
 {
-    // Two seconds: less than the time for which a settings file that was found locked is not waited for, so
-    // that the window never stands still over a change that nobody is looking at.
+    // Two seconds: shorter than the time in which a locked settings file is not waited for, so the window
+    // never blocks for a change in the background.
     constexpr int TicksBetweenTries = 8;
     if (!m_key.IsWaiting() || --m_ticksToRetry > 0)
         return;

@@ -1,5 +1,5 @@
-// Settings that the user changed and that the settings file would not take: they are tried again while the
-// chart runs, and the status bar says so meanwhile. Chart window's thread.
+// Changes of settings by the user that could not be stored: they are tried again while the chart runs, and
+// the status bar reports them meanwhile. Chart window's thread.
 #pragma once
 
 #include "settings/RetryingKey.h"
@@ -12,8 +12,9 @@ class CStoredChanges
 public:
     CStoredChanges(CRetryingKey& key, CStatusText& status) : m_key(key), m_status(status) {} // not owned
 
-    void OnTick(); // every tick of the progress timer
-    // After an OK on the settings sheet: the chart uses the new values even where the store refuses them.
+    void OnTick(); // call at every tick of the progress timer
+    // Call after an OK on the settings sheet: reports whether the new values, which the chart uses in any
+    // case, were stored.
     void SayWhetherKept();
 
 private:

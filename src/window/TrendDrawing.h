@@ -1,5 +1,5 @@
-// The trendlines of one chart window: its lists and the mouse machine that draws and deletes them. Implements
-// the interface by which the window uses them. Chart window's thread.
+// The trendlines of a chart window: their lists and the mouse state machine. Implements the interface that
+// the window uses. Chart window's thread.
 #pragma once
 
 #include "drawing/PriceSource.h"
@@ -15,8 +15,8 @@ namespace zantroq {
 class CTrendDrawing : public IWindowTrends
 {
 public:
-    // `prompt` writes a text into the status line's first part, also while a mode is armed. Nothing is owned;
-    // all must outlive this.
+    // `prompt` writes a text to part 0 of the status bar, also while a mode is active. Nothing is owned; all
+    // arguments must outlive this object.
     CTrendDrawing(IPaneWindow& window, const IPriceSource& prices, IMessageBox& box, IWindowTimer& timer,
                   std::function<void(const std::string&)> prompt);
 

@@ -1,5 +1,5 @@
 // The numbers of the window's commands, timers and scroll codes, which toolbars, menus and replay scripts
-// use. Plain data.
+// use. Constant data, any thread.
 #pragma once
 
 #include "drawing/PaneControls.h"
@@ -10,7 +10,7 @@
 
 namespace zantroq {
 
-// The numbers of the commands that are not about trendlines; those are in TrendPrompts.h.
+// Commands except those of trendlines, which are in TrendPrompts.h.
 enum WindowCommand : int
 {
     CommandSymbolSearch = 774,
@@ -31,7 +31,7 @@ enum WindowCommand : int
 enum class ButtonKind
 {
     Push,
-    Check // stays down while what it switches is on
+    Check // stays down while its setting is on
 };
 
 enum class GapBefore
@@ -40,17 +40,17 @@ enum class GapBefore
     Separator
 };
 
-// A button of the toolbar, from left to right. The toolbar takes its width, the icons, tooltips and shortcuts
+// The buttons of the toolbar from left to right. The width of the toolbar, icons, tooltips and shortcuts come
 // from these rows.
 struct sToolbarCommand
 {
     int Command;
     GapBefore Gap;
     ButtonKind Kind;
-    const char* Name;     // accessible name and, without blanks at its end, the tooltip
+    const char* Name;     // accessible name and, without trailing blanks, tooltip
     const char* Icon;     // src/resources/icons/NAME.svg, listed in icons.qrc
-    const char* CtrlKeys; // each of these keys, pressed with Ctrl, runs the command
-    const char* MenuText; // of the item in the panes' context menu; empty: none
+    const char* CtrlKeys; // Ctrl with each of these keys runs the command
+    const char* MenuText; // text in the panes' context menu; empty: no item
 };
 
 inline constexpr std::array<sToolbarCommand, 8> ToolbarCommands{{
@@ -65,14 +65,14 @@ inline constexpr std::array<sToolbarCommand, 8> ToolbarCommands{{
     {CommandPriceBar, GapBefore::No, ButtonKind::Check, "Price Bar Show/Hide", "price-bar", "", ""},
 }};
 
-// The commands of the context menus that are not about trendlines.
+// The commands of the context menus, except those of trendlines.
 inline constexpr std::array<int, 5> MenuCommands{CommandRestoreTicks, CommandRestoreBars, CommandRestorePane,
                                                  CommandMinimizePane, CommandMaximizePane};
 
 inline constexpr std::size_t CommandCount =
     ToolbarCommands.size() + MenuCommands.size() + TrendCommands.size();
 
-// Every command once, in ascending order of the numbers.
+// All commands in ascending order.
 inline constexpr std::array<int, CommandCount> AllCommands = [] {
     std::array<int, CommandCount> all{};
     auto next = std::copy(MenuCommands.begin(), MenuCommands.end(), all.begin());
