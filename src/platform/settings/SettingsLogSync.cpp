@@ -34,7 +34,7 @@ void CSettingsLogSync::OnWritten()
     try {
         m_thread = std::thread([this] { Run(); });
         m_running = true;
-    } catch (const std::system_error&) { // no thread can be had: better late than lost
+    } catch (const std::system_error&) { // without a thread the writer waits for the disk
         m_pending = false;
         Sync();
     }
@@ -53,8 +53,8 @@ void CSettingsLogSync::Run()
     m_running = false;
 }
 
-// Opens the log alone: closing any descriptor of the data base file would drop the locks that SQLite holds on
-// it in this process. What has left the log for the data base was synced there by the one who moved it.
+// Opens the log, not the database file: closing any descriptor of the database file would drop the locks that
+// SQLite holds on it in this process. A process that moves pages from the log to the database file syncs both.
 void CSettingsLogSync::Sync() const
 {
     const std::string followed = FollowedPath(m_file);

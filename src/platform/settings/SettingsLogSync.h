@@ -35,7 +35,7 @@ private:
     std::mutex m_mutex;
     std::condition_variable m_wake;
     std::thread m_thread;
-    // All under m_mutex. The thread runs while a write is pending, and ends then: an idle window has none.
+    // All under m_mutex. The thread runs while a write is pending and then ends: an idle window has no thread.
     bool m_pending = false, m_running = false, m_ending = false;
 };
 
