@@ -1,16 +1,15 @@
 // The studies over 245,760 daily bars of a running request, one thread, with yardsticks in the same run.
 //
 //   ReadCloses            yardstick: one bulk read of all closes under the series' lock
-//   Compute/<study>       the arithmetic of one study over the whole series, reading included; 10000 is a
-//   period far
-//                         beyond the usual ones, whose cost grows with it
-//   Plain/<study>         yardstick: the plain definition, point by point over bare vectors without any lock
-//   ComputeSlow25Short, PlainSlow25Short   slow stochastics of period 25 over 3,840 bars, the plain one being
-//                         too slow for more; Compute/Slow25 is that of the whole series
-//   DrawAll               whole draw of the price pane and all ten studies, series to scene
+//   Compute/<study>       the arithmetic of one study over the whole series, reading included; 10000 is a period
+//                         far beyond the usual ones, with which the time of some studies grows
+//   Plain/<study>         yardstick: the plain definition, point by point over plain vectors without a lock
+//   ComputeSlow25Short, PlainSlow25Short   slow stochastics of period 25 over 3,840 bars, because the plain
+//                         definition is too slow for more; Compute/Slow25 covers the whole series
+//   DrawAll               whole draw of the price pane and all ten studies, from series to scene
 //   PaintAll              painting the eleven panes of DrawAll, 1500x1400 together, after a whole draw
-//   Tick                  one new tick with ten study panes, all points shown: series to scene
-//   TickPainted           the same, series to pixels
+//   Tick                  one new tick with ten study panes, all points displayed: from series to scene
+//   TickPainted           the same, from series to pixels
 #include "studies/AverageConvergence.h"
 #include "studies/DirectionalIndex.h"
 #include "studies/MomentumArithmetic.h"
@@ -210,7 +209,7 @@ void DrawAll(benchmark::State& state)
         panes.manager.Draw(0);
 }
 
-// The eleven panes of a window on pictures of their own.
+// The eleven panes of a window, each with its own picture.
 class CPaintedPanes
 {
 public:
@@ -304,7 +303,7 @@ void Register()
 int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication application(argc, argv); // for the fonts of the painted panes
+    const QGuiApplication application(argc, argv); // needed for the fonts of the painted panes
     zantroq::Register();
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))

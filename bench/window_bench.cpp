@@ -1,10 +1,11 @@
-// A shown window of 1400x900 with eleven panes of 1,920 daily bars (prices and all ten studies), on widgets
-// without a display, everything from the event to the flushed picture included.
-//   Resize       the client size changes by ten pixels each way: layout, whole draw of prices and studies,
-//   painting DragStep     the mouse moves by one pixel while a border is dragged DragDrop     the border is
-//   taken, moved by ten pixels and let go: layout, whole draw, painting MarkerStep   the mouse moves from bar
-//   to bar: markers, titles and study headers Yardstick    one picture of the window's size is cleared and
-//   copied
+// A visible window of 1400x900 with eleven panes of 1,920 daily bars (prices and all ten studies), on widgets
+// without a display. Each time includes everything from the event to the flushed picture.
+//
+//   Resize       the client size changes by ten pixels each way: layout, whole draw of prices and studies, painting
+//   DragStep     the mouse moves by one pixel while a border is dragged
+//   DragDrop     a border is pressed, moved by ten pixels and released: layout, whole draw, painting
+//   MarkerStep   the mouse moves from bar to bar: markers, titles and study headers
+//   Yardstick    one picture of the window's size is cleared and copied
 #include "control/ChartBody.h"
 #include "feed/server/FeedServer.h"
 #include "market/ZantroPorts.h"
@@ -76,7 +77,7 @@ public:
 
     CChartDlg& Window() const { return CChartBody::Of(*Chart).Window(); }
     int Border() const { return Window().Layout().PaneRect(0).Height; }
-    // Everything that was asked for is painted.
+    // Waits until everything requested is painted.
     static void Settle()
     {
         for (int turn = 0; turn < 3; ++turn) {

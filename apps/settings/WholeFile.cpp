@@ -54,7 +54,7 @@ std::string WriteInPlace(const std::string& path, const std::string& text)
     return file.Number() >= 0 && WriteBytes(file.Number(), text) ? "" : Reason();
 }
 
-// The mode that an ordinary new file gets.
+// The mode of a new file.
 mode_t NewFileMode()
 {
     const mode_t mask = ::umask(0);

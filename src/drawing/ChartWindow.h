@@ -89,7 +89,6 @@ class ITrendLayer
 public:
     virtual ~ITrendLayer() = default;
     // The last series number in use in group 2 of the price pane, at least PriceOverlays.
-    // The last series number in use in group 2 of the price pane, at least 3.
     virtual int SeriesCount() const = 0;
     virtual int LabelCount() const = 0; // number of labels in use on the price pane, at least PriceLabels
     virtual void DrawAll() = 0;         // draws all lines, list by list

@@ -5,7 +5,7 @@
 namespace zantroq {
 namespace {
 
-// A study that notes what was asked of it.
+// A study that records its calls.
 class CNotedStudy : public CStudyChart
 {
 public:
@@ -115,7 +115,7 @@ TEST_F(DrawManager, DrawTellsEachStudyWhetherItIsCollapsed)
     chart.manager.Draw(3);
     EXPECT_EQ(Log(), (Lines{"0@1 draw", "6@2 draw collapsed"}));
     EXPECT_FALSE(chart.window.resetScale);
-    EXPECT_FALSE(chart.Labels().Item(1).Shown()); // the readout goes
+    EXPECT_FALSE(chart.Labels().Item(1).Shown()); // the readout disappears
 }
 
 TEST_F(DrawManager, MarkersOfAllPanesFollowTheSelectedPoint)
@@ -155,7 +155,7 @@ TEST_F(DrawManager, ChangedLastBarReachesThatPointOfThePricePaneAlone)
     EXPECT_EQ(chart.Bars().PointY(3, 30), 139);
     EXPECT_EQ(chart.Bars().PointY(4, 30), 149);
     EXPECT_EQ(chart.Bars().PointY(1, 29), before);
-    EXPECT_EQ(chart.Axes().Y().ViewHigh().Value(), axis); // the axis waits for the next whole draw
+    EXPECT_EQ(chart.Axes().Y().ViewHigh().Value(), axis); // the axis changes only at the next whole draw
 }
 
 TEST_F(DrawManager, ChangedLastBarRenewsTheReadoutThatIsShown)
@@ -226,7 +226,7 @@ TEST_F(DrawManager, DeletedPointStaysOnShowUntilTheNextDraw)
     EXPECT_TRUE(chart.manager.seriesEdited);
     EXPECT_EQ(chart.prices.Count(), 39);
     EXPECT_EQ(chart.Bars().PointY(4, 30), 139.5);
-    chart.manager.Update(0); // the last bar on show is gone from the series: nothing to amend
+    chart.manager.Update(0); // the last displayed bar is no longer in the series: nothing to update
     EXPECT_EQ(chart.Bars().PointY(4, 30), 139.5);
     chart.manager.Draw(11);
     EXPECT_EQ(chart.Bars().PointY(4, 30), 138.5);

@@ -1,4 +1,4 @@
-// Documents that name files of the tree name files that exist, and lists that claim to be complete are.
+// File names in documents must exist, and complete lists must be complete.
 #include "LayerTable.h"
 
 #include <algorithm>

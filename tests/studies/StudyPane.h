@@ -1,4 +1,4 @@
-// One study pane in a window that is only its settings, its display range and two scenes.
+// One study pane in a window that consists of settings, a display range and two scenes.
 #pragma once
 
 #include "BarSeries.h"
@@ -34,7 +34,7 @@ public:
     void EndPriceBatch() override {}
 };
 
-// Puts the states of the process back to how they start, as a test of its own finds them.
+// Resets the states of the process to their initial values.
 inline void ForgetRunningStates()
 {
     CHistRSIChart::StudyRunningState() = {};
@@ -56,7 +56,7 @@ public:
         m_study->pane = 1;
     }
 
-    // A draw of the stretch [first, first + shown), the price pane's own first.
+    // Draws the range [first, first + shown), the price pane first.
     void Draw(int first, int shown)
     {
         Window.Shown.first = first;
@@ -71,7 +71,7 @@ public:
         const int n = std::min(shown, Series.Count());
         Draw(Series.Count() - n, n);
     }
-    // What the window does for `newPoints` ticks that are in the series already.
+    // Updates the pane for `newPoints` ticks that are already in the series.
     void Update(int newPoints)
     {
         const int shown =
@@ -112,7 +112,7 @@ public:
     CPlainWindow Window;
 
 private:
-    // As the draw manager sets a pane up at the start of a chart.
+    // Sets up the pane like the draw manager at the start of a chart.
     void SetUpScene()
     {
         Window.Price.PaneGroups(1).PaneData().SetSeriesCount(1);

@@ -1,4 +1,4 @@
-// A series with a fake window and a draw manager over it, for tests of what reaches the panes.
+// A series, a fake window and a draw manager, for tests of what reaches the panes.
 #pragma once
 
 #include "drawing/HistChartDrawManager.h"
@@ -9,7 +9,7 @@
 
 namespace zantroq {
 
-// Trendlines as the price pane sees them: two numbers and a count of the draws asked for.
+// A fake of the trendline interface: two numbers and a count of requested draws.
 class CFakeTrendLayer : public ITrendLayer
 {
 public:
@@ -34,7 +34,7 @@ public:
         prices.SetDataType(dataType);
     }
 
-    // One tick or bar; times are a minute apart from 2 January 2014 09:30 on, for day kinds a day apart.
+    // Adds a tick or a bar; times are a minute apart from 2 January 2014 09:30 on, for day kinds a day.
     void Add(double open, double high, double low, double close, std::int64_t volume = 100)
     {
         sHIST_POINT point;

@@ -1,5 +1,5 @@
-// A chart window of a few lines around one price pane, for what draws trendlines outside of a chart: 600 x
-// 400 pixels, so many points shown from a data index on, prices from low to high.
+// A small chart window around one price pane, for tests of trendlines: 600 x 400 pixels, a given number of
+// points from a data index on, and a price range.
 #pragma once
 
 #include "drawing/ChartWindow.h"
@@ -24,7 +24,7 @@ public:
     void BeginPriceBatch() override { ++priceBatches; }
     void EndPriceBatch() override { --priceBatches; }
 
-    // What the price pane's whole draw leaves behind.
+    // Sets up the state after a whole draw of the price pane.
     void Show(int first, int shown, double low, double high)
     {
         range.first = first;

@@ -11,7 +11,8 @@ namespace {
 
 using namespace test;
 
-// A window of 120 points (place 3 of the list) over a series of `points`, its bar as after a first draw.
+// A window of 120 points (index 3 of the list) and a series of `points`; the scroll bar as after a first
+// draw.
 struct sRangeFixture
 {
     explicit sRangeFixture(int points = 1000)

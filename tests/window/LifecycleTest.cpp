@@ -504,7 +504,7 @@ TEST(Lifecycle, ARequestMadeDuringALoadDrawsWhatBothRepliesBrought)
     EXPECT_EQ(chart->Desktop.Top.TitleText, "Y - Chart");
 }
 
-// A chart is on show in ticks, the box is empty, and the type chosen for the next chart is another.
+// A tick chart is displayed, the box is empty, and another type is chosen for the next chart.
 TEST(Lifecycle, ATypeChosenWithAnEmptySymbolLeavesTheChartOnShowUsable)
 {
     sChartFixture chart;

@@ -1,5 +1,5 @@
-// What the settings hold after each command, drag and resize of a pane stack, against the plain model; and
-// every single step from every state of a small stack.
+// The settings after each command, drag and resize of a pane stack, compared with the plain model; and every
+// step from every state of a small stack.
 #include "PlainPaneModel.h"
 #include "WindowFakes.h"
 
@@ -21,7 +21,7 @@ using namespace test;
 
 constexpr int BarsAround = 28 + 2 + 20; // tool bar, its gap, status bar
 
-// A resizer over a key, beside the plain model of the same stack.
+// A resizer with a key, and the plain model of the same stack.
 struct sStoredStack
 {
     explicit sStoredStack(const std::vector<int>& weights)
@@ -30,7 +30,7 @@ struct sStoredStack
         Key->Write("Number of displayed study charts", std::to_string(weights.size() - 1));
         double sum = 0;
         for (std::size_t k = 0; k < weights.size(); ++k) {
-            // A share that six decimals hold, as stored ones do.
+            // A share with six decimals, like stored ones.
             const double next =
                 k + 1 == weights.size() ? 1.0 : std::round((sum + weights[k] / total) * 1e6) / 1e6;
             Store.WriteDouble("Top of chart " + std::to_string(k + 1), next);
@@ -50,7 +50,7 @@ struct sStoredStack
     }
     int Bottom(int border) const { return Placed.Bottoms()[static_cast<std::size_t>(border)]; }
 
-    // Presses on the place of a border and lets go at y, in pixels from the top of the panes.
+    // Presses at the position of a border and releases at y, in pixels from the top of the panes.
     void Drag(int border, int y)
     {
         int grabbed = 1; // the first border within reach
@@ -74,7 +74,7 @@ struct sStoredStack
         return text == "(missing)" ? missing : std::atoi(text.c_str());
     }
 
-    // Empty, or what differs between the settings and the model.
+    // Returns an empty text, or what differs between the settings and the model.
     std::string Difference()
     {
         const int maximized = Plain.Maximized < 0 ? 999 : Plain.Maximized;
@@ -94,8 +94,8 @@ struct sStoredStack
         return "";
     }
 
-    // Whether a window that starts with these settings stands as this one does. A share below the last
-    // stored decimal is none.
+    // True if a window that starts with these settings has the same layout. A share below the last stored
+    // decimal counts as none.
     bool LoadsBack()
     {
         const sPaneStack loaded = LoadChartSettings(*Key).Panes;
@@ -122,7 +122,7 @@ struct sStoredStack
     CChartsResizer Resizer{Stack, Store, Placed, Pointer, Bar, Drawing, Batch};
 };
 
-// Rooms from far too small for the stack to ample, crowded ones as often as others.
+// Heights from far too small for the stack to ample, with small ones as often as others.
 int AnyRoom(int panes)
 {
     return *rc::gen::oneOf(rc::gen::inRange(0, 16 * panes + 1), rc::gen::inRange(16 * panes, 20 * panes + 40),
@@ -246,7 +246,7 @@ TEST(EveryPaneState, EachDragInEachRoomFollowsThePlainRules)
         for (const int room : {16 * panes - 1, 16 * panes, 16 * panes + 9, 700})
             for (int border = 1; border < panes; ++border)
                 for (const int place : {16, 19, 20, -20, -19, -16, 0}) {
-                    // Many panes have many states alike; fewer places do for them.
+                    // Many states of many panes are alike, so fewer positions suffice.
                     if (panes > 7 && (place == 20 || place == -20 || border % 3 != 1))
                         continue;
                     FromEveryState(panes, [&](sSmallStack& state) {
