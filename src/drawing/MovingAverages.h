@@ -5,9 +5,9 @@
 // average of the index before, so no earlier exponential value is used, and it starts one index later than
 // the simple average.
 //
-// Each sum runs from the earliest close of its window to the latest, so every value is bit for bit that of
-// the plain definition. That excludes a running sum; instead, sixteen windows are summed in parallel. Cost:
-// `period` additions per value, four per cycle.
+// Each sum runs from the earliest close of its window to the latest, so every value is bit for bit the value
+// of the plain definition. That excludes a running sum; instead, sixteen windows are summed in parallel.
+// Cost: `period` additions per value, four per cycle.
 #pragma once
 
 #include <span>

@@ -13,7 +13,7 @@ inline constexpr ColorValue TitleForeground = 0xFFFFFF, TitleBackground = 0x2323
 
 // Sets up a study pane: its title as the only label, an empty series in each group, value axes from 1 to 2,
 // an x axis for the chosen number of points, margins for the side of the value axis, and the colors of the
-// study `kind` (if negative, those of the price pane).
+// study `kind` (if negative, the colors of the price pane).
 void SetUpStudyPane(CChart2D& chart, const sChartSettings& settings, int kind);
 
 // Sets up only axes, margins, marker and colors, which the price pane needs too; `labelColor` is the color of

@@ -20,7 +20,7 @@ public:
     // h = h * 33 + c over the bytes as signed characters.
     static std::uint32_t Hash(std::string_view symbol);
 
-    // Adds the request to those of the symbol. The same request may be added more than once.
+    // Adds the request to the symbol's requests. The same request may be added more than once.
     void Add(std::string_view symbol, const RequestPtr& request);
 
     enum class Removal
@@ -32,8 +32,8 @@ public:
     // Removes the first entry of the request, and the symbol with its last entry.
     Removal Remove(std::string_view symbol, const CChartHistRequest& request);
 
-    // Sets `requests` to the requests of the symbol in the order of their addition, with null for one that no
-    // longer exists. Returns false if nobody watches the symbol.
+    // Sets `requests` to the requests of the symbol in the order of their addition, with null for each
+    // request that no longer exists. Returns false if no request watches the symbol.
     bool Find(std::string_view symbol, std::vector<RequestPtr>& requests) const;
 
 private:

@@ -14,7 +14,7 @@ inline constexpr std::uint16_t DefaultLevel1Port = 5009;
 class CZantroPorts
 {
 public:
-    // A null key behaves like one that cannot be opened.
+    // A null key behaves like a key that cannot be opened.
     explicit CZantroPorts(std::shared_ptr<ISettingsKey> key);
 
     // The leading number of the stored value. A missing value is written with its default text, so that the

@@ -1,5 +1,5 @@
 // Times as day numbers: days since 30 December 1899 00:00, with the time of day as the fraction. There is no
-// time zone: a time is the one that the feed printed. Pure functions, any thread.
+// time zone: each time is as the feed printed it. Pure functions, any thread.
 #pragma once
 
 #include <cstdint>
@@ -50,7 +50,7 @@ std::string FormatTime(const sTIME_W_MILLISECONDS& time, const char* format);
 sTIME_W_MILLISECONDS ParseDate(std::string_view text);
 
 // True if `a` is later than `b`. Negative day numbers are first mirrored around their ceiling, so that their
-// times of day compare like those of positive numbers. False if either time is not valid.
+// times of day compare like the times of positive numbers. False if either time is not valid.
 bool IsAfter(const sTIME_W_MILLISECONDS& a, const sTIME_W_MILLISECONDS& b);
 
 // The current date of this machine's clock and time zone as %Y%m%d.

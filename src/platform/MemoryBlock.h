@@ -10,7 +10,7 @@ namespace zantroq {
 struct sMemoryBlock
 {
     void* Data = nullptr;
-    std::size_t Bytes = 0; // reserved address space, at least the size asked for
+    std::size_t Bytes = 0; // reserved address space, at least the requested size
 };
 
 // Makes the block hold at least `bytes` and keeps its contents. Throws std::bad_alloc and leaves the block

@@ -29,7 +29,7 @@ std::unique_ptr<CChart2D> MakePanePrintCopy(const CChart2D& pane, const sPaneSiz
     copy->SetInteractive(false);
     copy->PaneInterior().SetBackground(Paper);
     area.Interior().SetBackground(Paper);
-    // On screen the plot has its own background; on paper that of the area is visible.
+    // On screen the plot has its own background; on paper the area's background is visible.
     area.PlotFrame().Interior().ClearBackground();
     Pin(area.PlotFrame().LeftMargin());
     Pin(area.PlotFrame().RightMargin());

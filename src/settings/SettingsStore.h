@@ -40,7 +40,7 @@ public:
     // Writes the number if none is stored.
     void FillIn(std::string_view name, std::int32_t value);
 
-    // By string number. A missing value (or one that reads as -1) is stored as the default, which is
+    // By string number. A missing value (or the value -1) is stored as the default, which is
     // returned. If the value could not be read, the default is returned but not stored.
     std::int32_t LoadInt(int id, std::int32_t defaultValue);
     double LoadDouble(int id, double defaultValue);

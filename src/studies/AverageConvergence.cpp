@@ -21,7 +21,7 @@ struct sFactors
 };
 
 // Computes from the start of the series. Advances with the requested index, because the values of an index
-// are one step from those of the index before.
+// follow in one step from the values of the index before.
 class CFullMACD
 {
 public:
@@ -91,7 +91,7 @@ private:
     double m_sum = 0;
 };
 
-// Continues from `state`, which must be that of index from - 1, and leaves it at to - 1.
+// Continues from `state`, which must belong to index from - 1, and leaves it at to - 1.
 void Continue(const CPriceBlock& close, std::int64_t from, std::int64_t to, const sFactors& k,
               sMACDRunningState& state, double* __restrict macd, double* __restrict signal)
 {

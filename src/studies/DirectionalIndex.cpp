@@ -82,7 +82,7 @@ struct sDirection
 };
 
 // Computes from the start of the series. Advances with the requested index, because the values of an index
-// are one step from those of the index before.
+// follow in one step from the values of the index before.
 class CFullADX
 {
 public:
@@ -134,8 +134,8 @@ private:
     double m_sum = 0;
 };
 
-// Continues from `state`, which must be that of index from - 1, and leaves it at to - 1. Both directions are
-// computed in one vector, with one division.
+// Continues from `state`, which must belong to index from - 1, and leaves it at to - 1. Both directions
+// are computed in one vector, with one division.
 void Continue(const CBars& bars, std::int64_t from, std::int64_t to, double k, sADXRunningState& state,
               double* __restrict plusDI, double* __restrict minusDI, double* __restrict adx)
 {

@@ -10,8 +10,8 @@
 //
 // Differences from the textbook, all intended:
 // - The moves are absolute differences, so falling highs count as upward movement.
-// - +DI and -DI start at index P. Below index 2P they are those of the index before, so P and P + 1 have the
-//   same values.
+// - +DI and -DI start at index P. Below index 2P they equal the values of the index before, so P and P + 1
+//   have the same values.
 // - Denominators are not checked: a true range of 0 gives infinities, and a DX of 0 / 0 stays in the ADX
 //   until the next whole draw.
 // - The last averages are kept in one state for the process. A computation at the following index continues

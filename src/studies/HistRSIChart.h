@@ -14,7 +14,7 @@
 //   P + avg) - avg from the start values, in which the old average cancels. It thus depends on the last
 //   change alone, so the curve starts there at 0, at 100 or at not-a-number and approaches the textbook's
 //   within about P points. The curve therefore depends on where the display begins.
-// - Indices P and P + 1 have the same value, that of the start averages.
+// - Indices P and P + 1 have the same value, computed from the start averages.
 // - There is one state for the process. Another chart, pane or symbol continues from it if its index happens
 //   to follow the last computed one.
 // - Without any change, 0 / 0 gives not-a-number, which is not drawn.

@@ -27,7 +27,7 @@ void SplitFlows(const double* __restrict typical, std::int64_t flows, double* __
 {
     for (std::int64_t i = 0; i < flows; ++i) {
         const double before = typical[i], now = typical[i + 1], flow = down[i] * now;
-        // Adding 0 does not change a sum: one that starts at 0 never becomes -0.
+        // Adding 0 does not change a sum: a sum that starts at 0 never becomes -0.
         up[i] = now > before ? flow : 0.0;
         down[i] = now < before ? flow : 0.0;
     }

@@ -51,7 +51,7 @@ sAverages CatchUp(const CPriceBlock& close, std::int64_t period, std::int64_t n,
     return average;
 }
 
-// Continues from `state`, which must be that of index from - 1, and leaves it at to - 1.
+// Continues from `state`, which must belong to index from - 1, and leaves it at to - 1.
 void Continue(const CPriceBlock& close, std::int64_t from, std::int64_t to, double k, sRSIRunningState& state,
               double* __restrict out)
 {

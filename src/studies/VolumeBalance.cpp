@@ -49,7 +49,7 @@ void SumEachWindow(const CPriceBlock& close, const CVolumeBlock& volume, std::in
     for (std::int64_t t = 0; t < change.Size(); ++t) {
         const std::int64_t j = from - terms + 1 + t;
         const auto size = static_cast<double>(volume[j]);
-        // Adding 0 for an unchanged close does not change the sum: one that starts at 0 never becomes -0.
+        // Adding 0 for an unchanged close does not change the sum: a sum that starts at 0 never becomes -0.
         change[t] = close[j] > close[j - 1] ? size : close[j] < close[j - 1] ? -size : 0.0;
     }
     SumWindows(change.Data(), count, terms, out);

@@ -6,10 +6,10 @@
 
 namespace zantroq {
 
-// sums[i] = in[i] + in[i + 1] + ... + in[i + terms - 1], added in that order from 0, for i from 0 to count -
-// 1. `in` holds count + terms - 1 values and must not overlap `sums`. No sum is derived from that of the
-// window before, because a sliding floating-point sum rounds differently; instead, many windows are summed in
-// parallel. Costs count * terms additions.
+// sums[i] = in[i] + in[i + 1] + ... + in[i + terms - 1], added in that order from 0, for each i below `count`.
+// `in` holds count + terms - 1 values and must not overlap `sums`. No sum is derived from the sum of the
+// window before, because a sliding floating-point sum rounds differently; instead, many windows are summed
+// in parallel. Costs count * terms additions.
 void SumWindows(const double* in, std::int64_t count, std::int64_t terms, double* sums);
 
 // means[i] is that sum divided by `divisor`, which may differ from the number of terms.

@@ -18,7 +18,7 @@ public:
     void DescribeKind(sTrendRecord& record) const override { record.Offset = m_offset; }
 
     int m_series2;
-    // Price of the copy minus that of the first line; not finite if both anchors have the same index.
+    // Price of the copy minus price of the first line; not finite if both anchors have the same index.
     double m_offset = 0.0;
 };
 

@@ -16,7 +16,7 @@ public:
     double GetEndValue() const override { return m_endValue; }
     void SetEndValue(double value) override { m_endValue = value; }
 
-    double m_endValue; // price at m_endIndex; that of the first click until the mouse moves
+    double m_endValue; // price at m_endIndex; the first click's price until the mouse moves
 
 protected:
     // The smallest distance to the rays of a kind whose series all run from the left anchor to the last

@@ -15,7 +15,7 @@ class CTrendLists : public ITrendLayer
 public:
     explicit CTrendLists(IPaneWindow& window);
 
-    // The nearest line of all lists; of equal distances, that of the earlier kind. Null and distance -1 if
+    // The nearest line of all lists; of equal distances, the line of the earlier kind. Null and distance -1 if
     // there are no lines.
     CBaseTrend* FindNearest(int x, int y, int* distance);
     void DrawAll() override;

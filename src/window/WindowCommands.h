@@ -10,7 +10,7 @@
 
 namespace zantroq {
 
-// Commands except those of trendlines, which are in TrendPrompts.h.
+// Commands. The commands of trendlines are in TrendPrompts.h.
 enum WindowCommand : int
 {
     CommandSymbolSearch = 774,
@@ -65,7 +65,7 @@ inline constexpr std::array<sToolbarCommand, 8> ToolbarCommands{{
     {CommandPriceBar, GapBefore::No, ButtonKind::Check, "Price Bar Show/Hide", "price-bar", "", ""},
 }};
 
-// The commands of the context menus, except those of trendlines.
+// The commands of the context menus, without the commands of trendlines.
 inline constexpr std::array<int, 5> MenuCommands{CommandRestoreTicks, CommandRestoreBars, CommandRestorePane,
                                                  CommandMinimizePane, CommandMaximizePane};
 

@@ -24,7 +24,7 @@ public:
     void LoadWindowPosition(); // for the current title; missing values get defaults
     // Stores the position under the current title if the host asked for it. Does nothing if the stored
     // position could not be read and the window is still at the default position, because the user did not
-    // choose that one.
+    // choose that position.
     void SaveIfAsked();
     const sWindowPosition& Position() const { return m_position; }
 

@@ -122,7 +122,7 @@ TEST_F(Controls, TenWindowsDrawTheirSymbols)
 
 TEST_F(Controls, ClosedInAnyOrderLeaveNothingBehind)
 {
-    // An idle control, one with a chart, one that is loading.
+    // An idle control, a control with a chart, and a control that is loading.
     const std::array<const char*, 3> symbols{"", "AAA", "SLOW"};
     const auto open = [&] {
         std::array<std::unique_ptr<CChartCtrl>, 3> controls;

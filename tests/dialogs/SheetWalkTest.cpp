@@ -166,7 +166,7 @@ protected:
     }
 
     // Levels of a visited study are plain numbers. The periods of ADX, Money Flow and MFI do not change,
-    // because their stored period is that of their choice.
+    // because their choice determines the stored period.
     void TouchStudy()
     {
         Set("Lower Studies", 328, "8");

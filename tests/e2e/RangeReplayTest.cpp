@@ -9,7 +9,7 @@ const std::string DailyX = "type daily\nsymbol X\ndraw\nwait complete\n";
 class RangeReplay : public CScriptedChart
 {
 protected:
-    // first, last and shown after some steps behind a drawn chart.
+    // first, last and shown of a drawn chart after some steps.
     std::vector<int> Range(const std::string& steps)
     {
         const json range = After(DailyX + steps).at("range");

@@ -237,7 +237,7 @@ TEST_F(Level1Session, SimulatedTradesGoOnFromTheLastMinuteOfTheSameDay)
     bool quote = false;
     for (const auto& line : lines) {
         const auto fields = Fields(line);
-        ASSERT_EQ(fields.size(), 24u); // type, 22 fields, and nothing behind the last comma
+        ASSERT_EQ(fields.size(), 24u); // type, 22 fields, and nothing after the last comma
         EXPECT_EQ(fields[0], "Q");
         EXPECT_EQ(fields[1], "MN");
         EXPECT_EQ(fields[14], "01/03/2014");

@@ -24,7 +24,7 @@ public:
     int Slices;
 };
 
-// Has one short piece of work and gets another as soon as it is done, like a client that sends ahead.
+// Has one short piece of work and gets another as soon as it is done, like a client that does not wait.
 class CEagerWorker : public CWorker, public std::enable_shared_from_this<CEagerWorker>
 {
 public:

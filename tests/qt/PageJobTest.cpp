@@ -54,7 +54,7 @@ TEST(PageJob, CopiesOntoAFileAreItsPages)
 
 TEST(PageJob, CopiesOntoAPrinterAreDocumentsOfTheirOwn)
 {
-    sPdfPrinter pdf; // stands for a printer: the second document begins anew
+    sPdfPrinter pdf; // replaces a printer: the second document begins anew
     CPageJob job(pdf.Printer, 2, CopiesTo::OwnDocuments, Fonts);
     PrintTwice(job);
     EXPECT_EQ(pdf.Pages(), 1);

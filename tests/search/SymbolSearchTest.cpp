@@ -136,7 +136,7 @@ TEST_F(SymbolSearch, TheOptionsToggleTheSize)
 TEST_F(SymbolSearch, FilterRowsComeByIdAndSkipHoles)
 {
     Open();
-    // Id 5 has only a carriage return, so its text is longer than that of an empty row.
+    // Id 5 has only a carriage return, so its text is longer than an empty row's text.
     ASSERT_EQ(m_form.RowCount(SearchFilterRows), 4);
     EXPECT_EQ(FilterRow(0), "MAIN - Main");
     EXPECT_EQ(FilterRow(1), "NASDAQ - Nasdaq Stock Market");
@@ -349,7 +349,7 @@ TEST_F(SymbolSearch, CarriageReturnsOfLastTokensAreNotShown)
     EXPECT_EQ(FilterRow(0), "EQUITY - Equity");
 }
 
-// Each attempt may take five seconds: an absent feed is asked once for all rows, not once per row.
+// Each attempt may take five seconds: an absent feed is tried once for all rows, not once per row.
 TEST_F(SymbolSearch, ATableThatCannotBeHadIsTriedOnceForAllResults)
 {
     m_markets.Refuses = true;

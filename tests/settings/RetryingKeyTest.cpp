@@ -103,7 +103,7 @@ TEST(RetryingKeyWaiting, ARetryWaitsForNobody)
 {
     struct sWaitingKey final : ISettingsKey
     {
-        std::string Log; // 'w' for a write that may wait, 'n' for one that may not
+        std::string Log; // 'w' for a write that may wait, 'n' for a write that may not
         bool Waiting = true;
         CSettingRead Read(std::string_view) override { return CSettingRead::Missing(); }
         bool Write(std::string_view, const SettingValue&) override

@@ -71,7 +71,7 @@ TEST(Rsi, LivePointsContinueFromTheLastRedraw)
 {
     CZigzagPane pane(60, 5);
     pane.DrawEnd(30);
-    // The display asked last for index 58.
+    // The display requested index 58 last.
     ASSERT_EQ(CHistRSIChart::StudyRunningState().Index, 58);
     const sRSIRunningState state = CHistRSIChart::StudyRunningState();
     pane.Series.AddTick(200);

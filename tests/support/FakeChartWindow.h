@@ -1,5 +1,5 @@
 // A chart window for tests of panes, studies and trendlines: plain members behind IChartWindow, eleven panes,
-// and a note of what was asked of it.
+// and a record of the calls.
 #pragma once
 
 #include "drawing/ChartWindow.h"

@@ -1,5 +1,5 @@
-// A settings key in memory whose reads and writes can be made to fail, like those of a settings file that
-// another process has locked.
+// A settings key in memory whose reads and writes can be made to fail, like the reads and writes of a
+// settings file that another process has locked.
 #pragma once
 
 #include "platform/settings/SettingsKey.h"

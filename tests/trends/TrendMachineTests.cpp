@@ -17,7 +17,7 @@ struct sStateCell
 {
     int state;
     int command;   // arms the mode
-    int clicks;    // left clicks after it, each with a mouse move behind it
+    int clicks;    // left clicks after it, each followed by a mouse move
     int lines;     // lines in the lists once the state is reached
     int leftState; // after a left click on the pane
     const char* leftPrompt;
@@ -313,7 +313,7 @@ TEST_F(TrendMachine, FirstIndexStartsASlopingLineButNotAHorizontalOne)
 
 TEST_F(TrendMachine, IndexEqualToTheCountIsAcceptedAndOneBeyondIsNot)
 {
-    prices.count = 120; // index 120 stands at position 21
+    prices.count = 120; // index 120 is at position 21
     machine.OnCommand(DrawSloping);
     Down(1, 22, 100);
     EXPECT_EQ(lists.Count(), 0);

@@ -163,7 +163,7 @@ TEST_F(TrendPool, SettersReachEveryMemberOfAKind)
 }
 
 // Three lines of each kind, deleted in each of the six orders: the series of a deleted line are released in
-// order and contain only holes, and those of the others are unchanged.
+// order and contain only holes, and the series of the other lines are unchanged.
 TEST_F(TrendPool, EveryOrderOfDeletionGivesEverySeriesBackAndLeavesTheOthersAlone)
 {
     for (int command : {DrawHorizontal, DrawSloping, DrawParallel, DrawPitchfork, DrawFan, DrawRetracements,

@@ -99,11 +99,11 @@ TEST(PointInspection, AClickNearABarShowsItsReadoutTowardTheMiddle)
     EXPECT_EQ(Readout(*chart).Text().substr(0, 7), "Hi: 103");
     EXPECT_EQ(Readout(*chart).DataX(), 3);
     EXPECT_EQ(Readout(*chart).DataY(), 103);
-    EXPECT_EQ(Readout(*chart).Side() & 0x0F, 1); // the text stands to the right
+    EXPECT_EQ(Readout(*chart).Side() & 0x0F, 1); // the text is on the right
     EXPECT_EQ(chart->Status(), "Ready");
     chart->Window->OnChartMouseDown(Price, MouseLeft, 0, right.X, right.Y);
     EXPECT_EQ(Readout(*chart).Side() & 0x0F, 2);
-    // Point 19 has one of the greatest highs and stands in the upper half.
+    // Point 19 has one of the greatest highs and is in the upper half.
     EXPECT_EQ(Readout(*chart).Side() & 0xF0, 0x20);
 }
 
@@ -291,7 +291,7 @@ TEST(PointInspection, LivePointsThatComeWhileAPointIsAskedAboutDoNotShiftTheDele
 {
     auto chart = ChartOf(DailyData);
     chart->Chart("X", 300);
-    const int index = chart->Window->Range().first + 4; // the fifth point on show
+    const int index = chart->Window->Range().first + 4; // the fifth displayed point
     const double closeBehind = chart->Window->Series()->GetCloseAt(index + 1);
     chart->Desktop.Box.WhileOpen = [&] {
         chart->Append(7);

@@ -32,7 +32,7 @@ void NotifyReport(const CMarketCatalog::TNotice& notice, const std::string& file
                (report.SkippedRows == 1 ? " row" : " rows") + " skipped");
 }
 
-// Null if the file name is not that of a recording, or has no symbol.
+// Null if the file name is no recording's name, or has no symbol.
 const sENDING* EndingOf(std::string_view name)
 {
     for (const sENDING& ending : Endings)

@@ -75,7 +75,7 @@ private:
 
     const std::uint64_t m_seed;
     const TNotice m_notice;
-    std::map<std::string, sRECORDS, std::less<>> m_records; // read and not yet asked for
+    std::map<std::string, sRECORDS, std::less<>> m_records; // read, but not yet requested
     std::map<std::string, std::shared_ptr<const IMarketSource>, std::less<>> m_markets;
     // Simulated markets that are not named simulations, the most recently used first.
     std::list<std::string> m_unnamed;

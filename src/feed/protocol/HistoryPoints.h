@@ -34,7 +34,7 @@ public:
 };
 
 // The points for a command. Returns null and sets `reason`, a text without commas, if the market has no data
-// of the kind asked for.
+// of the requested kind.
 std::unique_ptr<IHistoryPoints> MakeHistoryPoints(const IMarketSource& market,
                                                   const sHISTORY_COMMAND& command, std::string& reason);
 

@@ -38,7 +38,7 @@ private:
 
     // In bytes. If a client does not read, its market pauses at this limit and no trade is lost.
     static constexpr std::size_t MaxPendingText = 256 * 1024;
-    // At most this many lines of the client, plus those of one received block, wait for an answer.
+    // At most this many lines of the client, plus the lines of one received block, wait for an answer.
     static constexpr std::size_t MaxPendingLines = 256;
 
     asio::ip::tcp::socket m_socket;
