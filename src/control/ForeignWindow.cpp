@@ -3,7 +3,6 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QSocketNotifier>
-#include <QTimer>
 #include <QWidget>
 #include <QWindow>
 
@@ -22,7 +21,11 @@ template<class TReply> using CReply = std::unique_ptr<TReply, decltype(&std::fre
 
 } // namespace
 
-CForeignWindow::CForeignWindow(std::uint32_t id) : m_id(id) {}
+CForeignWindow::CForeignWindow(std::uint32_t id) : m_id(id)
+{
+    m_patience.setSingleShot(true);
+    m_patience.callOnTimeout(this, [this] { TakeKeyboard(); });
+}
 
 CForeignWindow::~CForeignWindow()
 {
@@ -94,7 +97,7 @@ bool CForeignWindow::eventFilter(QObject* object, QEvent* event)
         QMetaObject::invokeMethod(
             this, [this] { Fit(); }, Qt::QueuedConnection);
     if (object != m_widget && event->type() == QEvent::MouseButtonPress)
-        QTimer::singleShot(EmbedderPatience, this, [this] { TakeKeyboard(); });
+        m_patience.start(EmbedderPatience);
     return QObject::eventFilter(object, event);
 }
 
@@ -131,8 +134,8 @@ void CForeignWindow::TakeKeyboard()
     if (m_gone || m_widget == nullptr || m_widget->windowHandle() == nullptr ||
         QGuiApplication::focusWindow() != nullptr)
         return;
-    xcb_set_input_focus(m_connection, XCB_INPUT_FOCUS_PARENT, static_cast<std::uint32_t>(m_widget->winId()),
-                        XCB_CURRENT_TIME);
+    xcb_set_input_focus(m_connection, XCB_INPUT_FOCUS_PARENT,
+                        static_cast<std::uint32_t>(m_widget->windowHandle()->winId()), XCB_CURRENT_TIME);
     xcb_flush(m_connection);
 }
 
@@ -141,6 +144,11 @@ void CForeignWindow::End()
     if (std::exchange(m_gone, true))
         return;
     m_notifier->setEnabled(false);
+    // The server has destroyed the toolkit's window with its parent. It is made anew when the widget is shown again.
+    if (m_widget != nullptr && m_widget->windowHandle() != nullptr) {
+        m_widget->hide();
+        m_widget->windowHandle()->destroy();
+    }
     if (Gone)
         QMetaObject::invokeMethod(
             this, [this] { Gone(); }, Qt::QueuedConnection);

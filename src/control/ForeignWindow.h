@@ -1,10 +1,11 @@
-// A window of another program on X11 with a widget in it: the widget fills the window, follows its size, and
-// its owner hears when the window has gone. Thread of the application's widgets.
+// A window of another program on X11 with a widget in it: the widget fills the window and follows its size. When
+// the window goes away, the widget is hidden and its owner is notified. Thread of the application's widgets.
 #pragma once
 
 #include <QObject>
 #include <QSize>
 #include <QString>
+#include <QTimer>
 
 #include <cstdint>
 #include <functional>
@@ -45,6 +46,7 @@ private:
     // A connection of its own, since the toolkit's reports nothing of windows that are not the toolkit's.
     xcb_connection_t* m_connection = nullptr;
     std::unique_ptr<QSocketNotifier> m_notifier;
+    QTimer m_patience; // runs while an embedder may hand the keyboard over
     std::unique_ptr<QWindow> m_window;
     QWidget* m_widget = nullptr; // not owned
     QSize m_size;                // of the window, in pixels of the screen

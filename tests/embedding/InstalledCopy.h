@@ -10,6 +10,7 @@
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QRegularExpression>
+#include <QSet>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -135,6 +136,16 @@ protected:
         const sRun built = RunProgram(ZANTROQ_CMAKE, {"--build", folder}, Environment());
         EXPECT_EQ(built.ExitCode, 0) << (built.Out + built.Err).toStdString();
         return folder;
+    }
+
+    static int ColorsOf(const QString& file, const QRect& part)
+    {
+        const QImage picture = QImage(file).copy(part);
+        QSet<QRgb> colors;
+        for (int y = 0; y < picture.height(); ++y)
+            for (int x = 0; x < picture.width(); ++x)
+                colors << picture.pixel(x, y);
+        return static_cast<int>(colors.size());
     }
 
     // A chart has candles, axes and labels: many colors, none of them on nearly all of the picture.

@@ -24,7 +24,8 @@ TEST_F(InstalledFiles, AreWhereHostsLookForThem)
          {"bin/zantroq-chart", "bin/zantroq-feed", "bin/zantroq-settings", "include/zantroq/ChartCtrl.h",
           "lib/libzantroq-chart.so", "lib/libzantroq-chart.so.1", "lib/pkgconfig/zantroq-chart.pc",
           "lib/cmake/ZantroqChart/ZantroqChartConfig.cmake",
-          "lib/qt6/plugins/designer/libzantroq-chart-designer.so", "share/zantroq-chart/data/GOOG.daily.csv"})
+          "lib/qt6/plugins/designer/libzantroq-chart-designer.so", "lib/zantroq/libzantroq-chart-module.so",
+          "include/zantroq/module.h", "share/zantroq-chart/data/GOOG.daily.csv"})
         EXPECT_TRUE(QFileInfo::exists(InPrefix(path))) << path;
 }
 

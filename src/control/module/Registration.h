@@ -1,0 +1,45 @@
+// The records by which a host that knows only "Brivane.Chart.1" finds the module: keys below
+// Software\Classes in the user's settings file. No toolkit; any thread, one at a time.
+#pragma once
+
+#include "platform/settings/SettingsKey.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace zantroq {
+
+enum RegistrationResult : std::uint32_t
+{
+    Registered = 0,
+    NoTypeLibrary = 0x80040200,
+    NoClass = 0x80040201
+};
+
+struct sRegistrationRecord
+{
+    std::string Key, Name, Value;
+};
+using RegistrationRecords = std::vector<sRegistrationRecord>;
+
+RegistrationRecords TypeLibraryRecords(const std::string& modulePath);
+RegistrationRecords ClassRecords(const std::string& modulePath);
+RegistrationRecords CategoryRecords();
+RegistrationRecords ImplementedRecords();
+
+// Opens a key of the settings by its path.
+using OpenKey = std::function<std::unique_ptr<ISettingsKey>(const std::string& path)>;
+
+// In this order: type library, class, categories, the categories that the class implements. A failure in the
+// last two skips what follows and is not reported. Records that were written before a failure stay. An empty
+// path counts as a failure of the type library, which lies in the module.
+RegistrationResult RegisterModule(const OpenKey& open, const std::string& modulePath);
+
+// The type library, then the class with the categories that it implements. Missing records are no failure. The
+// categories themselves stay, since other classes may implement them.
+RegistrationResult UnregisterModule(const OpenKey& open);
+
+} // namespace zantroq
