@@ -89,7 +89,7 @@ TEST(Surface, ASuspendedLabelIsToldOnceWhenItResumes)
     EXPECT_EQ(pane.view.Times, 1);
 }
 
-// Regression: its colors were passed on at once.
+// Regression: a suspended label passed its colors on at once.
 TEST(Surface, TheColorsOfASuspendedLabelWaitWithIt)
 {
     sWatchedPane pane;

@@ -66,15 +66,15 @@ TEST_F(PanesReplay, TwoPanesAreMaximizedMinimizedAndRestored)
     Serve(60, DayLine);
     Pick(342, Maximize);
     EXPECT_EQ(States(2), "1 0 0");
-    Pick(342, Restore); // both panes are normal, so the pane is
+    Pick(342, Restore); // both panes are normal, so the chosen pane is maximized
     EXPECT_EQ(States(2), "999 0 0");
-    Pick(341, Minimize); // one pane is left: it takes the room
+    Pick(341, Minimize); // one pane remains and fills the height
     EXPECT_EQ(States(2), "1 1 0");
-    Pick(341, Restore); // of two panes the other one is maximized: both are normal
+    Pick(341, Restore); // two panes, the other maximized: both become normal
     EXPECT_EQ(States(2), "999 0 0");
     Pick(341, Maximize);
     EXPECT_EQ(States(2), "0 0 0");
-    Pick(341, Minimize); // the maximized one: the other takes the room
+    Pick(341, Minimize); // the maximized pane: the other pane fills the height
     EXPECT_EQ(States(2), "1 1 0");
     const json state = Pick(342, Restore); // at most one is normal: all become normal
     EXPECT_EQ(States(2), "999 0 0");
@@ -94,7 +94,7 @@ TEST_F(PanesReplay, FourPanesKeepTheirStates)
     EXPECT_EQ(States(4), "3 0 0 1 0");
     for (const std::size_t pane : {0, 1, 2})
         EXPECT_EQ(state.at("panes").at(pane).at("rect").at(3), 16) << pane;
-    Pick(342, Restore); // another one is maximized: the two are normal and all others minimised
+    Pick(342, Restore); // another pane is maximized: these two become normal, all others minimised
     EXPECT_EQ(States(4), "999 1 0 1 0");
     Pick(342, Minimize);
     EXPECT_EQ(States(4), "3 1 1 1 0");

@@ -1,5 +1,5 @@
-// Preloaded into a program under test: records every system call that changes files or brings them to the disk,
-// in order, in the file that RECORD_CALLS names, for CRecordedDisk to play back. Its own code calls the kernel
+// Preloaded into a program under test: records every system call that changes files or syncs them to the disk,
+// in order, in the file that RECORD_CALLS names; CRecordedDisk plays the record back. Its own code calls the kernel
 // directly, so that nothing is recorded twice.
 #include <cerrno>
 #include <cstdarg>
@@ -14,7 +14,7 @@
 
 namespace {
 
-// One record: kind, descriptor, offset, length of the text, text; a text is a path or what was written.
+// One record: kind, descriptor, offset, length of the text, text. The text is a path or the written bytes.
 void Record(char kind, std::int64_t descriptor, std::int64_t offset, const void* text, std::size_t length)
 {
     const int error = errno;
@@ -34,7 +34,7 @@ void RecordPath(char kind, std::int64_t descriptor, const char* path)
     Record(kind, descriptor, 0, path, std::strlen(path));
 }
 
-// The end of a log takes the flag with the offset of the file.
+// The descriptor's position; -1 for a pipe.
 std::int64_t Position(int descriptor)
 {
     return syscall(SYS_lseek, descriptor, 0, SEEK_CUR);

@@ -1,5 +1,5 @@
-// Plays a record of RecordCalls.cpp back onto a model of a disk, on which nothing is safe but what was synced:
-// the contents of a file by a sync of the file, a name by a sync of its folder.
+// Plays a record of RecordCalls.cpp back onto a model of a disk, on which only synced changes are safe: a
+// file's contents after a sync of the file, a name after a sync of its folder.
 #pragma once
 
 #include <cstdint>
@@ -38,7 +38,7 @@ inline std::vector<sCall> ReadRecord(const std::string& path)
     return calls;
 }
 
-// What a loss of power takes of the changes that were not synced.
+// Which of the changes that were not synced a loss of power takes.
 enum class PowerLoss
 {
     TakesAll,
@@ -56,7 +56,7 @@ public:
             m_now[call.Text] = std::make_shared<sFile>();
             m_opened[call.Descriptor] = call.Text;
             return;
-        case 'o': // may have been made by a process that is not recorded
+        case 'o': // a process that is not recorded may have created it
             m_now.try_emplace(call.Text, std::make_shared<sFile>());
             m_opened[call.Descriptor] = call.Text;
             return;
@@ -79,7 +79,7 @@ public:
         }
     }
 
-    // Writes what is left of `folder` below `target`.
+    // Writes what remains of `folder` below `target`.
     void LosePower(PowerLoss loss, const std::string& folder, const std::string& target)
     {
         std::filesystem::remove_all(target);

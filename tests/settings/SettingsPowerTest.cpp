@@ -22,7 +22,7 @@ struct SettingsPower : testing::Test
 
     SettingsPower() { std::filesystem::create_directory(Disk); }
 
-    // Runs in a child of its own.
+    // Replaces the calling child process with the program.
     int Start(const char* program, const std::vector<std::string>& words) const
     {
         ::setenv("ZANTROQ_SETTINGS", Store.c_str(), 1);
@@ -37,7 +37,7 @@ struct SettingsPower : testing::Test
         return 127;
     }
 
-    // What a user finds after the power came back.
+    // The values that a user finds once the power is back.
     static SettingValues Found(const std::string& file) { return CSettingsFile(file).List("K"); }
 
     struct sStep
@@ -46,7 +46,7 @@ struct SettingsPower : testing::Test
         SettingValues After;
     };
 
-    // Each step is found whole from the end of its program on, and before that whole or not at all.
+    // From the end of its program on, each step is stored completely; before that, completely or not at all.
     void ExpectEveryCutKeepsFinishedSteps(const std::vector<sStep>& steps)
     {
         std::vector<std::size_t> ends;
@@ -135,7 +135,8 @@ TEST_F(SettingsPower, AFinishedCommandSurvivesALossOfPower)
     ExpectEveryCutKeepsFinishedSteps(AllCommands());
 }
 
-// With the file held open, its log stays when a program ends, and a finished write lay in it without a sync.
+// Regression: while another process holds the file open, the log remains when a program ends, and a finished
+// write stayed in it without being synced.
 TEST_F(SettingsPower, AFinishedCommandSurvivesWhileAnotherProcessHoldsTheFile)
 {
     const auto steps = AllCommands();
@@ -144,7 +145,7 @@ TEST_F(SettingsPower, AFinishedCommandSurvivesWhileAnotherProcessHoldsTheFile)
     ExpectEveryCutKeepsFinishedSteps(steps);
 }
 
-// The window's thread does not wait for the disk; a write is brought there without another call.
+// The window's thread does not wait for the disk; a write reaches the disk without another call.
 TEST_F(SettingsPower, AWriteOfAWindowReachesTheDiskWhileTheWindowIsIdle)
 {
     ASSERT_EQ(test::WaitFor(test::StartChild([&] {
