@@ -4,8 +4,8 @@
  * DllGetClassObject for the class factory, which makes controls.
  *
  * **Registration records** are values of keys below `Software\Classes` in the user's settings file. The default value
- * of `Brivane.Chart.1\CLSID` is the number of the class, and that of `CLSID\NUMBER\InprocServer32` is the module's
- * path.
+ * of `Brivane.Chart.1\CLSID` is the number of the class; the default value of `CLSID\NUMBER\InprocServer32` is
+ * the module's path.
  *
  * **Threads.** Make all calls on one thread. In a process with a QApplication this is the QApplication's thread; in
  * any other process it is the thread that creates the first control. Calls on another thread fail with
@@ -37,7 +37,7 @@ extern "C" {
 #define ZANTROQ_OK 0
 /** From DllCanUnloadNow: controls or references to the factory exist. */
 #define ZANTROQ_IN_USE 1
-/** Failure without a code of its own. */
+/** Any other failure. */
 #define ZANTROQ_FAILED ((int32_t)0x80004005)
 /** A pointer was null. */
 #define ZANTROQ_BAD_POINTER ((int32_t)0x80004003)
@@ -59,7 +59,7 @@ extern "C" {
 #define ZANTROQ_WRONG_TYPE ((int32_t)0x80020005)
 /** The call was made on another thread than the QApplication's. */
 #define ZANTROQ_WRONG_THREAD ((int32_t)0x8001010E)
-/** Pump: called from inside of a notification. */
+/** Pump: called inside a notification. */
 #define ZANTROQ_BUSY ((int32_t)0x8001010A)
 /** Create: there is no X server, or the process has a QCoreApplication that shows no windows. */
 #define ZANTROQ_NO_DISPLAY ((int32_t)0x80040202)
@@ -109,10 +109,10 @@ typedef struct sZantroqValue
     const char* Text; /**< the value of ZANTROQ_TEXT, else null */
 } sZantroqValue;
 
-/** A host's function that is called after a property has changed: inside of the call that changed it, or of Pump. It
+/** A host's function that is called after a property has changed: inside the call that changed it, or of Pump. It
  * may make any call on the control, also release its last reference, which then takes effect when the call that
  * changed the property is done. It must not call Pump, nor throw.
- * @param user what the host gave to Notify
+ * @param user the pointer that the host passed to Notify
  * @param number the property's dispatch number */
 typedef void (*ZantroqChanged)(void* user, int32_t number);
 
@@ -139,7 +139,7 @@ typedef struct sZantroqControlTable
      * @param value where the value goes; a text in it is valid until the next call on the control
      * @return ZANTROQ_NO_PROPERTY for other numbers */
     int32_t (*Get)(sZantroqControl* control, int32_t number, sZantroqValue* value);
-    /** Writes a property. Notifies if the value is another than before. A new chart is drawn whenever StockSymbol is
+    /** Writes a property. Notifies if the value has changed. A new chart is drawn whenever StockSymbol is
      * written, also with the same symbol.
      * @return ZANTROQ_NO_PROPERTY, ZANTROQ_WRONG_TYPE, or ZANTROQ_BAD_VALUE for a number other than 0 and 1 */
     int32_t (*Put)(sZantroqControl* control, int32_t number, const sZantroqValue* value);
@@ -155,12 +155,12 @@ typedef struct sZantroqControlTable
     int32_t (*Place)(sZantroqControl* control, uint32_t window);
     /** Writes Appearance, BorderStyle and Enabled with a version number as bytes that the host keeps. StockSymbol and
      * ResizeParentWindow are not among them; a host sets these every time.
-     * @param bytes where the bytes go; null to ask for the size alone
+     * @param bytes where the bytes go; null to get only the size
      * @param room the number of bytes that fit
      * @param size where the number of bytes goes, also with ZANTROQ_NO_ROOM
      * @return ZANTROQ_NO_ROOM if they do not fit */
     int32_t (*Save)(sZantroqControl* control, uint8_t* bytes, size_t room, size_t* size);
-    /** Sets the properties that Save has written.
+    /** Sets the properties from bytes that Save has written.
      * @return ZANTROQ_BAD_VALUE for other bytes, or bytes of another version */
     int32_t (*Load)(sZantroqControl* control, const uint8_t* bytes, size_t size);
     /** Sets the function that is called after a property has changed; each control has one.
@@ -184,13 +184,13 @@ typedef struct sZantroqFactoryTable
     uint32_t (*AddRef)(sZantroqFactory* factory);
     /** Removes a reference. @return the number of references */
     uint32_t (*Release)(sZantroqFactory* factory);
-    /** Creates a control that is not on show yet. The first control of the process also starts the worker with the
+    /** Creates a control that is not visible yet. The first control of the process also starts the worker with the
      * connections to the feed, and waits for these, a second at most.
      * @param control where the control goes, with one reference; null after a failure */
     int32_t (*Create)(sZantroqFactory* factory, sZantroqControl** control);
     /** Handles the events of the controls, in a process whose loop is not Qt's.
      * @param milliseconds how long to wait for the first event at most; 0 does not wait
-     * @return ZANTROQ_BAD_VALUE for a negative time, ZANTROQ_BUSY inside of a notification */
+     * @return ZANTROQ_BAD_VALUE for a negative time, ZANTROQ_BUSY inside a notification */
     int32_t (*Pump)(sZantroqFactory* factory, int32_t milliseconds);
 } sZantroqFactoryTable;
 
@@ -200,19 +200,19 @@ struct sZantroqFactory
     const sZantroqFactoryTable* Table; /**< its calls */
 };
 
-/** The type of DllRegisterServer, DllUnregisterServer and DllCanUnloadNow, for what dlsym returns. */
+/** The type of DllRegisterServer, DllUnregisterServer and DllCanUnloadNow, to cast dlsym's result to. */
 typedef int32_t (*ZantroqDllFunction)(void);
-/** The type of DllGetClassObject, for what dlsym returns. */
+/** The type of DllGetClassObject, to cast dlsym's result to. */
 typedef int32_t (*ZantroqGetClassObject)(const sZantroqId* type, const sZantroqId* offered,
                                          sZantroqFactory** factory);
 
 /** Writes the user's registration records in this order: type library, class, the two component categories, the
- * categories that the class implements. A failure in the last two skips what follows and is not reported. After a
+ * categories that the class implements. A failure of the last two skips the rest and is not reported. After a
  * failure the records that were written before stay; DllUnregisterServer removes them.
  * @return ZANTROQ_NO_TYPE_LIBRARY or ZANTROQ_NO_REGISTRATION if the settings file takes no records */
 ZANTROQ_CHART_EXPORT int32_t DllRegisterServer(void);
 
-/** Removes the records of the type library, then those of the class. Missing records are no failure. The two
+/** Removes the records of the type library, then the records of the class. Missing records are no failure. The two
  * component categories stay, since other classes may implement them.
  * @return ZANTROQ_NO_TYPE_LIBRARY or ZANTROQ_NO_REGISTRATION if records stay that should not */
 ZANTROQ_CHART_EXPORT int32_t DllUnregisterServer(void);

@@ -15,7 +15,7 @@
 namespace zantroq {
 namespace {
 
-constexpr int EmbedderPatience = 200; // ms that an embedder has to hand the keyboard over
+constexpr int EmbedderPatience = 200; // milliseconds for the embedder to pass on the keyboard
 
 template<class TReply> using CReply = std::unique_ptr<TReply, decltype(&std::free)>;
 
@@ -32,7 +32,8 @@ CForeignWindow::~CForeignWindow()
     if (m_widget != nullptr) {
         m_widget->removeEventFilter(this);
         m_widget->hide();
-        // The toolkit's window would otherwise be deleted with its parent, under the widget's hands.
+        // Otherwise the toolkit's window would be deleted together with its parent while the widget still
+        // uses it.
         if (QWindow* const handle = m_widget->windowHandle())
             handle->setParent(nullptr);
     }
@@ -60,7 +61,7 @@ bool CForeignWindow::Open(QString& wrong)
         wrong = "the X server takes no more connections; close another program";
         return false;
     }
-    // Watched first: what happens between the two requests is then reported.
+    // Watch the window first, so that changes between the two requests are reported.
     const std::uint32_t mask = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
     const auto watch = xcb_change_window_attributes_checked(m_connection, m_id, XCB_CW_EVENT_MASK, &mask);
     const CReply<xcb_generic_error_t> watchError(xcb_request_check(m_connection, watch), &std::free);
@@ -81,11 +82,11 @@ bool CForeignWindow::Open(QString& wrong)
 void CForeignWindow::Take(QWidget& widget)
 {
     m_widget = &widget;
-    widget.winId(); // makes the toolkit's window
+    widget.winId(); // creates the toolkit's window
     widget.windowHandle()->setParent(m_window.get());
     Fit();
     widget.installEventFilter(this);
-    widget.windowHandle()->installEventFilter(this); // presses on any of the widget's children
+    widget.windowHandle()->installEventFilter(this); // mouse presses on all children of the widget
     widget.show();
     Fit();
     ReadEvents();
@@ -128,7 +129,7 @@ void CForeignWindow::Fit()
         m_widget->setGeometry(all);
 }
 
-// A plain window knows nothing of embedding: the keyboard goes to the chart that was clicked.
+// A window without an embedding protocol does not pass on the keyboard, so a clicked chart takes it.
 void CForeignWindow::TakeKeyboard()
 {
     if (m_gone || m_widget == nullptr || m_widget->windowHandle() == nullptr ||

@@ -21,12 +21,12 @@ namespace zantroq {
 class CForeignWindow : public QObject
 {
 public:
-    // Nothing, with one sentence in `wrong`, where the platform is not X11 or has no such window.
+    // Returns null and sets `wrong` to a sentence if the platform is not X11 or has no such window.
     static std::unique_ptr<CForeignWindow> Find(std::uint32_t id, QString& wrong);
-    // The window must outlive the widget's place in it; the widget is hidden and leaves it.
+    // Hides the widget and removes it from the window.
     ~CForeignWindow() override;
 
-    // Shows the widget in the window. Once; the widget must outlive this object.
+    // Shows the widget in the window. Call once; the widget must outlive this object.
     void Take(QWidget& widget);
 
     std::function<void()> Gone; // called once, after the window was destroyed
@@ -43,13 +43,14 @@ private:
     void End();
 
     const std::uint32_t m_id;
-    // A connection of its own, since the toolkit's reports nothing of windows that are not the toolkit's.
+    // A separate connection, because the toolkit's connection reports no events of windows that are not its
+    // own.
     xcb_connection_t* m_connection = nullptr;
     std::unique_ptr<QSocketNotifier> m_notifier;
     QTimer m_patience; // runs while an embedder may hand the keyboard over
     std::unique_ptr<QWindow> m_window;
     QWidget* m_widget = nullptr; // not owned
-    QSize m_size;                // of the window, in pixels of the screen
+    QSize m_size;                // size of the window in pixels of the screen
     bool m_gone = false;
 };
 

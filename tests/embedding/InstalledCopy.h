@@ -1,6 +1,6 @@
 // An installed copy of the project, made once for all tests of the program: installed into one folder and
-// then moved to another, outside of the build tree. Beside it, what runs programs of the copy and hosts that
-// are built against it, with settings and a feed of their own.
+// then moved to another outside the build tree. Also runs programs of the copy and hosts built against it,
+// with separate settings and a separate feed.
 #pragma once
 
 #include <QDir>
@@ -74,7 +74,7 @@ protected:
     static QString Example(const QString& path) { return QString(ZANTROQ_SOURCE_FOLDER "/examples/") + path; }
     QString Path(const QString& name) const { return m_folder.filePath(name); }
 
-    // No display, no settings of the user, and nothing of the build tree.
+    // Without a display, the user's settings and the build tree.
     QProcessEnvironment Environment() const
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -87,13 +87,13 @@ protected:
         return environment;
     }
 
-    // What a host wrote on standard error, without a line that the offscreen platform writes for any window.
+    // The standard error of a host, without a line that the offscreen platform writes for every window.
     static QString Complaints(const sRun& run)
     {
         return QString(run.Err).remove("This plugin does not support propagateSizeHints()\n");
     }
 
-    // Runs a host until all of its charts are drawn, and leaves a picture of its window.
+    // Runs a host until all its charts are drawn, and saves a picture of its window.
     sRun RunWatched(const QString& program, const QStringList& words, const QString& picture)
     {
         QProcessEnvironment environment = Environment();
@@ -102,7 +102,7 @@ protected:
         return RunProgram(program, words, environment, m_folder.path());
     }
 
-    // The copy's own feed on two free ports, which the test's settings then name.
+    // The feed of the copy on two free ports, which are stored in the test's settings.
     void StartFeed()
     {
         m_feed.setProcessEnvironment(Environment());
@@ -121,7 +121,7 @@ protected:
         ASSERT_EQ(run.ExitCode, 0) << run.Err.toStdString();
     }
 
-    // Builds an example's CMake project against the copy; the folder with its program.
+    // Builds the CMake project of an example against the copy. Returns the folder with its program.
     QString BuildExample(const QString& name)
     {
         const QString folder = Path(name);
@@ -148,7 +148,8 @@ protected:
         return static_cast<int>(colors.size());
     }
 
-    // A chart has candles, axes and labels: many colors, none of them on nearly all of the picture.
+    // Expects a chart: candles, axes and labels give many colors, none of which covers nearly all of the
+    // picture.
     static void ExpectAChart(const QString& file, const QRect& part)
     {
         const QImage picture(file);

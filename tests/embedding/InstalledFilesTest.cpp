@@ -1,4 +1,4 @@
-// What stands below the install prefix, and that it works from where it was moved to.
+// The files below the install prefix, and their use after the prefix was moved.
 #include "InstalledCopy.h"
 
 #include <QDirIterator>

@@ -1,4 +1,4 @@
-// The in-process module: its exports, its header, and a host in C that knows a ProgID alone.
+// The in-process module: its exports, its header, and a host in C that knows only a ProgID.
 #include "InstalledCopy.h"
 #include "XServer.h"
 

@@ -1,5 +1,4 @@
-// Which folder of src/ may include which. Arrows point downwards; an include that does not is named with its
-// file and line.
+// Which folder of src/ may include which. Reports each include that is not allowed, with file and line.
 #include "LayerTable.h"
 
 #include <algorithm>
@@ -27,7 +26,7 @@ bool IsToolkitHeader(const std::string& header)
     return std::regex_match(header, toolkit);
 }
 
-// What is wrong with one include of a file in `folder`; empty: nothing.
+// What is wrong with an include of a file in `folder`; empty if nothing is.
 std::string Complaint(const std::string& folder, const std::string& header, bool quoted)
 {
     if (!ToolkitAllowed(folder) && IsToolkitHeader(header))

@@ -94,7 +94,7 @@ void CControlObject::Tell(std::int32_t number)
     }
     --notifying;
     if (--m_uses == 0 && m_references == 0)
-        EndLater(); // the chart is still at work on the change
+        EndLater(); // the chart is still handling the change
 }
 
 void CControlObject::EndLater()

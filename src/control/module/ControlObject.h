@@ -1,5 +1,5 @@
-// A control as the module hands it out: a chart with references, property access, a place in a window, stored
-// properties and one function to notify. Thread of the application's widgets.
+// A control of the module: a chart with references, property access, a place in a window, stored properties and
+// one function to notify. Thread of the application's widgets.
 #pragma once
 
 #include "control/ForeignWindow.h"
@@ -17,17 +17,17 @@ struct sModuleProperty
 {
     const char* Name;
     std::int32_t Number;
-    std::int32_t Type; // of its values
+    std::int32_t Type; // the type of its values
 };
 
-// Null for names and numbers of no property.
+// Null if no property has the name or number.
 const sModuleProperty* FindProperty(const char* name);
 const sModuleProperty* FindProperty(std::int32_t number);
 
 class CControlObject : public sZantroqControl
 {
 public:
-    // With one reference.
+    // The control starts with one reference.
     explicit CControlObject(const sZantroqControlTable& table);
     CControlObject(const CControlObject&) = delete;
     CControlObject& operator=(const CControlObject&) = delete;
@@ -36,10 +36,10 @@ public:
     static bool Notifying(); // whether a host's function is being called
 
     std::uint32_t AddRef() { return ++m_references; }
-    // With the last reference the control ends, but not before every CUse of it does.
+    // The control ends with its last reference, but not before the last CUse of it.
     std::uint32_t Release();
 
-    // A call of the host on the control. The control outlives it, although the host may release the control
+    // A call of the host on the control. The control outlives the call, even if the host releases the control
     // in a notification.
     class CUse
     {
@@ -53,7 +53,7 @@ public:
         CControlObject& m_control;
     };
 
-    // All answer a result of zantroq/module.h. The property may be null.
+    // All return a result of zantroq/module.h. The property may be null.
     std::int32_t Get(const sModuleProperty* property, sZantroqValue* value);
     std::int32_t Put(const sModuleProperty* property, const sZantroqValue* value);
     std::int32_t Place(std::uint32_t window);
@@ -71,8 +71,8 @@ private:
     std::uint32_t m_references = 1;
     int m_uses = 0;
     ZantroqChanged m_changed = nullptr;
-    void* m_user = nullptr; // the host's
-    QByteArray m_text;      // what Get returned last
+    void* m_user = nullptr; // passed to the notification
+    QByteArray m_text;      // the text that Get returned last
 };
 
 } // namespace zantroq

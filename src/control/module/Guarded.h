@@ -1,4 +1,4 @@
-// What every call of a host passes through: the thread is checked, and no exception goes on to the host.
+// Wraps every call of a host: checks the thread, and lets no exception pass to the host.
 #pragma once
 
 #include "control/module/OwnApplication.h"

@@ -62,7 +62,7 @@ std::unique_ptr<ISettingsKey> UsersKey(const std::string& path)
     return OpenSettingsKey(path);
 }
 
-// Whole, also where the host loaded the module by a relative path. Empty if the file is no longer there.
+// The absolute path, even if the host loaded the module by a relative path. Empty if the file no longer exists.
 std::string ModulePath()
 {
     Dl_info info{};

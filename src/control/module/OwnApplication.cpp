@@ -16,7 +16,7 @@
 namespace zantroq {
 namespace {
 
-// The words and their number must outlive the application, which refers to them.
+// The application keeps pointers to the words and to their number, so they must outlive it.
 struct sOwnApplication
 {
     int Count = 1;
@@ -38,7 +38,7 @@ bool XServerAnswers()
     return answers;
 }
 
-// The toolkit takes over the environment's locale for the whole process, which is the host's to choose.
+// The toolkit sets the locale of the whole process from the environment, but the host decides on the locale.
 class CKeepLocale
 {
 public:
@@ -57,7 +57,7 @@ std::int32_t NeedApplication()
         return showsWindows ? ZANTROQ_OK : ZANTROQ_NO_DISPLAY;
     }
     auto own = std::make_unique<sOwnApplication>();
-    // Windows of hosts can be entered on X11 alone, so X11 is taken also where a desktop prefers another display.
+    // Only X11 can show the chart in a host's window, so X11 is used even if the desktop prefers another display.
     const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
     if (platform.isEmpty() || platform.startsWith("xcb")) {
         if (!XServerAnswers())
@@ -88,7 +88,7 @@ void PumpApplication(int milliseconds)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
     QCoreApplication::processEvents();
-    // An event loop of the toolkit does this when it returns; here nobody runs one.
+    // A returning event loop of the toolkit does this, but here no event loop runs.
     if (ownApplication != nullptr)
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }

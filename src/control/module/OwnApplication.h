@@ -6,11 +6,11 @@
 
 namespace zantroq {
 
-// Creates the module's application if the process has none. ZANTROQ_OK, ZANTROQ_NO_DISPLAY or
+// Creates the module's application if the process has none. Returns ZANTROQ_OK, ZANTROQ_NO_DISPLAY or
 // ZANTROQ_WRONG_THREAD.
 std::int32_t NeedApplication();
 
-// False if there is an application, and it belongs to another thread.
+// False if there is an application that belongs to another thread.
 bool IsApplicationThread();
 
 // Handles events; waits up to this time for the first of them. Does nothing without an application.

@@ -33,13 +33,13 @@ RegistrationRecords ImplementedRecords();
 // Opens a key of the settings by its path.
 using OpenKey = std::function<std::unique_ptr<ISettingsKey>(const std::string& path)>;
 
-// In this order: type library, class, categories, the categories that the class implements. A failure in the
-// last two skips what follows and is not reported. Records that were written before a failure stay. An empty
-// path counts as a failure of the type library, which lies in the module.
+// Writes in this order: type library, class, categories, the categories that the class implements. A failure of
+// the last two skips the rest and is not reported. Records that were written before a failure stay. An empty
+// path counts as a failure of the type library, because the module contains the type library.
 RegistrationResult RegisterModule(const OpenKey& open, const std::string& modulePath);
 
-// The type library, then the class with the categories that it implements. Missing records are no failure. The
-// categories themselves stay, since other classes may implement them.
+// Removes the type library, then the class with the categories that it implements. Missing records are no
+// failure. The categories themselves stay, because other classes may implement them.
 RegistrationResult UnregisterModule(const OpenKey& open);
 
 } // namespace zantroq

@@ -1,5 +1,5 @@
 // The built module, loaded with dlopen for each test and unloaded after it, with settings in a file of the
-// test's own and a feed that answers each request for ticks with one of them. The test program runs once in a
+// test's own and a feed that answers each request for ticks with one tick. The test program runs once in a
 // process without Qt and once in a process with a QApplication.
 #pragma once
 
@@ -48,7 +48,7 @@ inline std::ptrdiff_t EntriesOf(const char* folder)
     return std::distance(std::filesystem::directory_iterator(folder), std::filesystem::directory_iterator());
 }
 
-// What a process can leave open: threads, and file descriptors, sockets included.
+// The threads and file descriptors of the process, sockets included.
 struct sHeld
 {
     std::ptrdiff_t Threads = EntriesOf("/proc/self/task");

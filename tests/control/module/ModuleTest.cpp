@@ -1,4 +1,4 @@
-// What a host gets from the in-process module, without a display.
+// The functions, factory and controls of the in-process module, without a display.
 #include "control/module/LoadedModule.h"
 
 #include <array>
@@ -170,7 +170,7 @@ TEST_F(Module, AControlReleasedInItsNotificationEndsAfterTheCall)
     heard.Control->Table->Notify(heard.Control, HearAndRelease, &heard);
     EXPECT_EQ(PutSymbol(heard.Control, "AAA"), ZANTROQ_OK);
     EXPECT_EQ(heard.Numbers.size(), 1u);
-    // Stored properties change three times; the host hears nothing after it has released the control.
+    // Stored properties change three times; the host is not notified after it has released the control.
     heard = {};
     heard.Control = Create();
     heard.Control->Table->Notify(heard.Control, HearAndRelease, &heard);
@@ -314,13 +314,13 @@ TEST_F(Module, LeavesNoThreadAndNoDescriptorBehind)
         EXPECT_TRUE(PumpUntil([this] { return m_feed.Lookup.PeerClosed() && m_feed.Level1.PeerClosed(); }));
         Unload();
     };
-    life(); // what the toolkit keeps for good is there from here on
+    life(); // from here on everything that the toolkit keeps for good exists
     const sHeld before;
     for (int round = 0; round < 3; ++round) {
         Load();
         life();
         const sHeld after;
-        // Each port of the feed keeps its side of the newest connection alone.
+        // Each port of the feed keeps only its side of the newest connection.
         EXPECT_EQ(after, before) << round;
     }
 }
@@ -347,7 +347,7 @@ TEST_F(Module, AWindowThatCannotBeEnteredIsAFailure)
     control->Table->Release(control);
 }
 
-// In a process of its own, since the toolkit changes the locale with the first application of a process.
+// In a separate process, because the toolkit changes the locale with the first application of a process.
 TEST_F(Module, KeepsTheHostsLocale)
 {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
@@ -399,7 +399,7 @@ TEST_F(Module, UnregisteringLeavesTheTwoCategoriesInPlace)
               "Controls that are safely scriptable");
     EXPECT_EQ(Record("Component Categories\\{7DD95802-9882-11CF-9FA9-00AA006C42C4}"),
               "Controls safely initializable from persistent data");
-    EXPECT_EQ(Call("DllUnregisterServer"), ZANTROQ_OK); // nothing is there any more
+    EXPECT_EQ(Call("DllUnregisterServer"), ZANTROQ_OK); // no record exists any more
 }
 
 TEST_F(Module, ASettingsFileThatTakesNothingGivesTheTypeLibrarysFailure)

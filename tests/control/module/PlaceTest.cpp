@@ -193,7 +193,7 @@ TEST_F(ModuleInAWindow, ItLeavesNoThreadAndNoDescriptorBehind)
         EXPECT_TRUE(PumpUntil([this] { return m_feed.Lookup.PeerClosed() && m_feed.Level1.PeerClosed(); }));
         Unload();
     };
-    life(); // what the toolkit keeps for good is there from here on
+    life(); // from here on everything that the toolkit keeps for good exists
     const sHeld before;
     for (int round = 0; round < 3; ++round) {
         Load();

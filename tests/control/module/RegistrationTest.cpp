@@ -19,8 +19,8 @@ class CStore
 public:
     using Place = std::pair<std::string, std::string>; // key, name
     std::map<Place, std::string> Values;
-    std::vector<std::string> Order; // of the keys, as they were written or deleted
-    std::string Refused;            // the beginning of keys that take nothing
+    std::vector<std::string> Order; // the keys in the order in which they were written or deleted
+    std::string Refused;            // keys that begin with this text refuse writes
 
     OpenKey Opener()
     {
@@ -146,7 +146,7 @@ TEST(Registration, UnregisteringLeavesTheTwoCategoriesAlone)
         {{Categories + Scriptable, ""}, "Controls that are safely scriptable"},
         {{Categories + Initializable, ""}, "Controls safely initializable from persistent data"}};
     EXPECT_EQ(store.Values, left);
-    EXPECT_EQ(UnregisterModule(store.Opener()), 0u); // nothing is there any more
+    EXPECT_EQ(UnregisterModule(store.Opener()), 0u); // no record exists any more
 }
 
 TEST(Registration, UnregisteringReportsWhatStays)
