@@ -1,6 +1,6 @@
-// Prepares the words of the command line so that the command line library does not change names and values.
-// The library takes ++ as the end of a subcommand, and after --key= without a value it takes the next word.
-// Pure functions.
+// Prepares the words of the command line so that the command line library does not change names and
+// values. The library takes ++ as the end of a subcommand, and after --key= without a value it takes the
+// next word. Pure functions, any thread.
 #pragma once
 
 #include <string>

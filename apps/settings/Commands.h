@@ -1,5 +1,6 @@
-// The subcommands of zantroq-settings, one function each. Results go to standard output, messages to standard
-// error; each returns the exit code of the program. A CSettingsFileError is passed on to the caller.
+// The subcommands of zantroq-settings, one function each. Results go to standard output, messages to
+// standard error; each returns the exit code of the program. A CSettingsFileError is passed on to the
+// caller. Main thread.
 #pragma once
 
 #include "platform/settings/SettingsFile.h"

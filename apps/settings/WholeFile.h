@@ -1,4 +1,5 @@
-// Reads and writes a whole file. Each function returns an empty text, or the reason of the failure.
+// Reads and writes a whole file. Each function returns an empty text, or the reason of the failure. Any
+// thread.
 #pragma once
 
 #include <string>

@@ -1,5 +1,5 @@
-// An array of numbers that are all written before they are read. Not initialised, because zeroing a quarter
-// of a million numbers takes measurable time.
+// An array of numbers that are all written before they are read. Not initialised, because zeroing a
+// quarter of a million numbers takes measurable time. One owner, no lock.
 #pragma once
 
 #include <cstddef>

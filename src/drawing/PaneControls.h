@@ -1,4 +1,4 @@
-// The numbers of panes and mouse buttons in events.
+// The numbers of panes and mouse buttons in events. Constants.
 #pragma once
 
 #include "settings/ChartSettings.h"

@@ -1,4 +1,4 @@
-// The numbers of the labels and series of the price pane, counted from 1.
+// The numbers of the labels and series of the price pane, counted from 1. Constants.
 #pragma once
 
 namespace zantroq {

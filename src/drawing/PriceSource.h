@@ -1,6 +1,6 @@
 // Read access to a series for studies and the price pane. CSeriesReader implements it over the current
 // request, tests over plain vectors. A single read returns 0 outside the series and takes the series' lock
-// for one value; a bulk read takes it once.
+// for one value; a bulk read takes it once. Chart window's thread.
 #pragma once
 
 #include <cstdint>

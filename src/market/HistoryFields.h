@@ -1,4 +1,4 @@
-// The fields of a history line.
+// The fields of a history line, as views into the line. Plain data.
 #pragma once
 
 #include "market/LineFields.h"

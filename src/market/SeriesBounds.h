@@ -1,5 +1,6 @@
-// The bounds of a request: which points its date, time and filter limits admit. Bounds are compared as texts.
-// Bounds of the usual form are compared as numbers, which gives the same order without formatting the time.
+// The bounds of a request: which points its date, time and filter limits admit. Bounds are compared as
+// texts. Bounds of the usual form are compared as numbers, which gives the same order without formatting
+// the time. No lock of their own: the request that contains them locks.
 #pragma once
 
 #include "platform/CalendarTime.h"

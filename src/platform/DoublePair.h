@@ -1,5 +1,5 @@
-// Two doubles in one vector register. For loops whose additions must keep their order within each result, so
-// that the only way to speed them up is to compute several results at once.
+// Two doubles in one vector register. For loops whose additions must keep their order within each result,
+// so that the only way to speed them up is to compute several results at once. Pure functions, any thread.
 #pragma once
 
 #include <cstddef>

@@ -1,5 +1,5 @@
 // Numbers of the settings that code refers to one by one; code reaches all others only through the table.
-// SettingName() gives the stored name.
+// SettingName() gives the stored name. Constants.
 #pragma once
 
 namespace zantroq {

@@ -1,4 +1,4 @@
-// The table of calls through which hosts reach a control.
+// The table of calls through which hosts reach a control. Constant; any thread may read it.
 #pragma once
 
 #include <zantroq/module.h>

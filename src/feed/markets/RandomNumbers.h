@@ -1,6 +1,6 @@
 // Repeatable random numbers: the same with every machine, compiler and run. The state is a counter, so any
 // day or minute of a simulated market can be generated without the days before it. Mixing function:
-// SplitMix64 (Steele, Lea, Flood, 2014).
+// SplitMix64 (Steele, Lea, Flood, 2014). Free functions: any thread; an object has one owner and no lock.
 #pragma once
 
 #include <cstdint>

@@ -1,5 +1,5 @@
 // Invented companies, bonds, futures and indices that the feed lists, so that a symbol search finds
-// something. Each is a simulated market and its description says so.
+// something. Each is a simulated market and its description says so. Pure, any thread.
 #pragma once
 
 #include "feed/markets/FeedRecords.h"
