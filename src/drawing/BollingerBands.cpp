@@ -10,7 +10,7 @@ namespace zantroq {
 
 namespace {
 
-// squares[k] is the sum of (values[k + j] - middle[k]) squared over j from 0 to length - 1, in that order.
+// squares[k] is the sum of (values[k + j] - middle[k]) squared for j from 0 to length - 1, in that order.
 void SquareSums(const double* values, int length, std::span<const double> middle, std::span<double> squares)
 {
     const std::size_t count = squares.size();
@@ -46,7 +46,7 @@ void BollingerBands(const sCloseRun& closes, int first, int period, double devia
 {
     SimpleAverages(closes, first, period, middle);
     const int end = first + static_cast<int>(middle.size());
-    const int index = period < 1 ? end : std::clamp(period, first, end); // the first with a value
+    const int index = period < 1 ? end : std::clamp(period, first, end); // first index with a value
     const auto holes = static_cast<std::size_t>(index - first);
     std::fill_n(lower.begin(), holes, CPaneData::HoleValue());
     std::fill_n(upper.begin(), holes, CPaneData::HoleValue());

@@ -1,6 +1,5 @@
-// The texts that tell about one point: the readout under the mouse and the parts of the price pane's title.
-// Averages and bands are read from what the panes show, prices come in as a record. Chart window's
-// thread.
+// The texts that describe one point: the readout under the mouse and the parts of the price pane's title.
+// Averages and bands are read from the pane; prices are passed as a record. Chart window's thread.
 #pragma once
 
 #include "drawing/PriceFormatter.h"
@@ -12,7 +11,7 @@
 
 namespace zantroq {
 
-// How a series' prices are written: by its format code, or plainly while it has none (code 0).
+// Formats the prices of a series: by its format code, or with the plain rules if it has none (code 0).
 struct sPriceWords
 {
     const IPriceFormatter& Formatter;
@@ -23,15 +22,15 @@ struct sPriceWords
     std::string Axis(double price) const;    // at the value axis
 };
 
-// "Price: %s", or "Hi: %s, Low: %s, Open: %s, Close: %s". While the series has no format code the four places
-// of a bar all show its high.
+// "Price: %s" for ticks, "Hi: %s, Low: %s, Open: %s, Close: %s" for bars. While the series has no format
+// code, all four places of a bar show its high.
 std::string ReadoutPrices(const sPriceWords& words, int dataType, const sHIST_DATA& point);
-std::string ReadoutVolume(std::int64_t volume); // empty for 0 and less
+std::string ReadoutVolume(std::int64_t volume); // empty for 0 and below
 std::string ReadoutTime(int dataType, const std::string& time);
 std::string ReadoutAverages(const sOverlaySettings& settings, const CPaneData& overlays, int point);
 std::string ReadoutBands(const sOverlaySettings& settings, const CPaneData& overlays, int point);
 
-// Whether the price pane shows averages: the bands take their place.
+// True if the price pane shows averages; bands replace them.
 inline bool ShowsAverages(const sOverlaySettings& settings)
 {
     return settings.ShowAverages != 0 && settings.ShowBands == 0;

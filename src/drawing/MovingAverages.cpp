@@ -9,7 +9,7 @@ namespace zantroq {
 
 namespace {
 
-// The part of out from index `from` on, after the rest was filled with holes.
+// Fills `out` with holes before index `from` and returns the rest.
 std::span<double> ValuesFrom(int from, int first, std::span<double> out)
 {
     const int holes = std::clamp(from - first, 0, static_cast<int>(out.size()));

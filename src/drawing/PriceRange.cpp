@@ -14,8 +14,8 @@ namespace {
 constexpr double Hole = CPaneData::HoleValue();
 constexpr double Infinity = std::numeric_limits<double>::infinity();
 
-// Several runs side by side: a comparison has to wait for the one before it. Not-a-number is neither more nor
-// less than what was found so far, and so drops out.
+// Several parallel minima and maxima, because each comparison must wait for the one before. Not-a-number
+// compares as neither smaller nor larger and is thus ignored.
 class CExtremes
 {
 public:
@@ -41,7 +41,7 @@ public:
         });
     }
 
-    // Both ends, holes left out.
+    // Widens both ends, except by holes.
     void IncludeCurve(std::span<const double> values)
     {
         const DoublePair hole{Hole, Hole}, least{-Infinity, -Infinity};

@@ -1,5 +1,5 @@
-// The looks that series start from: ten rows of line, fill and symbol, whose colors are then taken from the
-// settings.
+// The initial styles of series: ten rows of line, fill and symbol. Settings replace their colors. Pure
+// functions, any thread.
 #pragma once
 
 #include "scene/PaneObjects.h"
@@ -16,7 +16,7 @@ struct sSeriesLook
     ColorValue Color = 0;
     int Width = 1;
     int Shape = SymbolNone;
-    ColorValue StoredSymbolColor = 0; // kept, without effect: a symbol is drawn in Color
+    ColorValue StoredSymbolColor = 0; // stored without effect: a symbol is drawn in Color
     int SymbolSize = 1;
     bool operator==(const sSeriesLook&) const = default;
 };
@@ -35,16 +35,16 @@ enum StyleRow : int
 
 using SeriesStyleTable = std::array<sSeriesLook, StyleRows>;
 
-// The table as it is without settings.
+// The table without settings.
 const SeriesStyleTable& DefaultSeriesStyles();
 
-// The table with the colors of price, averages, bands and both grid rows overwritten.
+// The table with the colors of price, averages, bands and both grid rows from the settings.
 SeriesStyleTable SeriesStyles(const sChartSettings& settings);
 
-// Gives a series a look: all but the stored symbol color.
+// Applies a style to a series, except the stored symbol color.
 void ApplyLook(CSeriesStyle& style, const sSeriesLook& look);
 
-// The row for the grid by the setting "GRID STYLE".
+// The row of the grid's style, selected by the setting "GRID STYLE".
 inline int GridRow(const sChartSettings& settings)
 {
     return settings.GridStyle == 1 ? GridLine : GridShortDashes;

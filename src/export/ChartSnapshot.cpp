@@ -68,8 +68,8 @@ Json LayoutToJson(const CPaneLayout& layout)
     return json;
 }
 
-// What a click would find: menu items as the menu of the pane last asked for would offer them, everything
-// else as the toolbar shows it, which stands disabled as a whole while a chart loads.
+// The state that a click would find. Menu items are those of the last requested context menu; other commands
+// have the state of the toolbar, which is disabled completely while a chart loads.
 Json CommandsToJson(const CChartDlg& window)
 {
     const sContextMenu price = window.MenuOf(0);
@@ -160,7 +160,7 @@ std::string ChartSnapshotText(const CChartDlg& window)
     const IDialogDriver* const dialog = window.OpenDialog();
     json["dialog"] = dialog != nullptr ? DialogToJson(dialog->Describe()) : Json();
     json["panes"] = PanesToJson(window);
-    // Texts from outside may be no UTF-8; they must not keep the rest from being written.
+    // Texts from outside may not be UTF-8; the rest must be written nevertheless.
     return json.dump(1, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 

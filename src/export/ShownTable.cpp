@@ -27,7 +27,7 @@ void AddNumber(std::string& line, double number)
     if (number == CPaneData::HoleValue())
         return;
     if (std::isnan(number)) {
-        line += "nan"; // whatever its sign
+        line += "nan"; // whatever the sign
         return;
     }
     char digits[32];

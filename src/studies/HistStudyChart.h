@@ -20,7 +20,7 @@
 
 namespace zantroq {
 
-// One series of a study pane: computed, or a level that is the same at every point.
+// One series of a study pane: a computed curve, or a level that is the same at every point.
 struct sStudyLine
 {
     int Group = 1, Series = 1;
@@ -28,11 +28,11 @@ struct sStudyLine
     std::optional<double> Level{};
 };
 
-// The largest and smallest value seen. The hole value is not one; a not-a-number widens nothing.
+// The largest and the smallest value so far. The hole value and not-a-number do not count.
 struct sValueRange
 {
     double Max, Min;
-    bool FiniteAlone = false; // infinities widen nothing either
+    bool FiniteAlone = false; // infinities do not count either
     void Widen(double value)
     {
         if (value == CPaneData::HoleValue() || (FiniteAlone && std::isinf(value)))
@@ -55,23 +55,25 @@ public:
     std::int64_t GetVolume(int index) const override { return prices->Volume(index); }
     int GetPointCount() const override { return prices->Count(); }
 
-    // The whole displayed range. Nothing happens while no point is shown; an empty series leaves no points.
+    // Draws the whole displayed range. Does nothing while no point is displayed; an empty series leaves an
+    // empty pane.
     void DrawStudy() override;
 
-    // Appends live points behind those the pane has, and drops as many at its left edge as the window cannot
-    // hold. The pane's marker moves left by what was dropped, or by newPoints while the window is not full.
+    // Appends live points after the existing ones, and drops as many at the left edge as the window cannot
+    // hold. Moves the pane's marker left by the number of dropped points, or by `newPoints` while the window
+    // is not full.
     void UpdateStudy(int newPoints) override;
 
-    // The study's own text, the values at the marked point, " (Minimized)" while collapsed.
+    // The text of the study, the values at the marked point, and " (Minimized)" while collapsed.
     std::string GetStudyInfoText() const override;
     std::string ReadoutText(int point) const override;
     void RefreshStudyHeader() override;
 
 protected:
-    // The computed lines' values, in the order of Lines().
+    // The values of the computed lines, in the order of Lines().
     using CLineValues = std::span<const std::span<const double>>;
 
-    // All lines, group 1 first, each group's series in order.
+    // All lines: group 1 first, then group 2, each in the order of its series.
     virtual std::vector<sStudyLine> Lines() const = 0;
     virtual int GroupChartType(int /*group*/) const { return ChartLines; }
     virtual ColorValue LabelColor() const
@@ -79,27 +81,27 @@ protected:
         return StudySettings().LabelColors[static_cast<std::size_t>(kind)];
     }
 
-    // How many points a whole draw lags behind the price pane.
+    // By how many points a whole draw is later than the price pane.
     virtual int DrawLag() const { return 0; }
 
-    // Computes `count` points from `index` into one array for each computed line: every element, with the
-    // hole value where there is none.
+    // Computes `count` points from `index` on into one array for each computed line. Must write every
+    // element; the hole value if there is none.
     virtual void Compute(std::int64_t index, int count, std::span<double* const> out) = 0;
 
-    // How far before its own points a stretch of the series must be read.
+    // How many points before a range must be read to compute it.
     virtual std::int64_t LookBack() const { return 0; }
 
-    // What the range of a drawn axis starts from; none where the axis does not follow the values.
+    // The initial range of the value axis; none if the axis does not depend on the values.
     virtual std::optional<sValueRange> RangeStart() const { return {}; }
 
-    // The value axis after a whole draw, from the range of all computed values, and after live points.
+    // Sets the value axis after a whole draw, from the range of all computed values, and after live points.
     virtual void FitDrawnAxis(const sValueRange& range) = 0;
     virtual void FitUpdatedAxis(CLineValues /*values*/) {}
 
     virtual std::string HeadText() const = 0;
-    // The texts of the values at a marked point, empty where they are holes.
+    // The texts of the values at a marked point; empty for holes.
     virtual std::string MarkedText(int point) const = 0;
-    // The study's part of the readout at a point where its first series has a value; empty: it has no part.
+    // The study's part of the readout at a point where its first series has a value; may be empty.
     virtual std::string ReadoutValues(int /*point*/) const { return {}; }
     double ValueAt(int series, int point) const
     {
@@ -112,7 +114,7 @@ protected:
     sStudyAxisLook AxisLook() const;
     CPaneAxis& ValueAxis() const { return chart->PaneArea().PaneAxes().Y(); }
 
-    // prefix and the value of a series of group 1 at a point; empty for the hole value.
+    // The prefix and the value of a series of group 1 at a point; empty for the hole value.
     std::string ValueText(const char* prefix, int series, int point, int decimals) const;
 
     // Steps of DrawStudy and UpdateStudy, for a pane that has its own versions of these.
@@ -122,7 +124,7 @@ protected:
     sValueRange ComputeLines(const std::vector<sStudyLine>& lines, int first, int shown);
     // Shifts and sizes all series, moves the marker and the x axis; newPoints is at least 1.
     sUpdatePlan MakeRoom(int newPoints);
-    // Sets SetStudyYAxis from the axis's present data range, widened, if a value lies outside it.
+    // Calls SetStudyYAxis with the current data range of the axis, widened, if a value lies outside it.
     void WidenAxis(CLineValues values);
 
 private:

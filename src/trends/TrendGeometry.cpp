@@ -14,7 +14,7 @@ CPaneGroup& Overlay(IPaneWindow& window)
     return window.Pane(0).PaneGroups(2);
 }
 
-// Rounds half up, as all pixel distances here; a value that is no number counts as out of reach.
+// Rounds half up, like all pixel distances here; not-a-number and huge values cannot be hit.
 int RoundedPixels(double distance)
 {
     if (!(std::fabs(distance) < 1e9))
@@ -28,8 +28,8 @@ int PointDistance(int dx, int dy)
     return RoundedPixels(std::sqrt(x * x + y * y));
 }
 
-// x is the axis base, the one behind it, and so on. It nearly always is already, which a pane knows; where
-// only the first points are to be numbered, they are looked at without a branch first.
+// Sets x to base, base + 1, and so on. The pane detects cheaply if they already have these values. If only
+// the first points need numbers, a loop without branches checks them first.
 void NumberPoints(CPaneData& data, int base, int shown)
 {
     if (shown >= static_cast<int>(data.X().size())) {
@@ -115,7 +115,7 @@ int LevelDistance(IPaneWindow& window, int series, int p1, int p2, int x, int y)
 
 int SegmentDistance(IPaneWindow& window, int series, int p1, int p2, int x, int y)
 {
-    // A line may begin or end a long way off the plot: one map serves all its points.
+    // One map serves all points, because a line may start or end far outside the plot.
     const sPlotMap map(window.Pane(0));
     const CPaneData& data = Overlay(window).PaneData();
     const std::span<const double> dataX = data.X(), dataY = data.Y(series);

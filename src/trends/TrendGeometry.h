@@ -1,8 +1,8 @@
-// What every trendline kind needs of the price pane: display positions, writing a curve into a series of
-// group 2, and the two distance rules. Chart window's thread.
+// Functions for all kinds of trendline: display positions, writing a curve into a series of group 2 of the
+// price pane, and the two distance rules. Chart window's thread.
 //
-// A display position is a data index minus the first displayed index plus 1, so 1 to `shown` are on the pane;
-// a position outside is legal and simply not drawn.
+// A display position is a data index minus the first displayed index plus 1, so positions 1 to `shown` are in
+// the pane. Other positions are valid and are not drawn.
 #pragma once
 
 #include "drawing/ChartWindow.h"
@@ -13,7 +13,7 @@
 
 namespace zantroq {
 
-inline constexpr int NotHittable = 1000; // the distance of a line that cannot be hit
+inline constexpr int NotHittable = 1000; // distance of a line that cannot be hit
 
 struct sTrendLook
 {
@@ -36,14 +36,14 @@ inline int DisplayPosition(const IPaneWindow& window, int index)
 // The integer part of the x axis's left edge.
 int AxisBase(IPaneWindow& window);
 
-// The values of a series of group 2 for a whole draw to write in place, with its look set: first point 1,
-// drawn to the last displayed point. Empty when the pane has no such series.
+// Prepares a series of group 2 for a whole draw: sets its style, makes point 1 its first point and the last
+// displayed point its last, and returns its values for writing. Empty if the pane has no such series.
 std::span<double> BeginTrendSeries(IPaneWindow& window, int series, const sTrendLook& look, XVector x);
 // Ends the writing of a series: the scene takes the values over.
 void EndTrendSeries(IPaneWindow& window);
 
 // Writes value(i) at positions from..to of a series and the hole value at the other displayed points. One
-// pass, nothing allocated. Inside of a batch.
+// pass, no allocation. Must be called inside a batch.
 template<class Value>
 void WriteTrendSeries(IPaneWindow& window, int series, const sTrendLook& look, XVector x, int from, int to,
                       Value value)
@@ -60,24 +60,24 @@ void WriteTrendSeries(IPaneWindow& window, int series, const sTrendLook& look, X
     EndTrendSeries(window);
 }
 
-// Writes one price from a position to the last point, and holes before it. Costs what changes.
+// Writes one price from a position to the last point, and holes before it. Writes only values that change.
 void WriteTrendLevel(IPaneWindow& window, int series, const sTrendLook& look, XVector x, int from,
                      double price);
 
-// The hole value at every displayed point of a series.
+// Writes the hole value at every displayed point of a series.
 void EraseTrendSeries(IPaneWindow& window, int series);
 
-// Pixels from (x, y) to the level line that series draws from position p1 to p2: to an end beyond the ends,
-// |dy| between them. NotHittable when its left end is a hole or off the plot.
+// Distance in pixels from (x, y) to the level line of `series` from position p1 to p2: beyond its ends the
+// distance to the nearer end, otherwise |dy|. NotHittable if its left end is a hole or off the plot.
 int LevelDistance(IPaneWindow& window, int series, int p1, int p2, int x, int y);
 
-// The segment rule: p1 and p2 first move together over points that are holes or off the plot; then the
-// distance to an end beyond the ends, and to the infinite line between them. NotHittable when no two visible
-// points are left.
+// The segment rule: p1 and p2 first move together over points that are holes or off the plot. Beyond
+// the ends the distance is measured to the nearer end, otherwise to the infinite line through both points.
+// NotHittable if fewer than two visible points are left.
 int SegmentDistance(IPaneWindow& window, int series, int p1, int p2, int x, int y);
 
-// The range of a hit test that starts at a line's left end and runs to the last displayed point; false:
-// nothing to hit.
+// The range of a hit test from the left end of a line to the last displayed point. Returns false if it is
+// empty.
 bool ClipRayRange(const IPaneWindow& window, int& p1, int& p2);
 
 } // namespace zantroq

@@ -10,9 +10,9 @@ namespace zantroq {
 
 namespace {
 
-constexpr int FollowDistance = 4;   // beyond it the nearest point in x is taken instead
-constexpr int ReadoutDistance = 10; // a click below it shows the readout
-constexpr int DeleteDistance = 9;   // a right click beyond it opens the menu
+constexpr int FollowDistance = 4;   // beyond it, the nearest point in x is used
+constexpr int ReadoutDistance = 10; // a click closer than this shows the readout
+constexpr int DeleteDistance = 9;   // a right click further away opens the menu
 
 // Pixels from (x, y) to the bar from (x1, y1) to (x2, y2), its ends included; 1000 at most.
 int BarDistance(int x, int y, int x1, int y1, int x2, int y2)
@@ -74,7 +74,7 @@ sNearPoint CPointInspection::NearPoint(int x, int y) const
 {
     const sDisplayRange& range = m_window.Range();
     const sNearPoint near = FindNearPoint(m_window.Pane(0), IsTickData(), range.shown, x, y);
-    // A chart that was dropped still stands in the panes, but its points are gone.
+    // The panes may still show the previous chart, whose points are gone.
     return range.first - 1 + near.Point < m_drawing.Count() ? near : sNearPoint();
 }
 
@@ -136,8 +136,8 @@ bool CPointInspection::OfferDeletion(int x, int y)
         return false;
     const int index = m_window.Range().first - 1 + near.Point;
     const std::string caption = IsTickData() ? "Tick deletion" : "Interval deletion";
-    // The window goes on while the question stands: live points may come, and a host may ask for another
-    // chart, which has no part in the answer.
+    // The window is active while the message box is open: live points may arrive, and a host may request
+    // another chart, to which the answer must not apply.
     const int chart = m_drawing.ChartNumber();
     if (m_box.Ask(DeletionText(index), caption, BoxButtons::YesNo, BoxIcon::Question) == BoxAnswer::Yes &&
         chart == m_drawing.ChartNumber() && index < m_drawing.Count()) {

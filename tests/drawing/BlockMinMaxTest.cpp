@@ -1,4 +1,5 @@
-// What is known of blocks of a series' values, through any row of changes, against a look at each value.
+// The stored minima and maxima of blocks of a series, after any sequence of changes, compared with a look at
+// each value.
 #include "scene/Chart2D.h"
 
 #include <gtest/gtest.h>

@@ -21,7 +21,7 @@ sHIST_DATA Bar(double open, double high, double low, double close)
     return bar;
 }
 
-// A scene whose first point has these values, one a series.
+// A scene whose first point has these values, one per series.
 class CPoint
 {
 public:

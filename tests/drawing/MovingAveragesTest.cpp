@@ -79,8 +79,7 @@ TEST(ExponentialAverage, FirstValueStandsOneAfterThePeriod)
     const std::vector<double> closes{1, 2, 3, 4, 5, 9};
     std::vector<double> out(6);
     ExponentialAverages({closes, 0}, 0, 3, out);
-    // 2/4 * 5 + 2/4 * mean(2, 3, 4) = 4; 2/4 * 9 + 2/4 * mean(3, 4, 5) = 6.5: the value before does not
-    // enter.
+    // 2/4 * 5 + 2/4 * mean(2, 3, 4) = 4; 2/4 * 9 + 2/4 * mean(3, 4, 5) = 6.5: the previous value is not used.
     EXPECT_EQ(out, (std::vector<double>{Hole, Hole, Hole, Hole, 4, 6.5}));
 }
 
@@ -125,8 +124,8 @@ TEST(MovingAverages, PeriodOfOneIsTheCloseItself)
     EXPECT_EQ(out, (std::vector<double>{Hole, 2.2, 3.3}));
 }
 
-// Rounding makes the order visible: from the earliest on, each 1 is lost against 1e16; the other way they are
-// not.
+// Rounding makes the order visible: added from the earliest on, each 1 is lost against 1e16; in the reverse
+// order none is.
 TEST(MovingAverages, SumsRunFromTheEarliestClose)
 {
     const std::vector<double> closes{0, 1e16, 1, 1, 1};

@@ -1,5 +1,5 @@
-// The vectors of a group through random rows of operations, against plain vectors that remember nothing: what
-// is kept to save work (known constants, numbered points, an array that slides) must never show.
+// The vectors of a group after random sequences of operations, compared with plain vectors: optimisations
+// (known constants, consecutive x, a sliding array) must never be visible.
 #include "scene/Chart2D.h"
 
 #include <gtest/gtest.h>
@@ -168,7 +168,7 @@ void OneOperation(CPaneData& data, sPlainData& plain, std::mt19937& random)
             plain.DrawnTo[static_cast<std::size_t>(series - 1)] += count;
         break;
     }
-    case 13: { // a point more in a full window
+    case 13: { // one more point in a full window
         const double next = plain.X.empty() ? 0 : plain.X.back() + 1;
         for (int one = 1; one <= static_cast<int>(plain.Y.size()); ++one)
             ASSERT_EQ(data.ShiftPoints(one, points - 1, 2), plain.Shift(one, points - 1, 2));
@@ -220,7 +220,7 @@ TEST(PaneDataModel, AnyRowOfOperationsLeavesPlainVectors)
     }
 }
 
-// A live chart drops a point at the left for each that it takes in at the right, thousands of times.
+// A live chart drops a point at the left for each new one at the right, thousands of times.
 TEST(PaneDataModel, AFullWindowSlidesForEver)
 {
     CChart2D chart;

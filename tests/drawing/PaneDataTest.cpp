@@ -97,7 +97,7 @@ TEST(PaneData, TheDrawnMarkerMovesOnUpToTheLastPoint)
     EXPECT_EQ(pane.data.DrawnTo(1), 5);
 }
 
-// The point of the warm-up that had a value already was drawn.
+// Regression: a point of the warm-up that had a value was drawn.
 TEST(PaneData, PointsBeforeAMarkerThatWasPutAreNotDrawn)
 {
     sPoints pane(2, 5);

@@ -83,7 +83,7 @@ void Fill(CChart2D& chart)
     marker.LineLook().SetColor(0x00ff00);
 }
 
-// A file of this process that goes with the test.
+// A file of this process, deleted with this object.
 struct sScratchFile
 {
     sScratchFile()
@@ -211,7 +211,7 @@ TEST(PaneFile, EveryDoubleReadsBackExactly)
     }
 }
 
-// Texts of lists and whether they are lists of six values; the plain JSON parser decides what they hold.
+// Texts of lists, and whether they are lists of six values; the plain JSON parser decides their contents.
 const char* const ListTexts[] = {
     "[1,2,3,4,5,6]",
     " [ 1.5 , -2.25e1,\n3E+2,\t4e-3\r, 0.0, -0.0 ] ",
@@ -240,7 +240,7 @@ const char* const ListTexts[] = {
     "",
 };
 
-// What a text gives by the road of a JSON tree; nothing where it is refused.
+// The result of loading a text through a JSON tree; nothing if it is refused.
 std::optional<std::string> LoadedAsTree(const std::string& text)
 {
     CChart2D chart;
@@ -346,7 +346,7 @@ TEST(PaneFile, ValuesDeepInOneAnotherAreRefused)
     EXPECT_THROW(PaneFromText(depth, chart), std::runtime_error);
 }
 
-// Texts that are left to the JSON parser were taken at any depth.
+// Regression: texts left to the JSON parser were accepted at any depth.
 TEST(PaneFile, TheDepthIsTheSameWhicheverReaderTakesTheText)
 {
     CChart2D chart;
@@ -373,7 +373,7 @@ TEST(PaneFile, TheDepthIsTheSameWhicheverReaderTakesTheText)
         EXPECT_TRUE(LoadedAsText(text)) << "brackets within a text lie nowhere";
 }
 
-// What followed a NUL byte was not looked at.
+// Regression: text after a NUL byte was ignored.
 TEST(PaneFile, ANulByteIsRefusedWhereverItStands)
 {
     CChart2D chart;
@@ -388,7 +388,7 @@ TEST(PaneFile, ANulByteIsRefusedWhereverItStands)
         ASSERT_FALSE(LoadedAsText(good.substr(0, at) + nul + good.substr(at))) << at;
 }
 
-// The most that this process has held so far, in megabytes.
+// The peak memory of this process in megabytes.
 long MostMemory()
 {
     rusage usage{};
@@ -396,7 +396,7 @@ long MostMemory()
     return usage.ru_maxrss / 1024;
 }
 
-// A series of many points and many series that have none of them asked for gigabytes.
+// Regression: a series with many points, with many series that have none of them, requested gigabytes.
 TEST(PaneFile, PointsThatTheFileDoesNotHoldGetNoRoom)
 {
     CChart2D chart;
@@ -445,7 +445,7 @@ TEST(PaneFile, NumbersOfEveryKindHaveTheDigitsOfTheJsonLibrary)
     }
 }
 
-// The same pane as the interface of a snapshot knows it.
+// The same pane as a snapshot shows it.
 json WithoutMore(const CChart2D& chart)
 {
     json pane = PaneToJson(chart);

@@ -16,7 +16,7 @@ const double Hole = CPaneData::HoleValue();
 const double Infinity = std::numeric_limits<double>::infinity();
 const double NotANumber = std::numeric_limits<double>::quiet_NaN();
 
-// A plot of 101 by 51 pixels whose corner is at (10, 20), showing x 0 to 100 and y 0 to 50: a pixel a unit.
+// A plot of 101 by 51 pixels with its corner at (10, 20), showing x 0 to 100 and y 0 to 50: a pixel per unit.
 struct sUnitPane
 {
     sUnitPane()
@@ -276,7 +276,7 @@ TEST(PickPoint, AgreesWithLookingAtEveryPointWhateverTheOrderOfX)
     }
 }
 
-// A search that halves its way over points whose pixels descend missed most of them.
+// Regression: a binary search over points whose pixels descend missed most of them.
 TEST(PickPoint, FindsEveryPointOnAnAxisThatRunsBackwards)
 {
     std::mt19937 random(9);

@@ -87,7 +87,7 @@ TEST(PriceDraw, DrawBeforeTheSetUpSetsUpFirst)
     chart.AddCloses({1, 2});
     chart.manager.Draw(0);
     EXPECT_EQ(chart.Bars().SeriesCount(), 1);
-    chart.prices.SetDataType(DailyData); // another chart is on its way
+    chart.prices.SetDataType(DailyData); // another chart is loading
     chart.manager.Draw(0);
     EXPECT_EQ(chart.Bars().SeriesCount(), 4);
     EXPECT_EQ(chart.Labels().Count(), 9);
@@ -247,7 +247,7 @@ TEST(PriceDraw, FixedScaleKeepsTheAxisUntilAsked)
     chart.Add(500, 600, 400, 450, 9999);
     chart.manager.Draw(11);
     EXPECT_EQ(chart.Axes().Y().ViewHigh().Value(), 140); // the new high is cut off
-    chart.manager.FullRedraw();                          // a set-up does not lose it either
+    chart.manager.FullRedraw();                          // a set-up keeps it too
     EXPECT_EQ(chart.Axes().Y().ViewHigh().Value(), 140);
     chart.window.resetScale = true;
     chart.manager.Draw(0); // fits the whole series, not the window: 99 to 600 and 1 %
@@ -429,8 +429,7 @@ TEST(PriceDraw, StrangePeriodsDrawNothing)
         }
 }
 
-// Prices before the window were higher, so an average over them stands above what the prices alone would
-// show.
+// Prices before the window are higher, so an average of them is above the displayed prices.
 void FillFallen(CSeriesFixture& chart)
 {
     chart.window.settings.PtsIndex = chart.window.range.ptsIndex = 0;
@@ -462,7 +461,7 @@ TEST(PriceDraw, PeriodLongerThanTheSeriesDrawsHolesAlone)
     }
 }
 
-// At index 5 the mean of five closes has a value; the exponential average has its first one index later.
+// At index 5 the mean of five closes has a value; the exponential average starts one index later.
 TEST(PriceDraw, ExponentialAverageHasAHoleWhereTheSimpleOneBegins)
 {
     CSeriesFixture chart;

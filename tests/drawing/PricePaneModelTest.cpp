@@ -1,5 +1,5 @@
-// The whole draw of the price pane against a slow plain model of it: one point, one index, one rule after the
-// other, without any of the blocks and look-back of the code.
+// The whole draw of the price pane compared with a slow plain model: one point, one index and one rule at a
+// time, without the blocks and the look-back of the code.
 #include "support/SeriesFixture.h"
 
 #include "drawing/NumberTexts.h"
@@ -42,7 +42,7 @@ double Cut(double value)
     return std::trunc(value);
 }
 
-// The value axis for a range, or nothing where it stays as it is.
+// The value axis for a range; false if the axis does not change.
 bool PlainAxis(double a, double b, int code, sModelAxis& axis)
 {
     if (b > a)
@@ -91,7 +91,7 @@ bool PlainAxis(double a, double b, int code, sModelAxis& axis)
         return true;
     for (double v = !plain && k != 0 ? b + t : b; v <= a; v = v + t) {
         axis.Labels.push_back({v, plain ? GeneralText(v) : ShippedPriceFormatter().Format(v, code)});
-        if (v + t == v) // the one freedom taken: a step lost in rounding would go on for ever
+        if (v + t == v) // the only deviation: a step lost in rounding would never end
             break;
     }
     return true;
@@ -139,7 +139,7 @@ sPlainBand PlainBand(const sModelCase& c, int index)
     return band;
 }
 
-// What a pane is to show after the draw.
+// The expected pane after the draw.
 struct sModelPane
 {
     int First = 0, Last = 0, Shown = 0;

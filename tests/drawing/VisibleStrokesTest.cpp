@@ -1,4 +1,4 @@
-// Which strokes of a pixel column are seen, against a plot whose rows are painted one stroke at a time.
+// The visible strokes of a pixel column, compared with a plot whose rows are painted stroke by stroke.
 #include "ink/VisibleStrokes.h"
 
 #include <gtest/gtest.h>
@@ -38,8 +38,8 @@ struct sSeenStroke
     bool operator==(const sSeenStroke&) const = default;
 };
 
-// The plain definition: each row of the plot belongs to the last stroke that covers it. False when the rows
-// covered do not hang together all the way, so that no two ends describe them.
+// The plain definition: each row of the plot belongs to the last stroke that covers it. Returns false if the
+// covered rows are not contiguous, so that two ends cannot describe them.
 bool PaintRows(const sStrokes& strokes, std::size_t first, std::size_t last, const sPlotMap& map,
                std::vector<sSeenStroke>& seen)
 {

@@ -28,7 +28,7 @@ struct sPlaced
     {
         Placed = PlaceDecorations(chart, Map, scale, Width, Height, Words);
     }
-    // Of a label, by its place among those shown.
+    // The box of a label, by its index among the visible labels.
     const sPixelRect& Box(std::size_t i) const { return Placed.Labels.at(i).Box; }
 
     double Scale;
@@ -58,7 +58,8 @@ TEST(PaneLabels, StandOnTheSideOfTheirAnchorAtEveryScale)
     }
 }
 
-// Whatever the face's line height: that of Liberation Sans at scale 2 gave a border of half the pane pixel.
+// Whatever the font's line height. Regression: the line height of Liberation Sans at scale 2 gave a border of
+// half a pane pixel.
 TEST(PaneLabels, ABorderIsAPanePixelWideAtEveryScale)
 {
     const Pane pane = test::EmptyPane(280, 180);
@@ -266,7 +267,7 @@ TEST(PaneDecorations, TheMarkerStandsOnItsPoint)
     EXPECT_TRUE(sPlaced(*pane).Placed.Marker.empty());
 }
 
-// The left end of a text of the x axis, nothing where it was left out.
+// The left end of a text of the x axis; nothing if it was left out.
 std::optional<int> LeftOf(const sPaneDecorations& placed, std::string_view text)
 {
     for (const sPlacedText& there : placed.AxisTexts)
@@ -280,7 +281,7 @@ TEST(PaneDecorations, TheFirstTimeTextGivesWayToTheLeft)
     const std::string first = "2024/06/05 16:00:00", second = "2024/06/06 14:45:00";
     test::CFixedFont words;
     const int advance = words.Advance(first), other = words.Advance(second);
-    // The texts' middles stand so that the second would begin right where the first one ends.
+    // The centres are such that the second text would begin exactly at the end of the first.
     const Pane pane = test::EmptyPane(58 + 200 + 23, 180);
     CPaneAxis& x = pane->PaneArea().PaneAxes().X();
     x.ViewLow().SetValue(0); // a pixel a unit
@@ -317,7 +318,7 @@ TEST(PaneDecorations, ATimeTextThatWouldMeetTheOneBeforeIsLeftOut)
     EXPECT_TRUE(LeftOf(placed, "11:30"));
 }
 
-// The time of the last point was left out where a rounder one stood before it.
+// Regression: the time of the last point was left out if a rounder time was close before it.
 TEST(PaneDecorations, TheLastTimeTextDrivesOutTheOneBefore)
 {
     const Pane pane = test::EmptyPane(58 + 200 + 23, 180);
@@ -342,7 +343,7 @@ TEST(PaneDecorations, TheLastTimeTextDrivesOutTheOneBefore)
     EXPECT_TRUE(LeftOf(wide, "as wide as two of them"));
 }
 
-// The frame's line between two digits read as a 1.
+// Regression: the frame's line between two digits looked like a 1.
 TEST(PaneDecorations, NothingCrossesAValueTextThatLiesOverTheFrame)
 {
     for (const bool right : {false, true})
@@ -364,7 +365,7 @@ TEST(PaneDecorations, NothingCrossesAValueTextThatLiesOverTheFrame)
             const auto text = std::find_if(placing.Placed.AxisTexts.begin(), placing.Placed.AxisTexts.end(),
                                            [&](const sPlacedText& one) { return one.Text == digits; });
             ASSERT_NE(text, placing.Placed.AxisTexts.end());
-            // The text on nothing but the two backgrounds.
+            // The text on only the two backgrounds.
             const test::sPixels picture = test::CPaintedPane(*pane, scale).Picture;
             test::sPixels bare(picture.Width, picture.Height);
             CRasterCanvas canvas(placing.Words);
@@ -389,7 +390,7 @@ TEST(PaneDecorations, AValueTextThatFitsItsMarginHasNoGround)
     EXPECT_TRUE(sPlaced(*test::EmptyPane(280, 180)).Placed.Grounds.empty());
 }
 
-// What was kept of the text was read when it was another one.
+// Regression: the cached text was used although the text had changed.
 TEST(PaneLabels, OneWhoseRepaintIsSuspendedIsPaintedAsItWas)
 {
     const Pane pane = test::LinePane(280, 180, std::vector<double>(20, 50));

@@ -1,4 +1,4 @@
-// Pictures of small panes, one for each rule of drawing, compared with those kept in tests/golden.
+// Pictures of small panes, one for each drawing rule, compared with those in tests/golden.
 #include "qt/GoldenPicture.h"
 #include "qt/PaneScenes.h"
 #include "qt/paint/PanePainter.h"

@@ -43,7 +43,7 @@ testing::AssertionResult LooksAsEveryPointPainted(const CChart2D& pane, double s
     return same ? SamePicture(byPoint.Picture(scale), plain.Picture(scale)) << " point by point" : same;
 }
 
-// Values as feeds and studies produce them at their worst.
+// Extreme values as feeds and studies may produce them.
 std::vector<double> RoughCurve(int count, std::mt19937& random, bool withGaps)
 {
     std::uniform_real_distribution<double> step(-1, 1), chance(0, 1);
@@ -90,7 +90,7 @@ TEST(PaneReduction, CandlesWithGapsAndHolesLookAsEveryPointPainted)
     }
 }
 
-// So long that they are written otherwise than short ones.
+// So long that another code path draws them.
 TEST(PaneReduction, CandlesThatJumpByHundredsOfPixelsLookAsEveryPointPainted)
 {
     std::mt19937 random(4);
@@ -301,7 +301,7 @@ TEST(PaneReduction, XInAnyOrderLooksAsEveryPointPainted)
     EXPECT_TRUE(LooksAsEveryPointPainted(*pane, 1));
 }
 
-// A kept picture after any change is the one painted from nothing.
+// After any change, the cached picture must equal the one painted completely.
 TEST(PaneReduction, PointsAtAnInfiniteXAreNotThereWhateverTheView)
 {
     const double infinity = std::numeric_limits<double>::infinity();
@@ -363,7 +363,7 @@ TEST(KeptPicture, AfterEachChangeIsThatPaintedFromNothing)
     }
 }
 
-// The first bar is the last one too while a chart has no other: its old ink stayed below the new.
+// Regression: in a chart with one bar, that bar is both first and last, and its old ink stayed.
 TEST(KeptPicture, OfALargePaneIsThatPaintedFromNothing)
 {
     for (const int count : {40, 900, 20000}) {
@@ -399,7 +399,7 @@ TEST(KeptPicture, AChangedFirstBarLeavesNothingOfTheOldOne)
     }
 }
 
-// A series of marks without a line had no mark at a point that came to life alone.
+// Regression: a series of marks without a line had no mark at a point that appeared alone.
 TEST(KeptPicture, AMarkWithoutALineAppears)
 {
     const Pane pane = test::LinePane(280, 180, std::vector<double>(20, Hole));
@@ -575,7 +575,7 @@ TEST(PaneExport, WritesEachKindOfFileByItsEnding)
     EXPECT_TRUE(error.contains("/no/such/folder/pane.png"));
 }
 
-// What a pane of 280x180 writes into a file with this ending; empty when it does not.
+// The file with this ending that a pane of 280x180 writes; empty on failure.
 QByteArray SavedPane(const QString& ending)
 {
     const QTemporaryDir folder;

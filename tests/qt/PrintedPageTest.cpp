@@ -1,5 +1,5 @@
-// Printed pages as a reader of the PDF file sees them: the file is rendered by pdftoppm (package
-// poppler-utils) and compared with the pictures kept in tests/golden.
+// Printed pages as a PDF reader shows them: pdftoppm (package poppler-utils) renders the file, and the result
+// is compared with the pictures in tests/golden.
 #include "printing/PrintedChart.h"
 #include "qt/GoldenPicture.h"
 #include "qt/PaneScenes.h"
@@ -37,7 +37,7 @@ sTIME_W_MILLISECONDS Moment()
     return MakeTime({2024, 3, 1, 14, 5, 9});
 }
 
-// A dark chart of daily bars with two studies, as it stands in a window of that size.
+// A dark chart of daily bars with two studies in a window of this size.
 struct sDarkChart
 {
     sDarkChart(int width, int height, bool minimised = false)
@@ -262,7 +262,7 @@ TEST(PrintedPage, ACancelledDialogOnlyReturnsTheFocus)
     EXPECT_EQ(window.focusWidget(), &box);
 }
 
-// The dialog's own fields are found by what they are, as a person finds them.
+// The dialog's fields are found by their type and text, as a person finds them.
 TEST(PrintedPage, TheDialogPrintsAsManyCopiesAsAskedIntoTheFileChosenThere)
 {
     sDarkChart chart(620, 460);
@@ -300,7 +300,7 @@ TEST(PrintedPage, TheDialogPrintsAsManyCopiesAsAskedIntoTheFileChosenThere)
     EXPECT_EQ(written.readAll().count("/Type /Page\n"), 3);
 }
 
-// Fills the print dialog in as a person would and answers what it asks itself; the texts of its own boxes.
+// Fills in the print dialog like a person and answers its own message boxes; returns their texts.
 QStringList ChooseFile(CChartDlg& chart, const QString& path)
 {
     QStringList said;
@@ -320,7 +320,7 @@ QStringList ChooseFile(CChartDlg& chart, const QString& path)
             auto* const printers = dialog->findChild<QComboBox*>("printers");
             printers->setCurrentIndex(printers->count() - 1); // print to a file
             dialog->findChild<QLineEdit*>("filename")->setText(path);
-            // The dialog's own boxes are answered by later ticks, for which this one must have ended.
+            // Later ticks answer the dialog's own boxes, so this tick must end first.
             QMetaObject::invokeMethod(dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok),
                                       "click", Qt::QueuedConnection);
         }
@@ -335,7 +335,7 @@ TEST(PrintedPage, AFileThatCannotBeWrittenAfterTheDialogIsTold)
     sDarkChart chart(620, 460);
     const QTemporaryDir folder;
     ASSERT_TRUE(QDir(folder.path()).mkdir("gone"));
-    // The folder goes while the page is printed.
+    // The folder disappears while the page is printed.
     chart.Fixture.Desktop.Status.OnSaid = [&](const std::string& text) {
         if (text == "Print ...")
             QDir(folder.filePath("gone")).removeRecursively();

@@ -1,5 +1,5 @@
-// A picture of each kind of trendline over candles, while it is drawn and when it stands. There is no text
-// beside the labels of retracements, so that hardly a pixel may differ: a line is a fraction of a percent of
+// A picture of each kind of trendline over candles, while it is drawn and when it is finished. There is no
+// text except the labels of retracements, so hardly a pixel may differ: a line is a fraction of a percent of
 // its picture.
 #include "qt/GoldenPicture.h"
 #include "qt/PaneScenes.h"
@@ -80,7 +80,7 @@ struct sTrendScene
         window.pane.PaneGroups(1).DataToPixel(x, y, px, py);
         machine.OnMouseDown(341, 1, px, py);
     }
-    // As far as the last click but one; then the pointer stands at the last place.
+    // Draws up to the last click but one; then the pointer is at the last position.
     void Begin(const sTool& tool)
     {
         machine.OnCommand(tool.Command);

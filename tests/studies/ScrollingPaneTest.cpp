@@ -1,4 +1,4 @@
-// The vectors of a pane scroll without being moved; they must look as if each shift were a plain copy.
+// The vectors of a pane scroll without being copied; the result must equal a plain copy at each shift.
 #include "scene/Chart2D.h"
 
 #include <gmock/gmock.h>

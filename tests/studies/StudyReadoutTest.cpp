@@ -1,4 +1,4 @@
-// What the readout says about the displayed studies at a point.
+// The part of the readout about the displayed studies at a point.
 #include "StudyPane.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// The mouse machine of trendlines over a small chart window, its status bar, message box and timer.
+// The state machine of trendlines with a small chart window, its status bar, message box and timer.
 #pragma once
 
 #include "TrendWindow.h"
