@@ -101,7 +101,7 @@ int ReadMilliseconds(const std::string& option, const std::string& text, double 
     return static_cast<int>(number * unit);
 }
 
-// Decimal, or hexadecimal behind 0x, as the tools of X11 write it.
+// Decimal, or hexadecimal after 0x, like the tools of X11.
 std::uint32_t ReadWindowId(const std::string& text)
 {
     const bool hex = text.starts_with("0x") || text.starts_with("0X");
@@ -116,7 +116,7 @@ std::uint32_t ReadWindowId(const std::string& text)
     return id;
 }
 
-// Of two values nobody can say which one was meant.
+// If an option has two values, the program cannot know which one was meant.
 void CheckGivenOnce(const CLI::App& app)
 {
     for (const char* name : SingleOptions) {
@@ -129,7 +129,7 @@ void CheckGivenOnce(const CLI::App& app)
 
 void CheckSnapshots(const CLI::App& app, const sCommandLine& line)
 {
-    // An empty name must not count as no option at all, whatever the reader makes of it.
+    // An empty name must not be treated as a missing option.
     if (app.count("--snapshot") > line.Snapshots.size())
         Refuse("--snapshot", "", "no file is named; name one that ends in .png, .svg, .pdf or .json");
     for (const std::string& file : line.Snapshots) {
@@ -218,7 +218,7 @@ std::optional<sCommandLine> ReadCommandLine(int argc, char** argv, int& exitCode
                "be written.\n--snapshot and --replay need no display.\n"
                "ZANTROQ_LOOK=light, dark or system (default) chooses the look of a window.");
     try {
-        // Taken as they come, so that what is given twice is refused in this program's words.
+        // Accepts repeated options here, so that this program's own message rejects them.
         for (const char* name : SingleOptions)
             app.get_option(name)->take_last();
         app.parse(argc, argv);

@@ -14,12 +14,12 @@
 namespace zantroq {
 namespace {
 
-// Runs the event loop until `done`, for so long, or until a signal asks for the end.
+// Runs the event loop until `done`, until the time is over, or until a signal asks for the end.
 bool Pump(int milliseconds, const std::function<bool()>& done)
 {
     QElapsedTimer clock;
     clock.start();
-    // Looked at often enough that what the window drew last is what the next step meets.
+    // Checks often, so that the next step sees what the window drew last.
     QTimer wake;
     wake.start(5);
     while (!done()) {
@@ -51,7 +51,7 @@ CSession::~CSession()
 int CSession::Run()
 {
     if (!m_line.Replay.empty())
-        return RunReplay(); // reads its script before anything starts
+        return RunReplay(); // reads its script before it starts anything
     if (m_line.Into && !FindForeignWindow())
         return ExitUsage;
     if (!StartFeed())
@@ -125,7 +125,7 @@ void CSession::ApplyOptions()
     }
 }
 
-// Once for each sentence on standard error, and in the window as long as that symbol is on show.
+// Prints each sentence once on standard error, and shows it in the window while its symbol is displayed.
 void CSession::OnNotice(const QString& sentence)
 {
     Complain(sentence.toStdString());
@@ -143,14 +143,14 @@ void CSession::WatchSymbol()
     if (IsSimulatedSymbol(symbol)) {
         notice = symbol + ": simulated market, not genuine prices";
         if (m_feed == nullptr && m_said.insert(symbol).second)
-            Complain(notice.toStdString()); // an embedded feed says it itself
+            Complain(notice.toStdString()); // an embedded feed reports it itself
     } else if (const auto found = m_notices.find(symbol); found != m_notices.end()) {
         notice = found->second;
     }
     m_window->ShowNotice(notice);
 }
 
-// An open dialog may refuse an ordinary quit; exit leaves its loop as well.
+// An open dialog may refuse quit; exit also leaves the dialog's loop.
 void CSession::OnEndAsked()
 {
     if (m_window != nullptr)
@@ -160,7 +160,7 @@ void CSession::OnEndAsked()
 
 int CSession::RunWindow()
 {
-    // A signal that came before the loop runs would be lost to exit.
+    // exit would lose a signal that arrived before the loop runs.
     if (EndAsked())
         return ExitDone;
     const CChartService service(m_window->Control());
@@ -192,7 +192,7 @@ int CSession::RunSnapshot()
         if (unwritten.empty())
             continue;
         Complain("--snapshot " + unwritten);
-        exitCode = ExitNotWritten; // the other files are written all the same
+        exitCode = ExitNotWritten; // the other files are written nevertheless
     }
     return exitCode;
 }
@@ -237,7 +237,7 @@ std::string CSession::WaitComplete(int milliseconds)
 {
     const CChartDlg& chart = m_window->Chart().Window();
     const bool done = Pump(milliseconds, [&chart] { return chart.CompleteAndDrawn(); });
-    QApplication::sendPostedEvents(); // notices of the feed that came before the reply
+    QApplication::sendPostedEvents(); // delivers notices of the feed sent before the reply
     return done ? "" : NoReply(milliseconds);
 }
 

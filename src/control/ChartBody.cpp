@@ -21,7 +21,7 @@
 namespace zantroq {
 namespace {
 
-// Context menus that nobody sees: the chart window keeps them as data.
+// Ignores context menus: the chart window keeps them as data.
 class CMenuAsData : public IContextMenu
 {
 public:
@@ -55,12 +55,12 @@ CChartBody::~CChartBody()
     m_services->Dialogs.Drop();
     m_view->Detach();
     CManagerThreadHolder& holder = ManagerThreadHolder();
-    // A window whose symbol box was emptied does not unwatch its series.
+    // A window with an empty symbol box does not unwatch its series.
     CChartHistRequest* const series = m_window->Series();
     if (series != nullptr && holder.ControlCount() == 1)
         holder.UnwatchSymbol(*series);
     m_window->Destroy();
-    holder.RemoveControl(nullptr); // the series is unwatched and given up by now
+    holder.RemoveControl(nullptr); // the series is already unwatched and given up
 }
 
 std::unique_ptr<CChartCtrl> CChartBody::MakeControl(QWidget* parent, const sChartCtrlSetup& setup)
@@ -71,7 +71,7 @@ std::unique_ptr<CChartCtrl> CChartBody::MakeControl(QWidget* parent, const sChar
 void CChartBody::Create(CChartCtrl& control)
 {
     m_control = &control;
-    m_enabled = control.isEnabled(); // not in a parent that is disabled
+    m_enabled = control.isEnabled(); // false in a disabled parent
     m_view = new CChartView(&control);
     control.setFocusProxy(m_view);
     control.setMinimumSize(120, 90);
@@ -94,7 +94,7 @@ void CChartBody::CreateWindow()
                                                           .Feed = m_services->Feed,
                                                           .Studies = &m_services->Studies,
                                                           .Dialogs = &m_services->Dialogs});
-    // Where nobody sees a dialog, nobody can close it: it counts as cancelled.
+    // Without visible dialogs nobody could close one, so printing counts as cancelled.
     if (m_setup.Popups)
         m_services->Dialogs.Print = [this] { PrintWithDialog(*m_window, m_control); };
     m_view->Attach(*m_window);

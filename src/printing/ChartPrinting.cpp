@@ -11,7 +11,7 @@ namespace {
 constexpr const char* DocumentName = "Chart";
 constexpr int FirstCopies = 1;
 
-// Whatever ends the printing, the window is usable again.
+// Makes the window usable again, however printing ends.
 class CBusyWindow
 {
 public:

@@ -1,5 +1,5 @@
-// The print command: one page with the displayed panes stacked under a heading, as often as copies were asked
-// for. What is printed are copies of the panes made when the dialog was closed. Chart window's thread.
+// The print command: a page with the displayed panes stacked under a heading, once for each copy. Prints
+// copies of the panes made when the dialog was closed. Chart window's thread.
 #pragma once
 
 #include "printing/PrintHeading.h"
@@ -13,7 +13,7 @@
 
 namespace zantroq {
 
-// A printer, or a file that stands for one, as the print dialog hands it over.
+// A printer or a file, as returned by the print dialog.
 class IPrintJob
 {
 public:
@@ -21,31 +21,31 @@ public:
     virtual int Copies() const = 0;
     virtual bool StartDocument(const std::string& name) = 0;
     virtual bool StartPage() = 0;
-    // Of the page that was started.
+    // The size of the started page.
     virtual sPrintPage Page() const = 0;
     virtual IPrintDevice& Device() = 0;
     virtual const IHeadingFont& HeadingFont() const = 0;
-    virtual void DrawHeading(const sHeading& heading) = 0; // its top is the page's
+    virtual void DrawHeading(const sHeading& heading) = 0; // at the top of the page
     virtual void EndPage() = 0;
-    virtual void EndDocument() = 0; // also for one that did not start
+    virtual void EndDocument() = 0; // also if the document did not start
 };
 
 class IPrintDialog
 {
 public:
     virtual ~IPrintDialog() = default;
-    // Modal; begins with that number of copies. Null when the user cancels. The job lives as long as the
+    // Modal; `copies` is the initial number of copies. Null if the user cancels. The job lives as long as the
     // dialog.
     virtual IPrintJob* Ask(int copies) = 0;
-    virtual void ReturnFocus() = 0; // to who had the keyboard before
+    virtual void ReturnFocus() = 0; // to the widget that had the focus before
 };
 
-// What the command needs of the chart window. Pane 0 is the price pane, pane k study k.
+// The interface of the chart window for the command. Pane 0 is the price pane, pane k study k.
 class IPrintedChart
 {
 public:
     virtual ~IPrintedChart() = default;
-    virtual int ShownPanes() const = 0; // hidden ones are not printed
+    virtual int ShownPanes() const = 0; // hidden panes are not printed
     virtual const CChart2D& Pane(int pane) const = 0;
     virtual sPaneSize ClientSize(int pane) const = 0;
     virtual std::string Symbol() const = 0;
@@ -61,8 +61,8 @@ public:
 
     CChartPrinting(IPrintedChart& chart, Clock clock);
 
-    // The whole command, from the dialog to the focus that returns. A document that does not start costs its
-    // copy; a page that does not start ends the loop. The number of pages printed.
+    // Runs the command from the dialog to the return of the focus. If a document does not start, its copy is
+    // omitted; if a page does not start, printing ends. Returns the number of printed pages.
     int Run(IPrintDialog& dialog);
 
 private:

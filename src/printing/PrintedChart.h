@@ -1,4 +1,4 @@
-// A chart window as the print command sees it. Chart window's thread.
+// Implements the print command's interface for a chart window. Chart window's thread.
 #pragma once
 
 #include "printing/ChartPrinting.h"

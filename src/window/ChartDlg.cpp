@@ -213,7 +213,7 @@ void CChartDlg::OnLeftPress(int pane, int x, int y)
 
 void CChartDlg::OnRightPress(int pane, int x, int y)
 {
-    if (m_resizer.Dragging()) // a menu would keep the drag's end from coming
+    if (m_resizer.Dragging()) // an open menu would swallow the end of the drag
         return;
     m_clickedPane = m_layout.PaneAt(pane, y);
     // A collapsed price pane shows no point to delete.

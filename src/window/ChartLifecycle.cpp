@@ -92,12 +92,12 @@ bool CChartLifecycle::DrawChart()
         return false;
     const std::string title = m_services.Top.Title();
     m_events.SavePosition();
-    // A window whose title names a chart shows one; a host may have given it a title of its own since.
+    // A window shows a chart if its title names one; a host may have changed the title since.
     if (title.find(" - ") != std::string::npos || m_requested)
         DropChart();
     if (symbol.find(',') != std::string::npos) {
         m_status.Message("Symbols cannot contain any commas.");
-        m_loading = false; // a load that was dropped has no end
+        m_loading = false; // a dropped load never ends
         m_services.Host.SetControlsEnabled(true);
         return false;
     }
@@ -123,7 +123,7 @@ void CChartLifecycle::DropChart()
 
 void CChartLifecycle::UnwatchAndClear()
 {
-    // Unwatched first, so that no live update comes between the two.
+    // Unwatch first, so that no live update arrives in between.
     m_feed.UnwatchSymbol(*m_series);
     m_series->ClearSeries();
 }
@@ -132,7 +132,7 @@ void CChartLifecycle::RequestChart()
 {
     m_trends.RemoveAll();
     m_series->SetSymbol(m_currentSymbol);
-    // The new type reaches the panes before they are cleared, since their axes and series counts depend on
+    // The panes get the new type before they are cleared, because their axes and numbers of series depend on
     // it.
     m_drawing.SetSource(m_series.get(), m_settings.Request.DataType);
     m_drawing.ClearPanes();
@@ -184,7 +184,7 @@ void CChartLifecycle::OnDataTypeChanged(int forced)
             request.RequestType = request.RequestKinds[static_cast<std::size_t>(selected)];
         if (HasSymbolText())
             UnwatchAndClear();
-        // A type that nobody chose may be the default of one that could not be read.
+        // A type that the user did not choose may be the default of a value that could not be read.
         if (isChosen)
             m_store.WriteInt(SettingName(DataTypeId), request.DataType);
         else
@@ -219,7 +219,7 @@ void CChartLifecycle::OnTimer()
 {
     if (!m_series)
         return;
-    // The flag before the count: what completes in between is then seen whole at the next tick.
+    // Read the flag before the count: points that arrive in between are seen at the next tick.
     const bool complete = m_series->IsComplete();
     const int count = m_series->GetCount(FieldTime);
     if (!complete) {
@@ -228,7 +228,8 @@ void CChartLifecycle::OnTimer()
         return;
     }
     if (m_range.FirstFill()) {
-        // A draw while the chart loaded, by a resize for one, fitted the scale to the points of that moment.
+        // A draw while the chart was loading, for example after a resize, fitted the scale to the points of
+        // that time.
         if (m_fitScale)
             FitFixedScale();
         m_fitScale = false;

@@ -1,5 +1,4 @@
-// Every way in which zantroq-chart refuses or fails: the exit code, and one sentence with what was wrong, the
-// value and what to do.
+// All errors of zantroq-chart: the exit code, and a sentence with what was wrong, the value and what to do.
 #include "Programs.h"
 
 #include <algorithm>

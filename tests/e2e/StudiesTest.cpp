@@ -1,6 +1,5 @@
-// The study panes of the whole program, from the feed's lines to the state file, against the slow plain
-// definition of each study over the rows of the recording: bit for bit, since the state's numbers read back
-// exactly.
+// The study panes of the whole program, from the feed's lines to the state file, compared bit for bit with
+// the slow plain definition over the rows of the recording; the numbers of a state can be read back exactly.
 #include "Programs.h"
 #include "StudyStates.h"
 
@@ -67,7 +66,7 @@ protected:
     }
 };
 
-constexpr double FontsMayDiffer = 0.02; // texts take that share of a window's pixels at most
+constexpr double FontsMayDiffer = 0.02; // largest share of texts in a window's pixels
 
 const std::string DrawGoog = "type daily\nsymbol GOOG\ndraw\nwait complete\n";
 
@@ -96,7 +95,7 @@ TEST_F(Studies, AllTenInOneWindowAreThePlainDefinition)
 
 TEST_F(Studies, AChangeOfTheStackRedrawsTheNewStudies)
 {
-    const std::string wait = "wait complete\n"; // each change asks for the series anew
+    const std::string wait = "wait complete\n"; // each change requests the series again
     const json state =
         Play(StackSteps({0}) + DrawGoog + "set \"Number of displayed study charts\" 2\n" + wait +
              "set \"Type of study chart 0\" 2\n" + wait + "set \"Type of study chart 1\" 4\n" + wait);
@@ -145,7 +144,7 @@ TEST_F(Studies, LiveTicksContinueThePlainDefinition)
         }
         EXPECT_TRUE(SameBits(NumberOf(balance.at(point)), sum));
     }
-    // The panes keep one x axis for all and number their points on from those dropped at the left.
+    // The panes share one x axis and continue the numbering after the points dropped at the left.
     const json& x = after.at("panes").at(2).at("groups").at(0).at("series").at(0).at("x");
     for (std::size_t i = 1; i < x.size(); ++i)
         EXPECT_EQ(x.at(i).get<double>(), x.at(i - 1).get<double>() + 1);

@@ -1,4 +1,4 @@
-// The worker with its two sockets against a scripted feed on loopback ports.
+// The worker with its two sockets and a scripted feed on loopback ports.
 #include "market/ManagerThreadHolder.h"
 
 #include "market/HistoryCommand.h"
@@ -289,7 +289,7 @@ TEST_F(CFeedTest, TheWorkerLivesFromTheFirstControlToTheLast)
     EXPECT_EQ(m_holder.ControlCount(), 0);
 }
 
-// The worker is gone, so the end marker that would free the series can no longer come.
+// The worker has ended, so the end marker that would free the series cannot arrive.
 TEST_F(CFeedTest, TheLastControlGoesWhileAReplyIsLoading)
 {
     auto request = Request(6);
@@ -308,7 +308,7 @@ TEST_F(CFeedTest, TheLastControlGoesWhileAReplyIsLoading)
     ASSERT_TRUE(left);
     EXPECT_FALSE(left->IsAlive());
     EXPECT_EQ(left->GetCount(0), 1);
-    EXPECT_FALSE(EndReply(*left)); // this test's own tidying
+    EXPECT_FALSE(EndReply(*left)); // clean-up of this test
 }
 
 TEST(ZantroPorts, ReadsTheLeadingDigitsOfTheStoredText)

@@ -1,4 +1,4 @@
-// The bars around the panes, without a chart window behind them.
+// The bars around the panes, without a chart window.
 #include "qt/widgets/ChartBars.h"
 #include "qt/widgets/ChartScrollBar.h"
 #include "qt/widgets/CommandIcons.h"
@@ -225,7 +225,7 @@ TEST(StatusLine, ALastTradeWithoutRoomLosesItsSizeAndNeverHalfANumber)
 {
     QFont font;
     font.setPixelSize(12);
-    // The least room that a text is shown in; letters get a little narrower before anything goes.
+    // The smallest width in which a text is shown; letters get slightly narrower before anything is cut.
     const auto width = [&font](const QString& text) {
         return QFontMetrics(font).horizontalAdvance(text) * 78 / 100 + 1;
     };
@@ -355,7 +355,7 @@ TEST_F(CScrollBarTest, AThumbInTheHandStaysThereWhileTheWindowMovesTheBar)
     m_bar.setSliderDown(true);
     m_bar.setSliderPosition(50);
     m_scrolls.clear();
-    // New points come while the thumb is held: the window takes the bar along with them.
+    // New points arrive while the thumb is held: the window moves the bar.
     m_bar.SetRange(0, 101);
     m_bar.SetPosition(72);
     EXPECT_EQ(m_bar.Position(), 72);

@@ -31,7 +31,7 @@ protected:
     sChartPicture Picture(const QString& notice = {}) { return {Window(), View().size(), notice}; }
 };
 
-// Pixels of a part of a picture that differ from its first one.
+// The number of pixels in a part of a picture that differ from its first pixel.
 int Ink(const QImage& image, const QRect& part)
 {
     int ink = 0;

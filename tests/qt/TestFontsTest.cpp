@@ -1,4 +1,4 @@
-// The fonts that golden pictures are compared with: those of two packages, and no other that is installed.
+// The fonts of the golden pictures: those of two packages, and no other installed font.
 #include "qt/output/PageJob.h"
 #include "qt/paint/PaneText.h"
 
@@ -11,7 +11,7 @@ namespace zantroq::test {
 
 TEST(TestFonts, OnlyTheFontsOfTheListAreSeen)
 {
-    // The last three stand for whatever fits best.
+    // The last three are aliases for the best match.
     EXPECT_EQ(QFontDatabase::families().join(", ").toStdString(),
               "DejaVu Sans, DejaVu Serif, Liberation Mono, Liberation Sans, Liberation Serif, "
               "Monospace, Sans Serif, Serif")

@@ -1,4 +1,4 @@
-// A printer, its dialog and a chart in memory. All of them write what happens to one list.
+// A printer, its dialog and a chart in memory, which record all calls in one list.
 #pragma once
 
 #include "printing/ChartPrinting.h"
@@ -32,7 +32,7 @@ struct sFakePrintJob : IPrintJob, IPrintDevice
 
     PrintLog& Log;
     int CopiesAsked = 1;
-    std::deque<bool> DocumentAnswers, PageAnswers; // true where none is left
+    std::deque<bool> DocumentAnswers, PageAnswers; // true if the list is empty
     sPrintPage Paper{4800, 6600, 600, 600};
     sFakeHeadingFont Font;
     std::vector<sDrawn> Drawn;

@@ -1,4 +1,4 @@
-// Layout, bars, placement, settings and scripts over a whole window.
+// Layout, bars, placement, settings and scripts of a whole window.
 #include "ChartWindowFixture.h"
 
 #include "export/ChartSnapshot.h"
@@ -91,7 +91,7 @@ TEST(ChartsResizer, TheDragLineStopsSixteenPixelsFromTheNextPane)
     EXPECT_EQ(chart.Desktop.Pointer.Line, 394);
     window.OnChartMouseUp(341, MouseLeft, 0, 100, 405);
     EXPECT_EQ(Bottoms(window), (Ints{0, 394, 410}));
-    EXPECT_EQ(window.Settings().Panes.MaximizedIndex, 0); // the lower one was made small
+    EXPECT_EQ(window.Settings().Panes.MaximizedIndex, 0); // the lower pane was minimised
     EXPECT_EQ(Text(*chart.Key, "Chart 1 Minimized"), "1");
     EXPECT_EQ(Text(*chart.Key, "Maximized Chart Index"), "0");
 }
@@ -485,7 +485,7 @@ TEST(Snapshot, SaysOfEachCommandWhatAClickWouldFind)
     };
     chart->Type("X");
     chart->Window->OnCommand(CommandDrawChart);
-    // The toolbar stands disabled, the price pane's menu offers its tools and the panes' states.
+    // The toolbar is disabled; the price pane's menu offers its tools and the pane states.
     EXPECT_EQ(enabled(), (std::vector<int>{32779, 32784, 32785, 32786, 32788, 32789, 32790, 32792, 32793}));
     chart->Reply(300);
     chart->Tick();
@@ -587,7 +587,7 @@ TEST(Replay, EndsWithThreeWhenTheReplyDoesNotCome)
     const sReplayResult result = Play(chart, "symbol X\ndraw\nwait complete 1\ncommand 779", false);
     EXPECT_EQ(result.ExitCode, 3);
     EXPECT_EQ(result.Message, "line 3: wait complete: X: no reply in 1 s; ask again");
-    EXPECT_TRUE(chart.Desktop.Commands.Checked[CommandGrid]); // the step behind it did not run
+    EXPECT_TRUE(chart.Desktop.Commands.Checked[CommandGrid]); // the next step did not run
 }
 
 TEST(Replay, EndsWithFourWhenAFileCannotBeWritten)

@@ -1,4 +1,4 @@
-// Message boxes of the desktop, over the window that a widget is in. Chart window's thread.
+// The desktop's message boxes, over the window of a widget. Chart window's thread.
 #pragma once
 
 #include "platform/WindowServices.h"

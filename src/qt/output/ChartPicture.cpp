@@ -22,7 +22,7 @@
 namespace zantroq {
 namespace {
 
-// The picture is for documents, so it is the same on a light and a dark desktop.
+// Pictures are for documents, so their colors do not depend on the desktop.
 const QColor Back(0xf3, 0xf4, 0xf6), Ink(0x22, 0x26, 0x2b), Faint(0x6a, 0x72, 0x7c), Rule(0xc9, 0xce, 0xd4),
     Warning(0xa6, 0x4b, 0x00);
 constexpr int Padding = 8, FontSize = 13, SmallFontSize = 12;
@@ -81,7 +81,7 @@ void PaintStatus(QPainter& painter, const sChartPicture& picture)
              QString::fromStdString(picture.Window.StatusPart(0)));
 }
 
-// Where the part that shows stands in the whole, as the scroll bar tells it.
+// Paints the position of the displayed range in the series, as the scroll bar shows it.
 void PaintScrollMark(QPainter& painter, const sChartPicture& picture)
 {
     const IScrollBar& bar = picture.Window.Services().Scroll;
@@ -111,7 +111,7 @@ void PaintPicture(QPainter& painter, const sChartPicture& picture, const PaintPa
     PaintStatus(painter, picture);
 }
 
-// Vectors: `fine` units of the painter to a pixel.
+// Paints vectors with `fine` units of the painter per pixel.
 void PaintVectors(QPainter& painter, const sChartPicture& picture, int fine)
 {
     painter.scale(fine, fine);
@@ -125,7 +125,7 @@ void PaintVectors(QPainter& painter, const sChartPicture& picture, int fine)
     });
 }
 
-// No picture is empty bytes: one that could not be drawn is.
+// Returns no bytes if the picture could not be drawn.
 QByteArray SvgBytes(const sChartPicture& picture)
 {
     QBuffer bytes;
@@ -197,7 +197,7 @@ QImage DrawPixels(const sChartPicture& picture, double devicePixelRatio)
         painter.drawImage(rect.topLeft(), pixels);
     });
     painter.end();
-    image.setDevicePixelRatio(1); // a file holds pixels
+    image.setDevicePixelRatio(1); // a file has plain pixels
     return whole ? image : QImage();
 }
 

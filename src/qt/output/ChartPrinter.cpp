@@ -24,8 +24,8 @@ namespace zantroq {
 
 namespace {
 
-// The heading is centred on a page that has as many pixels an inch as it is points wide, so the page gets
-// that resolution. Everything on it is lines, areas and text, which do not get coarser by it.
+// The heading is centred on a page with as many pixels per inch as it is points wide, so the page gets that
+// resolution. Lines, areas and text do not get coarser.
 int HeadingResolution(const QPageLayout& layout)
 {
     return std::max(72, static_cast<int>(std::lround(layout.paintRect(QPageLayout::Point).width())));
@@ -39,7 +39,7 @@ public:
     {
     }
 
-    // Empty, or one sentence that says what is wrong with what came of `pages` printed pages.
+    // Returns an empty text, or a sentence that says what went wrong after `pages` printed pages.
     QString Outcome(int pages)
     {
         if (!m_job)
@@ -60,7 +60,7 @@ public:
     {
         m_printer.setCopyCount(copies);
         QPrintDialog dialog(&m_printer, m_parent);
-        // One page, all of it.
+        // The dialog must offer only the whole page.
         dialog.setOption(QAbstractPrintDialog::PrintSelection, false);
         dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
         dialog.setOption(QAbstractPrintDialog::PrintCurrentPage, false);
@@ -68,12 +68,12 @@ public:
         if (dialog.exec() != QDialog::Accepted)
             return nullptr;
         const int wanted = m_printer.copyCount();
-        m_printer.setCopyCount(1); // the copies are documents of their own
+        m_printer.setCopyCount(1); // copies are separate documents
         m_printer.setResolution(HeadingResolution(m_printer.pageLayout()));
         m_path = m_printer.outputFileName();
         if (m_path.isEmpty())
             return &m_job.emplace(m_printer, wanted, CopiesTo::OwnDocuments, m_fonts);
-        // The printer does not tell what became of its file, so it writes one of its own first.
+        // The printer does not report errors of its file, so it first writes a temporary file.
         m_printer.setOutputFileName(m_folder.emplace().filePath("page.pdf"));
         return &m_job.emplace(m_printer, wanted, CopiesTo::OneFile, m_fonts);
     }
@@ -90,13 +90,13 @@ private:
     QWidget* m_parent;
     sPrintFonts m_fonts;
     QPointer<QWidget> m_focus;
-    std::optional<QTemporaryDir> m_folder; // of the file that the printer writes
-    QString m_path;                        // of the file that the user chose; empty: a printer
+    std::optional<QTemporaryDir> m_folder; // folder of the temporary file
+    QString m_path;                        // chosen file; empty: a printer
     QPrinter m_printer{QPrinter::HighResolution};
-    std::optional<CPageJob> m_job; // ends before the printer does
+    std::optional<CPageJob> m_job; // destroyed before the printer
 };
 
-// A dialog that nobody sees: its answer is known.
+// A print dialog that is never shown and returns a given job.
 class CNoDialog : public IPrintDialog
 {
 public:

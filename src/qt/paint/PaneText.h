@@ -1,5 +1,5 @@
-// The text of the panes: one font in one size. Each text is measured and rasterised once, as the coverage of
-// its pixels; painting it in any color is then a blend. Chart window's thread.
+// The text of the panes: one font in one size. Each text is measured and rasterised once as the coverage of
+// its pixels; painting it in a color is then a blend. Chart window's thread.
 #pragma once
 
 #include "paint/TextMeasure.h"
@@ -16,10 +16,10 @@ namespace zantroq {
 class CPaneText : public ITextMasks
 {
 public:
-    // Without a family the desktop's usual sans-serif faces are tried in order.
+    // Without a family, the usual sans-serif fonts are tried in order.
     explicit CPaneText(const QString& family = {});
 
-    // Device pixels per pane pixel. Another scale empties the store.
+    // `scale` is in device pixels per pane pixel. A new scale empties the cache.
     void SetScale(double scale);
     const QFont& Font() const { return m_font; }
     int Advance(std::string_view text) override;

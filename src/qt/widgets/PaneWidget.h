@@ -1,5 +1,5 @@
-// Shows one pane and hands on what the mouse and the keyboard do over it, in the pane's own pixels. It
-// decides nothing. Chart window's thread.
+// Shows a pane and reports its mouse and key events in pixels of the pane. It decides nothing. Chart window's
+// thread.
 #pragma once
 
 #include "qt/paint/PanePainter.h"
@@ -13,7 +13,7 @@ class IPaneEvents
 {
 public:
     virtual ~IPaneEvents() = default;
-    // Buttons are the window's: 0 none, 1 left, 2 right. Shift: 1 shift, 2 control, 4 alt, added.
+    // Button: 0 none, 1 left, 2 right. Shift: the sum of 1 shift, 2 control and 4 alt.
     virtual void PaneMouseDown(int control, int button, int shift, int x, int y) = 0;
     virtual void PaneMouseMove(int control, int button, int shift, int x, int y) = 0;
     virtual void PaneMouseUp(int control, int button, int shift, int x, int y) = 0;

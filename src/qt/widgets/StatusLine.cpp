@@ -14,18 +14,18 @@ namespace zantroq {
 namespace {
 
 constexpr int Padding = 6;
-constexpr int Narrowest = 62; // percent of a letter's width
-constexpr int Readable = 78;  // percent; a last trade is shortened before its letters get narrower
-constexpr int Smallest = 10;  // pixels of a letter's height
+constexpr int Narrowest = 62; // in percent of the normal letter width
+constexpr int Readable = 78;  // in percent; a last trade with narrower letters is shortened instead
+constexpr int Smallest = 10;  // font size in pixels
 
-// The two narrow parts squeeze their letters, then make them smaller, before they cut.
+// The two narrow parts first make their letters narrower, then smaller, and only then cut the text.
 QFont FittingFont(const QFont& font, const QString& text, int width)
 {
     const int wanted = QFontMetrics(font).horizontalAdvance(text);
     if (wanted <= width || width <= 0)
         return font;
     QFont squeezed = font;
-    // Not every desktop makes the letters as narrow as was asked for.
+    // Some desktops do not make letters as narrow as requested.
     for (int stretch = 100 * width / wanted;
          stretch > Narrowest && QFontMetrics(squeezed).horizontalAdvance(text) > width; stretch -= 3)
         squeezed.setStretch(stretch);
@@ -34,7 +34,7 @@ QFont FittingFont(const QFont& font, const QString& text, int width)
     return squeezed;
 }
 
-// With letters that are still easy to read.
+// True if the text fits with letters that are easy to read.
 bool Fits(const QFont& font, const QString& text, int width)
 {
     return QFontMetrics(font).horizontalAdvance(text) * Readable <= 100 * width;
