@@ -1,8 +1,8 @@
 #!/bin/sh
-# What the whole program costs, as a user starts it: processor time of an idle window with a silent feed, memory with
-# 2,000,000 ticks loaded, and the time from start to picture.
+# The costs of the whole program, started like a user starts it: processor time of an idle window with a silent feed, memory
+# with 2,000,000 ticks loaded, and the time from start to picture.
 # Usage: bench/idle.sh [FOLDER OF THE BUILT PROGRAMS]     (default: build/release/bin)
-# Needs no display. Works on settings of its own and on free ports.
+# Needs no display. Uses separate settings and free ports.
 set -eu
 
 root=$(cd "$(dirname "$0")/.." && pwd)
@@ -28,7 +28,7 @@ startup='Software\Zantro\Quovex\Startup'
 "$bin/zantroq-settings" --key "$startup" set LookupPort "${ports% *}"
 "$bin/zantroq-settings" --key "$startup" set Level1Port "${ports#* }"
 
-# A window that is left alone: five seconds to come up, then its clock ticks, user and system, over a while.
+# An idle window: waits five seconds for its start, then counts its clock ticks, user and system, for some seconds.
 ticks() { awk '{ print $14 + $15 }' "/proc/$1/stat"; }
 DISPLAY=none "$bin/zantroq-chart" GOOG --data daily >/dev/null 2>&1 &
 chart=$!
@@ -49,7 +49,7 @@ for run in 1 2 3; do
 done
 echo "start to picture: $(((ended - began) / 1000000)) ms"
 
-# The feed is a process of its own, so the figure is the chart's alone.
+# The feed is a separate process, so the figure covers only the chart.
 "$bin/zantroq-settings" set RequestDatapoints 2000000,1000,1000,1000,1000
 /usr/bin/env python3 - "$bin/zantroq-chart" "$work/a.json" <<'PYTHON'
 import json, resource, subprocess, sys

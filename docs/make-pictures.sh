@@ -1,11 +1,13 @@
 #!/bin/sh
-# Remakes the pictures of the documents: docs/images/studies/<name>.png, one for each study, and all.png with all ten;
-# docs/images/trends/<name>.png, one for each kind of trendline, drawn with the mouse of a replay script;
-# docs/images/window.png and window-dark.png, the real window, and docs/images/settings/<page>.png, the pages of the
-# settings sheet, and docs/images/symbol-search.png, on a display of their own (packages xvfb, xdotool and imagemagick;
-# left as they are where one is missing).
+# Remakes the pictures of the documents:
+#   docs/images/studies/<name>.png            one for each study, and all.png with all ten
+#   docs/images/trends/<name>.png             one for each kind of trendline, drawn with the mouse of a replay script
+#   docs/images/window.png, window-dark.png   the real window
+#   docs/images/settings/<page>.png           the pages of the settings sheet
+#   docs/images/symbol-search.png             the symbol search
+# The last three need the packages xvfb, xdotool and imagemagick, and are not remade without them.
 # Usage: docs/make-pictures.sh [FOLDER OF THE BUILT PROGRAMS]     (default: build/release/bin)
-# Works on a settings file of its own; needs no display of yours and no feed.
+# Uses a separate settings file; needs neither your display nor a feed.
 set -eu
 
 root=$(cd "$(dirname "$0")/.." && pwd)

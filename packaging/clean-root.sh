@@ -1,14 +1,14 @@
 #!/usr/bin/env bash
-# Builds and tests the committed tree on a bare Debian 12: makes a root folder that holds nothing but the base system, clones the tree
-# into it, and runs ./run.sh and ./test.sh there. Nothing of this machine is seen inside: no package, compiler cache, font, home folder
-# or variable; only the package mirror that apt is configured for, and the network settings to reach it.
+# Builds and tests the committed tree on a bare Debian 12: makes a root folder that contains only the base system, clones the tree
+# into it, and runs ./run.sh and ./test.sh there. No package, compiler cache, font, home folder or variable of this machine is visible
+# inside; only the package mirror that apt is configured for, and the network settings to reach it.
 #
 #   packaging/clean-root.sh                    run.sh and test.sh; ctest's summary is the last thing printed
-#   packaging/clean-root.sh --keep FOLDER      the same in FOLDER, which stays
+#   packaging/clean-root.sh --keep FOLDER      the same in FOLDER, which is kept
 #   packaging/clean-root.sh --in FOLDER CMD..  runs a command in a root kept before, in the tree
 #
-# Works as root, or as a user who may make user namespaces. Takes 4 GB in $TMPDIR. Exits 0 also where no root can be made, because
-# the mirror does not answer three times or the machine allows no namespaces; it then prints a line with NOT RUN. $ZANTROQ_CMAKE is
+# Works as root, or as a user who may make user namespaces. Takes 4 GB in $TMPDIR. Also exits 0 if no root can be made because the
+# mirror fails to answer three times or the machine allows no namespaces; it then prints a line with NOT RUN. $ZANTROQ_CMAKE is
 # passed on to build-release.sh. $CLEAN_ROOT_STATUS names a file that gets the word done or the words not run.
 set -euo pipefail
 cd "$(dirname "$0")/.."
