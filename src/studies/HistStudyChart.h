@@ -81,7 +81,7 @@ protected:
         return StudySettings().LabelColors[static_cast<std::size_t>(kind)];
     }
 
-    // By how many points a whole draw is later than the price pane.
+    // By how many points a whole draw begins before the price pane's range.
     virtual int DrawLag() const { return 0; }
 
     // Computes `count` points from `index` on into one array for each computed line. Must write every
