@@ -1,4 +1,4 @@
-// What the user asked of zantroq-chart.
+// The command line of zantroq-chart.
 #pragma once
 
 #include <QSize>
@@ -25,24 +25,24 @@ struct sCommandLine
     std::optional<int> IntervalIndex; // place in the interval box
     std::optional<QSize> Size;        // client size of the chart window
     bool EmbeddedFeed = false;
-    std::string FeedFolder;             // recordings beside the shipped ones; may be empty
-    std::vector<std::string> Snapshots; // checked endings
+    std::string FeedFolder;             // folder of further recordings; may be empty
+    std::vector<std::string> Snapshots; // their endings are checked
     int SettleMs = 0;
     int TimeoutMs = 30'000;
-    std::string Replay; // a script's file; may be empty
+    std::string Replay; // file of a script; may be empty
     bool Show = false;
     std::optional<std::uint32_t> Into; // a window of another program
 
-    // Whether a person is to see a window.
+    // True if a window must be visible to a person.
     bool NeedsDisplay() const { return (Snapshots.empty() && Replay.empty()) || Show; }
     QSize ClientSize() const;
 };
 
-// Reads the arguments. Nothing when the program has said what was wanted of it, or what was wrong, and is to
-// end with the exit code.
+// Reads the arguments. Returns nothing if the program has printed what was requested or what is wrong, and
+// must exit with `exitCode`.
 std::optional<sCommandLine> ReadCommandLine(int argc, char** argv, int& exitCode);
 
-// One sentence behind the program's name.
+// Prints the program's name and a sentence on standard error.
 void Complain(const std::string& sentence);
 
 } // namespace zantroq

@@ -8,7 +8,7 @@
 namespace zantroq {
 namespace {
 
-// Market seconds a second: so slow that no simulated trade ever happens.
+// Market seconds per second: so slow that no simulated trade happens.
 constexpr double Standstill = 1e-9;
 
 enum class Finest
@@ -25,8 +25,8 @@ CEmbeddedFeed::CEmbeddedFeed(const sCommandLine& line) : m_folder(line.FeedFolde
     feed::sFEED_OPTIONS options;
     if (!line.FeedFolder.empty())
         options.Folders.emplace_back(line.FeedFolder);
-    // A window is there to be watched, and a settling picture asks for trades. Any other picture shows the
-    // recording alone, so that the same call draws the same picture.
+    // A visible window and a picture with --settle need live trades. Any other picture shows only the
+    // recording, so that the same command draws the same picture.
     const bool live = line.Snapshots.empty() ? line.Replay.empty() || line.Show : line.SettleMs > 0;
     options.SimulateAll = live;
     if (!line.Snapshots.empty() && !live)

@@ -1,4 +1,4 @@
-// A feed inside this process on two free ports, and what it tells the user. Window thread.
+// A feed inside this process on two free ports, and its messages to the user. Window's thread.
 #pragma once
 
 #include "feed/server/FeedServer.h"
@@ -21,7 +21,7 @@ public:
     explicit CEmbeddedFeed(const sCommandLine& line);
     ~CEmbeddedFeed() override;
 
-    // False, with one sentence, when no port is to be had.
+    // Returns false and sets `error` to a sentence if no port is available.
     bool Start(std::string& error);
     std::shared_ptr<ISettingsKey> PortKey() const; // once started
 
@@ -30,7 +30,7 @@ public:
     std::string Advice(const std::string& symbol, int dataType, const std::string& wait) const;
 
 signals:
-    // A sentence for the user; from the feed's thread.
+    // A sentence for the user; emitted on the feed's thread.
     void Notice(const QString& sentence);
 
 private:

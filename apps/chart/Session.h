@@ -1,4 +1,4 @@
-// One run of the program with a chart in it: a window for a person, a picture, or a script.
+// A run of the program with a chart: in a window, for a picture, or for a script. Window's thread.
 #pragma once
 
 #include "ChartService.h"
@@ -35,7 +35,7 @@ private:
     void OnNotice(const QString& sentence);
     void OnEndAsked();
     void WatchSymbol();
-    std::string NoReply(int milliseconds) const; // why, and what to do
+    std::string NoReply(int milliseconds) const; // the reason, and what to do
 
     std::string WaitComplete(int milliseconds) override;
     std::string WaitSearch(int milliseconds) override;
@@ -51,8 +51,8 @@ private:
     std::unique_ptr<CEmbeddedFeed> m_feed; // outlives the window
     CReplayMessageBox m_boxes;
     std::unique_ptr<CHostWindow> m_window;
-    std::unique_ptr<CForeignWindow> m_foreign; // with the window in it; may be absent
-    std::map<QString, QString> m_notices;      // what is simulated, by symbol
+    std::unique_ptr<CForeignWindow> m_foreign; // contains the window; may be null
+    std::map<QString, QString> m_notices;      // notices of simulated data, by symbol
     std::set<QString> m_said;
 };
 

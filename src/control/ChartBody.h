@@ -1,8 +1,7 @@
-// What stands inside a chart control: the chart window with its widgets and services. Beside it, what the
-// project's own programs need of a control beyond the five properties; hosts never see this header.
+// The inside of a chart control: the chart window with its widgets and services, and the functions that the
+// project's own programs need besides the five properties. Hosts never see this header.
 //
-// Belongs to the thread of the application's widgets. Nothing fails: without a feed the chart stays in its
-// loading text.
+// Thread of the application's widgets. Nothing fails: without a feed the chart stays in its loading state.
 #pragma once
 
 #include "control/ControlFrame.h"
@@ -20,30 +19,30 @@ namespace zantroq {
 class CChartDlg;
 class CChartView;
 
-// What a program of the project can replace. An empty member means the usual one.
+// The services that a program of this project can replace. Empty members have defaults.
 struct sChartCtrlSetup
 {
-    std::shared_ptr<ISettingsKey> ChartKey; // where the chart's settings are kept
-    std::shared_ptr<ISettingsKey> FeedKey;  // the feed's ports; see MakePortKey
-    IMessageBox* Box = nullptr;             // answers the window's questions; not owned
-    bool Popups = true; // false: context menus exist as data only, and the print dialog counts as cancelled
+    std::shared_ptr<ISettingsKey> ChartKey; // key of the chart's settings
+    std::shared_ptr<ISettingsKey> FeedKey;  // ports of the feed; see MakePortKey
+    IMessageBox* Box = nullptr;             // answers the window's message boxes; not owned
+    bool Popups = true; // false: context menus exist only as data, and the print dialog counts as cancelled
 };
 
 class CChartBody
 {
 public:
     explicit CChartBody(const sChartCtrlSetup& setup);
-    ~CChartBody(); // the window's destruction
+    ~CChartBody(); // destroys the chart window
     CChartBody(const CChartBody&) = delete;
     CChartBody& operator=(const CChartBody&) = delete;
 
     static std::unique_ptr<CChartCtrl> MakeControl(QWidget* parent, const sChartCtrlSetup& setup);
     static CChartBody& Of(CChartCtrl& control) { return *control.m_body; }
 
-    // The window's creation; once, by the control.
+    // Creates the chart window. Called once, by the control.
     void Create(CChartCtrl& control);
 
-    // The properties' storage. Each setter answers whether the value has changed.
+    // The values of the properties. Each setter returns true if the value has changed.
     const QString& StockSymbol() const { return m_symbol; }
     bool SetStockSymbol(const QString& symbol);
     bool ResizeParentWindow() const;
@@ -53,7 +52,7 @@ public:
     bool SetBorderStyle(int borderStyle);
     bool NoteEnabled(bool enabled);
 
-    // Gives the chart window what the control's size leaves inside its frame.
+    // Sizes the chart window to the inside of the control's frame.
     void LayOut();
 
     CChartDlg& Window() { return *m_window; }
@@ -65,17 +64,16 @@ public:
     bool Conveniences() const;
     void SetConveniences(bool on);
 
-    // The size of the chart window, also while the control is not on show.
+    // The size of the chart window, also while the control is hidden.
     void SetClientSize(const QSize& size);
-    // A text that pictures of the chart carry, such as that the market is simulated.
+    // A text shown in pictures of the chart, for example that the market is simulated.
     void SetNotice(const QString& notice) { m_notice = notice; }
-    // By the ending of the path: .png, .svg, .pdf, .json for the state of the window, or .csv for the
-    // values on show (window/ShownTable.h). Empty, or one sentence that says what is wrong and what to
-    // do.
+    // Writes a file of the kind given by its ending: .png, .svg, .pdf, .json for the state of the window, or
+    // .csv for the displayed values (export/ShownTable.h). Returns an empty text, or a sentence that says
+    // what is wrong and what to do.
     QString SavePicture(const QString& path) const;
     QImage Picture() const;
-    // The print command onto a PDF file, without a dialog. Empty, or one sentence that says what is
-    // wrong.
+    // Prints to a PDF file without a dialog. Returns an empty text, or a sentence that says what is wrong.
     QString PrintToFile(const QString& path);
 
 private:
@@ -92,8 +90,8 @@ private:
     std::unique_ptr<CChartDlg> m_window;
     sControlFrame m_frame;
     QString m_symbol, m_notice;
-    QString m_pictureFolder; // of the picture saved last
-    bool m_enabled = true;   // as reported last
+    QString m_pictureFolder; // folder of the last saved picture
+    bool m_enabled = true;   // last reported value
 };
 
 } // namespace zantroq

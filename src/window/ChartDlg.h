@@ -36,10 +36,10 @@ struct sChartDlgSetup
     sWindowServices Services;
     ISettingsKey& Key; // the chart's settings key
     IChartFeed& Feed;
-    IStudyFactory* Studies = nullptr;    // null: no study panes are made
-    IWindowDialogs* Dialogs = nullptr;   // null: the commands of all dialogs stand disabled
-    ILoginVerification* Login = nullptr; // null: agrees
-    IWindowTrends* Trends = nullptr;     // null: the window's own
+    IStudyFactory* Studies = nullptr;    // null: no study panes
+    IWindowDialogs* Dialogs = nullptr;   // null: the commands of all dialogs are disabled
+    ILoginVerification* Login = nullptr; // null: accepts every user
+    IWindowTrends* Trends = nullptr;     // null: the window creates its own
 };
 
 class CChartDlg : public IChartWindow, private ILifecycleEvents
@@ -50,20 +50,20 @@ public:
     CChartDlg(const CChartDlg&) = delete;
     CChartDlg& operator=(const CChartDlg&) = delete;
 
-    // Fills boxes, bars and panes, lays out, and stands idle ("Ready..."). The settings were loaded by the
-    // constructor. False when the login check refuses; the window then stays empty.
+    // Fills boxes, bars and panes, lays them out, and becomes idle ("Ready..."). The constructor has already
+    // loaded the settings. Returns false if the login check refuses; the window then stays empty.
     bool Initialise();
     void Destroy();
 
-    // What the host sets.
+    // Properties set by the host.
     void SetSymbol(const std::string& text);
     void SetResizeParentWindow(bool resize) { m_placement.SetResizeParentWindow(resize); }
     bool ResizeParentWindow() const { return m_placement.ResizeParentWindow(); }
 
     // Events of the face. `control` is FirstPaneControl and up, pixels are the pane's own.
     void OnTimer(int id);
-    void OnCommand(int command);     // runs it, enabled or not; the two check buttons flip here
-    void OnMenuCommand(int command); // a pick of the open context menu; 0 closes it
+    void OnCommand(int command);     // runs it, enabled or not; toggles the two check buttons
+    void OnMenuCommand(int command); // a choice in the open context menu; 0: closed without a choice
     void OnHScroll(ScrollCode code, int position);
     void OnChartMouseDown(int control, int button, int shift, int x, int y);
     void OnChartMouseMove(int control, int button, int shift, int x, int y);
@@ -73,15 +73,15 @@ public:
     void OnSymbolEnter() { DrawChart(); } // Enter in the symbol box
     void OnDataTypeChanged(int forced);
     void OnIntervalChanged();
-    void OnResize();  // the client size changed, or the bars' height
+    void OnResize();  // the client size or the height of the bars has changed
     bool DrawChart(); // false: no request was made
     // Opens the context menu of a pane by keyboard, at a pixel of it.
     void OpenPaneMenu(int pane, int x, int y);
 
-    // One change as if the settings sheet had been closed with OK on it. False, with `error` a sentence, for
-    // an unknown name or a value that its type does not take; nothing is changed then.
+    // Makes one change as the settings sheet would on OK. Returns false, sets `error` to a sentence and
+    // changes nothing for an unknown name or an invalid value.
     bool ApplySetting(const std::string& name, const std::string& value, std::string& error);
-    // A settings sheet closed with OK.
+    // Applies an accepted settings sheet.
     void ApplySettings(const sSettingsEdit& edit);
     // Text of the first part of the status line; held back while a trendline mode is armed.
     void SetStatusText(const std::string& text) { m_status.Message(text); }
@@ -104,7 +104,7 @@ public:
     void EndPriceBatch() override { m_batch.EndPrice(); }
     int ScrollLimit() const override { return m_services.Scroll.Limit(); }
 
-    // What the window knows, for the snapshot, replay scripts and the face.
+    // The state of the window, for snapshots, replay scripts and the Widgets layer.
     bool ScrollBarVisible() const { return m_services.Scroll.Visible(); }
     CChartHistRequest* Series() const
     {
@@ -119,12 +119,12 @@ public:
     int Loading() const { return m_lifecycle.Loading() ? 1 : 0; }  // 1 while a chart loads
     bool CompleteAndDrawn() const;                                 // the reply is complete and on show
     int ShownPanes() const { return PaneCount(m_settings.Panes); } // price pane and displayed studies
-    int ClickedPane() const { return m_clickedPane; }              // the pane of the last context menu
+    int ClickedPane() const { return m_clickedPane; }              // pane of the last context menu
     const std::string& StatusPart(int part) const { return m_status.Part(part); } // 0 to 2
     const std::optional<sContextMenu>& OpenMenu() const { return m_openMenu; }
-    sContextMenu MenuOf(int pane) const; // what a pane's context menu would hold now
+    sContextMenu MenuOf(int pane) const; // the context menu that a pane would open now
     const std::vector<sAskedBox>& AskedBoxes() const { return m_recorder.Boxes(); }
-    IDialogDriver* OpenDialog() const { return m_dialogs.OpenDialog(); } // null: no dialog is open
+    IDialogDriver* OpenDialog() const { return m_dialogs.OpenDialog(); } // null if no dialog is open
 
 private:
     // ILifecycleEvents

@@ -23,12 +23,12 @@ class ILifecycleEvents
 {
 public:
     virtual ~ILifecycleEvents() = default;
-    virtual void SavePosition() = 0; // if positions are to be saved
+    virtual void SavePosition() = 0; // if positions are stored
     virtual void RememberSymbol(const std::string& symbol) = 0;
-    virtual void RequestScaleReset() = 0; // a fixed value axis fits itself once
+    virtual void RequestScaleReset() = 0; // fits a fixed value axis once
     virtual void ChartDropped() = 0;      // the series is empty; the panes still show the previous chart
-    virtual void ChartRequested() = 0;    // symbol, type and interval are new
-    virtual void SeriesPolled() = 0;      // a tick on a complete series
+    virtual void ChartRequested() = 0;    // symbol, type and interval are set
+    virtual void SeriesPolled() = 0;      // a timer tick while the series is complete
 };
 
 class CChartLifecycle
@@ -39,7 +39,7 @@ public:
                     IPaneDrawing& drawing, ILifecycleEvents& events);
 
     void Start(); // creates the series; "Ready..."
-    void End();   // gives the series up
+    void End();   // gives up the series
 
     void OnSymbolChanged();
     void OnDrawChart();
@@ -55,7 +55,7 @@ public:
     void SetCurrentSymbol(std::string symbol) { m_currentSymbol = std::move(symbol); }
 
 private:
-    void FitFixedScale(); // to the chart that is asked for
+    void FitFixedScale(); // to the requested chart
     void DropChart();
     void RequestChart();
     void EnterLoading();
@@ -75,7 +75,7 @@ private:
     std::unique_ptr<CChartHistRequest> m_series;
     std::string m_currentSymbol;
     bool m_loading = false;
-    bool m_requested = false; // some chart was asked for
+    bool m_requested = false; // a chart has been requested
     bool m_fitScale = false;  // the first draw of the chart fits a fixed scale to all of it
 };
 

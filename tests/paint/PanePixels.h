@@ -14,7 +14,7 @@ struct sPixels
 {
     sPixels(int width, int height) : Width(width), Height(height)
     {
-        // Nothing that the painter writes looks like it.
+        // A color that the painter never writes.
         Pixels.assign(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), 0x12345678);
     }
     sRaster Raster() { return {Pixels.data(), Width, Width, Height}; }
@@ -28,7 +28,7 @@ struct sPixels
     std::vector<PixelColor> Pixels;
 };
 
-// A pane with the picture that is kept of it.
+// A pane with its cached picture.
 class CPaintedPane
 {
 public:

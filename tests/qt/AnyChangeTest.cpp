@@ -15,7 +15,7 @@ namespace {
 class CAnyChange
 {
 public:
-    // One value of a vector in so many is none, an infinity or the like.
+    // One value in `rareness` is a hole, an infinity or similar.
     CAnyChange(unsigned seed, int points, int rareness)
         : m_random(seed), m_rareness(rareness), m_pane(test::EmptyPane(200, 120))
     {
@@ -30,7 +30,7 @@ public:
 
     const CChart2D& Pane() const { return *m_pane; }
 
-    // Makes one change and tells its number.
+    // Makes one change and returns its number.
     int Change()
     {
         const int kind = Below(34), group = 1 + Below(2);
@@ -232,7 +232,7 @@ TEST(AnyChange, LeavesThePictureThatIsPaintedFromNothing)
     }
 }
 
-// So many points a column that blocks of them are looked at.
+// So many points per column that their blocks are used.
 TEST(AnyChange, OfACrowdedPaneLeavesThePictureThatIsPaintedFromNothing)
 {
     for (unsigned seed = 1; seed <= 24; ++seed) {

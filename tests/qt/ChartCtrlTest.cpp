@@ -404,7 +404,7 @@ TEST_F(CChartCtrlTest, BarsAndIconsFollowADarkDesktop)
     QTest::qWait(50);
     const QImage image = m_chart->grab().toImage();
     QApplication::setPalette(light);
-    // The tools, the scroll bar's right end and the status bar are dark with something light on them.
+    // The toolbar, the right end of the scroll bar and the status bar are dark with light contents.
     for (const QRect& part : {QRect(0, 0, 600, 30), QRect(0, 481, 300, 18)}) {
         int shade = 0, brightest = 0;
         for (int y = part.top(); y <= part.bottom(); ++y)

@@ -52,7 +52,7 @@ std::vector<test::Pane> PanesOfEachKind(int width, int height)
     return panes;
 }
 
-// A changed point was painted into rows that the picture does not have.
+// Regression: a changed point was painted into rows outside the picture.
 TEST(HostilePane, APlotThatReachesPastItsPictureIsCutToIt)
 {
     constexpr int far = 1 << 20;
@@ -81,7 +81,7 @@ TEST(HostilePane, ABoxLargerThanAnyPictureIsCutToIt)
         }
 }
 
-// Their pixel columns were looked for as if they ascended.
+// Regression: their pixel columns were searched as if they ascended.
 TEST(HostilePane, OnAnAxisThatRunsBackwardsEveryPointIsPainted)
 {
     for (const double scale : {1.0, 2.0})
@@ -100,7 +100,7 @@ TEST(HostilePane, OnAnAxisThatRunsBackwardsEveryPointIsPainted)
         }
 }
 
-// Dashes were drawn over all of a plot, a hundred million of them, however little of it is in the picture.
+// Regression: all dashes of a plot were drawn, a hundred million, however little of it is in the picture.
 TEST(HostilePane, DashesOutsideThePictureAreNotDrawn)
 {
     const test::Pane pane = test::LinePane(200, 120, {1, 50, 99});

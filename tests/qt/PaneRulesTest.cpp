@@ -11,7 +11,7 @@ namespace {
 const double Hole = CPaneData::HoleValue();
 const QString Family = "DejaVu Sans";
 
-// A curve over candles whose first points, as far as they are not holes, stand far from the others.
+// A curve over candles whose first points, unless they are holes, are far from the others.
 test::Pane CurvePane(int count, int warmUp, double inWarmUp, int type, int shape)
 {
     test::Pane pane = test::CandlePane(280, 180, count, 1);
@@ -31,7 +31,7 @@ test::Pane CurvePane(int count, int warmUp, double inWarmUp, int type, int shape
     return pane;
 }
 
-// The last point of a warm-up has a value; it was drawn, as a spike that the axis does not cover.
+// Regression: the last point of a warm-up has a value and was drawn, as a spike outside the axis.
 TEST(WarmUp, ItsPointsAreNotPaintedWhateverTheirValues)
 {
     for (const int count : {20, 400, 30000})
@@ -83,7 +83,7 @@ TEST(WarmUp, StaysUnpaintedInACopy)
     EXPECT_TRUE(PanePicture(copy, 1.0, Family) == PanePicture(*pane, 1.0, Family));
 }
 
-// The longest row of pixels that are neither white nor grey.
+// The longest run of pixels that are neither white nor grey.
 int WidestRow(const QImage& picture, const sPixelRect& plot)
 {
     int widest = 0;
@@ -96,7 +96,7 @@ int WidestRow(const QImage& picture, const sPixelRect& plot)
     return widest;
 }
 
-// A width that was asked for lost the gap that only a full room leaves.
+// Regression: a requested width was reduced by the gap that only a full width needs.
 TEST(BarWidth, IsTheOneAskedForWhereTheRoomAllowsIt)
 {
     constexpr int pane = 58 + 211 + 23; // 60 pixels a point

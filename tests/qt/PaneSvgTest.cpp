@@ -112,7 +112,7 @@ TEST(PaneSvg, ALineThatLeavesThePlotEndsAtItsEdge)
         }
 }
 
-// As much of the line is there as in a picture of pixels.
+// The line must be as complete as in a picture of pixels.
 TEST(PaneSvg, ALineThatLeavesThePlotLooksAsOnTheScreen)
 {
     for (const int width : {1, 3, 8}) {
@@ -151,7 +151,7 @@ TEST(PaneSvg, BoxesAndTextsEndAtThePanesEdge)
         label.Interior().SetBackground(0x00ffff);
         label.Interior().SetForeground(0x0000ff);
     }
-    // A larger window on the file shows what lies around the pane.
+    // A larger view of the file shows what is outside the pane.
     QByteArray svg = SvgOf(*pane);
     svg.replace("viewBox=\"0 0 200 120\"", "viewBox=\"-100 -100 400 320\"");
     QSvgRenderer renderer(svg);
@@ -186,13 +186,13 @@ TEST(CutShapes, APolygonKeepsWhatLiesInTheBox)
     EXPECT_TRUE(CutPolygon(diamond, {20, 20, 5, 5}).isEmpty());
 }
 
-// A path far longer than the box costs what is in the box.
+// The cost of a path far longer than the box depends only on the part inside.
 TEST(CutShapes, DashesStandWhereTheyStoodBeforeTheCut)
 {
     QPainterPath path({-1e6, 10});
     path.lineTo(1e6, 10);
     const sCutStroke cut = CutStroke(path, 2, sDashes{6, 4}, {-3, 0, 42, 20});
-    // Dashes begin every ten units, at -1,000,000 too: those at 0, 10, 20 and 30 lie inside.
+    // Dashes begin every ten units, also at -1,000,000: those at 0, 10, 20 and 30 are inside.
     ASSERT_EQ(cut.Stroked.elementCount(), 8);
     for (int i = 0; i < 8; ++i) {
         EXPECT_NEAR(cut.Stroked.elementAt(i).x, i / 2 * 10 + i % 2 * 6, 1e-6);

@@ -19,7 +19,7 @@ void ShowPicture(QMessageBox& box, BoxIcon icon)
     box.setIconPixmap(picture.pixmap(QSize(PictureSize, PictureSize), box.devicePixelRatioF()));
 }
 
-// The dialog that is open over the window, so that the box does not come up behind it, else the window.
+// The open dialog over the window, so that the box does not appear behind it; otherwise the window.
 QWidget& Over(QWidget& inside)
 {
     QWidget* const window = inside.window();
@@ -29,7 +29,7 @@ QWidget& Over(QWidget& inside)
     return *window;
 }
 
-// Words alone: a desktop without an icon theme would put discs before them.
+// Shows texts without icons: a desktop without an icon theme would show discs.
 void ShowPlainButtons(QMessageBox& box)
 {
     for (QAbstractButton* button : box.buttons())

@@ -1,4 +1,4 @@
-// The dialogs of one chart window: at most one is open. Chart window's thread.
+// The dialogs of a chart window, of which at most one is open. Chart window's thread.
 #pragma once
 
 #include "qt/dialogs/FormDialogDriver.h"
@@ -14,7 +14,8 @@ namespace zantroq {
 class CWindowDialogs : public IWindowDialogs
 {
 public:
-    // A widget inside the chart's window, the feed's ports, and the chart's message box.
+    // `over` is a widget inside the chart's window, `feedKey` has the feed's ports, `box` is the chart's
+    // message box.
     CWindowDialogs(QWidget& over, std::shared_ptr<ISettingsKey> feedKey, IMessageBox& box)
         : m_over(over), m_feedKey(std::move(feedKey)), m_box(box)
     {
@@ -41,7 +42,7 @@ private:
     const std::shared_ptr<ISettingsKey> m_feedKey;
     IMessageBox& m_box;
     QPointer<CFormDialog> m_dialog;
-    std::unique_ptr<CFormDialogDriver> m_driver; // of m_dialog while it is open
+    std::unique_ptr<CFormDialogDriver> m_driver; // driver of m_dialog while it is open
 };
 
 } // namespace zantroq

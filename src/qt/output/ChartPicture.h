@@ -1,6 +1,6 @@
-// A picture of a whole chart window without its controls: a heading, the panes where they stand, and the
-// status line, in the client size of the window. The same drawing goes to pixels, vectors and pages. Chart
-// window's thread.
+// A picture of a whole chart window without its controls: a heading, the panes at their positions, and the
+// status line, in the client size of the window. The same drawing is used for pixels, vectors and pages.
+// Chart window's thread.
 #pragma once
 
 #include <QImage>
@@ -20,7 +20,7 @@ struct sChartPicture
     QString Notice; // shown in the heading where not empty
 };
 
-// A null image where there is not enough memory for it or for one of its panes.
+// Returns a null image if memory is short.
 QImage DrawChartPicture(const sChartPicture& picture, double devicePixelRatio);
 
 // The endings of a picture or of the window's state.

@@ -1,4 +1,4 @@
-// The print command with this desktop's printers, and onto PDF files. Chart window's thread.
+// The print command for the desktop's printers and for PDF files. Chart window's thread.
 #pragma once
 
 #include "printing/ChartPrinting.h"
@@ -13,15 +13,15 @@ namespace zantroq {
 
 class CChartDlg;
 
-// Wall-clock time of this machine, where it stands.
+// The local time of this machine.
 sTIME_W_MILLISECONDS PrintTime();
 
 struct sPdfPaper
 {
-    // A4 upright with margins of 10 mm.
+    // A4, portrait, with margins of 10 mm.
     QPageLayout Layout{QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF(10, 10, 10, 10),
                        QPageLayout::Millimeter};
-    int Copies = 1; // pages of the one file
+    int Copies = 1; // as further pages of the file
 };
 
 class CChartPrinter
@@ -30,13 +30,13 @@ public:
     explicit CChartPrinter(IPrintedChart& chart, CChartPrinting::Clock clock = PrintTime,
                            const sPrintFonts& fonts = {});
 
-    // The desktop's print dialog, then the printer or file chosen there. The dialog stands over the parent,
-    // and the widget that had the keyboard gets it back. Empty, also when the dialog is cancelled, or one
-    // sentence that says what is wrong and what to do. Whoever looks sees the old file or the new one.
+    // Opens the desktop's print dialog over `parent`, then prints to the chosen printer or file and returns
+    // the focus to the widget that had it. A file is replaced only when it is complete. Returns an empty
+    // text, also if the dialog is cancelled, or a sentence that says what is wrong and what to do.
     QString PrintWithDialog(QWidget* parent);
 
-    // As if the dialog had been closed with OK on this file. Whoever looks sees the old file or the new one.
-    // Empty, or one sentence that names the path and says what is wrong.
+    // Prints to this file without a dialog. The file is replaced only when it is complete. Returns an empty
+    // text, or a sentence that names the path and says what is wrong.
     QString PrintToPdf(const QString& path, const sPdfPaper& paper = {});
 
 private:

@@ -1,5 +1,5 @@
-// Paints a pane's scene: into a kept picture for the screen, or through any QPainter. Straight lines lie on
-// whole device pixels and text is sans-serif, at every scale factor. Chart window's thread.
+// Paints the scene of a pane: into a cached picture for the screen, or with any QPainter. Straight lines are
+// on whole device pixels and text is sans-serif, at every scale factor. Chart window's thread.
 #pragma once
 
 #include "paint/PaneRaster.h"
@@ -16,24 +16,24 @@ namespace zantroq {
 class CPanePainter
 {
 public:
-    // The chart is not owned. `family` is the font of all texts; empty for the usual one. The detail serves
-    // comparison with the plain definition.
+    // The chart is not owned. `family` is the font of all texts; empty for the default. `detail` lets tests
+    // compare with the plain definition.
     explicit CPanePainter(const CChart2D& chart, const QString& family = {},
                           InkDetail detail = InkDetail::Reduced);
     CPanePainter(const CPanePainter&) = delete;
     CPanePainter& operator=(const CPanePainter&) = delete;
 
-    // The picture of the scene in its present state, sized as its AreaBox, with the ratio set on it. Paints
-    // only what changed since the last call; see Damage. The picture is null for a pane without a size.
+    // The picture of the current scene, in the size of its AreaBox and with the device pixel ratio set.
+    // Paints only what changed since the last call; see Damage. A null image for a pane without a size.
     const QImage& Picture(double devicePixelRatio);
-    // The part that the last Picture() painted, in pane pixels: the part of a widget to repaint.
+    // The part painted by the last Picture(), in pane pixels: the part of a widget to repaint.
     QRect Damage() const;
     // Drops the kept picture: the next one is painted from nothing.
     void Forget() { m_raster.Forget(); }
 
-    // Paints the scene into a box of any painter, stretched to fill it, without keeping anything. One unit of
-    // the painter is a device pixel: lines and text follow the box's size, so a page of 4,800 units has fine
-    // lines and not coarse pixels.
+    // Paints the scene into a box of any painter, stretched to fill it, without caching. One unit of the
+    // painter is a device pixel: widths of lines and sizes of text follow the size of the box, so a page of
+    // 4,800 units has fine lines.
     void PaintInto(QPainter& painter, const QRectF& box);
 
 private:

@@ -53,7 +53,7 @@ const sTextMask& CPaneText::Mask(std::string_view text)
     sTextMask mask;
     const QString line = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
     mask.Advance = QFontMetrics(m_font).horizontalAdvance(line);
-    // Italic or hinted glyphs may reach a little over the line box.
+    // Italic or hinted glyphs may extend slightly beyond the line box.
     const int edge = std::max(2, m_lineHeight / 4);
     QImage picture(std::clamp(mask.Advance, 0, 8192) + 2 * edge, m_lineHeight + 2 * edge,
                    QImage::Format_ARGB32_Premultiplied);

@@ -16,7 +16,7 @@ namespace {
 constexpr int DragLineHeight = 5;
 constexpr int WheelNotch = 120, StepsANotch = 3;
 
-// The dotted line that follows a dragged border. It reads on dark and on light panes.
+// The dotted line that follows a dragged border; visible on dark and on light panes.
 class CDragLine : public QWidget
 {
 public:
@@ -35,7 +35,7 @@ protected:
     }
 };
 
-// Key codes below 128 are the characters that the keys are labelled with. 0: the key runs no command.
+// Key codes below 128 are the characters on the keys. Returns 0 if the key runs no command.
 int CommandOfKey(const QKeyEvent& event)
 {
     if (!event.modifiers().testFlag(Qt::ControlModifier))
@@ -131,7 +131,7 @@ void CChartView::SetClientSize(int width, int height)
 {
     const bool same = size() == QSize(width, height);
     resize(width, height);
-    // A widget that is not on show is told of its size only when it is shown.
+    // A hidden widget gets its resize event only when it is shown.
     if (!same && !isVisible())
         LayOut();
 }
@@ -265,7 +265,7 @@ void CChartView::wheelEvent(QWheelEvent* event)
         return QWidget::wheelEvent(event);
     event->accept();
     const QPoint turn = event->angleDelta();
-    // Alt turns a wheel sideways on some desktops; both directions scroll.
+    // On some desktops Alt makes the wheel horizontal; both directions scroll.
     m_wheel += std::abs(turn.y()) >= std::abs(turn.x()) ? turn.y() : turn.x();
     for (; std::abs(m_wheel) >= WheelNotch; m_wheel -= m_wheel > 0 ? WheelNotch : -WheelNotch) {
         const bool away = m_wheel > 0;
@@ -281,7 +281,7 @@ void CChartView::wheelEvent(QWheelEvent* event)
 void CChartView::contextMenuEvent(QContextMenuEvent* event)
 {
     event->setAccepted(event->reason() != QContextMenuEvent::Mouse && m_conveniences);
-    // The menu key arrives as a key as well, which is where it is taken.
+    // The menu key also arrives as a key event and is handled there.
 }
 
 void CChartView::OpenMenuByKey()
@@ -295,7 +295,7 @@ void CChartView::OpenMenuByKey()
     m_window->OpenPaneMenu(number, pane->width() / 2, pane->height() / 2);
 }
 
-// The gaps between bars and panes.
+// Paints the gaps between bars and panes.
 void CChartView::paintEvent(QPaintEvent*)
 {
     QPainter(this).fillRect(rect(), palette().color(QPalette::Window));

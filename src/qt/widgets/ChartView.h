@@ -1,6 +1,6 @@
-// The chart window's widget: bars above, panes between, scroll bar and status bar below. It gives the chart
-// window its services and turns events into calls of it; where things stand is the chart window's to say.
-// Chart window's thread.
+// The widget of the chart window: bars at the top, panes, scroll bar and status bar. It provides the chart
+// window's services and turns events into calls of the window, which decides the layout. Chart window's
+// thread.
 #pragma once
 
 #include "qt/widgets/ChartBars.h"
@@ -25,9 +25,9 @@ public:
     explicit CChartView(QWidget* parent);
     ~CChartView() override;
 
-    // The box and the menu are a person's or a script's; the rest is this widget's.
+    // The services of this widget, with a message box and a context menu for a person or a script.
     sWindowServices Services(IMessageBox& box, IContextMenu& menu);
-    // From here on events go to the window, until Detach. Makes the widgets of its panes.
+    // Sends events to the window from now on, until Detach. Creates the widgets of its panes.
     void Attach(CChartDlg& window);
     void Detach();
 
@@ -41,10 +41,10 @@ public:
     void SetConveniences(bool on) { m_conveniences = on; }
     bool Conveniences() const { return m_conveniences; }
 
-    bool MayRun(int command) const; // enabled, and no chart is being loaded
-    void RunCommand(int command);   // if it may run
+    bool MayRun(int command) const; // true if it is enabled and no chart is loading
+    void RunCommand(int command);   // only if it may run
 
-    // Client size of the chart window, shown or not.
+    // Sets the client size of the chart window, visible or not.
     void SetClientSize(int width, int height);
 
     // IPaneHost
@@ -87,7 +87,7 @@ private:
     CContextMenuPopup m_menu;
     CChartDlg* m_window = nullptr; // not owned
     int m_barHeight = 0;
-    int m_wheel = 0; // eighths of a degree not yet turned into a notch
+    int m_wheel = 0; // rotation below one notch, in eighths of a degree
     bool m_conveniences = true;
 };
 

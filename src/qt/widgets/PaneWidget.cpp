@@ -27,7 +27,7 @@ int ShiftState(Qt::KeyboardModifiers modifiers)
            (modifiers.testFlag(Qt::ControlModifier) ? 2 : 0) | (modifiers.testFlag(Qt::AltModifier) ? 4 : 0);
 }
 
-// The code of a key that produces a character, 0 for any other key.
+// The code of a key that produces a character; 0 for any other key.
 int CharacterCode(const QKeyEvent& event)
 {
     if (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
@@ -77,7 +77,7 @@ void CPaneWidget::paintEvent(QPaintEvent* event)
     QPainter painter(this);
     if (!picture.isNull())
         painter.drawImage(QPoint(0, 0), picture);
-    // What changed since the update was asked for may lie outside of it.
+    // Changes after the request for this update may be outside its area.
     if (!event->rect().contains(m_painter.Damage()))
         update(m_painter.Damage());
 }
@@ -109,10 +109,10 @@ void CPaneWidget::keyPressEvent(QKeyEvent* event)
     if (const int code = CharacterCode(*event); code != 0)
         m_events.PaneKey(m_control, code);
     else
-        event->ignore(); // the window's
+        event->ignore(); // handled by the window
 }
 
-// The right button opens the menu through the window's rules; the keyboard's request goes to the window.
+// The chart window opens the menu for the right button; a request from the keyboard goes to the view.
 void CPaneWidget::contextMenuEvent(QContextMenuEvent* event)
 {
     event->setAccepted(event->reason() == QContextMenuEvent::Mouse);

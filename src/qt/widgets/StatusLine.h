@@ -1,5 +1,5 @@
-// The status bar: three parts in one line of 20 pixels, the two on the right narrow ones. A text that does
-// not fit is shortened and is whole in the part's tooltip. Chart window's thread.
+// The status bar: three parts in a line of 20 pixels, the two right parts narrow. A text that does not fit is
+// shortened; the tooltip of the part shows all of it. Chart window's thread.
 #pragma once
 
 #include "platform/WindowServices.h"
@@ -21,8 +21,8 @@ public:
     QString Part(int part) const { return m_texts.at(static_cast<std::size_t>(part)); }
     // Where a part stands in a line of this width.
     static QRect PartRect(int part, int width);
-    // A last trade, "101.25 x 1234567", as far as it fits: with its size as "1.2M", or without it. Half a
-    // number would mislead.
+    // Shortens a last trade such as "101.25 x 1234567" to fit: with the size as "1.2M", or without the size.
+    // A cut number would mislead.
     static QString ShortTrade(const QString& text, const QFont& font, int width);
 
 protected:

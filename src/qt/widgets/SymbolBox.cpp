@@ -107,15 +107,15 @@ void CSymbolBox::wheelEvent(QWheelEvent* event)
     event->ignore();
 }
 
-// The keyboard is the box's; its edit line gets from here what it is to have.
+// The box has the keyboard focus and passes key events to its edit line.
 void CSymbolBox::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
         return QComboBox::keyPressEvent(event);
     event->accept();
-    if (!event->isAutoRepeat()) // one chart for a key held down
+    if (!event->isAutoRepeat()) // draws only one chart while the key is held
         OnEnter();
-    lineEdit()->selectAll(); // what is typed next is another symbol
+    lineEdit()->selectAll(); // so that typing starts a new symbol
 }
 
 } // namespace zantroq

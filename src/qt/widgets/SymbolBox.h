@@ -1,5 +1,5 @@
-// The symbol box: an edit line over the last symbols. What is typed turns to capitals as it comes; Enter
-// draws. Only what the user does is reported. Chart window's thread.
+// The symbol box: an edit field with a list of the last symbols. Typed letters become capitals; Enter draws.
+// Only actions of the user are reported. Chart window's thread.
 #pragma once
 
 #include "platform/WindowServices.h"
