@@ -1,10 +1,13 @@
-// The cost of many controls.
+// The cost of many controls. The feed runs in a process of its own, so that its market does not count.
 //
 //   life [SPEED]  creates and destroys a control 1,000 times beside one that follows live trades, at SPEED (10)
-//                 market seconds per second; prints the memory of the process after each hundred
+//                 market seconds per second. After each hundred the remaining control asks for its chart anew,
+//                 so that it has as many points as at the start; then the resident memory of the process and
+//                 the part of its heap in use are printed
 //   paint         one frame of one control and of ten, all with live data: median of 30, in processor time
 #include "control/ChartBody.h"
 #include "feed/server/FeedServer.h"
+#include "market/RequestTable.h"
 #include "market/ZantroPorts.h"
 #include "window/ChartDlg.h"
 
@@ -12,13 +15,18 @@
 #include <QElapsedTimer>
 
 #include <algorithm>
+#include <array>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
 #include <fstream>
+#include <malloc.h>
 #include <memory>
+#include <optional>
 #include <string>
+#include <sys/prctl.h>
 #include <unistd.h>
 #include <vector>
 
@@ -36,27 +44,69 @@ double ResidentMegabytes()
     return static_cast<double>(resident) * static_cast<double>(sysconf(_SC_PAGESIZE)) / 1e6;
 }
 
-class CControls
+double HeapMegabytes()
+{
+    return static_cast<double>(mallinfo2().uordblks) / 1e6;
+}
+
+// Serves the simulated markets from a process of its own until this one ends.
+class CFeedProcess
 {
 public:
-    explicit CControls(double speed)
+    explicit CFeedProcess(double speed)
     {
+        int ends[2];
+        if (pipe(ends) != 0 || (m_process = fork()) < 0) {
+            std::perror("control_bench");
+            std::exit(1);
+        }
+        if (m_process == 0)
+            Serve(speed, ends[1]);
+        close(ends[1]);
+        if (read(ends[0], m_ports.data(), sizeof m_ports) != sizeof m_ports)
+            std::exit(1); // the feed has said why
+        close(ends[0]);
+    }
+    ~CFeedProcess() { kill(m_process, SIGKILL); }
+    CFeedProcess(const CFeedProcess&) = delete;
+    CFeedProcess& operator=(const CFeedProcess&) = delete;
+
+    std::shared_ptr<ISettingsKey> Key() const { return MakePortKey(m_ports[0], m_ports[1]); }
+
+private:
+    [[noreturn]] static void Serve(double speed, int end)
+    {
+        prctl(PR_SET_PDEATHSIG, SIGKILL);
         feed::sFEED_OPTIONS options;
         options.SimulateAll = true;
         options.Speed = speed;
-        m_feed = std::make_unique<feed::CFeedServer>(options);
+        feed::CFeedServer server(options);
         std::string error;
-        if (!m_feed->Start(error)) {
+        if (!server.Start(error)) {
             std::fprintf(stderr, "%s\n", error.c_str());
-            std::exit(1);
+            _exit(1);
         }
+        const std::array<std::uint16_t, 2> ports{server.LookupPort(), server.Level1Port()};
+        if (write(end, ports.data(), sizeof ports) != sizeof ports)
+            _exit(1);
+        for (;;)
+            pause();
     }
+
+    pid_t m_process = 0;
+    std::array<std::uint16_t, 2> m_ports{};
+};
+
+class CControls
+{
+public:
+    explicit CControls(const CFeedProcess& feed) : m_feedKey(feed.Key()) {}
 
     std::unique_ptr<CChartCtrl> Open(const QString& symbol)
     {
         sChartCtrlSetup setup;
         setup.ChartKey = m_key;
-        setup.FeedKey = MakePortKey(m_feed->LookupPort(), m_feed->Level1Port());
+        setup.FeedKey = m_feedKey;
         setup.Popups = false;
         auto control = CChartBody::MakeControl(nullptr, setup);
         CChartBody::Of(*control).SetClientSize({700, 500});
@@ -73,27 +123,47 @@ public:
     }
 
 private:
-    std::unique_ptr<feed::CFeedServer> m_feed;
+    std::shared_ptr<ISettingsKey> m_feedKey;
     std::shared_ptr<ISettingsKey> m_key = MakeMemorySettingsKey();
 };
+
+struct sMemory
+{
+    double Resident = ResidentMegabytes();
+    double Heap = HeapMegabytes();
+};
+
+double Percent(double now, double before)
+{
+    return (now / before - 1) * 100;
+}
 
 void Live(CControls& controls)
 {
     const auto stays = controls.Open("SIM.CALM");
     CControls::AwaitDrawn(*stays);
-    double afterHundred = 0;
+    std::optional<sMemory> first;
     for (int life = 1; life <= Lives; ++life) {
-        const auto passing = controls.Open("SIM.WILD");
-        if (life % 2 == 0)
-            CControls::AwaitDrawn(*passing); // the others are destroyed while they load
-        QApplication::processEvents();
+        {
+            const auto passing = controls.Open("SIM.WILD");
+            if (life % 2 == 0)
+                CControls::AwaitDrawn(*passing); // the others are destroyed while they load
+            QApplication::processEvents();
+        }
         if (life % Hundred != 0)
             continue;
-        const double now = ResidentMegabytes();
-        if (life == Hundred)
-            afterHundred = now;
-        std::printf("%4d lives: %.1f MB, %+.2f %% of the first hundred\n", life, now,
-                    (now / afterHundred - 1) * 100);
+        const int grown = CChartBody::Of(*stays).Window().Range().knownCount;
+        stays->SetStockSymbol("SIM.CALM");
+        CControls::AwaitDrawn(*stays);
+        const sMemory now;
+        if (!first)
+            first = now;
+        std::printf(
+            "%4d lives: %.1f MB resident (%+.2f %%), %.2f MB of the heap in use (%+.2f %%); the chart that "
+            "stays has %d points again after %d; %d requests\n",
+            life, now.Resident, Percent(now.Resident, first->Resident), now.Heap,
+            Percent(now.Heap, first->Heap), CChartBody::Of(*stays).Window().Range().knownCount, grown,
+            CountRequests());
         std::fflush(stdout);
     }
 }
@@ -138,10 +208,11 @@ void Paint(CControls& controls)
 
 int main(int argc, char** argv)
 {
+    // In market seconds per second: with nearly 0 the market stands still.
+    const CFeedProcess feed(argc > 2 ? std::atof(argv[2]) : 10); // before there are threads
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
     QApplication application(argc, argv);
-    // In market seconds per second: with nearly 0, neither the remaining chart nor the market grows.
-    CControls controls(argc > 2 ? std::atof(argv[2]) : 10);
+    CControls controls(feed);
     const char* const what = argc > 1 ? argv[1] : "";
     if (std::strcmp(what, "paint") != 0)
         Live(controls);

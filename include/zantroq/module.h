@@ -68,7 +68,8 @@ extern "C" {
 
 /** Dispatch number of StockSymbol, a text. */
 #define ZANTROQ_STOCK_SYMBOL 1
-/** Dispatch number of ResizeParentWindow, a boolean. */
+/** Dispatch number of ResizeParentWindow, a boolean. It moves a top-level window that the control has to itself, never
+ * an X11 window of the host. */
 #define ZANTROQ_RESIZE_PARENT_WINDOW 2
 /** Dispatch number of Appearance, an integer: 0 flat, 1 sunken. */
 #define ZANTROQ_APPEARANCE (-520)

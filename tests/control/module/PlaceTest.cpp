@@ -169,6 +169,23 @@ TEST_F(ModuleInAWindow, AWindowThatDoesNotExistLeavesTheControlWhereItIs)
     control->Table->Release(control);
 }
 
+TEST_F(ModuleInAWindow, AControlThatMayPlaceItsWindowLeavesTheHostsAlone)
+{
+    const xcb_window_t window = MakeWindow(640, 480);
+    sZantroqControl* const control = Create();
+    EXPECT_EQ(control->Table->Place(control, window), ZANTROQ_OK);
+    EXPECT_EQ(PutNumber(control, "ResizeParentWindow", ZANTROQ_BOOLEAN, 1), ZANTROQ_OK);
+    EXPECT_EQ(PutSymbol(control, "AAA"), ZANTROQ_OK);
+    EXPECT_TRUE(PumpUntil([this] { return m_feed.Level1.Received().find("wAAA") != std::string::npos; }));
+    EXPECT_TRUE(AwaitInside(window, "0,0 640x480")) << Inside(window);
+    const CReply<xcb_get_geometry_reply_t> place(
+        xcb_get_geometry_reply(m_display, xcb_get_geometry(m_display, window), nullptr), &std::free);
+    ASSERT_NE(place, nullptr);
+    EXPECT_EQ(place->width, 640);
+    EXPECT_EQ(place->height, 480);
+    control->Table->Release(control);
+}
+
 TEST_F(ModuleInAWindow, WithoutAnXServerThereIsNoControl)
 {
     const std::string display = std::getenv("DISPLAY");
