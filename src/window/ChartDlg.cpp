@@ -420,6 +420,7 @@ void CChartDlg::RedrawWithoutRequest()
         m_display.ReportPoints(m_drawing.Count());
     if (m_settings.FixedScale)
         m_scaleReset = true;
+    m_allPanes.SetColors();
     m_display.Redraw();
 }
 

@@ -153,6 +153,7 @@ void CDisplayRange::ReportPoints(int count)
 void CDisplayRange::ChangePoints()
 {
     ResetShown();
+    m_range.scrollPos = m_bar.Position(); // the new page may have moved the bar
     Redraw();
 }
 

@@ -413,6 +413,46 @@ TEST(SettingsOk, WithAnEmptyBoxRedrawsWithoutARequest)
     EXPECT_EQ(Text(*chart->Key, "PTS INDEX"), "0");
 }
 
+// The colors of a chart that stayed on show came with the next chart only.
+TEST(SettingsOk, WithAnEmptyBoxTheChartOnShowTakesNewColors)
+{
+    auto chart = ChartOf(DailyData);
+    chart->Chart("X", 200);
+    chart->Type("");
+    sSettingsEdit edit{chart->Window->Settings()};
+    edit.Settings.BackgroundColor = 0x112233;
+    edit.Settings.PriceLabelColor = 0x445566;
+    edit.Settings.PriceBarColor = 0x778899;
+    edit.Settings.Studies.LabelColors[StudyVolume] = 0xAACCBB;
+    chart->Feed.Calls.clear();
+    chart->Window->ApplySettings(edit);
+    const auto colorsOf = [&](int pane) {
+        const CChart2D& chart2D = chart->Window->Pane(pane);
+        return std::vector<ColorValue>{
+            chart2D.PaneInterior().Background(), chart2D.PaneArea().Interior().Background(),
+            chart2D.PaneArea().PlotFrame().Interior().Background(),
+            chart2D.PaneArea().Interior().Foreground(), chart2D.PaneArea().Marker().LineLook().LineColor()};
+    };
+    EXPECT_EQ(colorsOf(0), (std::vector<ColorValue>{0x112233, 0x112233, 0x112233, 0x445566, 0x778899}));
+    EXPECT_EQ(colorsOf(1), (std::vector<ColorValue>{0x112233, 0x112233, 0x112233, 0xAACCBB, 0x778899}));
+    EXPECT_EQ(chart->Window->Pane(0).PaneLabels().Item(1).Interior().Background(), 0x112233u);
+    EXPECT_NE(chart->Window->Pane(0).PaneLabels().Item(2).Interior().Background(), 0x112233u); // the title
+    EXPECT_TRUE(chart->Feed.Calls.empty());
+}
+
+// The state named the position from before the change, where the bar no longer stood.
+TEST(SettingsOk, WithAnEmptyBoxTheScrollPositionIsThatOfTheBar)
+{
+    auto chart = ChartOf(DailyData);
+    chart->Chart("X", 200); // 120 shown: the bar stands at 81
+    ASSERT_EQ(chart->Window->Range().scrollPos, 81);
+    chart->Type("");
+    std::string error;
+    ASSERT_TRUE(chart->Window->ApplySetting("PTS INDEX", "4", error)) << error; // 240 of 200
+    EXPECT_EQ(chart->Desktop.Scroll.At, 0);
+    EXPECT_EQ(chart->Window->Range().scrollPos, 0);
+}
+
 TEST(SettingsOk, BeforeAnyChartSendsNothing)
 {
     sChartFixture chart;
