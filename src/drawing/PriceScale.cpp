@@ -43,7 +43,7 @@ sPriceScale PlainScale(double high, double low)
     const double margin = range == 0 ? 1.0 : range;
     high = high + 0.1 * margin;
     low = low - 0.1 * margin;
-    const double step = RoundStep((high - low) * 0.25, false);
+    const double step = RoundStep((high - low) * 0.25, StepPowers::All);
     const double rest = std::fmod(low, step);
     // Not exactly a multiple of the step: the remaining 0.0099 keeps the lowest label off the edge of the
     // pane.
@@ -60,13 +60,13 @@ sPriceScale PlainScale(double high, double low)
 
 } // namespace
 
-double RoundStep(double step, bool upwardOnly)
+double RoundStep(double step, StepPowers powers)
 {
     constexpr double smallest = 1e-300; // below it the powers of ten underflow before the step does
     if (!(step >= smallest) || std::isinf(step))
         return step;
     double power = 1.0;
-    if (!upwardOnly)
+    if (powers == StepPowers::All)
         while (power > step)
             power /= 10.0;
     while (power * 10.0 <= step)
@@ -88,7 +88,7 @@ std::optional<sPriceScale> MakePriceScale(double high, double low, int formatCod
     const int wholeParts = parts < 1e9 ? static_cast<int>(parts) : 1000000000;
     sPriceScale scale;
     if (wholeParts == 0) {
-        scale.Step = RoundStep(range * 0.25, true);
+        scale.Step = RoundStep(range * 0.25, StepPowers::FromOneUp);
         scale.LabelMethod = 0;
     } else {
         scale.UnitParts = UnitParts(wholeParts, formatCode);

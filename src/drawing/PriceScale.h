@@ -27,7 +27,14 @@ std::optional<sPriceScale> MakePriceScale(double high, double low, int formatCod
 // The values of the labels from bottom to top. The list ends if a step is too small to change the value.
 std::vector<double> PriceScaleLabels(const sPriceScale& scale);
 
-// 1, 2, 5 or 10 times a power of ten near `step`. With `upwardOnly`, only powers from 1 upward are tried.
-double RoundStep(double step, bool upwardOnly);
+// Where RoundStep looks for its power of ten.
+enum class StepPowers
+{
+    FromOneUp, // 1 and above
+    All
+};
+
+// 1, 2, 5 or 10 times a power of ten near `step`.
+double RoundStep(double step, StepPowers powers);
 
 } // namespace zantroq

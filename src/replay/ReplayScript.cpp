@@ -1,15 +1,14 @@
 #include "replay/ReplayScript.h"
 
 #include "replay/ReplaySteps.h"
+#include "window/SavedFiles.h"
 
 #include <algorithm>
-#include <array>
+#include <string>
 
 namespace zantroq {
 
 namespace {
-
-constexpr std::array<std::string_view, 4> SnapshotEndings{".png", ".svg", ".pdf", ".json"};
 
 sReplayStep ReadStep(const Words& words)
 {
@@ -31,15 +30,17 @@ sReplayStep ReadStep(const Words& words)
 
 bool IsSnapshotFile(std::string_view file)
 {
-    return std::any_of(SnapshotEndings.begin(), SnapshotEndings.end(),
-                       [file](std::string_view ending) { return file.ends_with(ending); }) &&
+    return std::any_of(
+               SnapshotFiles.begin(), SnapshotFiles.end(),
+               [file](const sSavedFileRow& row) { return file.ends_with("." + std::string(row.Ending)); }) &&
            !IsSnapshotEnding(file);
 }
 
 bool IsSnapshotEnding(std::string_view file)
 {
     const std::string_view name = file.substr(file.rfind('/') + 1);
-    return std::find(SnapshotEndings.begin(), SnapshotEndings.end(), name) != SnapshotEndings.end();
+    return std::any_of(SnapshotFiles.begin(), SnapshotFiles.end(),
+                       [name](const sSavedFileRow& row) { return name == "." + std::string(row.Ending); });
 }
 
 sReplayScript ParseReplayScript(std::string_view text)

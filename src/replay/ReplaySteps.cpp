@@ -4,6 +4,7 @@
 #include "settings/SettingsWriter.h"
 #include "window/ChartDlg.h"
 #include "window/ContextMenus.h"
+#include "window/SavedFiles.h"
 #include "window/WindowTexts.h"
 
 #include <algorithm>
@@ -37,7 +38,7 @@ sReplayResult RunSymbol(const sReplayStep& step, const sReplayStage& stage)
 {
     ISymbolBox& box = stage.Window.Services().Symbol;
     box.Select(-1);
-    box.SetText(SymbolBoxText(step.Text, false));
+    box.SetText(SymbolBoxText(step.Text));
     stage.Window.OnSymbolChanged();
     return {};
 }
@@ -402,8 +403,8 @@ void ReadSnapshot(CWordReader& words, sReplayStep& step)
         throw sScriptError{"snapshot: the file " + Quoted(step.Text) +
                            " has no name before its ending; name it such as chart.png"};
     if (!IsSnapshotFile(step.Text))
-        throw sScriptError{"snapshot: the file " + Quoted(step.Text) +
-                           " does not end in .png, .svg, .pdf or .json"};
+        throw sScriptError{"snapshot: the file " + Quoted(step.Text) + " does not end in " +
+                           EndingList(SnapshotFiles)};
 }
 
 constexpr std::array<sReplayStepRow, 16> Rows{

@@ -88,12 +88,12 @@ std::string IntervalDeletionText(int dataType, const std::string& prices, const 
     return "Do you really want to delete this interval?\n\n" + prices + "\n" + when + "\n";
 }
 
-std::string SymbolBoxText(const std::string& typed, bool textSelected)
+std::string SymbolBoxText(const std::string& typed, TypedOver over)
 {
     std::string text;
     std::size_t characters = 0;
     for (const char c : typed) {
-        if (StartsCharacter(c) && ++characters > SymbolLength && !textSelected)
+        if (StartsCharacter(c) && ++characters > SymbolLength && over == TypedOver::Nothing)
             break;
         text += c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
     }
@@ -103,7 +103,7 @@ std::string SymbolBoxText(const std::string& typed, bool textSelected)
 std::string SymbolFromKey(int code)
 {
     if (code >= 0x20 && code <= 0x6f)
-        return SymbolBoxText(std::string(1, static_cast<char>(code)), false);
+        return SymbolBoxText(std::string(1, static_cast<char>(code)));
     // The two codes above 7 bits are characters of that number, in UTF-8.
     if (code == 0xba)
         return "\xC2\xBA";

@@ -24,8 +24,15 @@ std::string TickDeletionText(const sHIST_DATA& point, const std::string& minuteT
 std::string IntervalDeletionText(int dataType, const std::string& prices, const std::string& time,
                                  const std::string& date);
 
+// Whether text is selected where more is typed.
+enum class TypedOver
+{
+    Nothing,
+    Selection
+};
+
 // The symbol box's form of typed text: upper case (ASCII), and at most 30 characters if nothing is selected.
-std::string SymbolBoxText(const std::string& typed, bool textSelected);
+std::string SymbolBoxText(const std::string& typed, TypedOver over = TypedOver::Nothing);
 // The symbol box's text after a key was pressed over a pane; empty if the key does not start a symbol.
 std::string SymbolFromKey(int code);
 

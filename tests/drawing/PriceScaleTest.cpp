@@ -21,23 +21,23 @@ TEST(PriceScale, NothingWhereLowIsAboveHigh)
 
 TEST(PriceScale, RoundStepsAreOneTwoFiveTen)
 {
-    EXPECT_DOUBLE_EQ(RoundStep(1.40, false), 1);
-    EXPECT_DOUBLE_EQ(RoundStep(1.41, false), 2);
-    EXPECT_DOUBLE_EQ(RoundStep(3.15, false), 2);
-    EXPECT_DOUBLE_EQ(RoundStep(3.16, false), 5);
-    EXPECT_DOUBLE_EQ(RoundStep(7.06, false), 5);
-    EXPECT_DOUBLE_EQ(RoundStep(7.07, false), 10);
-    EXPECT_DOUBLE_EQ(RoundStep(10, false), 10);
-    EXPECT_DOUBLE_EQ(RoundStep(0.03, false), 0.02);
-    EXPECT_DOUBLE_EQ(RoundStep(300, true), 200);
+    EXPECT_DOUBLE_EQ(RoundStep(1.40, StepPowers::All), 1);
+    EXPECT_DOUBLE_EQ(RoundStep(1.41, StepPowers::All), 2);
+    EXPECT_DOUBLE_EQ(RoundStep(3.15, StepPowers::All), 2);
+    EXPECT_DOUBLE_EQ(RoundStep(3.16, StepPowers::All), 5);
+    EXPECT_DOUBLE_EQ(RoundStep(7.06, StepPowers::All), 5);
+    EXPECT_DOUBLE_EQ(RoundStep(7.07, StepPowers::All), 10);
+    EXPECT_DOUBLE_EQ(RoundStep(10, StepPowers::All), 10);
+    EXPECT_DOUBLE_EQ(RoundStep(0.03, StepPowers::All), 0.02);
+    EXPECT_DOUBLE_EQ(RoundStep(300, StepPowers::FromOneUp), 200);
 }
 
 TEST(PriceScale, StepsWithoutEndDoNotHang)
 {
-    EXPECT_EQ(RoundStep(0, false), 0);
-    EXPECT_EQ(RoundStep(5e-324, false), 5e-324);
-    EXPECT_TRUE(std::isinf(RoundStep(std::numeric_limits<double>::infinity(), true)));
-    EXPECT_GT(RoundStep(1e308, true), 0);
+    EXPECT_EQ(RoundStep(0, StepPowers::All), 0);
+    EXPECT_EQ(RoundStep(5e-324, StepPowers::All), 5e-324);
+    EXPECT_TRUE(std::isinf(RoundStep(std::numeric_limits<double>::infinity(), StepPowers::FromOneUp)));
+    EXPECT_GT(RoundStep(1e308, StepPowers::FromOneUp), 0);
 }
 
 // a = 110 + 0.1 * 10 = 111, b = 100 - 1 = 99; a quarter of 12 is 3, which becomes 2; 99 modulo 2 is 1, so b

@@ -192,9 +192,9 @@ TEST(Bars, AKeyOverAPaneStartsANewSymbol)
 
 TEST(Bars, SymbolTextIsUpperCaseAndAtMostThirtyCharactersWhileNothingIsSelected)
 {
-    EXPECT_EQ(SymbolBoxText("msft.x", false), "MSFT.X");
-    EXPECT_EQ(SymbolBoxText(std::string(31, 'A'), false), std::string(30, 'A'));
-    EXPECT_EQ(SymbolBoxText(std::string(31, 'A'), true), std::string(31, 'A'));
+    EXPECT_EQ(SymbolBoxText("msft.x"), "MSFT.X");
+    EXPECT_EQ(SymbolBoxText(std::string(31, 'A')), std::string(30, 'A'));
+    EXPECT_EQ(SymbolBoxText(std::string(31, 'A'), TypedOver::Selection), std::string(31, 'A'));
 }
 
 TEST(Bars, TheLastTwentySymbolsStandNewestFirst)

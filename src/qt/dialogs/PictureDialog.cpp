@@ -1,38 +1,36 @@
 #include "qt/dialogs/PictureDialog.h"
 
+#include "window/SavedFiles.h"
+
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 
-#include <array>
-
 namespace zantroq {
 namespace {
 
-struct sPictureKind
+QString EndingText(const sSavedFileRow& file)
 {
-    const char* Filter;
-    const char* Ending;
-};
+    return QString::fromUtf8(file.Ending.data(), static_cast<qsizetype>(file.Ending.size()));
+}
 
-constexpr std::array<sPictureKind, 5> Kinds{{{"Picture (*.png)", "png"},
-                                             {"Vector picture (*.svg)", "svg"},
-                                             {"PDF (*.pdf)", "pdf"},
-                                             {"State of the chart (*.json)", "json"},
-                                             {"Shown values (*.csv)", "csv"}}};
+QString FilterText(const sSavedFileRow& file)
+{
+    return QString("%1 (*.%2)").arg(file.Description, EndingText(file));
+}
 
 QString EndingOf(const QString& filter)
 {
-    for (const sPictureKind& kind : Kinds)
-        if (filter == kind.Filter)
-            return kind.Ending;
-    return Kinds.front().Ending;
+    for (const sSavedFileRow& file : SavedFiles)
+        if (filter == FilterText(file))
+            return EndingText(file);
+    return EndingText(SavedFiles.front());
 }
 
 bool HasKnownEnding(const QString& name)
 {
-    for (const sPictureKind& kind : Kinds)
-        if (QFileInfo(name).suffix().compare(kind.Ending, Qt::CaseInsensitive) == 0)
+    for (const sSavedFileRow& file : SavedFiles)
+        if (QFileInfo(name).suffix().compare(EndingText(file), Qt::CaseInsensitive) == 0)
             return true;
     return false;
 }
@@ -63,10 +61,10 @@ QString AskPicturePath(QWidget* parent, const QString& symbol, QString& folder)
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     QStringList filters;
-    for (const sPictureKind& kind : Kinds)
-        filters << kind.Filter;
+    for (const sSavedFileRow& file : SavedFiles)
+        filters << FilterText(file);
     dialog.setNameFilters(filters);
-    dialog.setDefaultSuffix(Kinds.front().Ending);
+    dialog.setDefaultSuffix(EndingText(SavedFiles.front()));
     dialog.selectFile(PictureName(symbol));
     QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&dialog](const QString& filter) {
         const QStringList chosen = dialog.selectedFiles();

@@ -7,6 +7,7 @@
 #include "qt/widgets/BarFont.h"
 #include "window/ChartDlg.h"
 #include "window/PaneLayout.h"
+#include "window/SavedFiles.h"
 
 #include <QBuffer>
 #include <QFileInfo>
@@ -169,12 +170,12 @@ QByteArray PngBytes(const sChartPicture& picture, double devicePixelRatio)
     return !image.isNull() && image.save(&bytes, "PNG") ? bytes.data() : QByteArray();
 }
 
-QByteArray PictureBytes(const sChartPicture& picture, const QString& ending, double devicePixelRatio)
+QByteArray PictureBytes(const sChartPicture& picture, SavedFileKind kind, double devicePixelRatio)
 {
     try {
-        if (ending == "svg")
+        if (kind == SavedFileKind::Svg)
             return SvgBytes(picture);
-        return ending == "pdf" ? PdfBytes(picture) : PngBytes(picture, devicePixelRatio);
+        return kind == SavedFileKind::Pdf ? PdfBytes(picture) : PngBytes(picture, devicePixelRatio);
     } catch (const std::bad_alloc&) {
         return {};
     }
@@ -212,23 +213,18 @@ QImage DrawChartPicture(const sChartPicture& picture, double devicePixelRatio)
     }
 }
 
-bool IsPictureFile(const QString& path)
-{
-    const QString ending = QFileInfo(path).suffix().toLower();
-    return ending == "png" || ending == "svg" || ending == "pdf" || ending == "json";
-}
-
 QString SaveChartPicture(const sChartPicture& picture, const QString& path, double devicePixelRatio)
 {
-    const QString ending = QFileInfo(path).suffix().toLower();
-    if (ending == "json")
+    const auto kind = SavedFileKindOf(QFileInfo(path).suffix().toLower().toStdString());
+    if (!kind)
+        return QString("%1: the ending is not known; use %2")
+            .arg(path, QString::fromStdString(EndingList(SavedFiles)));
+    if (*kind == SavedFileKind::State)
         return WritePictureFile(path, QByteArray::fromStdString(ChartSnapshotText(picture.Window)));
-    if (ending == "csv")
+    if (*kind == SavedFileKind::Values)
         return WritePictureFile(path, QByteArray::fromStdString(ShownValuesCsv(picture.Window)));
-    if (ending != "svg" && ending != "pdf" && ending != "png")
-        return QString("%1: the ending is not known; use .png, .svg, .pdf, .json or .csv").arg(path);
-    const QByteArray bytes = PictureBytes(picture, ending, devicePixelRatio);
-    const double ratio = ending == "png" ? devicePixelRatio : 1;
+    const QByteArray bytes = PictureBytes(picture, *kind, devicePixelRatio);
+    const double ratio = *kind == SavedFileKind::Png ? devicePixelRatio : 1;
     if (bytes.isEmpty())
         return QString("%1: there is not enough memory for a picture of %2 x %3 pixels; make it smaller")
             .arg(path)

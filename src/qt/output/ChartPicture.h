@@ -23,9 +23,6 @@ struct sChartPicture
 // Returns a null image if memory is short.
 QImage DrawChartPicture(const sChartPicture& picture, double devicePixelRatio);
 
-// The endings of a picture or of the window's state.
-bool IsPictureFile(const QString& path);
-
 // Writes the picture by the ending of the path, .png (at the ratio), .svg or .pdf, or for .json the window's
 // state, or for .csv the values on show. The same window writes the same bytes. Empty, or one sentence that
 // says what is wrong.

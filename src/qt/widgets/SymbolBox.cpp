@@ -89,8 +89,8 @@ void CSymbolBox::TypeText(const QString& text)
 void CSymbolBox::OnEdited(const QString& typed)
 {
     const int caret = lineEdit()->cursorPosition();
-    const QString kept =
-        QString::fromStdString(SymbolBoxText(typed.toStdString(), lineEdit()->hasSelectedText()));
+    const QString kept = QString::fromStdString(SymbolBoxText(
+        typed.toStdString(), lineEdit()->hasSelectedText() ? TypedOver::Selection : TypedOver::Nothing));
     {
         const QSignalBlocker quiet(this), quietLine(lineEdit());
         setCurrentIndex(-1);
