@@ -3,7 +3,7 @@
 #pragma once
 
 #include "replay/ReplayStep.h"
-#include "replay/ReplayWords.h"
+#include "replay/WordReader.h"
 
 #include <span>
 

@@ -1,7 +1,7 @@
 // A dialog with one control of each kind, used through the form of the rules and the driver of scripts.
-#include "qt/dialogs/ColorButton.h"
+#include "qt/dialogs/ButtonForColor.h"
 #include "qt/dialogs/FormDialogDriver.h"
-#include "qt/dialogs/LinePicture.h"
+#include "qt/dialogs/LinePictureCtrl.h"
 #include "qt/dialogs/RowList.h"
 #include "qt/dialogs/SpinEdit.h"
 

@@ -1,7 +1,7 @@
 #include "qt/dialogs/QtForm.h"
 
-#include "qt/dialogs/ColorButton.h"
-#include "qt/dialogs/LinePicture.h"
+#include "qt/dialogs/ButtonForColor.h"
+#include "qt/dialogs/LinePictureCtrl.h"
 #include "qt/dialogs/RowList.h"
 #include "qt/dialogs/SpinEdit.h"
 

@@ -1,7 +1,7 @@
 #include "qt/dialogs/SettingSheetDialog.h"
 
+#include "qt/dialogs/ButtonForColor.h"
 #include "qt/dialogs/CandlePreview.h"
-#include "qt/dialogs/ColorButton.h"
 #include "qt/dialogs/PageScroll.h"
 #include "settings/SettingsWriter.h"
 #include "ui_ColorsPage.h"

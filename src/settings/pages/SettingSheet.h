@@ -3,10 +3,10 @@
 #pragma once
 
 #include "settings/pages/ColorPage.h"
-#include "settings/pages/DataPage.h"
+#include "settings/pages/DataSettingPage.h"
 #include "settings/pages/GeneralPage.h"
-#include "settings/pages/LowerStudiesPage.h"
-#include "settings/pages/UpperStudiesPage.h"
+#include "settings/pages/LowerStudiesSettingPage.h"
+#include "settings/pages/UpperStudiesSettingPage.h"
 
 #include <functional>
 

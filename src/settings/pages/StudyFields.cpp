@@ -1,6 +1,6 @@
 #include "settings/pages/StudyFields.h"
 
-#include "settings/pages/LowerStudiesPage.h"
+#include "settings/pages/LowerStudiesSettingPage.h"
 
 namespace zantroq {
 namespace {

@@ -1,4 +1,4 @@
-#include "qt/dialogs/LinePicture.h"
+#include "qt/dialogs/LinePictureCtrl.h"
 
 #include <QPainter>
 

@@ -1,4 +1,4 @@
-#include "settings/pages/UpperStudiesPage.h"
+#include "settings/pages/UpperStudiesSettingPage.h"
 
 #include "platform/parse/LeadingNumber.h"
 

@@ -1,4 +1,4 @@
-#include "settings/pages/DataPage.h"
+#include "settings/pages/DataSettingPage.h"
 
 #include "settings/SettingsLoader.h"
 

@@ -1,4 +1,4 @@
-#include "qt/dialogs/ColorButton.h"
+#include "qt/dialogs/ButtonForColor.h"
 
 #include <QColorDialog>
 #include <QPainter>

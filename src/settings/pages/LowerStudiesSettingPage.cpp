@@ -1,4 +1,4 @@
-#include "settings/pages/LowerStudiesPage.h"
+#include "settings/pages/LowerStudiesSettingPage.h"
 
 #include "settings/pages/StudyFields.h"
 #include "settings/pages/StudyNames.h"

@@ -1,4 +1,4 @@
-#include "replay/ReplayWords.h"
+#include "replay/WordReader.h"
 
 #include <charconv>
 
