@@ -19,7 +19,7 @@ CHistChartDrawManager::~CHistChartDrawManager() = default;
 
 int CHistChartDrawManager::DisplayedStudies() const
 {
-    return std::clamp(dlg.Settings().Panes.StudyCount, 0, 10);
+    return std::clamp(dlg.Settings().Panes.StudyCount, 0, int{StudyKinds});
 }
 
 void CHistChartDrawManager::CreateStudies()
@@ -46,7 +46,7 @@ void CHistChartDrawManager::CreateStudies()
 
 bool CHistChartDrawManager::StudiesAsDisplayed() const
 {
-    for (int k = 0; k < 10; ++k) {
+    for (int k = 0; k < StudyKinds; ++k) {
         const auto place = static_cast<std::size_t>(k);
         const bool displayed = studyFactory && k < DisplayedStudies();
         if (displayed != (studies[place] != nullptr) ||

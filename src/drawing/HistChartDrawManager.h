@@ -26,7 +26,7 @@ public:
     CHistChartDrawManager& operator=(const CHistChartDrawManager&) = delete;
 
     CHistPriceChart& PriceChart() { return priceChart; }
-    std::array<std::unique_ptr<CStudyChart>, 10>& Studies() { return studies; }
+    std::array<std::unique_ptr<CStudyChart>, StudyKinds>& Studies() { return studies; }
 
     void CreateStudies(); // destroys all studies and creates the displayed ones
 
@@ -60,7 +60,7 @@ private:
     CSeriesReader& prices;
     IStudyFactory* studyFactory;
     CHistPriceChart priceChart;
-    std::array<std::unique_ptr<CStudyChart>, 10> studies;
+    std::array<std::unique_ptr<CStudyChart>, StudyKinds> studies;
     int studiesEnd = 0; // index after the last point that the studies show
 };
 
