@@ -1,7 +1,7 @@
 #include "drawing/BollingerBands.h"
 
 #include "platform/DoublePair.h"
-#include "scene/PaneObjects.h"
+#include "scene/HoleValue.h"
 
 #include <algorithm>
 #include <cmath>
@@ -48,8 +48,8 @@ void BollingerBands(const sCloseRun& closes, int first, int period, double devia
     const int end = first + static_cast<int>(middle.size());
     const int index = period < 1 ? end : std::clamp(period, first, end); // first index with a value
     const auto holes = static_cast<std::size_t>(index - first);
-    std::fill_n(lower.begin(), holes, CPaneData::HoleValue());
-    std::fill_n(upper.begin(), holes, CPaneData::HoleValue());
+    std::fill_n(lower.begin(), holes, HoleValue);
+    std::fill_n(upper.begin(), holes, HoleValue);
     if (holes == middle.size())
         return;
     SquareSums(closes.Values.data() + (index - period + 1 - closes.First), period, middle.subspan(holes),

@@ -4,7 +4,7 @@
 
 #include "drawing/PriceFormatter.h"
 #include "market/HistoryRecords.h"
-#include "scene/PaneObjects.h"
+#include "scene/PaneData.h"
 #include "settings/ChartSettings.h"
 
 #include <string>

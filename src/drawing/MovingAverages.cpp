@@ -1,7 +1,7 @@
 #include "drawing/MovingAverages.h"
 
 #include "platform/DoublePair.h"
-#include "scene/PaneObjects.h"
+#include "scene/HoleValue.h"
 
 #include <algorithm>
 
@@ -13,7 +13,7 @@ namespace {
 std::span<double> ValuesFrom(int from, int first, std::span<double> out)
 {
     const int holes = std::clamp(from - first, 0, static_cast<int>(out.size()));
-    std::fill_n(out.begin(), holes, CPaneData::HoleValue());
+    std::fill_n(out.begin(), holes, HoleValue);
     return out.subspan(static_cast<std::size_t>(holes));
 }
 

@@ -1,7 +1,7 @@
 #include "drawing/PriceRange.h"
 
 #include "platform/DoublePair.h"
-#include "scene/PaneObjects.h"
+#include "scene/HoleValue.h"
 
 #include <algorithm>
 #include <cmath>
@@ -11,7 +11,7 @@ namespace zantroq {
 
 namespace {
 
-constexpr double Hole = CPaneData::HoleValue();
+constexpr double Hole = HoleValue;
 constexpr double Infinity = std::numeric_limits<double>::infinity();
 
 // Several parallel minima and maxima, because each comparison must wait for the one before. Not-a-number

@@ -2,7 +2,7 @@
 // functions, any thread.
 #pragma once
 
-#include "scene/PaneObjects.h"
+#include "scene/PaneLooks.h"
 #include "settings/ChartSettings.h"
 
 #include <array>

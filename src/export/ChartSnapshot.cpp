@@ -23,7 +23,7 @@ Json Number(double value)
         return "nan";
     if (std::isinf(value))
         return value > 0 ? "inf" : "-inf";
-    if (value == CPaneData::HoleValue())
+    if (value == HoleValue)
         return nullptr;
     return value;
 }

@@ -24,7 +24,7 @@ struct sColumn
 void AddNumber(std::string& line, double number)
 {
     line += ',';
-    if (number == CPaneData::HoleValue())
+    if (number == HoleValue)
         return;
     if (std::isnan(number)) {
         line += "nan"; // whatever the sign

@@ -1,7 +1,7 @@
 // Arithmetic of pixel rectangles.
 #pragma once
 
-#include "scene/PaneObjects.h"
+#include "scene/PixelRect.h"
 
 #include <algorithm>
 

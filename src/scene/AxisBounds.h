@@ -1,7 +1,7 @@
-// The ends and spacings of an axis under the names that they have in a pane file.
+// The ends and spacings of an axis with their names in a pane file. Constant, any thread.
 #pragma once
 
-#include "scene/PaneObjects.h"
+#include "scene/PaneAxes.h"
 
 #include <utility>
 

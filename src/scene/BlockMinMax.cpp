@@ -1,7 +1,7 @@
 #include "scene/BlockMinMax.h"
 
+#include "scene/HoleValue.h"
 #include "scene/MinMaxLanes.h"
-#include "scene/PaneData.h"
 
 #include <limits>
 
@@ -15,20 +15,18 @@ bool AnyDrawn(std::span<const double> values)
 {
     bool any = false;
     for (const double value : values)
-        any |= value == value && value != CPaneData::HoleValue();
+        any |= IsDrawn(value);
     return any;
 }
 
-// One without a number to be drawn is known by two holes; one with some holes, or the like, lies outside of
-// every range: its numbers are to be looked at.
-constexpr sMinMax Undrawn{CPaneData::HoleValue(), CPaneData::HoleValue()};
+constexpr sMinMax Undrawn{HoleValue, HoleValue};
 
 sMinMax BoundsOf(std::span<const double> block)
 {
     CMinMaxLanes lanes;
     lanes.Take(block.first<sBlockedValues::BlockSize>());
     sMinMax found;
-    if (lanes.Finish(CPaneData::HoleValue(), found))
+    if (lanes.Finish(HoleValue, found))
         return found;
     return AnyDrawn(block) ? sMinMax{-Infinity, Infinity} : Undrawn;
 }
@@ -67,7 +65,7 @@ bool FindMinMax(const sBlockedValues& values, std::size_t first, std::size_t end
     lanes.Take(values.Values.subspan(first, values.BeginOf(block) - first));
     lanes.Take(values.Bounds.subspan(2 * block, 2 * (endBlock - block)));
     lanes.Take(values.Values.subspan(values.BeginOf(endBlock), end - values.BeginOf(endBlock)));
-    return lanes.Finish(CPaneData::HoleValue(), found);
+    return lanes.Finish(HoleValue, found);
 }
 
 std::size_t SkipUndrawn(const sBlockedValues& values, std::size_t i)

@@ -1,5 +1,7 @@
 #include "scene/Chart2D.h"
 
+#include "scene/PaneFile.h"
+
 #include <algorithm>
 #include <stdexcept>
 
@@ -36,21 +38,31 @@ void CChart2D::SetBatched(bool batched)
 void CChart2D::Touch()
 {
     ++m_revision;
-    Tell();
+    NotifyView();
 }
 
 void CChart2D::TouchData()
 {
-    Tell();
+    NotifyView();
 }
 
-void CChart2D::Tell()
+void CChart2D::NotifyView()
 {
     if (m_batched || !m_view) {
         m_changed = true;
         return;
     }
     m_view->PaneChanged();
+}
+
+bool CChart2D::SaveToFile(const std::string& path) const
+{
+    return SavePaneFile(*this, path);
+}
+
+bool CChart2D::LoadFromFile(const std::string& path)
+{
+    return LoadPaneFile(path, *this);
 }
 
 bool CChart2D::DrawToDevice(IPrintDevice& device, int, int, int left, int top, int width, int height) const

@@ -1,13 +1,16 @@
-// One pane as a scene: plain numbers for axes, series, labels and marker, and the geometry that goes with
-// them. It paints nothing; a view (PanePainter in the face) turns it into pixels. Lives on the chart window's
-// thread.
+// One pane as a scene: plain values for axes, series, labels and marker, and the geometry that goes with
+// them. It paints nothing; a view (CPanePainter in qt/paint) turns it into pixels. Lives on the chart
+// window's thread.
 //
 // Numbering: series, points, groups and labels count from 1. A pane's x values are 1 to the number of points
-// shown. Colors are 32-bit integers with red in the low byte. Pixels are those of the pane, from its top
-// left corner, before any device pixel ratio.
+// shown. Colors are 32-bit integers with red in the low byte. Pixels are the pane's own, from its top left
+// corner, before any device pixel ratio.
 #pragma once
 
-#include "scene/PaneObjects.h"
+#include "scene/PaneArea.h"
+#include "scene/PaneGroup.h"
+#include "scene/PaneLabels.h"
+#include "scene/PixelRect.h"
 
 #include <array>
 #include <cstdint>
@@ -17,7 +20,7 @@ namespace zantroq {
 
 class CChart2D;
 
-// Who shows the scene. Told once per change, or once per batch.
+// Shows the scene. Notified once per change, or once per batch.
 class IPaneView
 {
 public:
@@ -25,12 +28,12 @@ public:
     virtual void PaneChanged() = 0;
 };
 
-// A page of the face that DrawToDevice paints on. Pixels are the device's.
+// A page that DrawToDevice paints on. Pixels are those of the device.
 class IPrintDevice
 {
 public:
     virtual ~IPrintDevice() = default;
-    // False when the device takes no more.
+    // False when the device failed.
     virtual bool PaintPane(const CChart2D& pane, int left, int top, int width, int height) = 0;
 };
 
@@ -42,7 +45,7 @@ public:
     CChart2D(const CChart2D&) = delete;
     CChart2D& operator=(const CChart2D&) = delete;
 
-    // Who repaints; null for none. Not owned.
+    // The view that repaints; null for none. Not owned.
     void SetView(IPaneView* view) { m_view = view; }
 
     CPaneInterior& PaneInterior() { return m_interior; }
@@ -54,14 +57,14 @@ public:
     const CPaneGroup& PaneGroups(int number) const;
     const CPaneLabels& PaneLabels() const { return m_labels; }
 
-    // True suspends repainting; false repaints once if anything changed meanwhile.
+    // True suspends repainting; false resumes it and repaints once if anything changed meanwhile.
     void SetBatched(bool batched);
     bool Batched() const { return m_batched; }
     void SetInteractive(bool interactive) { m_interactive = interactive; }
     bool Interactive() const { return m_interactive; }
 
-    // The whole state as a pane file (JSON, see PaneFile.h). Loading replaces the state only if the whole
-    // file is good. False when the file cannot be written, read or understood; PaneFile.h tells why.
+    // The whole state as a pane file (JSON, see PaneFile.h). False when the file cannot be written, read or
+    // understood; a failed load leaves the state unchanged.
     bool SaveToFile(const std::string& path) const;
     bool LoadFromFile(const std::string& path);
 
@@ -69,21 +72,21 @@ public:
     bool DrawToDevice(IPrintDevice& device, int three, int four, int left, int top, int width,
                       int height) const;
 
-    // Where the pane's pixels come from: the size of the AreaBox, and the plot rectangle inside its margins.
+    // The pane's size in pixels is that of the AreaBox; the plot is the rectangle inside the margins.
     // A pane smaller than its margins has an empty plot: Right is then Left, or Bottom Top.
     int PixelWidth() const { return m_area.AreaBox().Width().Value(); }
     int PixelHeight() const { return m_area.AreaBox().Height().Value(); }
     sPixelRect PlotRect() const;
 
-    // Called by the objects of the tree at each change; TouchData by the vectors of a group, which keep
-    // account of their changes themselves.
+    // Called by the objects of the tree at each change; TouchData by the vectors of a group, which record
+    // their changes themselves.
     void Touch();
     void TouchData();
-    // Counts the changes of everything but the points of the groups.
+    // Increases with every change except those of the groups' points.
     std::uint64_t Revision() const { return m_revision; }
 
 private:
-    void Tell();
+    void NotifyView();
 
     std::uint64_t m_revision = 0;
     IPaneView* m_view = nullptr;

@@ -1,5 +1,5 @@
-// How far a vector is known to count up by one from its first number, kept up while the vector changes: the
-// x values of a pane nearly always do, and whoever knows it need not read them.
+// How many values at the beginning of a vector are known to count up by one, kept up to date while the vector
+// changes. The x values of a pane nearly always count up, and then need not be read.
 #pragma once
 
 #include <algorithm>
@@ -10,7 +10,7 @@ namespace zantroq {
 class CConsecutiveRun
 {
 public:
-    // Whether all of so many numbers count up.
+    // Whether all of the first `size` values count up.
     bool Covers(std::size_t size) const { return m_count >= size; }
     std::size_t Count() const { return m_count; }
     double First() const { return m_first; }
@@ -28,7 +28,7 @@ public:
         else if (i <= m_count)
             m_count = x == m_first + static_cast<double>(i) ? std::max(m_count, i + 1) : i;
     }
-    // The numbers from `from` on, `count` of them, were copied to the beginning.
+    // `count` values from position `from` on were copied to the beginning.
     void Moved(std::size_t count, std::size_t from)
     {
         if (from == 0 || count == 0)
@@ -39,7 +39,7 @@ public:
     void Cut(std::size_t size) { m_count = std::min(m_count, size); }
 
 private:
-    // Numbers so far out that one more may not be told apart are left to be looked at.
+    // Adding 1 must change the number, so very large ones are not tracked.
     static bool IsCountable(double first) { return first > -1e15 && first < 1e15; }
 
     double m_first = 1;

@@ -1,7 +1,7 @@
 #include "scene/MinMax.h"
 
+#include "scene/HoleValue.h"
 #include "scene/MinMaxLanes.h"
-#include "scene/PaneData.h"
 
 namespace zantroq {
 
@@ -9,7 +9,7 @@ bool FindMinMax(std::span<const double> values, sMinMax& found)
 {
     CMinMaxLanes lanes;
     lanes.Take(values);
-    return lanes.Finish(CPaneData::HoleValue(), found);
+    return lanes.Finish(HoleValue, found);
 }
 
 } // namespace zantroq

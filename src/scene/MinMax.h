@@ -1,4 +1,4 @@
-// The least and greatest of a stretch of numbers, two at a time where the processor can.
+// The least and greatest of a range of values, two at a time on processors with SSE2. Any thread.
 #pragma once
 
 #include <bit>
@@ -16,8 +16,8 @@ struct sMinMax
     double Least = 0, Greatest = 0;
 };
 
-// False, with nothing found, when there is a hole, a not-a-number or an infinity among the values, or no
-// value at all.
+// False, with `found` unchanged, when there are no values, or a hole, a not-a-number or an infinity among
+// them.
 bool FindMinMax(std::span<const double> values, sMinMax& found);
 
 namespace detail {
@@ -28,7 +28,7 @@ inline bool LiesOutside(double value, double least, double greatest)
 }
 
 #ifdef __SSE2__
-// Bit i: a[i] or b[i] lies outside, of eight of each.
+// Bit i is set if a[i] or b[i] lies outside, for eight of each.
 inline unsigned OutsideOfEight(const double* a, const double* b, __m128d least, __m128d greatest)
 {
     const auto outside = [&](const double* values) {
@@ -44,8 +44,8 @@ inline unsigned OutsideOfEight(const double* a, const double* b, __m128d least, 
 
 } // namespace detail
 
-// Walks from end - 1 down to first over those places at which neither array's value is below least or above
-// greatest (a not-a-number is neither). Returns one more than the first place that stops the walk, or first.
+// Walks from end - 1 down to first while neither array's value is below least or above greatest; a
+// not-a-number is neither. Returns one more than the position that stops the walk, or first.
 inline std::size_t SkipWithin(const double* a, const double* b, std::size_t first, std::size_t end,
                               double least, double greatest)
 {

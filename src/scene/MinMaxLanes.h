@@ -1,4 +1,5 @@
-// Gathers the least and greatest of several stretches of numbers, four at a time where the processor can.
+// Accumulates the least and greatest of several ranges of values, four at a time on processors with SSE2. Any
+// thread.
 #pragma once
 
 #include "scene/MinMax.h"
@@ -45,8 +46,8 @@ public:
 #endif
     }
 
-    // False when there was nothing, or a not-a-number, an infinity or a number from `hole` on, which is
-    // finite.
+    // False, with `found` unchanged, when there was no value, or a not-a-number, an infinity or a value from
+    // `hole` (finite) upwards.
     bool Finish(double hole, sMinMax& found) const
     {
 #ifdef __SSE2__
@@ -71,7 +72,7 @@ private:
 #ifdef __SSE2__
     __m128d m_least0 = _mm_set1_pd(Infinity), m_least1 = m_least0;
     __m128d m_greatest0 = _mm_set1_pd(-Infinity), m_greatest1 = m_greatest0;
-    __m128d m_unordered = _mm_setzero_pd(); // not-a-numbers met
+    __m128d m_unordered = _mm_setzero_pd(); // not all zero: a not-a-number was met
 #else
     double m_least = Infinity, m_greatest = -Infinity;
     bool m_unordered = false;

@@ -1,4 +1,4 @@
-// The axes of a pane: ends, spacings, labels and grid. Plain values that tell their scene of every change.
+// The axes of a pane: ends, spacings, labels and grid. Plain values that notify their scene of every change.
 // Chart window's thread.
 #pragma once
 

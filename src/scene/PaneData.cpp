@@ -1,4 +1,4 @@
-#include "scene/PaneObjects.h"
+#include "scene/PaneData.h"
 
 #include <algorithm>
 #include <numeric>
@@ -10,7 +10,8 @@ namespace {
 
 constexpr std::size_t KeptChanges = 8;
 
-// In blocks without an exit inside, which the compiler compares several numbers at a time.
+// By blocks: the compiler vectorises a loop without an exit. Four kilobytes of doubles cost little where the
+// first number differs already.
 template<class T> bool SameNumbers(const double* held, const T* given, std::size_t count)
 {
     constexpr std::size_t block = 512;
@@ -45,7 +46,7 @@ void CPaneData::NotePoints(int series, int first, int last)
 {
     m_yRevision[static_cast<std::size_t>(series - 1)] = ++m_revision;
     if (!m_changes.empty() && m_changes.back().Revision > m_askedRevision) {
-        sChange& change = m_changes.back(); // nobody has asked since: one record for all of it
+        sChange& change = m_changes.back(); // nobody has asked since: one record is enough
         change = {m_revision, std::min(change.First, first), std::max(change.Last, last)};
     } else {
         if (m_changes.size() == KeptChanges) {
@@ -91,8 +92,7 @@ bool CPaneData::XAscending() const
         return true;
     if (m_ascending < 0) {
         m_ascending = 1;
-        for (std::size_t i = 0; i < m_x.size() && m_ascending == 1;
-             ++i) // a not-a-number is no place in an order
+        for (std::size_t i = 0; i < m_x.size() && m_ascending == 1; ++i) // no order holds a not-a-number
             m_ascending = i == 0 ? m_x[0] == m_x[0] : m_x[i - 1] <= m_x[i];
     }
     return m_ascending == 1;
@@ -108,7 +108,7 @@ void CPaneData::SetSeriesCount(int count)
         m_counted.Forget();
         m_ascending = 1;
     }
-    m_y.resize(n, CSlidingArray(m_x.size(), HoleValue()));
+    m_y.resize(n, CSlidingArray(m_x.size(), zantroq::HoleValue));
     m_blocks.resize(n);
     m_yRevision.resize(n, 0);
     m_steps.resize(n);
@@ -141,7 +141,7 @@ void CPaneData::SetPointCount(int series, int count)
         std::iota(m_x.begin() + static_cast<std::ptrdiff_t>(had), m_x.end(), static_cast<double>(had + 1));
     for (int i = 1; i <= SeriesCount(); ++i) {
         ForgetBlocks(i, std::min(n, had));
-        m_y[static_cast<std::size_t>(i - 1)].resize(n, HoleValue());
+        m_y[static_cast<std::size_t>(i - 1)].resize(n, zantroq::HoleValue);
     }
     if (n > had)
         std::fill(m_steps.begin(), m_steps.end(), std::nullopt);
@@ -173,7 +173,7 @@ void CPaneData::SetDrawnTo(int series, int point)
     SetUndrawn(series, 0);
     sDrawn& drawn = m_drawn[static_cast<std::size_t>(series - 1)];
     drawn.To = point;
-    drawn.Put = true;
+    drawn.Set = true;
 }
 
 bool CPaneData::AdvanceDrawn(int series, int count)
@@ -181,7 +181,7 @@ bool CPaneData::AdvanceDrawn(int series, int count)
     if (!Has(series) || count < 0 || static_cast<std::int64_t>(DrawnTo(series)) + count > PointCount(series))
         return false;
     sDrawn& drawn = m_drawn[static_cast<std::size_t>(series - 1)];
-    if (std::exchange(drawn.Put, false))
+    if (std::exchange(drawn.Set, false))
         SetUndrawn(series, drawn.To);
     drawn.To += count;
     return true;
@@ -197,7 +197,7 @@ void CPaneData::SetUndrawn(int series, int points)
     if (!Has(series))
         return;
     sDrawn& drawn = m_drawn[static_cast<std::size_t>(series - 1)];
-    drawn.Put = false;
+    drawn.Set = false;
     if (drawn.Undrawn == std::max(points, 0))
         return;
     drawn.Undrawn = std::max(points, 0);
@@ -222,7 +222,7 @@ void CPaneData::SetPointX(int series, int point, double x)
     m_counted.Wrote(i, x);
     if (IsSame(m_x[i], x))
         return;
-    // A change that fits between its neighbours leaves the order as it was.
+    // A value between its neighbors leaves the order unchanged.
     if (m_ascending == 1 &&
         !(x == x && (i == 0 || m_x[i - 1] <= x) && (i + 1 == m_x.size() || x <= m_x[i + 1])))
         m_ascending = -1;
@@ -235,7 +235,7 @@ void CPaneData::SetPointX(int series, int point, double x)
 double CPaneData::PointY(int series, int point) const
 {
     return Has(series, point) ? m_y[static_cast<std::size_t>(series - 1)][static_cast<std::size_t>(point - 1)]
-                              : HoleValue();
+                              : zantroq::HoleValue;
 }
 
 void CPaneData::SetPointY(int series, int point, double y)
@@ -257,7 +257,7 @@ bool CPaneData::ShiftPoints(int series, int count, int firstSource)
         static_cast<std::int64_t>(firstSource) - 1 + count > PointCount(series))
         return false;
     auto& y = m_y[static_cast<std::size_t>(series - 1)];
-    if (Step(series) && Step(series)->Holes > 0) // else all values are the same ones
+    if (Step(series) && Step(series)->Holes > 0) // else all values are equal
         Step(series).reset();
     const auto moved = static_cast<std::size_t>(count), from = static_cast<std::size_t>(firstSource - 1);
     m_blocks[static_cast<std::size_t>(series - 1)].ForgetFrom(y.MoveToFront(moved, from));
@@ -270,7 +270,7 @@ bool CPaneData::ShiftPoints(int series, int count, int firstSource)
     return true;
 }
 
-bool CPaneData::SetXVector(int series, std::span<const double> x)
+template<class T> bool CPaneData::LoadX(int series, std::span<const T> x)
 {
     if (!Has(series) || x.size() < m_x.size())
         return false;
@@ -280,6 +280,16 @@ bool CPaneData::SetXVector(int series, std::span<const double> x)
     ForgetX();
     NoteWhole();
     return true;
+}
+
+bool CPaneData::SetXVector(int series, std::span<const double> x)
+{
+    return LoadX(series, x);
+}
+
+bool CPaneData::SetXVector(int series, std::span<const int> x)
+{
+    return LoadX(series, x);
 }
 
 void CPaneData::ForgetX()
@@ -330,24 +340,12 @@ void CPaneData::SetStepY(int series, int firstPoint, double y)
     if (sameValue && heldHoles == holes)
         return;
     if (heldHoles < holes)
-        std::fill(values.begin() + heldHoles, values.begin() + holes, HoleValue());
+        std::fill(values.begin() + heldHoles, values.begin() + holes, zantroq::HoleValue);
     std::fill(values.begin() + holes, sameValue ? values.begin() + std::max(holes, heldHoles) : values.end(),
               y);
     Step(series) = sStep{holes, y};
     ForgetBlocks(series);
     NoteWhole(series);
-}
-
-bool CPaneData::SetXVector(int series, std::span<const int> x)
-{
-    if (!Has(series) || x.size() < m_x.size())
-        return false;
-    if (SameNumbers(m_x.data(), x.data(), m_x.size()))
-        return true;
-    std::copy_n(x.begin(), m_x.size(), m_x.begin());
-    ForgetX();
-    NoteWhole();
-    return true;
 }
 
 bool CPaneData::SetYVector(int series, std::span<const double> y)

@@ -1,17 +1,18 @@
-// Where a value lies on a pane: one axis of the plot, and the two axes of a scene together. The same maps
-// serve questions in the pane's pixels and painting on a finer grid (a screen of scale factor 2, a printed
-// page), where a pane pixel is Scale() device pixels. Plain arithmetic, any thread.
+// The mapping from values to pixels: one axis of the plot, and the two axes of a scene together. The same
+// maps answer questions in the pane's pixels and serve painting on a finer grid (a screen of scale factor 2,
+// a printed page). Plain arithmetic, any thread.
 #pragma once
 
 #include "scene/Chart2D.h"
+#include "scene/HoleValue.h"
 
 #include <algorithm>
 #include <cmath>
 
 namespace zantroq {
 
-// The nearest whole number, halves upwards, of a place within 256 times FarPixel. Cutting a positive number
-// is a single instruction where rounding down is a call.
+// The nearest whole number, halves upwards, of a position within 256 times FarPixel. Truncating a positive
+// number is one instruction where rounding down is a call.
 inline constexpr double NearestPixelLift = 512.0 * FarPixel;
 inline int NearestPixel(double place)
 {
@@ -19,14 +20,14 @@ inline int NearestPixel(double place)
 }
 
 // Maps low to firstPixel and high to lastPixel, both whole pixels and both inside the plot. A range without
-// extent, or one that is not finite, has no slope: every value lies in the middle and every pixel gives low.
+// extent, or one that is not finite, has no slope: every value maps to the middle and every pixel to low.
 class CAxisMap
 {
 public:
     CAxisMap() = default;
     CAxisMap(double low, double high, int firstPixel, int lastPixel);
 
-    // The place on the axis, in pixels; never further out than FarPixel. Not-a-number for a not-a-number.
+    // The position on the axis, in pixels, at most FarPixel away from 0. Not-a-number for a not-a-number.
     double Position(double value) const
     {
         if (m_factor == 0)
@@ -34,7 +35,7 @@ public:
         const double position = m_first + (value - m_low) * m_factor;
         return position < -FarPixel ? -FarPixel : position > FarPixel ? FarPixel : position;
     }
-    // The nearest whole pixel; halves go up in number. Not for a not-a-number.
+    // The nearest whole pixel; halves round up. REQUIRES: not a not-a-number.
     int Pixel(double value) const { return NearestPixel(Position(value)); }
     double Value(double pixel) const { return m_factor == 0 ? m_low : m_low + (pixel - m_first) / m_factor; }
     double PixelsPerUnit() const { return m_factor; } // 0: no slope
@@ -46,8 +47,8 @@ private:
     double m_low = 0, m_first = 0, m_factor = 0;
 };
 
-// The plot of a scene on a grid of `scale` device pixels a pane pixel. The plot's edges are rounded to whole
-// device pixels.
+// The plot of a scene on a grid of `scale` device pixels per pane pixel, its edges rounded to whole device
+// pixels.
 struct sPlotMap
 {
     sPlotMap() = default;
@@ -61,11 +62,5 @@ struct sPlotMap
     sPixelRect Plot;
     CAxisMap X, Y;
 };
-
-// Holes and not-a-numbers are not drawn; infinities are, at the edge.
-inline bool IsDrawn(double y)
-{
-    return y == y && y != CPaneData::HoleValue();
-}
 
 } // namespace zantroq

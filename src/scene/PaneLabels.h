@@ -1,4 +1,4 @@
-// The texts in a pane. Plain values that tell their scene of every change. Chart window's thread.
+// The texts in a pane. Plain values that notify their scene of every change. Chart window's thread.
 #pragma once
 
 #include "scene/PaneLooks.h"
@@ -63,7 +63,7 @@ public:
     int Border() const { return m_border; }
 
 private:
-    class CLabelInterior : public CPaneInterior // its colors wait with the label
+    class CLabelInterior : public CPaneInterior // a change of its colors counts as one of the label
     {
     public:
         CLabelInterior(CChart2D* chart, CPaneLabel& label) : CPaneInterior(chart), m_label(label) {}
@@ -75,7 +75,7 @@ private:
 
     CLabelInterior m_interior;
     std::string m_text;
-    // While suspended, changes wait; they are told once when the suspension ends.
+    // While repainting is suspended, changes notify the scene only once, when the suspension ends.
     template<class T> void AssignOwn(T& member, std::type_identity_t<T> value)
     {
         if (IsSame<T>(member, value))
@@ -100,7 +100,7 @@ public:
     CPaneLabel& Item(int number); // from 1; std::invalid_argument otherwise
     const CPaneLabel& Item(int number) const;
     CPaneLabel& Add();
-    void Remove(int number); // the ones behind it move down; std::invalid_argument out of range
+    void Remove(int number); // later labels move down by one; std::invalid_argument out of range
     void RemoveAll();
 
 private:

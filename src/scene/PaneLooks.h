@@ -1,4 +1,4 @@
-// Colors, sizes and looks of a pane's parts. Plain values that tell their scene of every change. Chart
+// Colors, sizes and styles of a pane's parts. Plain values that notify their scene of every change. Chart
 // window's thread.
 #pragma once
 
@@ -46,7 +46,7 @@ public:
     }
     ColorValue Background() const { return m_background; }
     ColorValue Foreground() const { return m_foreground; }
-    // False until a background is given. An interior without one lets what lies around it through.
+    // False until a background is set. An interior without one is transparent.
     bool HasBackground() const { return m_set; }
     void ClearBackground()
     {

@@ -1,5 +1,4 @@
-// What all objects of a pane's tree share: knowing their scene and telling it of a change. Chart window's
-// thread.
+// Base of all objects of a pane's tree: knows its scene and notifies it of changes. Chart window's thread.
 #pragma once
 
 #include <bit>
@@ -11,8 +10,8 @@ namespace zantroq {
 
 class CChart2D;
 
-// Whether writing b over a would change nothing. Numbers are compared bit by bit: a not-a-number equals
-// itself, and a zero's sign counts.
+// Whether assigning b to a would change nothing. Numbers are compared bit by bit: a not-a-number equals
+// itself, and 0 and -0 differ.
 template<class T> bool IsSame(const T& a, const T& b)
 {
     if constexpr (std::is_same_v<T, double>)
@@ -21,7 +20,6 @@ template<class T> bool IsSame(const T& a, const T& b)
         return a == b;
 }
 
-// A node that knows its scene.
 class CPaneNode
 {
 public:
@@ -30,7 +28,7 @@ public:
 protected:
     void Touch();
     void TouchData(); // a change of points alone
-    // Writes a member and tells the scene, unless the member held that value already.
+    // Sets a member and notifies the scene, unless the member has that value already.
     template<class T> void Assign(T& member, std::type_identity_t<T> value)
     {
         if (IsSame<T>(member, value))

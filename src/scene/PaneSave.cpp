@@ -1,4 +1,3 @@
-// A pane's scene as JSON, as text and as a file.
 #include "scene/AxisBounds.h"
 #include "scene/PaneFile.h"
 #include "scene/PaneVectors.h"
@@ -6,7 +5,6 @@
 #include <nlohmann/json.hpp>
 
 #include <cmath>
-#include <fstream>
 #include <string_view>
 #include <utility>
 
@@ -18,7 +16,7 @@ namespace {
 
 json NumberToJson(double value)
 {
-    if (value == CPaneData::HoleValue())
+    if (value == HoleValue)
         return nullptr;
     if (std::isnan(value))
         return "nan";
@@ -89,20 +87,28 @@ json ToJson(const CPaneAxis& axis)
     return object;
 }
 
-json ToJson(const CPaneGroup& group, bool withVectors)
+// Whether the x and y values of the series are written, or empty lists for a writer that fills them in
+// itself.
+enum class Vectors
+{
+    Written,
+    Empty,
+};
+
+json ToJson(const CPaneGroup& group, Vectors vectors)
 {
     const CPaneData& data = group.PaneData();
     CChart2D none;
-    const CSeriesStyle unset(&none); // the look of a series whose style nobody asked for
+    const CSeriesStyle unset(&none); // the look of a series without a style
     json series = json::array(), styles = json::array();
-    const json x = withVectors ? NumbersToJson(data.X()) : json::array();
+    const json x = vectors == Vectors::Written ? NumbersToJson(data.X()) : json::array();
     for (int number = 1; number <= data.SeriesCount(); ++number) {
         const CSeriesStyle* style = group.FindStyle(number);
         json object = ToJson(style ? *style : unset);
         object["pointCount"] = data.PointCount(number);
         object["drawnTo"] = data.DrawnTo(number);
         object["x"] = x;
-        object["y"] = withVectors ? NumbersToJson(data.Y(number)) : json::array();
+        object["y"] = vectors == Vectors::Written ? NumbersToJson(data.Y(number)) : json::array();
         object["more"] = {{"firstPoint", data.FirstPoint(number)}};
         if (data.Undrawn(number) > 0)
             object["more"]["undrawn"] = data.Undrawn(number);
@@ -133,8 +139,7 @@ json ToJson(const CPaneLabel& label)
               {"boxEdge", label.BoxEdge()}}}};
 }
 
-// withVectors false leaves the x and y arrays empty, for a writer that fills them in itself.
-json SceneToJson(const CChart2D& chart, const sPanePlace& place, bool withVectors)
+json SceneToJson(const CChart2D& chart, const sPanePlace& place, Vectors vectors)
 {
     const CPaneArea& area = chart.PaneArea();
     const CAreaBox& box = area.AreaBox();
@@ -167,7 +172,7 @@ json SceneToJson(const CChart2D& chart, const sPanePlace& place, bool withVector
              {{"x", ToJson(area.PaneAxes().X())},
               {"y", ToJson(area.PaneAxes().Y())},
               {"y2", ToJson(area.PaneAxes().Y2())}}},
-            {"groups", {ToJson(chart.PaneGroups(1), withVectors), ToJson(chart.PaneGroups(2), withVectors)}},
+            {"groups", {ToJson(chart.PaneGroups(1), vectors), ToJson(chart.PaneGroups(2), vectors)}},
             {"labels", std::move(labels)},
             {"marker",
              {{"shown", area.Marker().Shown()},
@@ -186,15 +191,15 @@ json SceneToJson(const CChart2D& chart, const sPanePlace& place, bool withVector
 
 json PaneToJson(const CChart2D& chart, const sPanePlace& place)
 {
-    return SceneToJson(chart, place, true);
+    return SceneToJson(chart, place, Vectors::Written);
 }
 
 std::string PaneToText(const CChart2D& chart)
 {
     const std::string scene =
-        SceneToJson(chart, {}, false).dump(-1, ' ', false, json::error_handler_t::replace);
-    // Names stand in the order of the alphabet, so a series ends in its two empty lists. No text holds these
-    // marks, since a quote inside of it has a backslash.
+        SceneToJson(chart, {}, Vectors::Empty).dump(-1, ' ', false, json::error_handler_t::replace);
+    // Names are written in alphabetical order, so a series ends in its two empty lists. No string contains
+    // these marks, since a quote inside a string is escaped.
     constexpr std::string_view xMark = "\"x\":[]", lists = ",\"y\":[]";
     std::string text;
     std::size_t copied = 0;
@@ -203,7 +208,7 @@ std::string PaneToText(const CChart2D& chart)
         std::string x = "\"x\":";
         if (data.SeriesCount() > 0)
             AppendNumbers(x, data.X());
-        constexpr std::size_t usualNumber = 20; // letters
+        constexpr std::size_t usualNumber = 20; // characters
         text.reserve(text.size() + scene.size() +
                      static_cast<std::size_t>(data.SeriesCount()) *
                          (x.size() + data.X().size() * usualNumber));
@@ -218,14 +223,6 @@ std::string PaneToText(const CChart2D& chart)
     }
     text.append(scene, copied);
     return text;
-}
-
-bool CChart2D::SaveToFile(const std::string& path) const
-{
-    std::ofstream file(path, std::ios::binary | std::ios::trunc);
-    file << PaneToText(*this) << '\n';
-    file.close();
-    return !file.fail();
 }
 
 } // namespace zantroq

@@ -1,6 +1,6 @@
 #include "scene/PaneVectors.h"
 
-#include "scene/PaneObjects.h"
+#include "scene/HoleValue.h"
 #include "scene/PaneTextCheck.h"
 
 #include <fast_float/fast_float.h>
@@ -17,17 +17,17 @@ namespace zantroq {
 
 namespace {
 
-constexpr std::ptrdiff_t LongestNumber = 32; // of the texts that a number can have
+constexpr std::ptrdiff_t LongestNumber = 32; // characters
 
 char* Put(char* at, std::string_view text)
 {
     return std::copy(text.begin(), text.end(), at);
 }
 
-// Writes at most LongestNumber letters and gives the end.
+// Writes at most LongestNumber characters and returns the end.
 char* PutNumber(char* at, double value)
 {
-    if (value == CPaneData::HoleValue())
+    if (value == HoleValue)
         return Put(at, "null");
     if (!std::isfinite(value))
         return Put(at, std::isnan(value) ? "\"nan\"" : value > 0 ? "\"inf\"" : "\"-inf\"");
@@ -39,8 +39,8 @@ char* PutNumber(char* at, double value)
     return nlohmann::detail::to_chars(at, at + LongestNumber, value);
 }
 
-// Walks the text of a pane file as far as to its series and takes their lists. Only the walk to them is
-// checked here. Everything but the numbers of the lists goes to the JSON parser, which judges it.
+// Walks the text of a pane file down to its series and extracts their lists. Checks only what it walks over;
+// everything but the extracted numbers goes to the JSON parser, which checks it.
 class CListTaker
 {
 public:
@@ -109,7 +109,7 @@ private:
         });
     }
 
-    // The list that begins there and ends here leaves the text, but for its brackets.
+    // Replaces the list from `begin` to the current position by an empty one.
     void Cut(const char* begin)
     {
         m_rest.append(m_copied, begin);
@@ -132,7 +132,8 @@ private:
             ++m_at;
     }
 
-    // What follows up to the end of an object, each member by its name. A name with an escape could be any.
+    // Calls `member` for the name of each member of an object. A name with an escape could be any name, so it
+    // fails.
     template<class F> bool Members(F member)
     {
         if (!Take('{'))
@@ -252,12 +253,12 @@ private:
         return m_at != begin;
     }
 
-    // A number as JSON has it, which is stricter than the reader of digits below.
+    // A number in JSON's grammar, which is stricter than that of fast_float.
     bool Number(double& number)
     {
         const char* const begin = m_at;
         if (Word("null")) {
-            number = CPaneData::HoleValue();
+            number = HoleValue;
             return true;
         }
         if (m_at != m_end && *m_at == '"') {
@@ -290,13 +291,13 @@ private:
         if (read.ec != std::errc() || read.ptr != m_at || std::isinf(number))
             return false;
         if (whole && minus && number == 0)
-            number = 0; // a whole number has no minus zero
+            number = 0; // JSON has no negative whole zero
         return true;
     }
 
     const char* m_at;
     const char* m_end;
-    const char* m_copied; // what lies before is in m_rest
+    const char* m_copied; // everything before it is in m_rest
     std::string m_rest;
     std::size_t m_usual = 0;   // numbers in the list before
     std::string_view m_firstX; // of the group that is read

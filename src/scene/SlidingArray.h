@@ -1,6 +1,6 @@
-// The numbers of one vector of a pane. A live chart drops points at the left for each one that it takes in at
-// the right; here that costs the points dropped and not those that stay, save that once in a while, after an
-// eighth of the array's length has gone by, the array moves back to the front of its memory.
+// The values of one vector of a pane. A live chart drops values at the left for each value that it appends at
+// the right; here that costs the dropped values and not those that stay, except that once an eighth of the
+// array's length has been dropped, the array moves back to the front of its memory. Chart window's thread.
 #pragma once
 
 #include "platform/LargePages.h"
@@ -28,14 +28,14 @@ public:
     double& operator[](std::size_t i) { return data()[i]; }
     const double& operator[](std::size_t i) const { return data()[i]; }
     operator std::span<const double>() const { return {data(), size()}; }
-    // The array's numbers behind those that are gone: a number stays at its place as long as the array
-    // slides.
+    // All values with the dropped ones before them. The place of a value in it does not change while the
+    // array slides.
     std::span<const double> Places() const { return m_store; }
     std::size_t Begin() const { return m_begin; }
 
     void resize(std::size_t size, double value = 0)
     {
-        if (m_begin + size > m_store.capacity()) // with room to slide before anything has to move
+        if (m_begin + size > m_store.capacity()) // with room to slide before the values have to move
             m_store.reserve(m_begin + size + size / 8);
         m_store.resize(m_begin + size, value);
     }
@@ -45,8 +45,8 @@ public:
         m_begin = 0;
     }
 
-    // Copies the `count` values that begin at `from` to the beginning; what lies behind them stays as it is.
-    // from + count is at most size(). Returns the first place whose number may have become another one.
+    // Copies `count` values from `from` on to the beginning; the values after those keep theirs. REQUIRES:
+    // from + count <= size(). Returns the first place whose value may have changed.
     std::size_t MoveToFront(std::size_t count, std::size_t from)
     {
         const std::size_t had = size();
@@ -59,7 +59,7 @@ public:
         std::size_t kept = m_store.size();
         if (kept + from > m_store.capacity() && !MakeRoom())
             kept = 0;
-        // The last values appear twice: moved, and where they were.
+        // The last values then appear twice: at their new and at their old position.
         m_store.insert(m_store.end(), from, 0.0);
         std::copy_n(m_store.end() - static_cast<std::ptrdiff_t>(2 * from), from,
                     m_store.end() - static_cast<std::ptrdiff_t>(from));
@@ -68,7 +68,7 @@ public:
     }
 
 private:
-    // Whether the numbers stayed at their places.
+    // Whether the values kept their places.
     bool MakeRoom()
     {
         const std::size_t had = size();

@@ -35,7 +35,7 @@ struct sValueRange
     bool FiniteAlone = false; // infinities do not count either
     void Widen(double value)
     {
-        if (value == CPaneData::HoleValue() || (FiniteAlone && std::isinf(value)))
+        if (value == HoleValue || (FiniteAlone && std::isinf(value)))
             return;
         if (value > Max)
             Max = value;

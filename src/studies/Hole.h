@@ -1,11 +1,11 @@
 // The value that means "no value" in study arithmetic: the pane's hole value. Pure functions, any thread.
 #pragma once
 
-#include "scene/PaneObjects.h"
+#include "scene/HoleValue.h"
 
 namespace zantroq {
 
-inline constexpr double StudyHole = CPaneData::HoleValue();
+inline constexpr double StudyHole = HoleValue;
 
 inline bool IsHole(double value)
 {

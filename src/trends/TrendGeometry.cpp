@@ -94,7 +94,7 @@ void EndTrendSeries(IPaneWindow& window)
 void EraseTrendSeries(IPaneWindow& window, int series)
 {
     const std::span<double> y = Overlay(window).PaneData().YForOverwrite(series);
-    std::fill(y.begin(), y.end(), CPaneData::HoleValue());
+    std::fill(y.begin(), y.end(), HoleValue);
     EndTrendSeries(window);
 }
 

@@ -53,10 +53,10 @@ void WriteTrendSeries(IPaneWindow& window, int series, const sTrendLook& look, X
     const int first = std::clamp(from, 1, points + 1);
     const int last = std::max(std::min({to, window.Range().shown, points}), first - 1);
     double* const values = y.data();
-    std::fill_n(values, first - 1, CPaneData::HoleValue());
+    std::fill_n(values, first - 1, HoleValue);
     for (int i = first; i <= last; ++i)
         values[i - 1] = value(i);
-    std::fill_n(values + last, points - last, CPaneData::HoleValue());
+    std::fill_n(values + last, points - last, HoleValue);
     EndTrendSeries(window);
 }
 

@@ -32,7 +32,7 @@ sNearPoint NearestBar(const CPaneGroup& group, int shown, int x, int y)
     const CPaneData& data = group.PaneData();
     for (int point = 1; point <= shown; ++point) {
         const double high = data.PointY(HighSeries, point), low = data.PointY(LowSeries, point);
-        if (high == CPaneData::HoleValue() || low == CPaneData::HoleValue())
+        if (high == HoleValue || low == HoleValue)
             continue;
         int x1 = 0, y1 = 0, x2 = 0, y2 = 0;
         group.DataToPixel(data.PointX(HighSeries, point), high, x1, y1);

@@ -11,7 +11,7 @@
 namespace zantroq {
 namespace {
 
-constexpr double Hole = CPaneData::HoleValue();
+constexpr double Hole = HoleValue;
 
 bool IsPlain(double value)
 {

@@ -7,7 +7,7 @@
 namespace zantroq {
 namespace {
 
-constexpr double Hole = CPaneData::HoleValue();
+constexpr double Hole = HoleValue;
 const sPriceWords Cents{ShippedPriceFormatter(), 12};
 const sPriceWords Plain{ShippedPriceFormatter(), 0};
 

@@ -1,6 +1,6 @@
 #include "drawing/MovingAverages.h"
 #include "drawing/BollingerBands.h"
-#include "scene/PaneObjects.h"
+#include "scene/HoleValue.h"
 
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
@@ -13,7 +13,7 @@
 namespace zantroq {
 namespace {
 
-constexpr double Hole = CPaneData::HoleValue();
+constexpr double Hole = HoleValue;
 
 // The plain definitions, one index at a time.
 double PlainSimple(const std::vector<double>& closes, int i, int period)

@@ -10,7 +10,7 @@
 namespace zantroq {
 namespace {
 
-constexpr double Hole = CPaneData::HoleValue();
+constexpr double Hole = HoleValue;
 
 struct sPlainData
 {

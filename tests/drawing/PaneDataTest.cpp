@@ -9,7 +9,7 @@
 namespace zantroq {
 namespace {
 
-const double Hole = CPaneData::HoleValue();
+const double Hole = HoleValue;
 const double NotANumber = std::numeric_limits<double>::quiet_NaN();
 
 struct sPoints

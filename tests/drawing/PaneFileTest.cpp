@@ -57,8 +57,7 @@ void Fill(CChart2D& chart)
         data.SetSeriesCount(number + 1);
         data.SetPointCount(1, 6);
         data.SetLastShownSeries(2);
-        data.SetYVector(2, std::vector<double>{1.0, CPaneData::HoleValue(), Infinity, -Infinity, 0.1 + 0.2,
-                                               std::nan("")});
+        data.SetYVector(2, std::vector<double>{1.0, HoleValue, Infinity, -Infinity, 0.1 + 0.2, std::nan("")});
         data.SetDrawnTo(2, 3);
         data.AdvanceDrawn(2, 1);
         data.SetFirstPoint(1, 2);

@@ -12,7 +12,7 @@
 namespace zantroq {
 namespace {
 
-const double Hole = CPaneData::HoleValue();
+const double Hole = HoleValue;
 const double Infinity = std::numeric_limits<double>::infinity();
 const double NotANumber = std::numeric_limits<double>::quiet_NaN();
 

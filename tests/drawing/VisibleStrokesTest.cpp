@@ -155,8 +155,8 @@ TEST_F(VisibleStrokes, AreNotToldWhereRowsBetweenThemStayBare)
 TEST_F(VisibleStrokes, AreNotToldWhereAPointIsNotDrawnOrFarAway)
 {
     const sPlotMap map = PlotOf(0, 101, 0, 100);
-    for (const double bad : {CPaneData::HoleValue(), std::nan(""), Infinity, -Infinity, 1e9, -1e9, 1e300,
-                             -1e300, 40000.0, -40000.0})
+    for (const double bad :
+         {HoleValue, std::nan(""), Infinity, -Infinity, 1e9, -1e9, 1e300, -1e300, 40000.0, -40000.0})
         for (int at = 0; at < 21; ++at)
             for (const bool high : {true, false}) {
                 sStrokes strokes;

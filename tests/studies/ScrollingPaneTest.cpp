@@ -27,7 +27,7 @@ RC_GTEST_PROP(ScrollingPane, ShiftsLooksLikePlainCopies, ())
             data.SetPointCount(1, newSize);
             for (int i = size; i < newSize; ++i) {
                 x.push_back(i + 1);
-                y.push_back(CPaneData::HoleValue());
+                y.push_back(HoleValue);
             }
             x.resize(static_cast<std::size_t>(newSize));
             y.resize(static_cast<std::size_t>(newSize));
@@ -57,7 +57,7 @@ TEST(ScrollingPane, WholeYIsWrittenInPlace)
     const std::span<double> y = data.YForOverwrite(2);
     std::fill(y.begin(), y.end(), 7.0);
     EXPECT_EQ(data.PointY(2, 3), 7.0);
-    EXPECT_EQ(data.PointY(1, 3), CPaneData::HoleValue());
+    EXPECT_EQ(data.PointY(1, 3), HoleValue);
     EXPECT_TRUE(data.ChangesSince(before).Whole);
     EXPECT_TRUE(data.YForOverwrite(3).empty());
 }
@@ -120,7 +120,7 @@ TEST(ScrollingPane, AConstantIsWrittenAgainAfterAnyOtherWrite)
     data.SetConstantY(2, 30);
     data.SetConstantY(3, 30);
     EXPECT_EQ(data.Revision(), revision) << "nothing changed";
-    EXPECT_DOUBLE_EQ(data.PointY(1, 1), CPaneData::HoleValue());
+    EXPECT_DOUBLE_EQ(data.PointY(1, 1), HoleValue);
 }
 
 TEST(ScrollingPane, AStepHoldsHolesBeforeItsPointWhateverStoodThere)
@@ -156,7 +156,7 @@ TEST(ScrollingPane, AStepHoldsHolesBeforeItsPointWhateverStoodThere)
         const double value = below(2);
         data.SetStepY(2, from, value);
         for (int point = 1; point <= now; ++point)
-            ASSERT_EQ(data.PointY(2, point), point < from ? CPaneData::HoleValue() : value)
+            ASSERT_EQ(data.PointY(2, point), point < from ? HoleValue : value)
                 << "round " << round << ", point " << point << " of " << now << ", step at " << from;
         const std::uint64_t revision = data.Revision();
         data.SetStepY(2, from, value);

@@ -64,7 +64,7 @@ protected:
     {
         return window.pane.PaneGroups(2).PaneData().PointY(series, position);
     }
-    bool Hole(int series, int position) const { return Y(series, position) == CPaneData::HoleValue(); }
+    bool Hole(int series, int position) const { return Y(series, position) == HoleValue; }
     int Shape(int series) { return window.pane.PaneGroups(2).SeriesStyles(series).SymbolLook().Shape(); }
     // Pixel of a data coordinate of the pane.
     void Pixel(double x, double y, int& px, int& py) const

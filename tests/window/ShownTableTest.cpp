@@ -165,7 +165,7 @@ TEST(ShownTable, StudiesFollowInTheOrderOfTheirPanesWithWhatThePanesShow)
         const auto fields = Fields(lines[static_cast<std::size_t>(point)]);
         ASSERT_EQ(fields.size(), 14u);
         const double shown = rsi.PaneGroups(1).PaneData().PointY(1, point);
-        if (shown == CPaneData::HoleValue())
+        if (shown == HoleValue)
             EXPECT_EQ(fields[13], "");
         else
             EXPECT_EQ(std::stod(fields[13]), shown) << point;
