@@ -8,9 +8,9 @@ namespace zantroq {
 
 namespace {
 
-constexpr int WidestBody = 41; // pane pixels: a handful of points would else be blocks
+constexpr int WidestBody = 41; // pane pixels: a handful of points would look like blocks otherwise
 
-// Room between a body and its neighbour: a fifth of the room of a point, nothing below three pixels.
+// Leaves a gap between neighbors: a fifth of the room of a point, and none up to three pixels of room.
 int BodyWidth(int room)
 {
     if (room <= 3)
@@ -34,8 +34,8 @@ sBarSource sBarSource::Of(const CPaneGroup& group, const sPlotMap& map, double s
     // A bar is never wider than the room of a point, so that a crowded pane stays readable.
     const int room =
         static_cast<int>(std::clamp(std::abs(map.X.PixelsPerUnit()), 1.0, WidestBody * std::max(1.0, scale)));
-    // Widths are asked for in pane pixels, so the room counts in whole ones of these too: a width that fills
-    // it has its gap at every scale.
+    // Widths are set in whole pane pixels, so the room is limited to whole pane pixels too: a width that
+    // fills it then leaves its gap at every scale.
     const int wholeRoom =
         static_cast<int>(std::clamp(std::abs(map.X.PixelsPerUnit()) / scale, 1.0, 1.0 * WidestBody));
     const int widest = BodyWidth(std::min(room, DevicePixels(wholeRoom, scale)));

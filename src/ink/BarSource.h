@@ -1,4 +1,4 @@
-// What the bars of a pane's group are made of, and how wide they are. Chart window's thread.
+// The prices, colors and widths from which the bars of a group are drawn. Chart window's thread.
 #pragma once
 
 #include "scene/BlockMinMax.h"
@@ -20,21 +20,21 @@ struct sBarSource
     int Width = 1, Wick = 1, Tick = 0; // device pixels
     double Origin = 0;
 
-    // From the looks of the group's shown series. `barWidth` is in pane pixels, `scale` in device pixels
-    // each.
+    // From the styles of the group's shown series. `barWidth` is in pane pixels, `scale` is device pixels per
+    // pane pixel.
     static sBarSource Of(const CPaneGroup& group, const sPlotMap& map, double scale, int barWidth);
 
-    // Whether a point is one vertical line of a pixel's width.
+    // Whether each point is one vertical line, one pixel wide.
     bool IsThin() const { return Width == 1 && Tick == 0 && Wick == 1; }
     bool IsUp(std::size_t i) const { return Close[i] >= Open[i]; }
-    // Whether all four prices are there.
+    // Whether all four prices have a value.
     bool IsComplete(std::size_t i) const
     {
         return IsDrawn(High[i]) && IsDrawn(Low[i]) && IsDrawn(Open[i]) && IsDrawn(Close[i]);
     }
 };
 
-// The pixel rows from one value to another, Bottom exclusive; they may lie outside the plot.
+// The pixel rows between two values, both included, Bottom exclusive. They may lie outside the plot.
 struct sRowSpan
 {
     sRowSpan(const CAxisMap& map, double a, double b)
@@ -43,7 +43,7 @@ struct sRowSpan
         Top = std::min(first, second);
         Bottom = std::max(first, second) + 1;
     }
-    // What of it lies in the plot.
+    // Clips to the plot. False when nothing is left.
     bool CutTo(const sPixelRect& plot)
     {
         Top = std::max(Top, plot.Top);

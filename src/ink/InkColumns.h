@@ -1,4 +1,4 @@
-// Ink of candles that are one pixel wide: columns of pixels, each pixel in one of two colors. Chart window's
+// Ink of candles that are one pixel wide: columns of pixels, each in one of two colors. Chart window's
 // thread.
 #pragma once
 
@@ -14,7 +14,7 @@ namespace zantroq {
 struct sInkColumn
 {
     int Column, Top, Bottom; // device pixels, Bottom exclusive, inside the plot
-    std::size_t First;       // its pixels' place among all of them
+    std::size_t First;       // index of its topmost pixel among the pixels of all columns
     bool operator==(const sInkColumn&) const = default;
 };
 
@@ -26,7 +26,8 @@ public:
 
     // In the order they were added.
     std::span<const sInkColumn> Columns() const { return m_columns; }
-    // The pixels of a column from its top: 0 for the first color, 1 for the second.
+    // The pixels of a column from the top: 0 for the first color, 1 for the second. Valid until the next
+    // change.
     std::span<const std::uint8_t> Shades(const sInkColumn& column) const
     {
         return {m_shades.data() + column.First, static_cast<std::size_t>(column.Bottom - column.Top)};
@@ -37,7 +38,7 @@ public:
         m_columns.push_back({column, top, bottom, m_shades.size()});
         m_shades.insert(m_shades.end(), shades, shades + (bottom - top));
     }
-    // Keeps the first ones.
+    // Keeps the first `count` columns.
     void Cut(std::size_t count)
     {
         if (count >= m_columns.size())

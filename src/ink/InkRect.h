@@ -1,4 +1,4 @@
-// A piece of ink in one color.
+// A rectangle of one color. Plain data.
 #pragma once
 
 #include "platform/Color.h"

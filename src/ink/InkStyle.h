@@ -1,4 +1,4 @@
-// What the ink of bars and of lines asks of a group's looks. Chart window's thread.
+// The styles of a group as its ink uses them. Chart window's thread.
 #pragma once
 
 #include "scene/Chart2D.h"
@@ -18,10 +18,10 @@ inline bool IsPriceType(int type)
     return type == ChartHiLoOpenClose || type == ChartCandles;
 }
 
-// The look of a series, or that of a series which was never given one.
+// The style of a series; the default style if none was set.
 const CSeriesStyle& StyleOf(const CPaneGroup& group, int series);
 
-// A width of pane pixels on a grid of `scale` device pixels each; at least 1.
+// A width of pane pixels in device pixels, at least 1. `scale` is device pixels per pane pixel.
 inline int DevicePixels(int panePixels, double scale)
 {
     return std::max(1, static_cast<int>(std::floor(std::clamp(panePixels, 1, 1000) * scale + 0.5)));

@@ -9,28 +9,22 @@
 
 namespace zantroq {
 
-COnePixelBars::COnePixelBars(const sBarSource& source, const sPlotMap& map, std::vector<sInkRect>& rects,
-                             CInkColumns& columns)
+COnePixelBars::COnePixelBars(const sBarSource& source, const sPlotMap& map, PriceCheck check,
+                             std::vector<sInkRect>& rects, CInkColumns& columns)
     : m_source(source),
       m_map(map),
       m_rects(rects),
       m_columns(columns),
       m_bars(IsBarType(source.Type)),
-      m_seen(map),
-      m_parts(source, map, m_found)
+      m_check(check),
+      m_strokes(map),
+      m_spans(source, map, check, m_found)
 {
     if (source.Type == ChartCandles)
         m_columns.SetColors(source.Up, source.Down);
 }
 
-void COnePixelBars::ExamineAll()
-{
-    m_examineAll = true;
-    m_parts.ExamineAll();
-}
-
-// Columns are walked backwards, which the processor does not foresee.
-void COnePixelBars::Foresee(std::size_t first, std::size_t count) const
+void COnePixelBars::PrefetchPoints(std::size_t first, std::size_t count) const
 {
     const std::size_t end = std::min(first + count, m_source.High.size());
     if (first >= end || m_source.Bars.Blocks() > 0)
@@ -46,63 +40,104 @@ void COnePixelBars::Draw(std::size_t first, std::size_t last, int column)
     std::swap(m_column, m_columnBefore);
     m_found.clear();
     m_column = column;
-    // Finding them together takes as long for few as for many. A column shows about as many points as the
-    // one before it.
-    constexpr std::size_t pointsForOne = 24;
-    if (!m_bars && !m_examineAll && pointsForOne * m_shown >= last - first &&
-        m_seen.Find(m_source.High, m_source.Low, first, last)) {
-        DrawSeen(first, column);
-        m_shown = m_seen.Found().Count;
+    if (FindStrokes(first, last)) {
+        DrawStrokes(first, column);
+        m_visible = m_strokes.Found().Count;
     } else {
-        m_parts.Find(first, last);
-        m_shown = m_found.size();
+        m_spans.Find(first, last);
+        m_visible = m_found.size();
     }
     Emit(m_before, m_columnBefore);
 }
 
-// The points found become a column of pixels, or a piece where there is one color only.
-void COnePixelBars::DrawSeen(std::size_t first, int column)
+// Whether the fast path took the column. It costs the same whether few or many of its points are visible,
+// while the slow path costs little where few are; a column shows about as many points as the one before it.
+bool COnePixelBars::FindStrokes(std::size_t first, std::size_t last)
 {
-    const CVisibleStrokes::sFound found = m_seen.Found();
+    constexpr std::size_t pointsForOneVisible = 24;
+    return !m_bars && m_check == PriceCheck::HighAndLow && last - first <= pointsForOneVisible * m_visible &&
+           m_strokes.Find(m_source.High, m_source.Low, first, last);
+}
+
+// Candles become a column of shades. H/L/O/C bars, which have one color, become one part.
+void COnePixelBars::DrawStrokes(std::size_t first, int column)
+{
+    PrefetchColors(first);
+    if (m_source.Type == ChartCandles)
+        AddShades(first, column);
+    else
+        AddSpan(first);
+}
+
+void COnePixelBars::PrefetchColors(std::size_t first) const
+{
+    const CVisibleStrokes::sFound found = m_strokes.Found();
     const double *const open = m_source.Open.data() + first, *const close = m_source.Close.data() + first;
     for (std::size_t k = 0; k < found.Count; ++k) {
         Prefetch(open + found.Point[k]);
         Prefetch(close + found.Point[k]);
     }
-    const int rows = m_map.Plot.Height();
-    if (m_source.Type != ChartCandles) {
-        for (std::size_t k = 0; k < found.Count; ++k)
-            m_allComplete &= IsDrawn(open[found.Point[k]]) && IsDrawn(close[found.Point[k]]);
-        m_found.push_back({m_map.Plot.Bottom - found.Up[found.Count - 1],
-                           m_map.Plot.Top + found.Down[found.Count - 1],
-                           first + static_cast<std::size_t>(found.Point[0])});
-        return;
+}
+
+void COnePixelBars::AddSpan(std::size_t first)
+{
+    const CVisibleStrokes::sFound found = m_strokes.Found();
+    for (std::size_t k = 0; k < found.Count; ++k) {
+        const std::size_t i = first + static_cast<std::size_t>(found.Point[k]);
+        m_allComplete &= IsDrawn(m_source.Open[i]) && IsDrawn(m_source.Close[i]);
     }
-    // Every point writes eight pixels beyond each end of what is covered; those behind it write over what is
-    // too much.
-    constexpr int more = sizeof(std::uint64_t);
-    m_shades.resize(static_cast<std::size_t>(rows + 2 * more));
-    std::uint8_t* const shades = m_shades.data() + more;
-    bool plain = true;
-    int top = rows - found.Up[0], bottom = top; // rows of the plot
+    m_found.push_back({m_map.Plot.Bottom - found.Up[found.Count - 1],
+                       m_map.Plot.Top + found.Down[found.Count - 1],
+                       first + static_cast<std::size_t>(found.Point[0])});
+}
+
+namespace {
+
+// The shades of one column while it grows from its last point outwards; rows are those of the plot.
+struct sShadedRows
+{
+    // Each point writes so many shades beyond either end, more than it has rows as a rule: those of the
+    // points before it overwrite what is too much. A fixed size is one store where the exact one is a loop.
+    static constexpr int Spill = sizeof(std::uint64_t);
+
+    std::uint8_t* Shades; // of row 0, with room for Spill shades before it and after the last row
+    int Top, Bottom;      // shaded so far, Bottom exclusive
+
+    void GrowTo(int top, int bottom, bool up)
+    {
+        const std::uint64_t eight = up ? 0 : 0x0101010101010101u;
+        if (Top - top <= Spill && bottom - Bottom <= Spill) {
+            std::memcpy(Shades + Top - Spill, &eight, Spill);
+            std::memcpy(Shades + Bottom, &eight, Spill);
+        } else {
+            std::fill(Shades + top, Shades + Top, static_cast<std::uint8_t>(eight & 1));
+            std::fill(Shades + Bottom, Shades + bottom, static_cast<std::uint8_t>(eight & 1));
+        }
+        Top = top;
+        Bottom = bottom;
+    }
+};
+
+} // namespace
+
+void COnePixelBars::AddShades(std::size_t first, int column)
+{
+    const CVisibleStrokes::sFound found = m_strokes.Found();
+    const double *const open = m_source.Open.data() + first, *const close = m_source.Close.data() + first;
+    const int rows = m_map.Plot.Height();
+    m_shades.resize(static_cast<std::size_t>(rows + 2 * sShadedRows::Spill));
+    const int begin = rows - found.Up[0];
+    sShadedRows shaded{m_shades.data() + sShadedRows::Spill, begin, begin};
+    bool complete = true; // not left at once: a branch for each point costs more
     for (std::size_t k = 0; k < found.Count; ++k) {
         const double a = open[found.Point[k]], b = close[found.Point[k]];
-        plain &= a < CPaneData::HoleValue();
-        plain &= b < CPaneData::HoleValue();
-        const std::uint64_t shade = b >= a ? 0 : 0x0101010101010101u;
-        const int nextTop = rows - found.Up[k], nextBottom = found.Down[k];
-        if (top - nextTop <= more && nextBottom - bottom <= more) {
-            std::memcpy(shades + top - more, &shade, more);
-            std::memcpy(shades + bottom, &shade, more);
-        } else {
-            std::fill(shades + nextTop, shades + top, static_cast<std::uint8_t>(shade & 1));
-            std::fill(shades + bottom, shades + nextBottom, static_cast<std::uint8_t>(shade & 1));
-        }
-        top = nextTop;
-        bottom = nextBottom;
+        complete &= a < HoleValue;
+        complete &= b < HoleValue;
+        shaded.GrowTo(rows - found.Up[k], found.Down[k], b >= a);
     }
-    m_allComplete &= plain;
-    m_columns.Add(column, m_map.Plot.Top + top, m_map.Plot.Top + bottom, shades + top);
+    m_allComplete &= complete;
+    m_columns.Add(column, m_map.Plot.Top + shaded.Top, m_map.Plot.Top + shaded.Bottom,
+                  shaded.Shades + shaded.Top);
 }
 
 bool COnePixelBars::Finish()
@@ -112,19 +147,12 @@ bool COnePixelBars::Finish()
     return m_allComplete;
 }
 
-// What was found becomes rectangles, neighbours of one color together.
+// The parts become rectangles, neighbors of one color together.
 void COnePixelBars::Emit(const std::vector<sSeenPart>& parts, int column)
 {
-    const bool candles = m_source.Type == ChartCandles;
     const std::size_t begin = m_rects.size();
     for (const sSeenPart& part : parts) {
-        ColorValue color = m_source.Up;
-        if (!m_bars) {
-            m_allComplete =
-                m_allComplete && IsDrawn(m_source.Open[part.Point]) && IsDrawn(m_source.Close[part.Point]);
-            if (candles && !m_source.IsUp(part.Point))
-                color = m_source.Down;
-        }
+        const ColorValue color = ColorOf(part.Point);
         if (m_rects.size() > begin && m_rects.back().Color == color) {
             sInkRect& last = m_rects.back();
             if (part.Bottom == last.Top) {
@@ -138,6 +166,15 @@ void COnePixelBars::Emit(const std::vector<sSeenPart>& parts, int column)
         }
         m_rects.push_back({column, part.Top, column + 1, part.Bottom, color});
     }
+}
+
+// Notes a point that lacks its open or close price.
+inline ColorValue COnePixelBars::ColorOf(std::size_t point)
+{
+    if (m_bars)
+        return m_source.Up;
+    m_allComplete = m_allComplete && IsDrawn(m_source.Open[point]) && IsDrawn(m_source.Close[point]);
+    return m_source.Type == ChartCandles && !m_source.IsUp(point) ? m_source.Down : m_source.Up;
 }
 
 } // namespace zantroq

@@ -1,6 +1,6 @@
-// Candles, H/L/O/C bars and bars where a point is one vertical line of a pixel's width: of the points of a
-// pixel column only what no later point covers is kept, and their picture is that of all of them painted one
-// after the other. Lives for one drawing, on the chart window's thread.
+// Candles, H/L/O/C bars and bars where a point is one vertical line one pixel wide. Of the points of a pixel
+// column only what no later point covers is kept; the picture is that of all of them painted one after the
+// other. Lives for one drawing, on the chart window's thread.
 #pragma once
 
 #include "ink/BarSource.h"
@@ -18,41 +18,48 @@ namespace zantroq {
 class COnePixelBars
 {
 public:
-    // Rectangles are added to `rects`, columns of candles to `columns`; all four outlive this object.
-    COnePixelBars(const sBarSource& source, const sPlotMap& map, std::vector<sInkRect>& rects,
-                  CInkColumns& columns);
+    // Rectangles are added to `rects`, columns of candles to `columns`. All but `check` outlive this object.
+    COnePixelBars(const sBarSource& source, const sPlotMap& map, PriceCheck check,
+                  std::vector<sInkRect>& rects, CInkColumns& columns);
 
-    // What is seen of a column's points, first to last (exclusive). Candles become a column of ink where that
-    // can be told at once. Rectangles follow with the next call or with Finish, when the memory has had time
-    // to bring what their colors depend on; until then the column's first rectangle is the one behind those
-    // that are there.
+    // Adds what is visible of a column's points, first to last (exclusive). Candles become a column of ink
+    // where the fast path can tell what is visible. Rectangles are added by the next call or by Finish: by
+    // then the prefetch of the prices that decide their colors has arrived. Until then the column's first
+    // rectangle is the next one to be added to `rects`.
     void Draw(std::size_t first, std::size_t last, int column);
-    // To be called behind the last Draw. False when a point that seemed to be there lacks one of its values:
-    // all is then to be drawn again after ExamineAll.
+    // Call once after the last Draw. False when a point that was taken lacks its open or close price: the ink
+    // is then wrong, and all is to be drawn again with PriceCheck::AllFour.
     bool Finish();
-    void ExamineAll();
-    // As on a processor that cannot look at several points at a time.
-    void GoPointByPoint() { m_seen.TurnOff(); }
+    // Takes the path of processors without AVX2.
+    void GoPointByPoint() { m_strokes.TurnOff(); }
 
-    // Asks the memory for the points of the next column.
-    void Foresee(std::size_t first, std::size_t count) const;
+    // Prefetches the highs and lows of points that will be drawn next: Draw walks backwards, which the
+    // processor does not foresee.
+    void PrefetchPoints(std::size_t first, std::size_t count) const;
 
 private:
-    void DrawSeen(std::size_t first, int column);
+    bool FindStrokes(std::size_t first, std::size_t last);
+    void DrawStrokes(std::size_t first, int column);
+    void PrefetchColors(std::size_t first) const;
+    void AddSpan(std::size_t first);
+    void AddShades(std::size_t first, int column);
     void Emit(const std::vector<sSeenPart>& parts, int column);
+    ColorValue ColorOf(std::size_t point);
 
     const sBarSource& m_source;
     const sPlotMap& m_map;
     std::vector<sInkRect>& m_rects;
     CInkColumns& m_columns;
     const bool m_bars;
-    bool m_examineAll = false, m_allComplete = true;
+    const PriceCheck m_check;
+    bool m_allComplete = true;
     int m_column = 0, m_columnBefore = 0;
-    std::vector<sSeenPart> m_found, m_before; // of the column at hand and of the one before
-    std::size_t m_shown = 8;                  // points seen of the column before, about
-    CVisibleStrokes m_seen;
-    CVisibleSpans m_parts;
-    std::vector<std::uint8_t> m_shades; // of the column at hand, all rows of the plot and room on both sides
+    std::vector<sSeenPart> m_found, m_before; // of the current column and of the one before
+    std::size_t m_visible = 8;                // points visible in the column before; at first a guess
+    CVisibleStrokes m_strokes;
+    CVisibleSpans m_spans;
+    std::vector<std::uint8_t>
+        m_shades; // of the current column: all rows of the plot, with room on both sides
 };
 
 } // namespace zantroq

@@ -1,6 +1,7 @@
 #include "ink/PaneInk.h"
 
 #include "ink/InkStyle.h"
+#include "ink/MarkInk.h"
 #include "ink/OnePixelBars.h"
 #include "ink/WideBars.h"
 
@@ -99,15 +100,25 @@ CPaneInk::sDamage CPaneInk::Update(const CChart2D& chart, const sPlotMap& map, d
     return {true, m_map.Plot.Left, m_map.Plot.Right};
 }
 
+// Whether a column holds more than two points, in order, so that looking at them together pays.
 bool CPaneInk::IsCrowded() const
 {
     return m_detail != InkDetail::EveryPoint && m_ascending && m_map.X.PixelsPerUnit() < 0.5;
 }
 
-// Whether a column holds several blocks of points.
+// Whether a column holds more than three blocks of points, two of them whole at least.
 bool CPaneInk::UsesBlocks() const
 {
     return IsCrowded() && m_map.X.PixelsPerUnit() * 3 * sBlockedValues::BlockSize < 1;
+}
+
+LineGrouping CPaneInk::Grouping() const
+{
+    if (m_detail == InkDetail::EveryPoint)
+        return LineGrouping::EveryPoint;
+    if (UsesBlocks())
+        return LineGrouping::Blocks;
+    return IsCrowded() ? LineGrouping::Columns : LineGrouping::PointByPoint;
 }
 
 void CPaneInk::DrawAll(const CPaneGroup& group)
@@ -126,13 +137,15 @@ void CPaneInk::DrawAll(const CPaneGroup& group)
         DrawLines(group);
 }
 
-// Draws the points behind firstPoint anew; false when everything has to be drawn.
+// Draws again firstPoint and all points after it; false when everything has to be drawn.
 bool CPaneInk::DrawTail(const CPaneGroup& group, std::size_t firstPoint)
 {
     if (m_map.Empty())
         return true;
-    if (HasBars(group))
-        return DrawBars(group, firstPoint);
+    if (HasBars(group)) {
+        DrawBars(group, firstPoint);
+        return true;
+    }
     // Marks are not kept point by point; a series can have them without a line.
     for (int series = group.PaneData().FirstVisible(); series <= group.PaneData().LastVisible(); ++series)
         if (StyleOf(group, series).SymbolLook().Shape() != SymbolNone)
@@ -147,7 +160,7 @@ bool CPaneInk::DrawTail(const CPaneGroup& group, std::size_t firstPoint)
     return true;
 }
 
-bool CPaneInk::DrawBars(const CPaneGroup& group, std::size_t firstPoint)
+void CPaneInk::DrawBars(const CPaneGroup& group, std::size_t firstPoint)
 {
     const CPaneData& data = group.PaneData();
     if (UsesBlocks() && IsBarType(group.Type()))
@@ -157,26 +170,30 @@ bool CPaneInk::DrawBars(const CPaneGroup& group, std::size_t firstPoint)
     source.Filled = m_filledCandles;
     source.Hollow = m_hollow;
     m_widest = source.Width + 2 * source.Tick;
-    std::size_t i = data.FirstDrawn(data.FirstVisible());
-    if (firstPoint == 0) {
-        CutColumns(0);
-    } else {
-        // Back to the column of the first changed point.
-        const int column = m_points.IsPlaced(firstPoint) ? m_points.ColumnOf(firstPoint) : 0;
-        std::size_t kept = m_columns.size();
-        while (kept > 0 && m_columns[kept - 1].Column >= column)
-            --kept;
-        CutColumns(kept);
-        i = m_points.First(i, column);
-    }
-    const std::size_t columns = m_columns.size();
+    const std::size_t i = CutBarsFrom(data, firstPoint);
+    const std::size_t kept = m_columns.size();
     if (!source.IsThin() || !m_ascending || m_detail == InkDetail::EveryPoint) {
         DrawWideBars(source, i);
-    } else if (!DrawThinBars(source, i, false)) {
-        CutColumns(columns);
-        DrawThinBars(source, i, true);
+    } else if (!DrawOnePixelBars(source, i, PriceCheck::HighAndLow)) {
+        CutColumns(kept);
+        DrawOnePixelBars(source, i, PriceCheck::AllFour);
     }
-    return true;
+}
+
+// Removes the ink from the point's column on. Returns the first point to draw.
+std::size_t CPaneInk::CutBarsFrom(const CPaneData& data, std::size_t firstPoint)
+{
+    const std::size_t firstDrawn = data.FirstDrawn(data.FirstVisible());
+    if (firstPoint == 0) {
+        CutColumns(0);
+        return firstDrawn;
+    }
+    const int column = m_points.IsPlaced(firstPoint) ? m_points.ColumnOf(firstPoint) : 0;
+    std::size_t kept = m_columns.size();
+    while (kept > 0 && m_columns[kept - 1].Column >= column)
+        --kept;
+    CutColumns(kept);
+    return m_points.First(firstDrawn, column);
 }
 
 // Keeps the first columns and their ink.
@@ -210,12 +227,14 @@ void CPaneInk::DrawWideBars(const sBarSource& source, std::size_t i)
     }
 }
 
-// False when a point turned out to lack a value; only with examineAll are all values looked at in time.
-bool CPaneInk::DrawThinBars(const sBarSource& source, std::size_t i, bool examineAll)
+// False when a point turned out to lack an open or close price, and the ink is wrong; never with
+// PriceCheck::AllFour.
+bool CPaneInk::DrawOnePixelBars(const sBarSource& source, std::size_t i, PriceCheck check)
 {
-    COnePixelBars ink(source, m_map, m_rects, m_inkColumns);
-    if (examineAll)
-        ink.ExamineAll();
+    // Fewer points than this are read before a prefetch would bring those of the next column: one vector of
+    // eight.
+    constexpr std::size_t worthPrefetching = 8;
+    COnePixelBars ink(source, m_map, check, m_rects, m_inkColumns);
     if (m_detail == InkDetail::PointByPoint)
         ink.GoPointByPoint();
     for (std::size_t end = i; i < m_points.Count(); i = end) {
@@ -224,16 +243,80 @@ bool CPaneInk::DrawThinBars(const sBarSource& source, std::size_t i, bool examin
             continue;
         const int column = m_points.ColumnOf(i);
         end = m_points.End(i, column);
-        if (end - i > 8)
-            ink.Foresee(end, end - i);
+        if (end - i > worthPrefetching)
+            ink.PrefetchPoints(end, end - i);
         if (column < m_map.Plot.Left || column >= m_map.Plot.Right)
             continue;
         const std::size_t inkColumns = m_inkColumns.Columns().size();
         ink.Draw(i, end, column);
-        if (BeginsColumn(column)) // its rectangles come behind those of the column before
+        if (BeginsColumn(column)) // its rectangles are added after those of the column before
             m_columns.push_back({column, i, m_rects.size(), inkColumns});
     }
     return ink.Finish();
+}
+
+void CPaneInk::DrawLines(const CPaneGroup& group)
+{
+    const CPaneData& data = group.PaneData();
+    for (int series = data.FirstVisible(); series <= data.LastVisible(); ++series) {
+        const CSeriesStyle& style = StyleOf(group, series);
+        const CLineLook& look = style.LineLook();
+        const bool marked = style.SymbolLook().Shape() != SymbolNone;
+        if (look.Pattern() == LineNone && !marked)
+            continue;
+        sInkLine line{look.LineColor(), DevicePixels(look.Width(), m_scale), look.Pattern(), {}};
+        DrawLine(group, series, 0, line);
+        if (marked)
+            DrawMarks(group, series);
+        if (look.Pattern() == LineNone)
+            continue;
+        m_widest = std::max(m_widest, 2 * line.Width);
+        m_lines.push_back(std::move(line));
+        m_lineSeries.push_back(series);
+    }
+    m_ascending = m_ascending && m_rects.empty(); // marks follow one another series by series
+}
+
+// Draws again the lines whose own values changed since the revision, provided that nothing else changed.
+// False when everything has to be drawn.
+bool CPaneInk::DrawChangedLines(const CPaneGroup& group, std::uint64_t since)
+{
+    const CPaneData& data = group.PaneData();
+    if (m_map.Empty() || HasBars(group) || data.FrameChangedSince(since))
+        return false;
+    m_rects.clear();
+    m_ascending = m_points.InOrder();
+    sInkLine bare; // of a series with marks alone
+    std::size_t next = 0;
+    for (int series = data.FirstVisible(); series <= data.LastVisible(); ++series) {
+        const bool drawn = next < m_lineSeries.size() && m_lineSeries[next] == series;
+        const bool marked = StyleOf(group, series).SymbolLook().Shape() != SymbolNone;
+        if (marked || (drawn && data.SeriesChangedSince(series, since)))
+            DrawLine(group, series, 0, drawn ? m_lines[next] : bare);
+        if (marked)
+            DrawMarks(group, series);
+        next += drawn;
+    }
+    m_ascending = m_ascending && m_rects.empty();
+    return true;
+}
+
+void CPaneInk::DrawLine(const CPaneGroup& group, int series, std::size_t firstPoint, sInkLine& line)
+{
+    CLineInk(group.PaneData(), series, m_map, m_points, Grouping(), line).Draw(firstPoint, m_runs);
+}
+
+// REQUIRES: the series' line was drawn last.
+void CPaneInk::DrawMarks(const CPaneGroup& group, int series)
+{
+    const CSymbolLook& look = StyleOf(group, series).SymbolLook();
+    const int size = DevicePixels(look.Size(), m_scale);
+    m_widest = std::max(m_widest, size);
+    CMarkInk ink(m_map, size, look.SymbolColor(), group.PaneData(), series, m_rects);
+    if (IsCrowded())
+        ink.DrawRuns(m_runs);
+    else
+        ink.DrawPoints();
 }
 
 } // namespace zantroq

@@ -6,7 +6,8 @@ namespace zantroq {
 
 namespace {
 
-// The first of the numbers from `from` to `to` for which `beyond` holds; it holds for all that follow.
+// The first number from `from` to `to` for which `beyond` is true. REQUIRES: it is then true for all that
+// follow.
 template<class F> std::size_t FirstBeyond(std::size_t from, std::size_t to, F beyond)
 {
     while (from < to) {
@@ -32,7 +33,7 @@ std::size_t CPointColumns::End(std::size_t i, int column)
     const auto isEnd = [&](std::size_t at) {
         return ColumnOf(at - 1) == column && (at == m_count || ColumnOf(at) != column);
     };
-    // As many points as in the column before, or one more or less, is the rule.
+    // Nearly always as many points as in the column before, or one more or less.
     for (const std::size_t guess : {i + m_stride, i + m_stride + 1, i + m_stride - 1})
         if (guess > i && guess <= m_count && isEnd(guess)) {
             m_stride = guess - i;

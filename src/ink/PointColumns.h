@@ -1,5 +1,5 @@
-// Which points lie in which pixel column, for x values that ascend. x values that are known to count up by
-// one are not read at all. Lives for one drawing; the values must stay as they are meanwhile.
+// The pixel columns of points. x values that are known to count up by one are not read at all. Lives for one
+// drawing, during which the values must not change; chart window's thread.
 #pragma once
 
 #include "scene/PaneGeometry.h"
@@ -23,10 +23,9 @@ public:
     }
 
     std::size_t Count() const { return m_count; }
-    // Whether the point has a place at all.
+    // Whether the point has a column: its x is finite and no hole.
     bool IsPlaced(std::size_t i) const { return m_counts || (IsDrawn(m_x[i]) && !std::isinf(m_x[i])); }
-    // Whether the columns of the points ascend, each point having one. On an axis that runs backwards they do
-    // not.
+    // Whether every point has a column and the columns ascend. On an axis that runs backwards they do not.
     bool InOrder() const
     {
         return m_ascending && m_map.PixelsPerUnit() >= 0 &&
@@ -38,9 +37,10 @@ public:
         return m_map.Pixel(m_counts ? m_first + static_cast<double>(i) : m_x[i]);
     }
 
-    // The first point from `from` on that lies in the column or right of it.
+    // The first point from `from` on that lies in the column or right of it; Count() if none does. REQUIRES:
+    // InOrder().
     std::size_t First(std::size_t from, int column) const;
-    // The end of the column's points, i being one of them.
+    // One more than the last point of the column. REQUIRES: InOrder(), and point i lies in the column.
     std::size_t End(std::size_t i, int column);
 
 private:
@@ -49,7 +49,7 @@ private:
     bool m_ascending = true, m_counts = false;
     double m_first = 0;
     CAxisMap m_map;
-    std::size_t m_stride = 1; // points in the column looked at last
+    std::size_t m_stride = 1; // points in the column that End found last
 };
 
 } // namespace zantroq

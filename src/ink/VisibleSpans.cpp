@@ -10,48 +10,35 @@
 
 namespace zantroq {
 
-namespace {
-
-// The values that lie for sure within the pixel rows of one piece: the rows' edges taken a little inside.
-class CCovered
+// The values that lie for certain within the pixel rows of one piece.
+struct sCoveredValues
 {
-public:
-    explicit CCovered(const CAxisMap& map)
-        : m_map(map), m_unitsPerPixel(map.PixelsPerUnit() == 0 ? 0 : 1 / map.PixelsPerUnit())
-    {
-    }
-    void Set(int top, int bottom)
-    {
-        if (m_unitsPerPixel == 0) { // all values lie in one row
-            Least = -std::numeric_limits<double>::infinity();
-            Greatest = -Least;
-            return;
-        }
-        const double a = Value(top - 0.49), b = Value(bottom - 0.51);
-        Greatest = std::max(a, b);
-        Least = std::min(a, b);
-    }
-    double Least = 0, Greatest = 0;
+    double Least, Greatest;
 
-private:
-    double Value(double pixel) const { return m_map.Low() + (pixel - m_map.First()) * m_unitsPerPixel; }
-
-    const CAxisMap& m_map;
-    const double m_unitsPerPixel;
+    static sCoveredValues OfRows(const CAxisMap& map, int top, int bottom)
+    {
+        constexpr double infinity = std::numeric_limits<double>::infinity();
+        if (map.PixelsPerUnit() == 0) // all values lie in one row
+            return {-infinity, infinity};
+        // A row reaches half a pixel to each side of its middle. A hundredth of a pixel less on either side
+        // is far more than the arithmetic rounds: values that near to an edge are looked at by themselves.
+        constexpr double within = 0.49;
+        const double a = map.Value(top - within), b = map.Value(bottom - 1 + within);
+        return {std::min(a, b), std::max(a, b)};
+    }
 };
 
-} // namespace
-
-CVisibleSpans::CVisibleSpans(const sBarSource& source, const sPlotMap& map, std::vector<sSeenPart>& found)
+CVisibleSpans::CVisibleSpans(const sBarSource& source, const sPlotMap& map, PriceCheck check,
+                             std::vector<sSeenPart>& found)
     : m_source(source),
       m_map(map),
       m_found(found),
+      m_check(check),
       m_bars(IsBarType(source.Type)),
-      m_plainRows(map.Y.PixelsPerUnit() < 0)
+      m_upwards(map.Y.PixelsPerUnit() < 0)
 {
 }
 
-// Finds what is seen of the points, the last one on top.
 void CVisibleSpans::Find(std::size_t first, std::size_t last)
 {
     m_pieces.clear();
@@ -65,8 +52,8 @@ void CVisibleSpans::Find(std::size_t first, std::size_t last)
             TakeAny(--i);
 }
 
-// Bars have one color, and all of them touch the origin: their ends tell what is seen. False, with nothing
-// taken, when some are not there.
+// Bars have one color, and all of them touch the origin: their ends tell what is visible. False, with nothing
+// taken, when a bar lacks its value.
 bool CVisibleSpans::FindBars(std::size_t first, std::size_t last)
 {
     sMinMax ends;
@@ -78,58 +65,70 @@ bool CVisibleSpans::FindBars(std::size_t first, std::size_t last)
     return true;
 }
 
-// While what is covered has no gap, only points that reach beyond it matter. Returns where a point was met
-// that leaves a gap, which has been taken, or first.
+// While the covered rows have no gap, only points that reach beyond them matter. Returns the place of a point
+// that left a gap, which has been taken, or first.
 std::size_t CVisibleSpans::FindBeyondOnePiece(std::size_t first, std::size_t i)
 {
+    // Where one point reaches beyond, its neighbors often do: so many are looked at one by one before points
+    // are skipped again, as many as SkipWithin compares at a time.
+    constexpr std::size_t neighbors = 8;
     const double* const high = m_source.High.data();
     const double* const low = m_bars ? high : m_source.Low.data();
-    sPiece& piece = m_pieces[0];
-    CCovered covered(m_map.Y);
-    covered.Set(piece.Top, piece.Bottom);
+    const sPiece& piece = m_pieces[0];
+    sCoveredValues covered = sCoveredValues::OfRows(m_map.Y, piece.Top, piece.Bottom);
     while (i > first) {
         i = SkipWithin(high, low, first, i, covered.Least, covered.Greatest);
-        const std::size_t stop = i - std::min<std::size_t>(i - first, 8);
-        // Where one point reaches beyond, its neighbours often do.
+        const std::size_t stop = i - std::min(i - first, neighbors);
         while (i > stop) {
-            --i;
-            const double a = high[i], b = m_bars ? m_source.Origin : low[i];
-            const double greatest = std::max(a, b), least = std::min(a, b);
-            if (greatest <= covered.Greatest && least >= covered.Least)
+            if (!TakeBeyond(--i, covered))
                 continue;
-            if (!IsDrawn(a) || !IsDrawn(b))
-                continue;
-            if (!m_plainRows || m_examineAll || least > covered.Greatest || greatest < covered.Least) {
-                TakeAny(i);
-                if (m_pieces.size() != 1)
-                    return i;
-                covered.Set(piece.Top, piece.Bottom);
-                continue;
-            }
-            // It touches what is covered: it can only lengthen it, at either end.
-            if (greatest > covered.Greatest) {
-                const int top = std::max(m_map.Y.Pixel(greatest), m_map.Plot.Top);
-                if (top < piece.Top)
-                    Add(top, std::exchange(piece.Top, top), i);
-            }
-            if (least < covered.Least) {
-                const int bottom = std::min(m_map.Y.Pixel(least) + 1, m_map.Plot.Bottom);
-                if (bottom > piece.Bottom)
-                    Add(std::exchange(piece.Bottom, bottom), bottom, i);
-            }
-            covered.Set(piece.Top, piece.Bottom);
+            if (m_pieces.size() != 1)
+                return i;
             if (piece.Top == m_map.Plot.Top && piece.Bottom == m_map.Plot.Bottom)
                 return first;
+            covered = sCoveredValues::OfRows(m_map.Y, piece.Top, piece.Bottom);
         }
     }
     return i;
+}
+
+// Takes the point if it reaches beyond the only piece. False when it does not, or has no value.
+inline bool CVisibleSpans::TakeBeyond(std::size_t i, const sCoveredValues& covered)
+{
+    const double a = m_source.High[i], b = m_bars ? m_source.Origin : m_source.Low[i];
+    const double greatest = std::max(a, b), least = std::min(a, b);
+    if ((greatest <= covered.Greatest && least >= covered.Least) || !IsDrawn(a) || !IsDrawn(b))
+        return false;
+    const bool touches = least <= covered.Greatest && greatest >= covered.Least;
+    if (touches && m_upwards && m_check == PriceCheck::HighAndLow)
+        Lengthen(i, least, greatest, covered);
+    else
+        TakeAny(i);
+    return true;
+}
+
+// A point that touches the only piece can only lengthen it, at either end.
+inline void CVisibleSpans::Lengthen(std::size_t i, double least, double greatest,
+                                    const sCoveredValues& covered)
+{
+    sPiece& piece = m_pieces[0];
+    if (greatest > covered.Greatest) {
+        const int top = std::max(m_map.Y.Pixel(greatest), m_map.Plot.Top);
+        if (top < piece.Top)
+            Add(top, std::exchange(piece.Top, top), i);
+    }
+    if (least < covered.Least) {
+        const int bottom = std::min(m_map.Y.Pixel(least) + 1, m_map.Plot.Bottom);
+        if (bottom > piece.Bottom)
+            Add(std::exchange(piece.Bottom, bottom), bottom, i);
+    }
 }
 
 // One point, whatever the pieces are.
 void CVisibleSpans::TakeAny(std::size_t i)
 {
     const double a = m_source.High[i], b = m_bars ? m_source.Origin : m_source.Low[i];
-    if (!IsDrawn(a) || !IsDrawn(b) || (m_examineAll && !m_bars && !m_source.IsComplete(i)))
+    if (!IsDrawn(a) || !IsDrawn(b) || (m_check == PriceCheck::AllFour && !m_bars && !m_source.IsComplete(i)))
         return;
     sRowSpan rows(m_map.Y, a, b);
     if (rows.CutTo(m_map.Plot))
@@ -145,7 +144,7 @@ inline void CVisibleSpans::Add(int top, int bottom, std::size_t i)
     }
 }
 
-// Finds what [top, bottom) shows beside the pieces that are there, and joins it to them.
+// Adds the rows of [top, bottom) that no piece covers, and joins them to the pieces.
 void CVisibleSpans::Cover(int top, int bottom, std::size_t i)
 {
     int from = top;

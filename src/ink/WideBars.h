@@ -1,5 +1,5 @@
-// Candles, H/L/O/C bars and bars as rectangles, each point by itself. Lives for one drawing, on the chart
-// window's thread.
+// Draws candles, H/L/O/C bars and bars as rectangles, each point by itself. Lives for one drawing, on the
+// chart window's thread.
 #pragma once
 
 #include "ink/BarSource.h"

@@ -24,7 +24,7 @@ bool LiesInside(const sInkRect& inner, const sInkRect& outer)
            inner.Bottom <= outer.Bottom;
 }
 
-// Dashes go by the pixel's place, so that they stand still while points come and go.
+// Dashes depend on the position of the pixel, so they do not move while points are added and dropped.
 bool InDash(const sInkLine& line, int place)
 {
     const std::optional<sDashPattern> dashes = CurveDashes(line.Pattern);
@@ -78,7 +78,7 @@ void CRasterCanvas::Fill(const sPixelRect& rect, PixelColor color)
     else
         for (int y = cut.Top; y < cut.Bottom; ++y, line += m_stride) {
             if (cut.Width() <= 64)
-                PrefetchPixel(line + cut.Width()); // what lies beside a narrow piece is wiped next
+                PrefetchPixel(line + cut.Width()); // the piece beside a narrow one is wiped next
             std::fill_n(line, cut.Width(), color);
         }
     Record(cut);
@@ -100,7 +100,7 @@ void CRasterCanvas::Rects(std::span<const sInkRect> rects)
     }
 }
 
-// A rectangle and one inside of it, each pixel once.
+// A rectangle and one inside it, each pixel once.
 void CRasterCanvas::Framed(const sInkRect& frame, const sInkRect& inside)
 {
     const sPixelRect outer = CommonPart({frame.Left, frame.Top, frame.Right, frame.Bottom}, m_clip);
@@ -121,7 +121,7 @@ void CRasterCanvas::Framed(const sInkRect& frame, const sInkRect& inside)
     Record(outer);
 }
 
-// The rectangles from `i` on that stand in one column of a pixel's width. Returns the first behind them.
+// The rectangles from `i` on that lie in one column, one pixel wide. Returns the first after them.
 std::size_t CRasterCanvas::ThinRects(std::span<const sInkRect> rects, std::size_t i)
 {
     const int column = rects[i].Left;
@@ -143,7 +143,7 @@ std::size_t CRasterCanvas::ThinRects(std::span<const sInkRect> rects, std::size_
     return i;
 }
 
-// Columns side by side are marked together: wiping then takes whole cache lines.
+// Adjacent columns are recorded together: wiping then writes whole cache lines, which hold 16 pixels.
 void CRasterCanvas::Columns(const CInkColumns& ink, std::span<const sInkColumn> columns)
 {
     constexpr int together = 16;
@@ -221,7 +221,7 @@ void CRasterCanvas::Vertical(int column, int top, int bottom, int width)
     NoteSolid(std::max(left, m_plot.Left), std::min(left + width, m_plot.Right), {first, last + 1});
 }
 
-// Rows that are solid in all of the columns, first to last, as far as they are in the plot.
+// The rows that are solid in all columns from first to last that lie in the plot.
 CRasterCanvas::sExtent CRasterCanvas::SolidRows(int first, int last) const
 {
     sExtent rows{m_plot.Top, m_plot.Bottom};
@@ -234,7 +234,7 @@ CRasterCanvas::sExtent CRasterCanvas::SolidRows(int first, int last) const
     return rows;
 }
 
-// The longest stretch of a column is enough to know.
+// Only the longest solid part of a column is kept.
 inline void CRasterCanvas::NoteSolid(int left, int right, const sExtent& rows)
 {
     for (int x = left; x < right; ++x) {
@@ -244,7 +244,7 @@ inline void CRasterCanvas::NoteSolid(int left, int right, const sExtent& rows)
     }
 }
 
-// Full coverage needs no mask: nothing of the line's own color changes it, before or after.
+// Full coverage needs no mask: other parts of the line have the same color and do not change it.
 void CRasterCanvas::Solid(const sPixelRect& rect)
 {
     if (rect.Left >= rect.Right || rect.Top >= rect.Bottom)
@@ -336,7 +336,7 @@ void CRasterCanvas::Line(const sInkLine& line, const sPixelRect& plot)
     const std::vector<sInkVertex>& vertices = line.Vertices;
     const int reach = line.Width + 1;
     const auto goesOn = [&](std::size_t i) { return i + 1 < vertices.size() && vertices[i + 1].Joined; };
-    // First what is solid: the slanting parts between need not be worked out where it covers them.
+    // Solid parts first: the slanting parts between them need not be computed where these cover them.
     for (std::size_t i = 0; i < vertices.size(); ++i) {
         const sInkVertex& vertex = vertices[i];
         const bool inSight = vertex.Column >= m_plot.Left - reach && vertex.Column < m_plot.Right + reach;

@@ -1,6 +1,6 @@
-// Writes a pane's pixels into 32-bit memory. It records where it painted, so that the next painting wipes only
-// those places. Everything is clipped to a rectangle inside the picture; a plot may reach past the picture.
-// Chart window's thread.
+// Writes a pane's pixels into 32-bit memory. It records where it painted, so that the next painting wipes
+// only those places. Everything is clipped to a rectangle inside the picture; a plot may reach past the
+// picture. Chart window's thread.
 #pragma once
 
 #include "paint/DirtyRects.h"
