@@ -1,6 +1,6 @@
 #include "paint/PaneDecorations.h"
 #include "paint/PanePixels.h"
-#include "qt/PaneScenes.h"
+#include "support/PaneScenes.h"
 
 #include <gtest/gtest.h>
 
@@ -167,7 +167,7 @@ TEST(PaneLabels, HiddenOrWithoutTextOrNowhereAreNotPlaced)
     const Pane pane = test::EmptyPane(280, 180);
     AddLabel(*pane, "hidden", AttachToPixel, AnchorBelowRight).SetShown(false);
     AddLabel(*pane, "", AttachToPixel, AnchorBelowRight);
-    AddLabel(*pane, "at a hole", AttachToData, AnchorBelowRight).SetDataAnchor(3, CPaneData::HoleValue());
+    AddLabel(*pane, "at a hole", AttachToData, AnchorBelowRight).SetDataAnchor(3, HoleValue);
     AddLabel(*pane, "at no number", AttachToData, AnchorBelowRight).SetDataAnchor(std::nan(""), 3);
     EXPECT_TRUE(sPlaced(*pane).Placed.Labels.empty());
 }

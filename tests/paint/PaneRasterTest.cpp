@@ -1,7 +1,7 @@
 #include "paint/PaneRaster.h"
 
 #include "paint/PanePixels.h"
-#include "qt/PaneScenes.h"
+#include "support/PaneScenes.h"
 
 #include <gtest/gtest.h>
 

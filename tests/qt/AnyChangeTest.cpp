@@ -1,7 +1,7 @@
 // A pane through long rows of changes of every kind, as studies, trendlines, scrolling, zooming and pane
 // files make them: the picture that is kept and patched is the one painted from nothing, point by point.
-#include "qt/PaneScenes.h"
 #include "qt/paint/PanePainter.h"
+#include "support/PaneScenes.h"
 
 #include <gtest/gtest.h>
 
@@ -177,7 +177,7 @@ private:
 
     double Value()
     {
-        static const double strange[] = {CPaneData::HoleValue(),
+        static const double strange[] = {HoleValue,
                                          std::nan(""),
                                          std::numeric_limits<double>::infinity(),
                                          -std::numeric_limits<double>::infinity(),

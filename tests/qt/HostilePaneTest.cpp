@@ -1,7 +1,7 @@
 // Panes as a pane file may ask for them: plots that reach past their picture, boxes larger than any picture,
 // axes that run backwards. The picture that is kept and patched is the one painted from nothing.
-#include "qt/PaneScenes.h"
 #include "qt/paint/PanePainter.h"
+#include "support/PaneScenes.h"
 
 #include <gtest/gtest.h>
 

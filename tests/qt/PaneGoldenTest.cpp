@@ -1,7 +1,7 @@
 // Pictures of small panes, one for each drawing rule, compared with those in tests/golden.
 #include "qt/GoldenPicture.h"
-#include "qt/PaneScenes.h"
 #include "qt/paint/PanePainter.h"
+#include "support/PaneScenes.h"
 
 #include <gtest/gtest.h>
 

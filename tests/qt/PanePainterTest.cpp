@@ -1,6 +1,6 @@
 #include "qt/paint/PanePainter.h"
-#include "qt/PaneScenes.h"
 #include "qt/output/PaneExport.h"
+#include "support/PaneScenes.h"
 
 #include <QDir>
 #include <QFile>
@@ -19,7 +19,7 @@ namespace {
 
 using test::Pane;
 
-const double Hole = CPaneData::HoleValue();
+const double Hole = HoleValue;
 const QString Family = "DejaVu Sans";
 
 // Two pictures pixel by pixel; the first that differs is named.

@@ -1,14 +1,14 @@
 // What of a pane is painted, how wide and in which order.
-#include "qt/PaneScenes.h"
 #include "qt/paint/PanePainter.h"
 #include "scene/PaneFile.h"
+#include "support/PaneScenes.h"
 
 #include <gtest/gtest.h>
 
 namespace zantroq {
 namespace {
 
-const double Hole = CPaneData::HoleValue();
+const double Hole = HoleValue;
 const QString Family = "DejaVu Sans";
 
 // A curve over candles whose first points, unless they are holes, are far from the others.

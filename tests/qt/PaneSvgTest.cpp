@@ -1,8 +1,8 @@
 // SVG files of a pane: the writer of such files clips nothing, so whatever lies in one has been cut before.
-#include "qt/PaneScenes.h"
 #include "qt/output/PaneExport.h"
 #include "qt/paint/CutShapes.h"
 #include "qt/paint/PanePainter.h"
+#include "support/PaneScenes.h"
 
 #include <QFile>
 #include <QPainter>

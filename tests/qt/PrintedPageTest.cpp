@@ -2,8 +2,8 @@
 // is compared with the pictures in tests/golden.
 #include "printing/PrintedChart.h"
 #include "qt/GoldenPicture.h"
-#include "qt/PaneScenes.h"
 #include "qt/output/ChartPrinter.h"
+#include "support/PaneScenes.h"
 #include "window/ChartWindowFixture.h"
 
 #include <QAbstractButton>

@@ -2,8 +2,8 @@
 // text except the labels of retracements, so hardly a pixel may differ: a line is a fraction of a percent of
 // its picture.
 #include "qt/GoldenPicture.h"
-#include "qt/PaneScenes.h"
 #include "qt/paint/PanePainter.h"
+#include "support/PaneScenes.h"
 #include "trends/TrendInteraction.h"
 #include "trends/TrendWindow.h"
 

@@ -1,4 +1,4 @@
-#include "qt/PaneScenes.h"
+#include "support/PaneScenes.h"
 
 #include <algorithm>
 #include <array>
@@ -10,7 +10,7 @@ namespace zantroq::test {
 
 namespace {
 
-const double Hole = CPaneData::HoleValue();
+const double Hole = HoleValue;
 constexpr ColorValue Green = 0x3c8c1e, Red = 0x2828d2, Grey = 0xc0c0c0, Blue = 0xc86414;
 
 std::string Number(double value)
