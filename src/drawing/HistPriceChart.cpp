@@ -163,7 +163,7 @@ void CHistPriceChart::LoadBars(sDrawnPoints& points)
         (m_prices.*read)(points.First, points.Count, values.data());
         for (std::size_t i = 0; i < points.Deleted.size(); ++i)
             if (points.Deleted[i])
-                values[i] = CPaneData::HoleValue();
+                values[i] = HoleValue;
         bars.SetFirstPoint(series, 1);
         bars.SetDrawnTo(series, 0);
         bars.AdvanceDrawn(series, points.Count);

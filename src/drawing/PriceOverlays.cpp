@@ -156,8 +156,7 @@ void CPriceOverlays::Clear(int series)
     curves.SetDrawnTo(series, 0);
     if (!hasValues)
         return;
-    const std::vector<double> holes(static_cast<std::size_t>(curves.PointCount(series)),
-                                    CPaneData::HoleValue());
+    const std::vector<double> holes(static_cast<std::size_t>(curves.PointCount(series)), HoleValue);
     curves.SetYVector(series, holes);
     hasValues = false;
 }

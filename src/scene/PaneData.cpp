@@ -108,7 +108,7 @@ void CPaneData::SetSeriesCount(int count)
         m_counted.Forget();
         m_ascending = 1;
     }
-    m_y.resize(n, CSlidingArray(m_x.size(), zantroq::HoleValue));
+    m_y.resize(n, CSlidingArray(m_x.size(), HoleValue));
     m_blocks.resize(n);
     m_yRevision.resize(n, 0);
     m_steps.resize(n);
@@ -141,7 +141,7 @@ void CPaneData::SetPointCount(int series, int count)
         std::iota(m_x.begin() + static_cast<std::ptrdiff_t>(had), m_x.end(), static_cast<double>(had + 1));
     for (int i = 1; i <= SeriesCount(); ++i) {
         ForgetBlocks(i, std::min(n, had));
-        m_y[static_cast<std::size_t>(i - 1)].resize(n, zantroq::HoleValue);
+        m_y[static_cast<std::size_t>(i - 1)].resize(n, HoleValue);
     }
     if (n > had)
         std::fill(m_steps.begin(), m_steps.end(), std::nullopt);
@@ -235,7 +235,7 @@ void CPaneData::SetPointX(int series, int point, double x)
 double CPaneData::PointY(int series, int point) const
 {
     return Has(series, point) ? m_y[static_cast<std::size_t>(series - 1)][static_cast<std::size_t>(point - 1)]
-                              : zantroq::HoleValue;
+                              : HoleValue;
 }
 
 void CPaneData::SetPointY(int series, int point, double y)
@@ -340,7 +340,7 @@ void CPaneData::SetStepY(int series, int firstPoint, double y)
     if (sameValue && heldHoles == holes)
         return;
     if (heldHoles < holes)
-        std::fill(values.begin() + heldHoles, values.begin() + holes, zantroq::HoleValue);
+        std::fill(values.begin() + heldHoles, values.begin() + holes, HoleValue);
     std::fill(values.begin() + holes, sameValue ? values.begin() + std::max(holes, heldHoles) : values.end(),
               y);
     Step(series) = sStep{holes, y};

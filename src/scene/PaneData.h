@@ -38,7 +38,6 @@ class CPaneData : public CPaneNode
 {
 public:
     explicit CPaneData(CChart2D* chart) : CPaneNode(chart) {}
-    static constexpr double HoleValue() { return zantroq::HoleValue; }
 
     void SetLayout(int layout) { m_layout = layout; }
     int Layout() const { return m_layout; }

@@ -9,7 +9,7 @@
 namespace zantroq {
 namespace {
 
-constexpr double Hole = CPaneData::HoleValue();
+constexpr double Hole = HoleValue;
 
 std::vector<double> Values(std::span<const double> values)
 {
