@@ -107,9 +107,9 @@ std::size_t CLineInk::CutFrom(std::size_t firstPoint)
     return i;
 }
 
-// Draws the points of the column from i on if each of them is a number, else point i alone. Returns the next
-// point to draw. Only the least and the greatest value matter, not the order of the points between the first
-// and the last.
+// Draws the points of the column from i on together if each of them is a number, else one by one up to the first
+// that is none. Returns the next point to draw. Only the least and the greatest value matter, not the order of the
+// points between the first and the last.
 std::size_t CLineInk::DrawColumn(std::size_t i, std::vector<sLineRun>& runs)
 {
     const int column = m_points.ColumnOf(i);
@@ -120,13 +120,20 @@ std::size_t CLineInk::DrawColumn(std::size_t i, std::vector<sLineRun>& runs)
     const bool plain = end - i > 2 && FindMinMax(m_blocked, i, end, found);
     if (runs.empty() || runs.back().End <= i) // else the rest of a column with gaps
         runs.push_back({i, end, found.Least, found.Greatest, plain});
-    if (!plain) {
-        DrawPoint(i);
-        return i + 1;
-    }
+    if (!plain)
+        return DrawPoints(i, end);
     const int a = HeightOf(found.Least), b = HeightOf(found.Greatest);
     Add({column, HeightOf(m_y[i]), HeightOf(m_y[end - 1]), std::min(a, b), std::max(a, b), m_joined, true});
     return end;
+}
+
+// Draws point i and those after it up to `end`, a hole, or past an infinity: what follows may be numbers alone.
+std::size_t CLineInk::DrawPoints(std::size_t i, std::size_t end)
+{
+    do
+        DrawPoint(i++);
+    while (i < end && IsDrawn(m_y[i]) && !std::isinf(m_y[i - 1]));
+    return i;
 }
 
 void CLineInk::DrawPoint(std::size_t i)

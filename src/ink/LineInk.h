@@ -49,6 +49,7 @@ private:
     bool IsLevel() const;
     std::size_t CutFrom(std::size_t firstPoint);
     std::size_t DrawColumn(std::size_t i, std::vector<sLineRun>& runs);
+    std::size_t DrawPoints(std::size_t i, std::size_t end);
     void DrawPoint(std::size_t i);
     void Add(const sInkVertex& stay);
     int HeightOf(double value) const;
