@@ -151,12 +151,12 @@ sValueRange CHistStudyChart::ComputeLines(const std::vector<sStudyLine>& lines, 
 
 sUpdatePlan CHistStudyChart::MakeRoom(int newPoints)
 {
-    sPaneBefore pane;
-    pane.Points = chart->PaneGroups(1).PaneData().PointCount(1);
-    pane.XLow = WholePart(chart->PaneArea().PaneAxes().X().ViewLow().Value());
-    pane.WindowPoints = PointsAtPlace(dlg->Range().ptsIndex);
-    pane.LastIndex = dlg->Range().last;
-    const sUpdatePlan plan = PlanUpdate(pane, newPoints);
+    sPaneBefore before;
+    before.Points = chart->PaneGroups(1).PaneData().PointCount(1);
+    before.XLow = WholePart(chart->PaneArea().PaneAxes().X().ViewLow().Value());
+    before.WindowPoints = PointsAtPlace(dlg->Range().ptsIndex);
+    before.LastIndex = dlg->Range().last;
+    const sUpdatePlan plan = PlanUpdate(before, newPoints);
     MovePoints(plan);
     MoveMarker(plan);
     MoveXAxis(plan);
