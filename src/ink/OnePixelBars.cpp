@@ -54,6 +54,7 @@ void COnePixelBars::Draw(std::size_t first, std::size_t last, int column)
 // while the slow path costs little where few are; a column shows about as many points as the one before it.
 bool COnePixelBars::FindStrokes(std::size_t first, std::size_t last)
 {
+    // docs/painting.md has the gain of the fast path; other limits than 24 are not on record.
     constexpr std::size_t pointsForOneVisible = 24;
     return !m_bars && m_check == PriceCheck::HighAndLow && last - first <= pointsForOneVisible * m_visible &&
            m_strokes.Find(m_source.High, m_source.Low, first, last);
