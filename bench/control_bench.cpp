@@ -1,9 +1,9 @@
-// The cost of many controls. The feed runs in a process of its own, so that its market does not count.
+// The cost of many controls. The feed runs in a separate process, so that its market does not count.
 //
 //   life [SPEED]  creates and destroys a control 1,000 times beside one that follows live trades, at SPEED (10)
-//                 market seconds per second. After each hundred the remaining control asks for its chart anew,
-//                 so that it has as many points as at the start; then the resident memory of the process and
-//                 the part of its heap in use are printed
+//                 market seconds per second. After each hundred the remaining control requests its chart
+//                 again, so that it has as many points as at the start; then the program prints the resident
+//                 memory of the process and the part of its heap in use
 //   paint         one frame of one control and of ten, all with live data: median of 30, in processor time
 #include "control/ChartBody.h"
 #include "feed/server/FeedServer.h"
@@ -49,7 +49,7 @@ double HeapMegabytes()
     return static_cast<double>(mallinfo2().uordblks) / 1e6;
 }
 
-// Serves the simulated markets from a process of its own until this one ends.
+// Serves the simulated markets from a separate process until this process ends.
 class CFeedProcess
 {
 public:
