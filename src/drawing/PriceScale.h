@@ -27,7 +27,7 @@ std::optional<sPriceScale> MakePriceScale(double high, double low, int formatCod
 // The values of the labels from bottom to top. The list ends if a step is too small to change the value.
 std::vector<double> PriceScaleLabels(const sPriceScale& scale);
 
-// Where RoundStep looks for its power of ten.
+// The powers of ten among which RoundStep searches.
 enum class StepPowers
 {
     FromOneUp, // 1 and above

@@ -14,15 +14,15 @@ enum class SavedFileKind
     Png,
     Svg,
     Pdf,
-    State, // of the window, as JSON
-    Values // on show, as CSV
+    State, // the window's state, as JSON
+    Values // the displayed values, as CSV
 };
 
 struct sSavedFileRow
 {
     SavedFileKind Kind;
     std::string_view Ending; // without the dot
-    const char* Description; // in file dialogs
+    const char* Description; // shown in file dialogs
 };
 
 inline constexpr std::array<sSavedFileRow, 5> SavedFiles{
@@ -32,13 +32,13 @@ inline constexpr std::array<sSavedFileRow, 5> SavedFiles{
      {SavedFileKind::State, "json", "State of the chart"},
      {SavedFileKind::Values, "csv", "Shown values"}}};
 
-// The kinds that a snapshot of a replay script can have: all but the values.
+// The kinds that a replay script's snapshot can have: all except the values.
 inline constexpr std::span<const sSavedFileRow> SnapshotFiles = std::span(SavedFiles).first(4);
 
-// The kind of a file whose name has this ending, in lower case and without the dot.
+// The kind of a file by the ending of its name, in lower case and without the dot; empty for other endings.
 std::optional<SavedFileKind> SavedFileKindOf(std::string_view ending);
 
-// ".png, .svg or .pdf"
+// A list for messages, such as ".png, .svg or .pdf".
 std::string EndingList(std::span<const sSavedFileRow> files);
 
 } // namespace zantroq

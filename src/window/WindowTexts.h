@@ -24,7 +24,7 @@ std::string TickDeletionText(const sHIST_DATA& point, const std::string& minuteT
 std::string IntervalDeletionText(int dataType, const std::string& prices, const std::string& time,
                                  const std::string& date);
 
-// Whether text is selected where more is typed.
+// Whether the symbol box has selected text when a character is typed.
 enum class TypedOver
 {
     Nothing,

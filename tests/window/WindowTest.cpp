@@ -413,7 +413,7 @@ TEST(SettingsOk, WithAnEmptyBoxRedrawsWithoutARequest)
     EXPECT_EQ(Text(*chart->Key, "PTS INDEX"), "0");
 }
 
-// The colors of a chart that stayed on show came with the next chart only.
+// Regression: a chart that stayed displayed got its new colors only with the next chart.
 TEST(SettingsOk, WithAnEmptyBoxTheChartOnShowTakesNewColors)
 {
     auto chart = ChartOf(DailyData);
@@ -440,11 +440,11 @@ TEST(SettingsOk, WithAnEmptyBoxTheChartOnShowTakesNewColors)
     EXPECT_TRUE(chart->Feed.Calls.empty());
 }
 
-// The state named the position from before the change, where the bar no longer stood.
+// Regression: the state had the scroll position from before the change.
 TEST(SettingsOk, WithAnEmptyBoxTheScrollPositionIsThatOfTheBar)
 {
     auto chart = ChartOf(DailyData);
-    chart->Chart("X", 200); // 120 shown: the bar stands at 81
+    chart->Chart("X", 200); // 120 displayed: the bar is at 81
     ASSERT_EQ(chart->Window->Range().scrollPos, 81);
     chart->Type("");
     std::string error;
