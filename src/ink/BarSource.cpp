@@ -16,7 +16,7 @@ int BodyWidth(int room)
     if (room <= 3)
         return std::max(1, room);
     const int body = room - std::max(1, room / 5);
-    return body % 2 == 0 ? body - 1 : body; // odd, so that the wick stands in the middle
+    return body % 2 == 0 ? body - 1 : body; // odd, so that the wick is in the middle
 }
 
 } // namespace

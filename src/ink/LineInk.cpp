@@ -37,7 +37,7 @@ CLineInk::CLineInk(const CPaneData& data, int series, const sPlotMap& map, CPoin
 // The three functions of every point come first and inline: with calls a line of 1,920 points took 28 us instead
 // of 16 (bench/RESULTS.md, Ink).
 
-// In 1/256 device pixels. Infinities stand at the plot's edges.
+// In 1/256 device pixels. Infinities are at the plot's edges.
 inline int CLineInk::HeightOf(double value) const
 {
     const double place = !std::isinf(value) ? m_map.Y.Position(value)

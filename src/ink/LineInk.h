@@ -24,7 +24,7 @@ enum class LineGrouping
     Blocks,  // likewise, from the least and greatest of the blocks in the column
 };
 
-// Points of a line that were looked at together: those of one column, or all points of a level line.
+// Points of a line that are examined together: the points of one column, or all points of a level line.
 struct sLineRun
 {
     std::size_t First, End; // indices from 0, End exclusive

@@ -94,7 +94,7 @@ void COnePixelBars::AddSpan(std::size_t first)
 
 namespace {
 
-// The shades of one column while it grows from its last point outwards; rows are those of the plot.
+// The shades of one column while it grows from its last point outwards; rows are rows of the plot.
 struct sShadedRows
 {
     // Each point writes so many shades beyond either end, more than it has rows as a rule: those of the

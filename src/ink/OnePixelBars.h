@@ -1,6 +1,6 @@
 // Candles, H/L/O/C bars and bars where a point is one vertical line one pixel wide. Of the points of a pixel
-// column only what no later point covers is kept; the picture is that of all of them painted one after the
-// other. Lives for one drawing, on the chart window's thread.
+// column only what no later point covers is kept; the picture is the same as if all were painted one after
+// the other. Lives for one drawing, on the chart window's thread.
 #pragma once
 
 #include "ink/BarSource.h"

@@ -50,7 +50,7 @@ void CPaneLayers::PaintGrid(IPaneCanvas& canvas, const sPixelRect& within) const
 void CPaneLayers::PaintData(IPaneCanvas& canvas, const sPixelRect& within, const sPixelRect& plot) const
 {
     const int left = std::max(within.Left, plot.Left), right = std::min(within.Right, plot.Right);
-    // A histogram stands behind the curves, whichever group it is in.
+    // A histogram is painted below the curves, whichever group it is in.
     const bool histogramFirst = m_ink[1].IsHistogram() && !m_ink[0].HasBars();
     for (const std::size_t i :
          histogramFirst ? std::array<std::size_t, 2>{1, 0} : std::array<std::size_t, 2>{0, 1}) {

@@ -39,7 +39,7 @@ sPixelRect CPaneRaster::Paint(const sRaster& picture, double scale)
     return whole;
 }
 
-// Updates ink and decorations and tells what of the picture they change.
+// Updates ink and decorations and returns which parts of the picture they change.
 PaneChange CPaneRaster::FindChange(const sPlotMap& map, double scale, const sPixelRect& whole)
 {
     const CPaneInk::sDamage ink = m_layers.UpdateInk(m_chart, map, scale);

@@ -29,7 +29,7 @@ struct sPlacement
     PixelColor Foreground() const { return PixelOf(Chart.PaneInterior().Foreground()); }
 };
 
-// The side of the plot on which an axis stands.
+// The side of the plot on which an axis is.
 enum class PlotSide
 {
     Left,

@@ -50,7 +50,7 @@ double CRulePlacer::ValueOrigin() const
     return m_axes.Y().ViewLow().Value();
 }
 
-// The labels stand at multiples of the spacing, counted from the point before the first one shown.
+// The labels are at multiples of the spacing, counted from the point before the first displayed point.
 double CRulePlacer::PointOrigin() const
 {
     return std::floor(m_axes.X().ViewLow().Value()) - 1;

@@ -28,7 +28,7 @@ public:
     virtual void PaneChanged() = 0;
 };
 
-// A page that DrawToDevice paints on. Pixels are those of the device.
+// A page that DrawToDevice paints on. Pixels are pixels of the device.
 class IPrintDevice
 {
 public:
@@ -72,7 +72,7 @@ public:
     bool DrawToDevice(IPrintDevice& device, int three, int four, int left, int top, int width,
                       int height) const;
 
-    // The pane's size in pixels is that of the AreaBox; the plot is the rectangle inside the margins.
+    // The pane's size in pixels is the size of the AreaBox; the plot is the rectangle inside the margins.
     // A pane smaller than its margins has an empty plot: Right is then Left, or Bottom Top.
     int PixelWidth() const { return m_area.AreaBox().Width().Value(); }
     int PixelHeight() const { return m_area.AreaBox().Height().Value(); }
@@ -82,7 +82,7 @@ public:
     // their changes themselves.
     void Touch();
     void TouchData();
-    // Increases with every change except those of the groups' points.
+    // Increases with every change except changes of the groups' points.
     std::uint64_t Revision() const { return m_revision; }
 
 private:

@@ -15,8 +15,8 @@
 
 namespace zantroq {
 
-// Every getter throws std::runtime_error, with one sentence that names the field, when the value is not of
-// the kind asked for.
+// Every getter throws std::runtime_error, with one sentence that names the field, if the value is not of the
+// requested kind.
 class CPaneField
 {
 public:

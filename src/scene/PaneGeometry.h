@@ -19,8 +19,8 @@ inline int NearestPixel(double place)
     return static_cast<int>(place + (NearestPixelLift + 0.5)) - static_cast<int>(NearestPixelLift);
 }
 
-// Maps low to firstPixel and high to lastPixel, both whole pixels and both inside the plot. A range without
-// extent, or one that is not finite, has no slope: every value maps to the middle and every pixel to low.
+// Maps low to firstPixel and high to lastPixel, both whole pixels and both inside the plot. A range that is
+// empty or not finite has no slope: every value maps to the middle and every pixel to low.
 class CAxisMap
 {
 public:

@@ -253,7 +253,7 @@ private:
         return m_at != begin;
     }
 
-    // A number in JSON's grammar, which is stricter than that of fast_float.
+    // A number in JSON's grammar, which is stricter than fast_float's.
     bool Number(double& number)
     {
         const char* const begin = m_at;

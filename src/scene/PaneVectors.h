@@ -22,7 +22,7 @@ public:
     {
         // Empty if the list was left in the text: it was missing, or needs the JSON parser.
         std::optional<std::vector<double>> X, Y;
-        bool XOfFirst = false; // the text of X is that of the group's first series
+        bool XOfFirst = false; // X has the same text as in the group's first series
     };
 
     // Extracts the lists "x" and "y" of the series of both groups from the text of a pane file and returns

@@ -1,5 +1,5 @@
-// A pane through long rows of changes of every kind, as studies, trendlines, scrolling, zooming and pane
-// files make them: the picture that is kept and patched is the one painted from nothing, point by point.
+// A pane after long sequences of changes of all kinds, as studies, trendlines, scrolling, zooming and pane
+// files make them: the cached and updated picture must equal the picture painted completely, point by point.
 #include "qt/paint/PanePainter.h"
 #include "support/PaneScenes.h"
 

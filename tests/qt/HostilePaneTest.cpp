@@ -1,5 +1,5 @@
-// Panes as a pane file may ask for them: plots that reach past their picture, boxes larger than any picture,
-// axes that run backwards. The picture that is kept and patched is the one painted from nothing.
+// Extreme panes that a pane file may describe: plots beyond their picture, boxes larger than any picture,
+// axes that run backwards. The cached and updated picture must equal the picture painted completely.
 #include "qt/paint/PanePainter.h"
 #include "support/PaneScenes.h"
 

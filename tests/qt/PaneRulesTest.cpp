@@ -1,4 +1,4 @@
-// What of a pane is painted, how wide and in which order.
+// Which parts of a pane are painted, their widths and their order.
 #include "qt/paint/PanePainter.h"
 #include "scene/PaneFile.h"
 #include "support/PaneScenes.h"

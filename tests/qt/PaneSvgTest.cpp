@@ -1,4 +1,4 @@
-// SVG files of a pane: the writer of such files clips nothing, so whatever lies in one has been cut before.
+// SVG files of a pane: the SVG writer does not clip, so all shapes must be cut before.
 #include "qt/output/PaneExport.h"
 #include "qt/paint/CutShapes.h"
 #include "qt/paint/PanePainter.h"
