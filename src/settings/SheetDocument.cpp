@@ -11,9 +11,9 @@ constexpr const char* Pages = R"(
 
 The "Settings" button of the toolbar opens a sheet with five pages. OK applies all pages together, stores only the differences,
 and requests the chart again from the feed. Cancel, Escape and the close button change nothing. The sheet opens on the page that
-was last visible in this run of the program. If a page rejects its input, that page is shown with a message, and the field that
-the message names gets the keyboard focus. If the settings file cannot be written, the chart uses the changes nevertheless, and
-the status bar reports that they are not stored until they are.
+was last visible in this run of the program. A page that is too large for the screen scrolls. If a page rejects its input, that
+page is shown with a message, and the field that the message names gets the keyboard focus. If the settings file cannot be
+written, the chart uses the changes nevertheless, and the status bar reports that they are not stored until they are.
 
 Replay scripts use the numbers below for the controls. An edit with arrows has two numbers: one for its text, and one for the
 number that the arrows change.
