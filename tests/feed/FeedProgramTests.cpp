@@ -7,6 +7,7 @@
 #include <csignal>
 #include <cstdio>
 #include <fcntl.h>
+#include <filesystem>
 #include <gtest/gtest.h>
 #include <memory>
 #include <regex>
@@ -67,6 +68,13 @@ public:
         for (int c = fgetc(m_output); c != EOF && c != '\n'; c = fgetc(m_output))
             line += static_cast<char>(c);
         return line;
+    }
+    // How many it has open.
+    int Descriptors() const
+    {
+        const auto folder = std::filesystem::path("/proc") / std::to_string(m_process) / "fd";
+        return static_cast<int>(std::distance(std::filesystem::directory_iterator(folder),
+                                              std::filesystem::directory_iterator()));
     }
     void Signal(int number) const { kill(m_process, number); }
     // The exit code; -1 if a signal ended it.
@@ -276,6 +284,29 @@ TEST(FeedProgram, SilentClientsGiveTheirDescriptorsToANewOne)
     EXPECT_TRUE(CFeedClient(lookup).Ask("HDX,GOOG,1,1,6").starts_with("6,2008-10-14,"));
     EXPECT_TRUE(first.Ask("HDX,GOOG,1,1,6").starts_with("6,2008-10-14,"));
     EXPECT_EQ(silent[0]->ReadTo("anything"), "") << "the oldest goes first";
+}
+
+// All descriptors went to clients, so that no file could be opened, and the checks of a sanitized build, which
+// need a pipe, ended the program.
+TEST(FeedProgram, ClientsLeaveAFewDescriptorsForFiles)
+{
+    CFeedProgram program({"--lookup-port", "0", "--level1-port", "0"}, nullptr, 40);
+    std::uint16_t lookup = 0, level1 = 0;
+    ASSERT_TRUE(program.Listens(lookup, level1));
+    CFeedClient first(lookup);
+    EXPECT_TRUE(first.Ask("HDX,GOOG,1,1,6").starts_with("6,2008-10-14,"));
+    std::vector<std::unique_ptr<CFeedClient>> clients;
+    for (int i = 0; i < 80; ++i) {
+        clients.push_back(std::make_unique<CFeedClient>(i % 2 == 0 ? lookup : level1));
+        clients.back()->Send("S,SET PROTOCOL,5.0\n");
+    }
+    for (int i = 0; i < 20; ++i) // meanwhile the program accepts as many as it will
+        EXPECT_TRUE(first.Ask("HDX,GOOG,1,1,6").starts_with("6,2008-10-14,"));
+    EXPECT_GT(program.Descriptors(), 25);
+    EXPECT_LE(program.Descriptors(), 35);
+    program.Signal(SIGTERM);
+    EXPECT_EQ(program.Wait(), 0);
+    EXPECT_EQ(program.Errors(), "");
 }
 
 TEST(FeedProgram, AnOutputThatCannotBeWrittenIsExitFourAndOneSentence)

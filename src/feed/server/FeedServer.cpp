@@ -1,5 +1,6 @@
 #include "feed/server/FeedServer.h"
 
+#include "feed/server/Descriptors.h"
 #include "feed/server/Level1Connection.h"
 #include "feed/server/LookupConnection.h"
 #include "feed/server/SilentClients.h"
@@ -7,7 +8,6 @@
 #include <chrono>
 #include <cstdlib>
 #include <functional>
-#include <sys/resource.h>
 #include <thread>
 
 namespace zantroq::feed {
@@ -97,22 +97,24 @@ private:
         return true;
     }
 
+    // Accepts the next client, provided that a few descriptors remain for files.
     void Accept(sListener& listener)
     {
+        while (IsShortOfDescriptors()) {
+            if (!m_silent.CloseOldest()) {
+                AcceptLater(listener);
+                return;
+            }
+        }
         listener.Acceptor.async_accept([this, &listener](std::error_code error, tcp::socket socket) {
             if (error == asio::error::operation_aborted)
                 return;
             if (error) {
-                // The most likely cause is that no descriptor is left.
-                if (m_silent.CloseOldest())
-                    Accept(listener);
-                else
-                    AcceptLater(listener);
+                // The most likely cause is that the whole system is short of descriptors.
+                AcceptLater(listener);
                 return;
             }
             SendAtOnce(socket);
-            if (IsLastButFew(socket))
-                m_silent.CloseOldest();
             m_silent.Add(listener.Start(std::move(socket)));
             Accept(listener);
         });
@@ -126,16 +128,6 @@ private:
             if (!error)
                 Accept(listener);
         });
-    }
-
-    // True if the socket's descriptor is among the last that the process may open. The system assigns the
-    // lowest free descriptor; a few are kept for files.
-    static bool IsLastButFew(tcp::socket& socket)
-    {
-        constexpr rlim_t kept = 16;
-        rlimit limit{};
-        return getrlimit(RLIMIT_NOFILE, &limit) == 0 && limit.rlim_cur != RLIM_INFINITY &&
-               static_cast<rlim_t>(socket.native_handle()) + kept >= limit.rlim_cur;
     }
 
     template<class TConnection> static std::shared_ptr<TConnection> Started(std::shared_ptr<TConnection> made)
