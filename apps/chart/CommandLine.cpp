@@ -1,5 +1,6 @@
 #include "CommandLine.h"
 
+#include "platform/EscapeControls.h"
 #include "replay/ReplayScript.h"
 #include "settings/ChartSettings.h"
 
@@ -175,7 +176,7 @@ QSize sCommandLine::ClientSize() const
 
 void Complain(const std::string& sentence)
 {
-    std::cerr << "zantroq-chart: " << sentence << std::endl;
+    std::cerr << "zantroq-chart: " << EscapeControls(sentence) << std::endl;
 }
 
 std::optional<sCommandLine> ReadCommandLine(int argc, char** argv, int& exitCode)

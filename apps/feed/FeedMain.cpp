@@ -2,6 +2,7 @@
 // codes: 0 after an interrupt, hang-up or termination signal; 2 for wrong usage or an unavailable port; 4 if
 // standard output cannot be written.
 #include "feed/server/FeedServer.h"
+#include "platform/EscapeControls.h"
 
 #include <CLI/CLI.hpp>
 #include <asio.hpp>
@@ -25,9 +26,14 @@ enum ExitCode
 
 constexpr double FastestSpeed = 100'000;
 
+void Complain(const std::string& sentence)
+{
+    std::cerr << "zantroq-feed: " << zantroq::EscapeControls(sentence) << std::endl;
+}
+
 int Fail(ExitCode code, const std::string& sentence)
 {
-    std::cerr << "zantroq-feed: " << sentence << std::endl;
+    Complain(sentence);
     return code;
 }
 
@@ -112,9 +118,7 @@ int main(int argc, char** argv)
     }
     options.SimulateAll = simulate;
     options.ReplayTicks = app.count("--speed") > 0;
-    options.OnNotice = [](const std::string& sentence) {
-        std::cerr << "zantroq-feed: " << sentence << std::endl;
-    };
+    options.OnNotice = Complain;
 
     // If the reader of the output pipe has gone, the program must exit with a code, not be killed.
     std::signal(SIGPIPE, SIG_IGN);

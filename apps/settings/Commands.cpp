@@ -1,6 +1,7 @@
 #include "Commands.h"
 
 #include "WholeFile.h"
+#include "platform/EscapeControls.h"
 #include "settings/SettingsExchange.h"
 
 #include <algorithm>
@@ -33,12 +34,17 @@ void SayIfMissing(const CSettingsFile& file)
                  "write makes it");
 }
 
-// JSON cannot represent text that is not UTF-8; one such value must not prevent the export of the others.
-std::string Formatted(SettingsTree tree)
+// JSON cannot represent text that is not UTF-8; one such value must not prevent the export of the others. An
+// output that cannot be written is the only thing to report, so `write` comes before the other messages.
+template<class Write> int WriteTree(const CSettingsFile& file, SettingsTree tree, Write write)
 {
-    for (const std::string& gone : LeaveOutWhatIsNotUtf8(tree))
+    const auto leftOut = LeaveOutWhatIsNotUtf8(tree);
+    if (const int code = write(FormatSettings(tree)); code != ExitDone)
+        return code;
+    SayIfMissing(file);
+    for (const std::string& gone : leftOut)
         Complain(gone + " is not UTF-8, which JSON cannot hold; it was left out, set it again or delete it");
-    return FormatSettings(tree);
+    return ExitDone;
 }
 
 // Only the word, in small or capital letters.
@@ -69,23 +75,25 @@ int NotThere(const CSettingsFile& file, const std::string& key, const std::strin
 
 void Complain(const std::string& sentence)
 {
-    std::cerr << "zantroq-settings: " << sentence << std::endl;
+    std::cerr << "zantroq-settings: " << EscapeControls(sentence) << std::endl;
 }
 
 int ListValues(CSettingsFile& file, const std::string& key, bool asJson)
 {
     const SettingValues values = file.List(key);
-    SayIfMissing(file);
     if (asJson) {
         SettingsTree tree;
         if (!values.empty())
             tree[key] = values;
-        return Print(Formatted(std::move(tree)));
+        return WriteTree(file, std::move(tree), Print);
     }
     std::string lines;
     for (const auto& [name, value] : values)
         lines += ListingLine(name, value) + "\n";
-    return Print(lines);
+    if (const int code = Print(lines); code != ExitDone)
+        return code;
+    SayIfMissing(file);
+    return ExitDone;
 }
 
 int GetValue(CSettingsFile& file, const std::string& key, const std::string& name)
@@ -126,15 +134,15 @@ int ExportValues(CSettingsFile& file, const std::optional<std::string>& key, con
     } else if (auto values = file.List(*key); !values.empty()) {
         tree[*key] = std::move(values);
     }
-    SayIfMissing(file);
-    const std::string text = Formatted(std::move(tree));
-    if (target == "-")
-        return Print(text);
-    if (const std::string wrong = WriteWholeFile(target, text); !wrong.empty()) {
+    return WriteTree(file, std::move(tree), [&target](const std::string& text) -> int {
+        if (target == "-")
+            return Print(text);
+        const std::string wrong = WriteWholeFile(target, text);
+        if (wrong.empty())
+            return ExitDone;
         Complain(target + ": the export could not be written (" + wrong + "); choose another file");
         return ExitNotWritten;
-    }
-    return ExitDone;
+    });
 }
 
 int ImportValues(CSettingsFile& file, const std::optional<std::string>& key, const std::string& source)
@@ -172,7 +180,7 @@ int ResetKey(CSettingsFile& file, const std::string& key, bool confirmed)
         return ExitDone;
     }
     if (!confirmed) {
-        std::cerr << "Remove all " << count << " values of " << key << " from " << file.Path()
+        std::cerr << "Remove all " << count << " values of " << EscapeControls(key + " from " + file.Path())
                   << "? Type yes to go on: " << std::flush;
         std::string answer;
         std::getline(std::cin, answer);

@@ -62,6 +62,8 @@ TEST_F(ChartErrors, WrongValuesAreNamed)
         Refused({"--size", size, "GOOG"},
                 "--size " + size.toStdString() +
                     ": not a size; use WIDTHxHEIGHT in pixels, such as 900x700, at most 16384 each");
+    Refused({"--data", "a\n\x1b[31m", "GOOG"},
+            "--data a\\n\\x1b[31m: not a data type; use tick, minute, daily, weekly or monthly");
     Refused({"--feed", "remote", "GOOG"},
             "--feed remote: not a feed; use system, embedded or embedded:FOLDER");
     Refused({"--feed", "embedded:/no/such", "GOOG"},
@@ -161,6 +163,18 @@ TEST_F(ChartErrors, AFileThatCannotBeWrittenEndsWithExitFour)
         EXPECT_EQ(
             run.Err.rfind("zantroq-chart: --snapshot " + name.toStdString() + ": cannot be written (", 0), 0u)
             << run.Err;
+    }
+}
+
+// The message spoke of an unknown error.
+TEST_F(ChartErrors, AFullDiskIsReportedAsAFullDisk)
+{
+    for (const QString name : {"full.png", "full.svg", "full.pdf", "full.json"}) {
+        ASSERT_EQ(Run("/bin/ln", {"-s", "/dev/full", name}, Environment()).ExitCode, 0);
+        const sRun run = Chart({"GOOG", "--data", "daily", "--feed", "embedded", "--snapshot", name});
+        EXPECT_EQ(run.ExitCode, 4);
+        EXPECT_EQ(run.Err, "zantroq-chart: --snapshot " + name.toStdString() +
+                               ": cannot be written (the disk is full); choose another place\n");
     }
 }
 

@@ -211,6 +211,8 @@ TEST(FeedProgram, AMissingOrNeedlessValueIsNamedWithWhatToDo)
         {{"--data"}, "--data: its value is missing; give one behind it, as --help tells"},
         {{"--seed", "1", "--seed", "2"}, "--seed: given 2 times; give it once"},
         {{"--simulate=banana"}, "--simulate=banana: the option takes no value; give --simulate alone"},
+        {{"--speed", "1\n\x1b[31m"},
+         "--speed 1\\n\\x1b[31m: not a speed; use a number above 0, up to 100000"},
         {{"surplus"}, "The following argument was not expected: surplus; --help lists the options"}};
     for (const auto& [arguments, sentence] : wrong) {
         CFeedProgram program(arguments);

@@ -22,6 +22,7 @@ struct SettingsProgram : testing::Test
 {
     CTemporaryFolder Folder;
     const std::string Store = Folder.File("sub/settings.db");
+    bool DiskIsFull = false;
 
     sRun Run(std::vector<std::string> words, const std::string& input = "", const std::string& out = "")
     {
@@ -29,6 +30,10 @@ struct SettingsProgram : testing::Test
         test::PutFile(Folder.File("in"), input);
         const pid_t child = test::StartChild([&] {
             ::setenv("ZANTROQ_SETTINGS", Store.c_str(), 1);
+            if (DiskIsFull) {
+                ::setenv("LD_PRELOAD", FULL_DISK_LIBRARY, 1);
+                ::setenv("ASAN_OPTIONS", "verify_asan_link_order=0", 1);
+            }
             ::dup2(::open(Folder.File("in").c_str(), O_RDONLY), 0);
             ::dup2(::open(outFile.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600), 1);
             ::dup2(::open(Folder.File("err").c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600), 2);
@@ -292,6 +297,39 @@ TEST_F(SettingsProgram, AnOutputThatCannotBeWrittenIsSaid)
     ExpectError(Run({"get", "a"}, "", "/dev/full"), 4, "output");
     ExpectError(Run({"export", Folder.File("no/such/e.json")}), 4, "e.json");
     ExpectError(Run({"export", Folder.File("sub")}), 4, "directory");
+}
+
+// The message spoke of permissions.
+TEST_F(SettingsProgram, AFullDiskIsReportedAsAFullDisk)
+{
+    DiskIsFull = true;
+    ExpectError(Run({"set", "a", "1"}), 4, "the disk of the settings file is full; make room on it");
+    DiskIsFull = false;
+    EXPECT_EQ(Run({"set", "a", "1"}).Code, 0);
+    DiskIsFull = true;
+    ExpectError(Run({"set", "a", "2"}), 4, "the disk of the settings file is full; make room on it");
+    ExpectError(Run({"reset", "--yes"}), 4, "the disk of the settings file is full; make room on it");
+    DiskIsFull = false;
+    EXPECT_EQ(Run({"get", "a"}).Out, "1\n");
+}
+
+TEST_F(SettingsProgram, AnExportThatCannotBeWrittenIsOneSentence)
+{
+    ExpectError(Run({"export", "/dev/full"}), 4, "/dev/full: the export could not be written");
+    ExpectError(Run({"list", "--json"}, "", "/dev/full"), 4, "output");
+    CSettingsFile(Store).Write("K", "a", std::string("\xff"));
+    ExpectError(Run({"export", "/dev/full"}), 4, "/dev/full: the export could not be written");
+    ExpectError(Run({"--key", "K", "list", "--json"}, "", "/dev/full"), 4, "output");
+}
+
+TEST_F(SettingsProgram, ControlCharactersInArgumentsAreShownAsEscapes)
+{
+    Run({"set", "a", "1"});
+    ExpectError(Run({"get", "x\n\x1b[31m"}), 1, "\"x\\n\\x1b[31m\" is not stored");
+    ExpectError(Run({"a\nb"}), 2, "\"a\\nb\" is no subcommand");
+    ExpectError(Run({"set", "n", "1\r2", "--type", "dword"}), 2, "1\\r2");
+    ExpectError(Run({"export", Folder.File("no\nfolder/e.json")}), 4, "no\\nfolder/e.json");
+    ExpectError(Run({"import", Folder.File("no\tfile.json")}), 2, "no\\tfile.json");
 }
 
 TEST_F(SettingsProgram, AnExportKeepsTheModeOfAnExistingFileAndLeavesNothingBeside)

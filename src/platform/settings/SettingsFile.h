@@ -111,6 +111,8 @@ private:
     void Execute(const char* sql, Access access);
     sqlite3_stmt* Prepared(const char* sql, Access access);
     void Insert(std::string_view key, std::string_view name, const SettingValue& value);
+    bool IsDiskFull() const; // the cause of the last failure
+    [[noreturn]] void FailFull();
     [[noreturn]] void FailForeign();
     [[noreturn]] void Fail(int code, Access access);
 

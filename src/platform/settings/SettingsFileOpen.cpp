@@ -149,9 +149,7 @@ void CSettingsFile::OpenConnection(OpenMode mode, const std::string& path, Acces
     const int code = sqlite3_open_v2((m_readOnly ? ImmutableUri(path) : path).c_str(), &m_db,
                                      flags | SQLITE_OPEN_NOMUTEX, nullptr);
     if (code != SQLITE_OK) {
-        const int detail = m_db ? sqlite3_extended_errcode(m_db) : code;
-        Close();
-        Fail(detail, access);
+        Fail(m_db ? sqlite3_extended_errcode(m_db) : code, access);
     }
     sqlite3_extended_result_codes(m_db, 1);
     sqlite3_busy_timeout(m_db, static_cast<int>(m_patience.count()));
@@ -311,6 +309,19 @@ void CSettingsFile::FailForeign()
         m_path + ": this database is not a settings file; set ZANTROQ_SETTINGS to another file");
 }
 
+void CSettingsFile::FailFull()
+{
+    throw CSettingsFileError(SettingsProblem::Unwritable,
+                             m_path + ": the disk of the settings file is full; make room on it");
+}
+
+// Reading needs room, too: for the index beside the file.
+bool CSettingsFile::IsDiskFull() const
+{
+    const int cause = m_db ? sqlite3_system_errno(m_db) : 0;
+    return cause == ENOSPC || cause == EDQUOT;
+}
+
 void CSettingsFile::Fail(int code, Access access)
 {
     // The next call reopens the file. Closing it here would finalize statements that are in use.
@@ -336,9 +347,10 @@ void CSettingsFile::Fail(int code, Access access)
             SettingsProblem::Unwritable,
             m_path + ": the settings file is read-only; allow writing to it and to its folder");
     case SQLITE_FULL:
-        throw CSettingsFileError(SettingsProblem::Unwritable,
-                                 m_path + ": the disk of the settings file is full; make room on it");
+        FailFull();
     default:
+        if (IsDiskFull())
+            FailFull();
         if (access == Access::Write)
             throw CSettingsFileError(SettingsProblem::Unwritable,
                                      m_path + ": the settings file cannot be written" + reason +

@@ -5,32 +5,50 @@
 #include <QRegularExpression>
 #include <QSaveFile>
 
+#include <cerrno>
+#include <cstring>
+
 namespace zantroq {
 
 namespace {
 
-bool WriteWhole(QFileDevice& file, const QByteArray& bytes)
+// Sets `cause` to the system's error number if the file opens but cannot be written.
+bool WriteWhole(QFileDevice& file, const QByteArray& bytes, int& cause)
 {
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
+    cause = 0;
+    if (!file.open(QIODevice::WriteOnly))
+        return false;
+    errno = 0;
+    const bool written = file.write(bytes) == bytes.size() && file.flush();
+    cause = written ? 0 : errno;
+    return written;
+}
+
+// The toolkit reports a failed flush as an unknown error.
+QString Reason(const QFileDevice& file, int cause)
+{
+    if (cause == ENOSPC || cause == EDQUOT)
+        return "the disk is full";
+    return cause != 0 ? QString::fromLocal8Bit(std::strerror(cause)).toLower() : file.errorString().toLower();
 }
 
 } // namespace
 
 QString WritePictureFile(const QString& path, const QByteArray& bytes)
 {
-    const auto wrong = [&path](const QFileDevice& file) {
-        return QString("%1: cannot be written (%2); choose another place")
-            .arg(path, file.errorString().toLower());
+    int cause = 0;
+    const auto wrong = [&path, &cause](const QFileDevice& file) {
+        return QString("%1: cannot be written (%2); choose another place").arg(path, Reason(file, cause));
     };
     const QFileInfo there(path);
     if (there.exists() && !there.isFile() && !there.isDir()) {
         // A pipe or a device is written to directly; it must never be replaced.
         QFile device(path);
-        return WriteWhole(device, bytes) ? QString() : wrong(device);
+        return WriteWhole(device, bytes, cause) ? QString() : wrong(device);
     }
     QSaveFile file(path);
     file.setDirectWriteFallback(true); // in a folder where no file can be created
-    return WriteWhole(file, bytes) && file.commit() ? QString() : wrong(file);
+    return WriteWhole(file, bytes, cause) && file.commit() ? QString() : wrong(file);
 }
 
 QByteArray WithoutMoment(QByteArray pdf)
