@@ -3,6 +3,7 @@
 #include "market/HistoryCommand.h"
 #include "market/Level1Command.h"
 
+#include <cerrno>
 #include <chrono>
 #include <utility>
 
@@ -15,6 +16,12 @@ CChartRequestManagerThread::CChartRequestManagerThread(std::shared_ptr<ISettings
       Level1Socket(std::make_unique<CQVXLevel1Socket>(*this)),
       HistorySocket(std::make_unique<CQVXHistorySocket>(*this))
 {
+    m_level1.OnTrade = [this](std::string_view symbol, double price, std::int64_t size) {
+        m_status.NoteTrade(symbol, price, size);
+    };
+    m_history.OnRefused = [this](std::int32_t handle, std::string_view reason) {
+        m_status.NoteRefusal(handle, reason);
+    };
 }
 
 CChartRequestManagerThread::~CChartRequestManagerThread()
@@ -30,15 +37,20 @@ void CChartRequestManagerThread::AwaitConnections()
 void CChartRequestManagerThread::InitInstance()
 {
     Level1Socket->Owner = this;
-    if (Level1Socket->Create())
-        Level1Socket->Connect(Ports.Level1Port());
-    else
-        ConnectionDone();
+    BeginConnecting(*Level1Socket, FeedPort::Level1, Ports.Level1Port());
     HistorySocket->Owner = this;
-    if (HistorySocket->Create())
-        HistorySocket->Connect(Ports.LookupPort());
-    else
-        ConnectionDone();
+    BeginConnecting(*HistorySocket, FeedPort::Lookup, Ports.LookupPort());
+}
+
+void CChartRequestManagerThread::BeginConnecting(CAsyncSocket& socket, FeedPort port, std::uint16_t number)
+{
+    m_status.Connecting(port, number);
+    if (socket.Create()) {
+        socket.Connect(number);
+        return;
+    }
+    m_status.ConnectionMade(port, ENOBUFS);
+    ConnectionDone();
 }
 
 void CChartRequestManagerThread::ExitInstance()
@@ -49,16 +61,18 @@ void CChartRequestManagerThread::ExitInstance()
     HistorySocket->Close();
 }
 
-void CChartRequestManagerThread::OnThreadMessage(std::uint32_t message, std::int32_t, std::int32_t)
+void CChartRequestManagerThread::OnThreadMessage(std::uint32_t message, std::int32_t errorCode, std::int32_t)
 {
     if (message != ProtocolSetupMessage)
         return;
+    m_status.ConnectionMade(FeedPort::Level1, errorCode);
     SendLevel1(Level1SetupText());
     ConnectionDone();
 }
 
-void CChartRequestManagerThread::OnHistoryConnected()
+void CChartRequestManagerThread::OnHistoryConnected(int errorCode)
 {
+    m_status.ConnectionMade(FeedPort::Lookup, errorCode);
     ConnectionDone();
 }
 
@@ -70,6 +84,7 @@ void CChartRequestManagerThread::ConnectionDone()
 
 void CChartRequestManagerThread::SendHistoryRequest(CChartHistRequest& request)
 {
+    m_status.ForgetRefusal(request.Handle());
     BeginReply(request);
     HistorySocket->Send(HistoryRequestText(request));
 }

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "market/FeedSockets.h"
+#include "market/FeedStatus.h"
 #include "market/HistoryReply.h"
 #include "market/Level1Stream.h"
 #include "market/WatchTable.h"
@@ -33,8 +34,12 @@ public:
     void WatchSymbol(CChartHistRequest& request);
     void UnwatchSymbol(CChartHistRequest& request);
 
+    // Any thread.
+    const CFeedStatus& Status() const { return m_status; }
+
     // Called by the sockets on this thread.
-    void OnHistoryConnected();
+    void OnHistoryConnected(int errorCode);
+    void OnConnectionLost(FeedPort port) { m_status.ConnectionLost(port); }
     void OnHistoryLine(std::string_view line) { m_history.OnLineOfMany(line); }
     void OnHistoryLinesDone() { m_history.EndOfLines(); }
     void OnLevel1Line(std::string_view line) { m_level1.OnLine(line); }
@@ -47,8 +52,10 @@ protected:
 private:
     void SendLevel1(std::string_view text);
     void ConnectionDone();
+    void BeginConnecting(CAsyncSocket& socket, FeedPort port, std::uint16_t number);
 
     CZantroPorts Ports;
+    CFeedStatus m_status;
     CWatchTable m_watches;
     CLevel1Stream m_level1;
     CHistoryReply m_history;

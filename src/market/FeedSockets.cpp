@@ -16,7 +16,11 @@ void CQVXLineSocket::OnReceive(int errorCode)
         if (received > 0) {
             m_cutter.Received(received, [this](std::string_view line) { GuardedLine(line); });
             OnLinesDone();
+        } else if (!room.empty() && !IsOpen()) {
+            OnLost();
         }
+    } else {
+        OnLost();
     }
     CAsyncSocket::OnReceive(errorCode);
 }
@@ -38,7 +42,13 @@ void CQVXHistorySocket::OnConnect(int errorCode)
     Send(SetClientNameLine);
     CQVXLookupSocket::OnConnect(errorCode);
     if (Owner)
-        Owner->OnHistoryConnected();
+        Owner->OnHistoryConnected(errorCode);
+}
+
+void CQVXHistorySocket::OnLost()
+{
+    if (Owner)
+        Owner->OnConnectionLost(FeedPort::Lookup);
 }
 
 void CQVXHistorySocket::OnLine(std::string_view line)
@@ -64,6 +74,12 @@ void CQVXLevel1Socket::OnLine(std::string_view line)
 {
     if (Owner)
         Owner->OnLevel1Line(line);
+}
+
+void CQVXLevel1Socket::OnLost()
+{
+    if (Owner)
+        Owner->OnConnectionLost(FeedPort::Level1);
 }
 
 } // namespace zantroq

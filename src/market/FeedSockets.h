@@ -24,6 +24,8 @@ protected:
     virtual void OnLine(std::string_view line) = 0;
     // Called after the last line of a receive.
     virtual void OnLinesDone() {}
+    // The peer has closed the connection, or it broke.
+    virtual void OnLost() {}
 
 private:
     void GuardedLine(std::string_view line);
@@ -55,6 +57,7 @@ protected:
     void OnConnect(int errorCode) override;
     void OnLine(std::string_view line) override;
     void OnLinesDone() override;
+    void OnLost() override;
 };
 
 class CQVXLevel1Socket : public CQVXStreamSocket
@@ -66,6 +69,7 @@ public:
 protected:
     void OnConnect(int errorCode) override;
     void OnLine(std::string_view line) override;
+    void OnLost() override;
 };
 
 } // namespace zantroq

@@ -41,7 +41,7 @@ void CHistoryReply::OnLineOfMany(std::string_view line)
     const HistoryFields fields(line);
     const std::string_view second = fields[1];
     if (!second.empty() && (second.front() == '!' || second.front() == 'E')) {
-        OnEndLine(second);
+        OnEndLine(fields);
         return;
     }
     if (request->GetPriceFormat() == 0)
@@ -67,10 +67,13 @@ void CHistoryReply::OnDeadLine(std::string_view line)
 }
 
 // An error line does not end the request: the chart stays in its loading state.
-void CHistoryReply::OnEndLine(std::string_view marker)
+void CHistoryReply::OnEndLine(const HistoryFields& fields)
 {
-    if (!Contains(marker, EndMarker))
+    if (!Contains(fields[1], EndMarker)) {
+        if (OnRefused)
+            OnRefused(m_request->Handle(), fields.Count() > 2 ? fields[2] : std::string_view());
         return;
+    }
     StoreTicks();
     const bool complete = EndReply(*m_request);
     EndOfLines();

@@ -2,9 +2,11 @@
 // the reply. Lines that cannot be used are dropped silently. Worker thread only.
 #pragma once
 
+#include "market/HistoryFields.h"
 #include "market/HistoryLine.h"
 #include "market/RequestTable.h"
 
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -16,6 +18,9 @@ class CHistoryReply
 public:
     // `onComplete` is called when the reply of a live request has ended, after its Complete flag is set.
     explicit CHistoryReply(std::function<void()> onComplete);
+
+    // Called when the feed answers a live request with an error line; `reason` is in the feed's words.
+    std::function<void(std::int32_t handle, std::string_view reason)> OnRefused;
 
     // Handles one line without its line end; its point is stored on return. Throws std::invalid_argument and
     // stores nothing if the line has too few fields for its kind.
@@ -31,7 +36,7 @@ public:
 
 private:
     void OnDeadLine(std::string_view line);
-    void OnEndLine(std::string_view marker);
+    void OnEndLine(const HistoryFields& fields);
     CChartHistRequest* FindRequestOf(std::string_view line);
     void StoreTicks();
 

@@ -1,6 +1,7 @@
 #include "market/Level1Stream.h"
 
-#include "market/Level1Update.h"
+#include "market/Level1Command.h"
+#include "platform/parse/LeadingNumber.h"
 
 #include <exception>
 #include <stdexcept>
@@ -51,6 +52,8 @@ void CLevel1Stream::OnLine(std::string_view line)
     }
     const sEmptyAtEnd<std::vector<RequestPtr>> letGo{m_requests};
     const Level1Fields fields(line);
+    if (OnTrade && messageType == 'Q')
+        ReportTrade(symbol, fields);
     std::exception_ptr tooShort;
     for (const RequestPtr& request : m_requests) {
         try {
@@ -66,6 +69,14 @@ void CLevel1Stream::OnLine(std::string_view line)
     }
     if (tooShort)
         std::rethrow_exception(tooShort);
+}
+
+void CLevel1Stream::ReportTrade(std::string_view symbol, const Level1Fields& fields) const
+{
+    constexpr std::string_view TradeLetters = "CEO";
+    if (fields.Count() > Level1Contents &&
+        fields[Level1Contents].find_first_of(TradeLetters) != std::string_view::npos)
+        OnTrade(symbol, TextToDouble(fields[Level1Last]), TextToUnsigned(fields[Level1Size]));
 }
 
 void CLevel1Stream::ReplayPending()

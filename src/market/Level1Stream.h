@@ -3,8 +3,10 @@
 // the history is complete. Worker thread only; the watch table has its own lock.
 #pragma once
 
+#include "market/Level1Update.h"
 #include "market/WatchTable.h"
 
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -18,6 +20,10 @@ public:
     // `removeSymbol` asks the feed to stop the updates of a symbol.
     CLevel1Stream(const CWatchTable& watches, std::function<void(std::string_view symbol)> removeSymbol);
 
+    // Called for each trade of a watched symbol, before it is merged; for those of extended hours too. May be
+    // empty.
+    std::function<void(std::string_view symbol, double price, std::int64_t size)> OnTrade;
+
     // Handles one line without its line end. Throws std::invalid_argument if the line is too short for a
     // request; the other requests of the symbol have merged it nevertheless.
     void OnLine(std::string_view line);
@@ -27,6 +33,8 @@ public:
     void ReplayPending();
 
 private:
+    void ReportTrade(std::string_view symbol, const Level1Fields& fields) const;
+
     const CWatchTable& m_watches;
     std::function<void(std::string_view)> m_removeSymbol;
     std::string PendingLevel1Line;

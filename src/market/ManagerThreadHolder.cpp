@@ -25,6 +25,8 @@ void CManagerThreadHolder::StartManagerThread(std::shared_ptr<ISettingsKey> feed
 {
     if (ManagerThread)
         return;
+    ++m_connections;
+    m_feedKey = feedKey;
     ManagerThread = std::make_unique<CChartRequestManagerThread>(std::move(feedKey));
     ManagerThread->Start();
     ManagerThread->AwaitConnections();
@@ -37,6 +39,35 @@ void CManagerThreadHolder::StopManagerThread()
     ManagerThread->Stop();
     ManagerThread.reset();
     FreeGivenUpRequests();
+}
+
+void CManagerThreadHolder::Reconnect(std::shared_ptr<ISettingsKey> feedKey)
+{
+    if (!ManagerThread)
+        return;
+    if (!feedKey)
+        feedKey = m_feedKey;
+    StopManagerThread();
+    StartManagerThread(std::move(feedKey));
+}
+
+sFeedStatus CManagerThreadHolder::FeedStatus() const
+{
+    if (!ManagerThread)
+        return {};
+    sFeedStatus status = ManagerThread->Status().Read();
+    status.Connection = m_connections;
+    return status;
+}
+
+std::optional<sLastTrade> CManagerThreadHolder::LastTrade(std::string_view symbol) const
+{
+    return ManagerThread ? ManagerThread->Status().LastTrade(symbol) : std::nullopt;
+}
+
+std::optional<std::string> CManagerThreadHolder::Refusal(const CChartHistRequest& request) const
+{
+    return ManagerThread ? ManagerThread->Status().Refusal(request.Handle()) : std::nullopt;
 }
 
 void CManagerThreadHolder::SendHistoryRequest(CChartHistRequest& request)

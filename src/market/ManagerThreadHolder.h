@@ -6,6 +6,8 @@
 #include "market/ChartRequestManagerThread.h"
 
 #include <memory>
+#include <optional>
+#include <string>
 
 namespace zantroq {
 
@@ -26,6 +28,16 @@ public:
 
     // Starts the worker if none runs, and waits at most a second until its connections are made or refused.
     void StartManagerThread(std::shared_ptr<ISettingsKey> feedKey);
+    // Replaces the running worker by one with new connections to the feed, on the ports of this key, or of the
+    // previous key if it is null. Nothing is watched and requested on it yet. Does nothing without a running
+    // worker. Waits until the old worker has ended, and then like StartManagerThread.
+    void Reconnect(std::shared_ptr<ISettingsKey> feedKey = nullptr);
+    // The state of the connections, the last trade of a watched symbol, and the feed's reason if it refused
+    // the request.
+    sFeedStatus FeedStatus() const;
+    std::optional<sLastTrade> LastTrade(std::string_view symbol) const;
+    std::optional<std::string> Refusal(const CChartHistRequest& request) const;
+
     // Stops and deletes the worker. Waits until it has ended.
     void StopManagerThread();
 
@@ -38,7 +50,9 @@ public:
 
 private:
     std::unique_ptr<CChartRequestManagerThread> ManagerThread;
+    std::shared_ptr<ISettingsKey> m_feedKey; // of the running worker
     int m_controlCount = 0;
+    int m_connections = 0; // workers started so far
 };
 
 // The holder of the process.

@@ -95,6 +95,11 @@ int CAsyncSocket::Receive(char* bytes, int size)
     return static_cast<int>(received);
 }
 
+bool CAsyncSocket::IsOpen() const
+{
+    return m_state->Wanted;
+}
+
 int CAsyncSocket::Send(std::string_view text)
 {
     const int native = m_state->Native;

@@ -30,6 +30,9 @@ public:
     // `size` above 0.
     int Receive(char* bytes, int size);
 
+    // Whether the last Receive with room found the connection open.
+    bool IsOpen() const;
+
     // Passes the text to the system without waiting. Returns the number of bytes accepted, or -1 for none:
     // not connected yet, connection lost, or the peer reads too slowly. Any thread, while the socket exists.
     int Send(std::string_view text);

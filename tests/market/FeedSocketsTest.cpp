@@ -311,6 +311,96 @@ TEST_F(CFeedTest, TheLastControlGoesWhileAReplyIsLoading)
     EXPECT_FALSE(EndReply(*left)); // clean-up of this test
 }
 
+TEST_F(CFeedTest, TheStateOfBothConnectionsIsKnown)
+{
+    EXPECT_EQ(m_holder.FeedStatus(), sFeedStatus());
+    Start();
+    const sFeedStatus status = m_holder.FeedStatus();
+    EXPECT_TRUE(status.Connected());
+    EXPECT_EQ(status.Lookup.Port, m_feed.Lookup.Port());
+    EXPECT_EQ(status.Level1.Port, m_feed.Level1.Port());
+    EXPECT_EQ(status.Connection, 1);
+    m_feed.Level1.CloseConnection();
+    EXPECT_TRUE(AwaitTrue([this] { return m_holder.FeedStatus().Level1.State == PortState::Lost; }));
+    EXPECT_EQ(m_holder.FeedStatus().Lookup.State, PortState::Connected);
+    m_feed.Lookup.CloseConnection();
+    EXPECT_TRUE(AwaitTrue([this] { return m_holder.FeedStatus().Lookup.State == PortState::Lost; }));
+}
+
+TEST_F(CFeedTest, PortsThatNobodyServesAreKnownAsRefusing)
+{
+    m_holder.StartManagerThread(MakePortKey(RefusingPort(), RefusingPort()));
+    EXPECT_TRUE(AwaitTrue([this] {
+        const sFeedStatus status = m_holder.FeedStatus();
+        return status.Lookup.State == PortState::Refused && status.Level1.State == PortState::Refused;
+    }));
+}
+
+TEST_F(CFeedTest, AnErrorAnswerIsKeptUntilTheRequestIsSentAgain)
+{
+    Start();
+    auto request = Request(TicksByDatapoints);
+    m_holder.SendHistoryRequest(*request);
+    ASSERT_TRUE(m_feed.Lookup.AwaitReceived(Identifier(*request)));
+    EXPECT_FALSE(m_holder.Refusal(*request));
+    m_feed.Lookup.Send(Identifier(*request) + ",E,Unknown symbol SYM,\r\n");
+    ASSERT_TRUE(AwaitTrue([&] { return m_holder.Refusal(*request).has_value(); }));
+    EXPECT_EQ(*m_holder.Refusal(*request), "Unknown symbol SYM");
+    EXPECT_FALSE(request->IsComplete());
+    m_holder.SendHistoryRequest(*request);
+    EXPECT_FALSE(m_holder.Refusal(*request));
+    GiveUpRequest(std::move(request));
+}
+
+TEST_F(CFeedTest, ReconnectMakesNewConnectionsWithTheirSetUp)
+{
+    Start();
+    m_holder.Reconnect();
+    EXPECT_TRUE(m_holder.FeedStatus().Connected());
+    EXPECT_EQ(m_holder.FeedStatus().Connection, 2);
+    EXPECT_EQ(m_feed.Lookup.Connections(), 2);
+    EXPECT_TRUE(m_feed.Lookup.AwaitReceived(std::string(ClientName) + ClientName));
+    EXPECT_TRUE(m_feed.Level1.AwaitReceived(Level1SetupText() + Level1SetupText()));
+}
+
+TEST_F(CFeedTest, ReconnectCanGoToAnotherFeedAndStaysThere)
+{
+    Start();
+    CScriptedFeed other;
+    m_holder.Reconnect(other.Key());
+    EXPECT_EQ(other.Lookup.Connections(), 1);
+    m_holder.Reconnect();
+    EXPECT_EQ(other.Lookup.Connections(), 2);
+    EXPECT_EQ(m_feed.Lookup.Connections(), 1);
+    m_holder.StopManagerThread(); // before the feed goes
+}
+
+TEST_F(CFeedTest, WithoutAWorkerReconnectDoesNothing)
+{
+    m_holder.Reconnect(m_feed.Key());
+    EXPECT_FALSE(m_holder.Running());
+}
+
+TEST_F(CFeedTest, TheLastTradeOfAWatchedSymbolIsKnownAlsoForBars)
+{
+    Start();
+    auto request = Request(DailyByDatapoints);
+    m_holder.WatchSymbol(*request);
+    ASSERT_TRUE(m_feed.Level1.AwaitReceived("wSYM"));
+    EXPECT_FALSE(m_holder.LastTrade("SYM"));
+    const auto line = [](const char* price, const char* size, const char* contents) {
+        return std::string("Q,SYM,9000,") + size + ",110,90,101,102,1,1,10:00:00.000,0,100,99,01/02/2014," +
+               price + ",14,1,1,1,1," + contents + ",01\r\n";
+    };
+    m_feed.Level1.Send(line("105.5", "50", "Cba"));
+    EXPECT_TRUE(AwaitTrue([this] { return m_holder.LastTrade("SYM") == sLastTrade{105.5, 50}; }));
+    m_feed.Level1.Send(line("106.5", "70", "ba") + line("107.5", "80", "C"));
+    EXPECT_TRUE(AwaitTrue([this] { return m_holder.LastTrade("SYM") == sLastTrade{107.5, 80}; }));
+    EXPECT_FALSE(m_holder.LastTrade("OTHER"));
+    m_holder.UnwatchSymbol(*request);
+    GiveUpRequest(std::move(request));
+}
+
 TEST(ZantroPorts, ReadsTheLeadingDigitsOfTheStoredText)
 {
     auto key = std::make_shared<CMapKey>();
