@@ -28,8 +28,18 @@ std::vector<std::string_view> LinesOf(std::string_view text)
 
 void CLabelPlacer::Place()
 {
-    for (int number = 1; number <= m_placement.Chart.PaneLabels().Count(); ++number)
-        PlaceLabel(m_placement.Chart.PaneLabels().Item(number));
+    const CPaneLabels& labels = m_placement.Chart.PaneLabels();
+    const sPixelRect& plot = m_placement.Map.Plot;
+    for (int number = 1; number <= labels.Count(); ++number) {
+        const CPaneLabel& label = labels.Item(number);
+        // The text of a line that is out of sight would stand at the edge as if the line were there.
+        const bool outOfSight = m_placement.Manner == PaneManner::Convenient &&
+                                label.Attachment() == AttachToPixel && !m_placement.Map.Empty() &&
+                                (m_placement.Device(label.PixelY()) < plot.Top ||
+                                 m_placement.Device(label.PixelY()) >= plot.Bottom);
+        if (!outOfSight)
+            PlaceLabel(label);
+    }
 }
 
 // Breaks lines wider than `room` where two blanks stand, as they do between the parts of a title.
@@ -88,6 +98,10 @@ CLabelPlacer::sPoint CLabelPlacer::Corner(const CPaneLabel& label, const sPoint&
     if (label.Attachment() == AttachToData) { // a readout must be readable whole
         corner.X = std::max(0, std::min(corner.X, m_placement.Width - width));
         corner.Y = std::max(0, std::min(corner.Y, m_placement.Height - height));
+    } else if (m_placement.Manner == PaneManner::Convenient && !m_placement.Map.Empty()) {
+        const sPixelRect& plot = m_placement.Map.Plot;
+        corner.X = std::max(plot.Left, std::min(corner.X, plot.Right - width));
+        corner.Y = std::max(std::max(plot.Top, m_titleBottom), std::min(corner.Y, plot.Bottom - height));
     }
     return corner;
 }

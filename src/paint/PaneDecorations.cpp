@@ -7,9 +7,9 @@
 namespace zantroq {
 
 sPaneDecorations PlaceDecorations(const CChart2D& chart, const sPlotMap& map, double scale, int width,
-                                  int height, ITextMeasure& text)
+                                  int height, ITextMeasure& text, PaneManner manner)
 {
-    const sPlacement placement{chart, map, scale, width, height, text};
+    const sPlacement placement{chart, map, scale, width, height, text, manner};
     const CPaneArea& area = chart.PaneArea();
     sPaneDecorations placed;
     placed.Background = PixelOf(area.Background(chart.PaneInterior()));

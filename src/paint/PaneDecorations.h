@@ -12,6 +12,15 @@
 
 namespace zantroq {
 
+// How a pane is painted where two ways are open. The scene is the same either way.
+enum class PaneManner
+{
+    Plain,
+    // Level lines lie under the curves of their group, and a label at a pixel stays inside the plot, below the
+    // titles.
+    Convenient
+};
+
 struct sPlacedText
 {
     int Left = 0, Top = 0; // of the line box
@@ -47,6 +56,6 @@ struct sPaneDecorations
 
 // `scale` is device pixels per pane pixel; `width` and `height` are the picture's size in device pixels.
 sPaneDecorations PlaceDecorations(const CChart2D& chart, const sPlotMap& map, double scale, int width,
-                                  int height, ITextMeasure& text);
+                                  int height, ITextMeasure& text, PaneManner manner = PaneManner::Plain);
 
 } // namespace zantroq

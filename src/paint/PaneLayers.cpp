@@ -17,6 +17,15 @@ CPaneInk::sDamage Joined(const CPaneInk::sDamage& a, const CPaneInk::sDamage& b)
     return {a.Whole || b.Whole, std::min(a.Left, b.Left), std::max(a.Right, b.Right)};
 }
 
+// Whether all points of the line have one height.
+bool IsLevel(const sInkLine& line)
+{
+    const auto isLevel = [&line](const sInkVertex& vertex) {
+        return vertex.Top == line.Vertices.front().Top && vertex.Bottom == line.Vertices.front().Top;
+    };
+    return line.Level || std::all_of(line.Vertices.begin(), line.Vertices.end(), isLevel);
+}
+
 } // namespace
 
 CPaneInk::sDamage CPaneLayers::UpdateInk(const CChart2D& chart, const sPlotMap& map, double scale)
@@ -55,10 +64,22 @@ void CPaneLayers::PaintData(IPaneCanvas& canvas, const sPixelRect& within, const
     for (const std::size_t i :
          histogramFirst ? std::array<std::size_t, 2>{1, 0} : std::array<std::size_t, 2>{0, 1}) {
         const CPaneInk& ink = m_ink[i];
-        for (const sInkLine& line : ink.Lines())
-            canvas.Line(line, plot);
+        PaintLines(canvas, ink, plot);
         PaintBars(canvas, ink, left, right, plot); // with lines: the marks on them
     }
+}
+
+void CPaneLayers::PaintLines(IPaneCanvas& canvas, const CPaneInk& ink, const sPixelRect& plot) const
+{
+    if (m_manner == PaneManner::Plain) {
+        for (const sInkLine& line : ink.Lines())
+            canvas.Line(line, plot);
+        return;
+    }
+    for (const bool levels : {true, false})
+        for (const sInkLine& line : ink.Lines())
+            if (IsLevel(line) == levels)
+                canvas.Line(line, plot);
 }
 
 // Paints the bars that touch the pixel columns left to right (exclusive).

@@ -22,6 +22,8 @@ public:
 
     // Updates the ink of both groups. Returns the pixel columns that may look different since the last call.
     CPaneInk::sDamage UpdateInk(const CChart2D& chart, const sPlotMap& map, double scale);
+    void SetManner(PaneManner manner) { m_manner = manner; }
+    PaneManner Manner() const { return m_manner; }
     void SetDecorations(sPaneDecorations decorations) { m_decorations = std::move(decorations); }
     const sPaneDecorations& Decorations() const { return m_decorations; }
     bool HasLines() const { return !m_ink[0].Lines().empty() || !m_ink[1].Lines().empty(); }
@@ -34,12 +36,14 @@ public:
     void PaintAbove(IPaneCanvas& canvas, const sPixelRect& within) const;
 
 private:
+    void PaintLines(IPaneCanvas& canvas, const CPaneInk& ink, const sPixelRect& plot) const;
     static void PaintBars(IPaneCanvas& canvas, const CPaneInk& ink, int left, int right,
                           const sPixelRect& plot);
     static void PaintLabel(IPaneCanvas& canvas, const sPlacedLabel& label);
 
     std::array<CPaneInk, 2> m_ink;
     sPaneDecorations m_decorations;
+    PaneManner m_manner = PaneManner::Plain;
 };
 
 } // namespace zantroq

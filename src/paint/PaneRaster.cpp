@@ -17,6 +17,12 @@ CPaneRaster::CPaneRaster(const CChart2D& chart, ITextMasks& text, InkDetail deta
 {
 }
 
+void CPaneRaster::SetManner(PaneManner manner)
+{
+    m_layers.SetManner(manner);
+    Forget();
+}
+
 sPixelRect CPaneRaster::Paint(const sRaster& picture, double scale)
 {
     const sPlotMap map(m_chart, scale);
@@ -49,7 +55,8 @@ PaneChange CPaneRaster::FindChange(const sPlotMap& map, double scale, const sPix
         return m_columns.Width() > 0 && m_columns.Height() > 0 ? PaneChange::Columns : PaneChange::None;
     }
     m_revision = m_chart.Revision();
-    m_layers.SetDecorations(PlaceDecorations(m_chart, map, scale, whole.Right, whole.Bottom, m_text));
+    m_layers.SetDecorations(
+        PlaceDecorations(m_chart, map, scale, whole.Right, whole.Bottom, m_text, m_layers.Manner()));
     const sBackdrop backdrop{map.Plot, m_layers.Decorations().Background,
                              m_layers.Decorations().PlotBackground};
     const bool sameBackdrop = IsSame(std::exchange(m_backdrop, backdrop), backdrop);

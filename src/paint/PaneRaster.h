@@ -27,6 +27,8 @@ public:
     // `scale` is device pixels per pane pixel, and the scale of the text. REQUIRES: the pixels are those that
     // the last call left, unless Forget was called.
     sPixelRect Paint(const sRaster& picture, double scale);
+    // The next Paint starts from nothing.
+    void SetManner(PaneManner manner);
     // The next Paint starts from nothing, whatever the picture holds.
     void Forget() { m_fresh = true; }
 

@@ -16,6 +16,7 @@ struct sPlacement
     double Scale;      // device pixels per pane pixel
     int Width, Height; // of the picture, device pixels
     ITextMeasure& Text;
+    PaneManner Manner = PaneManner::Plain;
 
     // A length of pane pixels in device pixels; at least 1 for a positive one.
     int Device(int panePixels) const

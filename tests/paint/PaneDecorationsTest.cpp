@@ -19,14 +19,14 @@ using test::Pane;
 // The decorations of a pane at a scale, with the map and the font of their placement.
 struct sPlaced
 {
-    explicit sPlaced(const CChart2D& chart, double scale = 1.0)
+    explicit sPlaced(const CChart2D& chart, double scale = 1.0, PaneManner manner = PaneManner::Plain)
         : Scale(scale),
           Map(chart, scale),
           Width(static_cast<int>(std::floor(chart.PixelWidth() * scale + 0.5))),
           Height(static_cast<int>(std::floor(chart.PixelHeight() * scale + 0.5))),
           Words(scale)
     {
-        Placed = PlaceDecorations(chart, Map, scale, Width, Height, Words);
+        Placed = PlaceDecorations(chart, Map, scale, Width, Height, Words, manner);
     }
     // The box of a label, by its index among the visible labels.
     const sPixelRect& Box(std::size_t i) const { return Placed.Labels.at(i).Box; }
@@ -37,6 +37,40 @@ struct sPlaced
     test::CFixedFont Words;
     sPaneDecorations Placed;
 };
+
+TEST(PaneLabels, OfLinesStayInsideThePlotAndBelowTheTitleInTheConvenientManner)
+{
+    for (const double scale : {1.0, 1.5, 2.0}) {
+        const Pane pane = test::LinePane(280, 180, {10, 50, 90});
+        const sPixelRect inPane = pane->PlotRect();
+        AddLabel(*pane, "one title\nof three\nlines", AttachToPaneTopLeft, AnchorBelowRight);
+        AddLabel(*pane, "161.8%", AttachToPixel, AnchorAboveRight).SetPixelAnchor(inPane.Left, inPane.Top);
+        AddLabel(*pane, "0%", AttachToPixel, AnchorAboveRight).SetPixelAnchor(inPane.Right - 3, 100);
+        const sPlaced placing(*pane, scale, PaneManner::Convenient);
+        ASSERT_EQ(placing.Placed.Labels.size(), 3u);
+        const sPixelRect& plot = placing.Map.Plot;
+        EXPECT_EQ(placing.Box(1).Top, placing.Box(0).Bottom);
+        EXPECT_EQ(placing.Box(1).Left, plot.Left);
+        EXPECT_EQ(placing.Box(2).Right, plot.Right);
+        EXPECT_EQ(placing.Box(2).Bottom, static_cast<int>(100 * scale)) << "nothing to mend there";
+    }
+}
+
+TEST(PaneLabels, OfLinesAboveOrBelowThePlotAreNotPlacedInTheConvenientManner)
+{
+    const Pane pane = test::LinePane(280, 180, {10, 50, 90});
+    AddLabel(*pane, "423.6%", AttachToPixel, AnchorAboveRight).SetPixelAnchor(100, 5000);
+    AddLabel(*pane, "0%", AttachToPixel, AnchorAboveRight).SetPixelAnchor(100, -50);
+    EXPECT_TRUE(sPlaced(*pane, 1.0, PaneManner::Convenient).Placed.Labels.empty());
+}
+
+TEST(PaneLabels, OfLinesHangOverThePlotInThePlainManner)
+{
+    const Pane pane = test::LinePane(280, 180, {10, 50, 90});
+    const sPixelRect inPane = pane->PlotRect();
+    AddLabel(*pane, "161.8%", AttachToPixel, AnchorAboveRight).SetPixelAnchor(inPane.Left, inPane.Top);
+    EXPECT_EQ(sPlaced(*pane).Box(0).Bottom, inPane.Top);
+}
 
 TEST(PaneLabels, StandOnTheSideOfTheirAnchorAtEveryScale)
 {

@@ -40,6 +40,7 @@ public:
     {
         Paint();
     }
+    void SetManner(PaneManner manner) { m_raster.SetManner(manner); }
     // Returns the part that was painted.
     sPixelRect Paint() { return m_raster.Paint(Picture.Raster(), m_scale); }
 

@@ -19,6 +19,36 @@ Pane TwentyPoints()
     return test::LinePane(280, 180, y);
 }
 
+// A curve that runs along its level line between its second and fourth point; the level is the later series.
+Pane CurveOnItsLevel(int points)
+{
+    std::vector<double> curve(static_cast<std::size_t>(points), 44.0);
+    curve.front() = 10;
+    curve.back() = 90;
+    Pane pane = test::LinePane(280, 180, curve);
+    test::LoadGroup(pane->PaneGroups(1), {curve, std::vector<double>(curve.size(), 44.0)});
+    pane->PaneGroups(1).SeriesStyles(1).LineLook().SetColor(0x0000FF);
+    pane->PaneGroups(1).SeriesStyles(2).LineLook().SetColor(0x00FF00);
+    return pane;
+}
+
+TEST(PaneRaster, ALevelLineLiesUnderItsCurveInTheConvenientManner)
+{
+    for (const int points : {5, 5000}) { // painted point by point, and known by its ends
+        const Pane pane = CurveOnItsLevel(points);
+        int x = 0, y = 0;
+        pane->PaneGroups(1).DataToPixel(points / 2.0, 44, x, y);
+        CPaintedPane painted(*pane);
+        EXPECT_EQ(painted.Picture.At(x, y), PixelOf(0x00FF00)) << "the order of the series, " << points;
+        painted.SetManner(PaneManner::Convenient);
+        painted.Paint();
+        EXPECT_EQ(painted.Picture.At(x, y), PixelOf(0x0000FF)) << points;
+        painted.SetManner(PaneManner::Plain);
+        painted.Paint();
+        EXPECT_EQ(painted.Picture.At(x, y), PixelOf(0x00FF00)) << points;
+    }
+}
+
 TEST(PaneRaster, PaintsEveryPixelTheFirstTime)
 {
     const Pane pane = TwentyPoints();

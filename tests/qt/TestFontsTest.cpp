@@ -7,6 +7,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <string>
+
 namespace zantroq::test {
 
 TEST(TestFonts, OnlyTheFontsOfTheListAreSeen)
@@ -23,6 +26,17 @@ TEST(TestFonts, PanesAreWrittenInTheFontTheyAskForFirst)
 {
     const QFont font = CPaneText().Font();
     EXPECT_EQ(QFontInfo(font).family(), font.families().value(0));
+}
+
+TEST(PaneText, KeepsThePicturesOf256TextsAtMost)
+{
+    CPaneText text;
+    std::size_t most = 0;
+    for (int i = 0; i < 1000; ++i) {
+        text.Advance(std::to_string(i));
+        most = std::max(most, text.Kept());
+    }
+    EXPECT_EQ(most, 256U);
 }
 
 TEST(TestFonts, PrintedHeadingsAreWrittenInLiberationSerif)

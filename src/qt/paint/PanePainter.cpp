@@ -49,6 +49,12 @@ const QImage& CPanePainter::Picture(double devicePixelRatio)
     return m_picture;
 }
 
+void CPanePainter::SetManner(PaneManner manner)
+{
+    m_manner = manner;
+    m_raster.SetManner(manner);
+}
+
 QRect CPanePainter::Damage() const
 {
     if (m_damage.Width() <= 0 || m_damage.Height() <= 0)
@@ -71,8 +77,9 @@ void CPanePainter::PaintInto(QPainter& painter, const QRectF& box)
     const sPlotMap map(m_chart, scale);
     m_text.SetScale(scale);
     CPaneLayers layers(m_detail);
+    layers.SetManner(m_manner);
     layers.UpdateInk(m_chart, map, scale);
-    layers.SetDecorations(PlaceDecorations(m_chart, map, scale, whole.Right, whole.Bottom, m_text));
+    layers.SetDecorations(PlaceDecorations(m_chart, map, scale, whole.Right, whole.Bottom, m_text, m_manner));
     const sPaneDecorations& decorations = layers.Decorations();
     painter.save();
     painter.translate(box.topLeft());
@@ -88,9 +95,10 @@ void CPanePainter::PaintInto(QPainter& painter, const QRectF& box)
     painter.restore();
 }
 
-QImage PanePicture(const CChart2D& chart, double devicePixelRatio, const QString& family)
+QImage PanePicture(const CChart2D& chart, double devicePixelRatio, const QString& family, PaneManner manner)
 {
     CPanePainter painter(chart, family);
+    painter.SetManner(manner);
     return painter.Picture(devicePixelRatio);
 }
 

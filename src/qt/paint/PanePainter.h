@@ -28,6 +28,7 @@ public:
     const QImage& Picture(double devicePixelRatio);
     // The part painted by the last Picture(), in pane pixels: the part of a widget to repaint.
     QRect Damage() const;
+    void SetManner(PaneManner manner);
     // Drops the kept picture: the next one is painted from nothing.
     void Forget() { m_raster.Forget(); }
 
@@ -41,12 +42,14 @@ private:
     const InkDetail m_detail;
     CPaneText m_text;
     CPaneRaster m_raster;
+    PaneManner m_manner = PaneManner::Plain;
     QImage m_picture;
     double m_ratio = 0;
     sPixelRect m_damage; // device pixels
 };
 
 // A picture of the scene from nothing.
-QImage PanePicture(const CChart2D& chart, double devicePixelRatio, const QString& family = {});
+QImage PanePicture(const CChart2D& chart, double devicePixelRatio, const QString& family = {},
+                   PaneManner manner = PaneManner::Plain);
 
 } // namespace zantroq

@@ -12,7 +12,7 @@ namespace zantroq {
 namespace {
 
 constexpr double TextPixels = 11;
-constexpr std::size_t MostMasks = 4000; // a day of scrolling; then the store starts again
+constexpr std::size_t MostMasks = 256; // some panes' worth; then the store starts again
 
 } // namespace
 

@@ -22,6 +22,8 @@ public:
     // `scale` is in device pixels per pane pixel. A new scale empties the cache.
     void SetScale(double scale);
     const QFont& Font() const { return m_font; }
+    // Texts in the store, at most 256.
+    std::size_t Kept() const { return m_masks.size(); }
     int Advance(std::string_view text) override;
     int Ascent() const override { return m_ascent; }
     int LineHeight() const override { return m_lineHeight; }

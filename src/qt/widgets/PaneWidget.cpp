@@ -55,6 +55,12 @@ CPaneWidget::~CPaneWidget()
     m_pane.SetView(nullptr);
 }
 
+void CPaneWidget::SetManner(PaneManner manner)
+{
+    m_painter.SetManner(manner);
+    update();
+}
+
 // Changes of one turn of the event loop are painted together.
 void CPaneWidget::PaneChanged()
 {

@@ -27,6 +27,7 @@ public:
     CPaneWidget(QWidget* parent, int control, CChart2D& pane, IPaneEvents& events);
     ~CPaneWidget() override;
 
+    void SetManner(PaneManner manner);
     int Control() const { return m_control; }
     void PaneChanged() override;
 
