@@ -1,6 +1,7 @@
 #include "printing/ChartPrinting.h"
 
 #include "printing/PanePrintCopy.h"
+#include "printing/PaperInk.h"
 
 #include <utility>
 
@@ -35,7 +36,8 @@ private:
 
 } // namespace
 
-CChartPrinting::CChartPrinting(IPrintedChart& chart, Clock clock) : m_chart(chart), m_clock(std::move(clock))
+CChartPrinting::CChartPrinting(IPrintedChart& chart, Clock clock, sPrintManner manner)
+    : m_chart(chart), m_clock(std::move(clock)), m_manner(std::move(manner))
 {
 }
 
@@ -57,6 +59,11 @@ CChartPrinting::sPicture CChartPrinting::CopyPanes() const
     for (int pane = 0; pane < m_chart.ShownPanes(); ++pane) {
         picture.Sizes.push_back(m_chart.ClientSize(pane));
         picture.Panes.push_back(MakePanePrintCopy(m_chart.Pane(pane), picture.Sizes.back()));
+        if (!m_manner.PaperInk)
+            continue;
+        TakePaperInk(*picture.Panes.back());
+        if (!m_chart.NoteShown())
+            picture.Panes.back()->PaneArea().PaneMarkers("x").SetShown(false);
     }
     return picture;
 }
@@ -87,8 +94,10 @@ void CChartPrinting::PrintPage(IPrintJob& job, const sPicture& picture) const
         const sPageBox& box = boxes[pane];
         picture.Panes[pane]->DrawToDevice(job.Device(), 3, 4, box.Left, box.Top, box.Width, box.Height);
     }
-    job.DrawHeading(PlaceHeading(HeadingText(m_chart.Symbol(), m_chart.Request(), m_clock()),
-                                 job.HeadingFont(), page.PixelsPerInchX));
+    std::string heading = HeadingText(m_chart.Symbol(), m_chart.Request(), m_clock());
+    if (!m_manner.Notice.empty())
+        heading += "\t\t" + m_manner.Notice;
+    job.DrawHeading(PlaceHeading(heading, job.HeadingFont(), page.PixelsPerInchX));
 }
 
 } // namespace zantroq

@@ -52,6 +52,14 @@ public:
     virtual const sRequestSettings& Request() const = 0;
     virtual void SetStatusText(const std::string& text) = 0;
     virtual void EnableDrawChart(bool enabled) = 0;
+    virtual bool NoteShown() const { return false; } // the readout at a point that was clicked
+};
+
+// How a page differs from what the panes show.
+struct sPrintManner
+{
+    bool PaperInk = false; // colors for paper, and a marker only where a point was clicked
+    std::string Notice;    // such as that the market is simulated; in the heading where not empty
 };
 
 class CChartPrinting
@@ -59,7 +67,7 @@ class CChartPrinting
 public:
     using Clock = std::function<sTIME_W_MILLISECONDS()>; // wall-clock time
 
-    CChartPrinting(IPrintedChart& chart, Clock clock);
+    CChartPrinting(IPrintedChart& chart, Clock clock, sPrintManner manner = {});
 
     // Runs the command from the dialog to the return of the focus. If a document does not start, its copy is
     // omitted; if a page does not start, printing ends. Returns the number of printed pages.
@@ -78,6 +86,7 @@ private:
 
     IPrintedChart& m_chart;
     Clock m_clock;
+    sPrintManner m_manner;
 };
 
 } // namespace zantroq

@@ -1,5 +1,6 @@
 #include "printing/PrintedChart.h"
 
+#include "drawing/HistPriceChart.h"
 #include "window/ChartDlg.h"
 #include "window/PaneLayout.h"
 
@@ -41,6 +42,12 @@ void CPrintedChart::SetStatusText(const std::string& text)
 void CPrintedChart::EnableDrawChart(bool enabled)
 {
     m_window.Services().Commands.Enable(CommandDrawChart, enabled);
+}
+
+bool CPrintedChart::NoteShown() const
+{
+    const CPaneLabels& labels = Pane(0).PaneLabels();
+    return labels.Count() >= ReadoutLabel && labels.Item(ReadoutLabel).Shown();
 }
 
 } // namespace zantroq

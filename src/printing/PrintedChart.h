@@ -19,6 +19,7 @@ public:
     const sRequestSettings& Request() const override;
     void SetStatusText(const std::string& text) override;
     void EnableDrawChart(bool enabled) override;
+    bool NoteShown() const override;
 
 private:
     CChartDlg& m_window;

@@ -20,11 +20,14 @@ struct sPrinting
     int Run()
     {
         Log.clear();
-        return CChartPrinting(Chart, [this] { return Now; }).Run(Dialog);
+        return CChartPrinting(
+                   Chart, [this] { return Now; }, Manner)
+            .Run(Dialog);
     }
     long Times(const std::string& event) const { return std::count(Log.begin(), Log.end(), event); }
 
     PrintLog Log;
+    sPrintManner Manner;
     sTIME_W_MILLISECONDS Now = MakeTime({2024, 3, 1, 14, 5, 9});
     test::sFakePrintedChart Chart{Log};
     test::sFakePrintJob Job{Log};
@@ -38,6 +41,60 @@ TEST(ChartPrinting, GoesFromTheDialogToTheFocusThatReturns)
     EXPECT_EQ(print.Log, (PrintLog{"ask 1", "status Loading...", "status Print ...", "disable draw",
                                    "document Chart", "page", "pane", "pane", "heading", "end page",
                                    "end document", "status Ready", "enable draw", "focus"}));
+}
+
+// Panes with white texts and their marker on.
+void SetUpForADarkScreen(sPrinting& print)
+{
+    for (CChart2D& pane : print.Chart.Panes) {
+        pane.PaneInterior().SetForeground(0xFFFFFF);
+        pane.PaneArea().PaneMarkers("x").SetShown(true);
+    }
+}
+
+TEST(ChartPrinting, ThePlainPageKeepsTheColorsAndTheMarkerOfTheScreen)
+{
+    sPrinting print;
+    SetUpForADarkScreen(print);
+    print.Run();
+    for (const auto& drawn : print.Job.Drawn) {
+        EXPECT_EQ(drawn.Text, 0xFFFFFFU);
+        EXPECT_TRUE(drawn.MarkerShown);
+    }
+}
+
+TEST(ChartPrinting, APageWithPaperInkHasReadableTextsAndNoMarker)
+{
+    sPrinting print;
+    SetUpForADarkScreen(print);
+    print.Manner.PaperInk = true;
+    print.Run();
+    ASSERT_EQ(print.Job.Drawn.size(), 2U);
+    for (const auto& drawn : print.Job.Drawn) {
+        EXPECT_LT(drawn.Text & 0xFF, 0x80U);
+        EXPECT_FALSE(drawn.MarkerShown);
+    }
+    EXPECT_EQ(print.Chart.Panes[0].PaneInterior().Foreground(), 0xFFFFFFU) << "the screen stays as it is";
+}
+
+TEST(ChartPrinting, APointThatWasClickedKeepsItsMarkerOnPaper)
+{
+    sPrinting print;
+    SetUpForADarkScreen(print);
+    print.Manner.PaperInk = true;
+    print.Chart.Note = true;
+    print.Run();
+    ASSERT_FALSE(print.Job.Drawn.empty());
+    EXPECT_TRUE(print.Job.Drawn[0].MarkerShown);
+}
+
+TEST(ChartPrinting, ANoticeStandsAtTheEndOfTheHeading)
+{
+    sPrinting print;
+    print.Manner.Notice = "simulated market";
+    print.Run();
+    ASSERT_EQ(print.Job.Headings.size(), 1U);
+    EXPECT_EQ(print.Job.Headings[0].Runs.back().Text, "simulated market");
 }
 
 TEST(ChartPrinting, ACancelledDialogReturnsTheFocusAndNothingElse)

@@ -28,6 +28,8 @@ struct sFakePrintJob : IPrintJob, IPrintDevice
         sPageBox Box;
         ColorValue Background;
         const CChart2D* Pane;
+        ColorValue Text;
+        bool MarkerShown;
     };
 
     PrintLog& Log;
@@ -71,7 +73,11 @@ struct sFakePrintJob : IPrintJob, IPrintDevice
     bool PaintPane(const CChart2D& pane, int left, int top, int width, int height) override
     {
         Log.push_back("pane");
-        Drawn.push_back({{left, top, width, height}, pane.PaneInterior().Background(), &pane});
+        Drawn.push_back({{left, top, width, height},
+                         pane.PaneInterior().Background(),
+                         &pane,
+                         pane.PaneInterior().Foreground(),
+                         pane.PaneArea().Marker().Shown()});
         return true;
     }
 };
@@ -105,12 +111,14 @@ struct sFakePrintedChart : IPrintedChart
     std::array<CChart2D, 3> Panes;
     std::array<sPaneSize, 3> Sizes{{{800, 300}, {800, 100}, {800, 100}}};
     sRequestSettings Settings;
+    bool Note = false;
 
     int ShownPanes() const override { return Shown; }
     const CChart2D& Pane(int pane) const override { return Panes.at(static_cast<std::size_t>(pane)); }
     sPaneSize ClientSize(int pane) const override { return Sizes.at(static_cast<std::size_t>(pane)); }
     std::string Symbol() const override { return "MSFT"; }
     const sRequestSettings& Request() const override { return Settings; }
+    bool NoteShown() const override { return Note; }
     void SetStatusText(const std::string& text) override { Log.push_back("status " + text); }
     void EnableDrawChart(bool enabled) override { Log.push_back(enabled ? "enable draw" : "disable draw"); }
 };

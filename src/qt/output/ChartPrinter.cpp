@@ -34,9 +34,11 @@ int HeadingResolution(const QPageLayout& layout)
 class CDesktopDialog : public IPrintDialog
 {
 public:
-    CDesktopDialog(QWidget* parent, const sPrintFonts& fonts)
+    CDesktopDialog(QWidget* parent, const sPrintFonts& fonts, bool across)
         : m_parent(parent), m_fonts(fonts), m_focus(QApplication::focusWidget())
     {
+        if (across)
+            m_printer.setPageOrientation(QPageLayout::Landscape);
     }
 
     // Returns an empty text, or a sentence that says what went wrong after `pages` printed pages.
@@ -118,15 +120,35 @@ sTIME_W_MILLISECONDS PrintTime()
     return MakeTime({date.year(), date.month(), date.day(), time.hour(), time.minute(), time.second()});
 }
 
-CChartPrinter::CChartPrinter(IPrintedChart& chart, CChartPrinting::Clock clock, const sPrintFonts& fonts)
-    : m_chart(chart), m_clock(std::move(clock)), m_fonts(fonts)
+CChartPrinter::CChartPrinter(IPrintedChart& chart, CChartPrinting::Clock clock, const sPrintFonts& fonts,
+                             sPrintConveniences conveniences)
+    : m_chart(chart), m_clock(std::move(clock)), m_fonts(fonts), m_conveniences(std::move(conveniences))
 {
+}
+
+CChartPrinting CChartPrinter::Printing() const
+{
+    if (!m_conveniences.On)
+        return CChartPrinting(m_chart, m_clock);
+    return CChartPrinting(m_chart, m_clock,
+                          {.PaperInk = true, .Notice = m_conveniences.Notice.toStdString()});
+}
+
+// Whether the chart fills paper better that lies across.
+bool CChartPrinter::IsAcross() const
+{
+    if (!m_conveniences.On || m_chart.ShownPanes() == 0)
+        return false;
+    int height = 0;
+    for (int pane = 0; pane < m_chart.ShownPanes(); ++pane)
+        height += m_chart.ClientSize(pane).Height;
+    return m_chart.ClientSize(0).Width > height;
 }
 
 QString CChartPrinter::PrintWithDialog(QWidget* parent)
 {
-    CDesktopDialog dialog(parent, m_fonts);
-    const int pages = CChartPrinting(m_chart, m_clock).Run(dialog);
+    CDesktopDialog dialog(parent, m_fonts, IsAcross());
+    const int pages = Printing().Run(dialog);
     return dialog.Outcome(pages);
 }
 
@@ -136,27 +158,31 @@ QString CChartPrinter::PrintToPdf(const QString& path, const sPdfPaper& paper)
     bytes.open(QIODevice::WriteOnly);
     QPdfWriter pdf(&bytes);
     pdf.setCreator("Zantroq Chart");
-    pdf.setPageLayout(paper.Layout);
+    QPageLayout layout = paper.Layout;
+    if (IsAcross())
+        layout.setOrientation(QPageLayout::Landscape);
+    pdf.setPageLayout(layout);
     pdf.setResolution(HeadingResolution(pdf.pageLayout()));
     CPageJob job(pdf, paper.Copies, CopiesTo::OneFile, m_fonts);
     CNoDialog dialog(job);
-    const int pages = CChartPrinting(m_chart, m_clock).Run(dialog);
+    const int pages = Printing().Run(dialog);
     if (!job.Finish() || pages < paper.Copies)
         return QString("%1: the page could not be made; choose larger paper").arg(path);
     return WritePictureFile(path, bytes.data());
 }
 
-void PrintWithDialog(CChartDlg& window, QWidget* parent)
+void PrintWithDialog(CChartDlg& window, QWidget* parent, const sPrintConveniences& conveniences)
 {
     CPrintedChart chart(window);
-    if (const QString wrong = CChartPrinter(chart).PrintWithDialog(parent); !wrong.isEmpty())
+    if (const QString wrong = CChartPrinter(chart, PrintTime, {}, conveniences).PrintWithDialog(parent);
+        !wrong.isEmpty())
         window.Services().Box.Ask(wrong.toStdString(), "Print", BoxButtons::Ok, BoxIcon::Error);
 }
 
-QString PrintToPdf(CChartDlg& window, const QString& path)
+QString PrintToPdf(CChartDlg& window, const QString& path, const sPrintConveniences& conveniences)
 {
     CPrintedChart chart(window);
-    return CChartPrinter(chart).PrintToPdf(path);
+    return CChartPrinter(chart, PrintTime, {}, conveniences).PrintToPdf(path);
 }
 
 } // namespace zantroq

@@ -24,11 +24,18 @@ struct sPdfPaper
     int Copies = 1; // as further pages of the file
 };
 
+// What the programs of this project add to the plain page.
+struct sPrintConveniences
+{
+    bool On = false; // colors for paper, and paper across for a chart that is wider than high
+    QString Notice;  // in the heading while on
+};
+
 class CChartPrinter
 {
 public:
     explicit CChartPrinter(IPrintedChart& chart, CChartPrinting::Clock clock = PrintTime,
-                           const sPrintFonts& fonts = {});
+                           const sPrintFonts& fonts = {}, sPrintConveniences conveniences = {});
 
     // Opens the desktop's print dialog over `parent`, then prints to the chosen printer or file and returns
     // the focus to the widget that had it. A file is replaced only when it is complete. Returns an empty
@@ -40,13 +47,17 @@ public:
     QString PrintToPdf(const QString& path, const sPdfPaper& paper = {});
 
 private:
+    CChartPrinting Printing() const;
+    bool IsAcross() const;
+
     IPrintedChart& m_chart;
     CChartPrinting::Clock m_clock;
     sPrintFonts m_fonts;
+    sPrintConveniences m_conveniences;
 };
 
 // The print command of a chart window; what went wrong is told in a message box.
-void PrintWithDialog(CChartDlg& window, QWidget* parent);
-QString PrintToPdf(CChartDlg& window, const QString& path);
+void PrintWithDialog(CChartDlg& window, QWidget* parent, const sPrintConveniences& conveniences = {});
+QString PrintToPdf(CChartDlg& window, const QString& path, const sPrintConveniences& conveniences = {});
 
 } // namespace zantroq
