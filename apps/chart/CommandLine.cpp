@@ -17,8 +17,8 @@ namespace {
 constexpr QSize WindowSize(900, 700), PictureSize(620, 460);
 constexpr int LeastSide = 1, GreatestSide = 16'384;
 
-constexpr std::array SingleOptions{"--data",   "--interval", "--size",   "--feed",
-                                   "--settle", "--timeout",  "--replay", "--into"};
+constexpr std::array SingleOptions{"--data",    "--interval", "--size", "--feed",        "--settle",
+                                   "--timeout", "--replay",   "--into", "--conveniences"};
 
 struct sWrongUsage
 {
@@ -27,7 +27,7 @@ struct sWrongUsage
 
 struct sTexts
 {
-    std::string Data, Interval, Size, Feed, Settle, Timeout, Into;
+    std::string Data, Interval, Size, Feed, Settle, Timeout, Into, Conveniences;
 };
 
 template<class TNumber> bool ReadWhole(const std::string& text, TNumber& number)
@@ -90,6 +90,13 @@ void ReadFeed(const std::string& text, sCommandLine& line)
     std::error_code error;
     if (!std::filesystem::is_directory(line.FeedFolder, error))
         Refuse("--feed", text, "the part behind the colon is not a folder; name one with recordings");
+}
+
+bool ReadConveniences(const std::string& text)
+{
+    if (text != "on" && text != "off")
+        Refuse("--conveniences", text, "neither on nor off; use one of them");
+    return text == "on";
 }
 
 int ReadMilliseconds(const std::string& option, const std::string& text, double unit)
@@ -212,6 +219,9 @@ std::optional<sCommandLine> ReadCommandLine(int argc, char** argv, int& exitCode
     app.add_option("--into", texts.Into,
                    "Show the chart in this window of another program (X11), and end with that window")
         ->type_name("WINDOW-ID");
+    app.add_option("--conveniences", texts.Conveniences,
+                   "on (default) or off: notices about the feed and the other additions to the plain chart")
+        ->type_name("ON|OFF");
     app.add_flag("--show", line.Show, "With --replay: in a window");
     app.set_version_flag("--version", "zantroq-chart " ZANTROQ_VERSION);
     app.footer("Exit codes: 0 done, 2 wrong usage, 3 the feed gave no answer in time or a signal "
@@ -238,6 +248,8 @@ std::optional<sCommandLine> ReadCommandLine(int argc, char** argv, int& exitCode
             line.TimeoutMs = ReadMilliseconds("--timeout", texts.Timeout, 1000);
         if (app.count("--into") > 0)
             line.Into = ReadWindowId(texts.Into);
+        if (app.count("--conveniences") > 0)
+            line.Conveniences = ReadConveniences(texts.Conveniences);
         CheckTogether(app, line);
         CheckSnapshots(app, line);
     } catch (const CLI::Success& asked) { // --help and --version

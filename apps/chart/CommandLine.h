@@ -23,7 +23,8 @@ struct sCommandLine
     std::string Symbol;
     std::optional<int> DataType;      // 0 to 4
     std::optional<int> IntervalIndex; // place in the interval box
-    std::optional<QSize> Size;        // client size of the chart window
+    bool Conveniences = true;
+    std::optional<QSize> Size; // client size of the chart window
     bool EmbeddedFeed = false;
     std::string FeedFolder;             // folder of further recordings; may be empty
     std::vector<std::string> Snapshots; // their endings are checked

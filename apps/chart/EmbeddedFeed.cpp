@@ -5,18 +5,21 @@
 #include "market/HistoryRecords.h"
 #include "market/ZantroPorts.h"
 
+#include <algorithm>
+
 namespace zantroq {
 namespace {
 
 // Market seconds per second: so slow that no simulated trade happens.
 constexpr double Standstill = 1e-9;
 
-enum class Finest
+// What is finer than the finest that a symbol has cannot be made.
+int FinestOf(const feed::IMarketSource& market)
 {
-    Ticks,
-    Minutes,
-    Days
-};
+    if (!market.TickDays().empty())
+        return TickData;
+    return market.MinuteDays().empty() ? DailyData : MinuteData;
+}
 
 } // namespace
 
@@ -50,25 +53,35 @@ std::shared_ptr<ISettingsKey> CEmbeddedFeed::PortKey() const
     return MakePortKey(m_server->LookupPort(), m_server->Level1Port());
 }
 
-std::string CEmbeddedFeed::Advice(const std::string& symbol, int dataType, const std::string& wait) const
+void CEmbeddedFeed::AddFolders(feed::CMarketCatalog& catalog) const
 {
-    feed::CMarketCatalog catalog(1, [](const std::string&) {});
     catalog.AddFolder(feed::ShippedDataFolder());
     if (!m_folder.empty())
         catalog.AddFolder(m_folder);
+}
+
+std::optional<int> CEmbeddedFeed::TypeFor(const std::string& symbol, int preferred) const
+{
+    feed::CMarketCatalog catalog(1, [](const std::string&) {});
+    AddFolders(catalog);
+    const feed::IMarketSource* const market = catalog.Find(symbol);
+    if (market == nullptr)
+        return std::nullopt;
+    return std::max(preferred, FinestOf(*market));
+}
+
+std::string CEmbeddedFeed::Advice(const std::string& symbol, int dataType, const std::string& wait) const
+{
+    feed::CMarketCatalog catalog(1, [](const std::string&) {});
+    AddFolders(catalog);
     const feed::IMarketSource* const market = catalog.Find(symbol);
     if (market == nullptr)
         return "the embedded feed has no recording of it; name a folder that has one with --feed "
                "embedded:FOLDER";
-    // What is finer than the finest that a symbol has cannot be made.
-    Finest finest = Finest::Days;
-    if (!market->TickDays().empty())
-        finest = Finest::Ticks;
-    else if (!market->MinuteDays().empty())
-        finest = Finest::Minutes;
-    if (dataType == TickData && finest == Finest::Minutes)
+    const int finest = FinestOf(*market);
+    if (dataType == TickData && finest == MinuteData)
         return "the embedded feed has no ticks of it, but minutes, which --data minute shows";
-    if (dataType <= MinuteData && finest == Finest::Days)
+    if (dataType <= MinuteData && finest == DailyData)
         return std::string("the embedded feed has ") + (dataType == TickData ? "no ticks" : "no minutes") +
                " of it, but daily prices, which --data daily shows";
     return "the embedded feed has data of it; check the range in the settings, or give " + wait + " more";

@@ -1,12 +1,14 @@
 // A feed inside this process on two free ports, and its messages to the user. Window's thread.
 #pragma once
 
+#include "feed/markets/MarketCatalog.h"
 #include "feed/server/FeedServer.h"
 #include "platform/settings/SettingsKey.h"
 
 #include <QObject>
 
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace zantroq {
@@ -25,9 +27,16 @@ public:
     bool Start(std::string& error);
     std::shared_ptr<ISettingsKey> PortKey() const; // once started
 
+    // The finest data type that the feed has of the symbol, 0 to 4; nothing for a symbol that it does not
+    // know. `preferred` where the feed has that. Reads the recordings again.
+    std::optional<int> TypeFor(const std::string& symbol, int preferred) const;
+
     // What to do when no complete reply came for a symbol, as half a sentence: what the feed has of it, and
     // how to see that. `wait` is what would wait longer. Reads the recordings again.
     std::string Advice(const std::string& symbol, int dataType, const std::string& wait) const;
+
+private:
+    void AddFolders(feed::CMarketCatalog& catalog) const;
 
 signals:
     // A sentence for the user; emitted on the feed's thread.

@@ -1,5 +1,7 @@
 #include "Session.h"
 
+#include "conveniences/SymbolText.h"
+#include "qt/conveniences/ChartConveniences.h"
 #include "qt/output/ChartPicture.h"
 #include "qt/widgets/ChartView.h"
 #include "window/ChartDlg.h"
@@ -65,14 +67,46 @@ bool CSession::StartFeed()
     if (!m_line.EmbeddedFeed)
         return true;
     m_feed = std::make_unique<CEmbeddedFeed>(m_line);
-    QObject::connect(
-        m_feed.get(), &CEmbeddedFeed::Notice, qApp, [this](const QString& sentence) { OnNotice(sentence); },
-        Qt::QueuedConnection);
+    ListenToFeed();
     std::string error;
     if (m_feed->Start(error))
         return true;
     Complain("--feed embedded: " + error);
     return false;
+}
+
+void CSession::ListenToFeed()
+{
+    QObject::connect(
+        m_feed.get(), &CEmbeddedFeed::Notice, qApp, [this](const QString& sentence) { OnNotice(sentence); },
+        Qt::QueuedConnection);
+}
+
+// A chart of a type that a recording has is better than none; nothing is stored, since nobody chose it.
+void CSession::TakeFinestType(const std::string& symbol)
+{
+    CChartDlg& chart = m_window->Chart().Window();
+    const int usual = chart.Settings().Request.DataType;
+    const int type = m_feed->TypeFor(symbol, usual).value_or(usual);
+    if (type != usual)
+        chart.ShowDataType(type);
+}
+
+// The user's answer to a feed that is not there.
+void CSession::UseRecordedMarket()
+{
+    auto feed = std::make_unique<CEmbeddedFeed>(m_line);
+    std::string error;
+    if (!feed->Start(error)) {
+        Complain("--feed embedded: " + error);
+        return;
+    }
+    m_feed = std::move(feed);
+    ListenToFeed();
+    if (const std::string symbol = m_window->Chart().Window().CurrentSymbol(); !symbol.empty())
+        TakeFinestType(symbol);
+    m_window->Chart().Layer().OfferRecordedMarket(nullptr);
+    m_window->Chart().UseFeed(m_feed->PortKey());
 }
 
 void CSession::MakeWindow()
@@ -85,10 +119,18 @@ void CSession::MakeWindow()
         setup.Box = &m_boxes;
     setup.Popups = person;
     m_window = std::make_unique<CHostWindow>(setup);
+    m_window->Chart().SetConveniences(m_line.Conveniences);
+    if (person && m_line.Conveniences) {
+        m_window->Chart().Layer().SetReconnectByItself(true);
+        if (m_feed == nullptr)
+            m_window->Chart().Layer().OfferRecordedMarket([this] { UseRecordedMarket(); });
+    }
     ApplyOptions();
     QObject::connect(m_window.get(), &QWidget::windowTitleChanged, qApp, [this] { WatchSymbol(); });
     if (m_line.NeedsDisplay())
         ShowWindow();
+    if (m_feed != nullptr && m_line.Conveniences && !m_line.DataType && !m_line.Symbol.empty())
+        TakeFinestType(TrimmedSymbol(m_line.Symbol));
     if (!m_line.Symbol.empty())
         m_window->Control().SetStockSymbol(QString::fromStdString(m_line.Symbol));
 }

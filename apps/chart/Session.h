@@ -31,6 +31,9 @@ private:
     void MakeWindow();
     bool FindForeignWindow();
     void ShowWindow();
+    void TakeFinestType(const std::string& symbol);
+    void UseRecordedMarket();
+    void ListenToFeed();
     void ApplyOptions(); // data type, interval, size: before the symbol
     void OnNotice(const QString& sentence);
     void OnEndAsked();

@@ -21,7 +21,11 @@ class CChartBody;
 /// **Life.** Creating the control creates the chart window inside it and, for the first control of the
 /// process, the one worker thread that holds both connections to the feed. The constructor waits for these
 /// connections at most a second. All controls of a process share the worker; the destruction of the last
-/// control ends it, and a later control starts a new one. A lost connection is not restored.
+/// control ends it, and a later control starts a new one. A lost connection is restored only when the user
+/// presses the button in the strip over the panes.
+///
+/// **Conveniences.** The strip and other additions to the plain chart; docs/conveniences.md lists them. They are
+/// on unless the host sets the dynamic property "Conveniences" to false.
 ///
 /// **Threads.** Create, use and destroy controls on the thread of the QApplication. Any number may exist at
 /// once.

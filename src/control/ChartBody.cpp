@@ -1,6 +1,8 @@
 #include "control/ChartBody.h"
 
+#include "conveniences/SymbolText.h"
 #include "market/ManagerThreadHolder.h"
+#include "qt/conveniences/ChartConveniences.h"
 #include "qt/dialogs/MessageBox.h"
 #include "qt/dialogs/PictureDialog.h"
 #include "qt/dialogs/WindowDialogs.h"
@@ -12,6 +14,7 @@
 #include "window/ManagerThreadFeed.h"
 
 #include <QClipboard>
+#include <QDynamicPropertyChangeEvent>
 #include <QGuiApplication>
 
 #include <algorithm>
@@ -26,6 +29,28 @@ class CMenuAsData : public IContextMenu
 {
 public:
     void Open(const sContextMenu&, int, int) override {}
+};
+
+// The name of the property with which a host switches the conveniences, and who listens to it.
+constexpr const char* SwitchName = "Conveniences";
+
+class CSwitchWatch : public QObject
+{
+public:
+    explicit CSwitchWatch(CChartBody& body) : m_body(body) {}
+
+    bool eventFilter(QObject* control, QEvent* event) override
+    {
+        if (event->type() != QEvent::DynamicPropertyChange ||
+            static_cast<QDynamicPropertyChangeEvent*>(event)->propertyName() != SwitchName)
+            return false;
+        const QVariant value = control->property(SwitchName);
+        m_body.SetConveniences(!value.isValid() || value.toBool());
+        return false;
+    }
+
+private:
+    CChartBody& m_body;
 };
 
 } // namespace
@@ -44,6 +69,7 @@ struct CChartBody::sServices
     CMenuAsData Menu;
     CManagerThreadFeed Feed;
     CStudyFactory Studies;
+    std::unique_ptr<QObject> Switch;
 };
 
 CChartBody::CChartBody(const sChartCtrlSetup& setup) : m_setup(setup) {}
@@ -52,6 +78,7 @@ CChartBody::~CChartBody()
 {
     if (m_window == nullptr)
         return;
+    m_layer.reset();
     m_services->Dialogs.Drop();
     m_view->Detach();
     CManagerThreadHolder& holder = ManagerThreadHolder();
@@ -82,6 +109,8 @@ void CChartBody::Create(CChartCtrl& control)
     m_services = std::make_unique<sServices>(control, m_setup);
     ManagerThreadHolder().AddControl(m_setup.FeedKey);
     CreateWindow();
+    m_services->Switch = std::make_unique<CSwitchWatch>(*this);
+    control.installEventFilter(m_services->Switch.get());
     LayOut();
 }
 
@@ -96,7 +125,9 @@ void CChartBody::CreateWindow()
                                                           .Dialogs = &m_services->Dialogs});
     // Without visible dialogs nobody could close one, so printing counts as cancelled.
     if (m_setup.Popups)
-        m_services->Dialogs.Print = [this] { PrintWithDialog(*m_window, m_control); };
+        m_services->Dialogs.Print = [this] {
+            PrintWithDialog(*m_window, m_control, {Conveniences(), m_notice});
+        };
     m_view->Attach(*m_window);
     m_view->Menu().Extend = [this](QMenu& popup) {
         if (!Conveniences())
@@ -113,13 +144,16 @@ void CChartBody::CreateWindow()
         }
     };
     m_window->Initialise();
+    m_services->Box.SetConveniences(Conveniences());
+    m_layer = std::make_unique<CChartConveniences>(*m_view, *m_window, m_services->Feed);
 }
 
 bool CChartBody::SetStockSymbol(const QString& symbol)
 {
     const bool changed = symbol != m_symbol;
     m_symbol = symbol;
-    m_window->SetSymbol(symbol.toStdString());
+    const std::string text = symbol.toStdString();
+    m_window->SetSymbol(Conveniences() ? TrimmedSymbol(text) : text);
     return changed;
 }
 
@@ -176,6 +210,17 @@ bool CChartBody::Conveniences() const
 void CChartBody::SetConveniences(bool on)
 {
     m_view->SetConveniences(on);
+    m_services->Box.SetConveniences(on);
+    m_layer->SetOn(on);
+}
+
+void CChartBody::UseFeed(std::shared_ptr<ISettingsKey> feedKey)
+{
+    if (feedKey == nullptr)
+        return;
+    m_setup.FeedKey = feedKey;
+    m_services->Dialogs.SetFeedKey(feedKey);
+    ManagerThreadHolder().Reconnect(std::move(feedKey));
 }
 
 void CChartBody::SetClientSize(const QSize& size)
@@ -187,17 +232,19 @@ void CChartBody::SetClientSize(const QSize& size)
 
 QImage CChartBody::Picture() const
 {
-    return DrawChartPicture({*m_window, m_view->size(), m_notice}, m_view->devicePixelRatioF());
+    return DrawChartPicture({*m_window, m_view->size(), m_notice, Conveniences()},
+                            m_view->devicePixelRatioF());
 }
 
 QString CChartBody::SavePicture(const QString& path) const
 {
-    return SaveChartPicture({*m_window, m_view->size(), m_notice}, path, m_view->devicePixelRatioF());
+    return SaveChartPicture({*m_window, m_view->size(), m_notice, Conveniences()}, path,
+                            m_view->devicePixelRatioF());
 }
 
 QString CChartBody::PrintToFile(const QString& path)
 {
-    return PrintToPdf(*m_window, path);
+    return PrintToPdf(*m_window, path, {Conveniences(), m_notice});
 }
 
 void CChartBody::CopyPicture()

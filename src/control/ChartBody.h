@@ -17,6 +17,7 @@
 namespace zantroq {
 
 class CChartDlg;
+class CChartConveniences;
 class CChartView;
 
 // The services that a program of this project can replace. Empty members have defaults.
@@ -59,10 +60,13 @@ public:
     const CChartDlg& Window() const { return *m_window; }
     CChartView& View() { return *m_view; }
 
-    // Wheel, arrow keys, Ctrl with +, - and P, F10 and the menu key, and the items for pictures and
-    // printing in the context menu. On at the start.
+    // What docs/conveniences.md lists. On at the start; hosts switch it with the dynamic property
+    // "Conveniences" of the control.
     bool Conveniences() const;
     void SetConveniences(bool on);
+    CChartConveniences& Layer() { return *m_layer; }
+    // Where the data comes from, from now on: connects anew. Empty: nothing changes.
+    void UseFeed(std::shared_ptr<ISettingsKey> feedKey);
 
     // The size of the chart window, also while the control is hidden.
     void SetClientSize(const QSize& size);
@@ -88,6 +92,7 @@ private:
     struct sServices;
     std::unique_ptr<sServices> m_services;
     std::unique_ptr<CChartDlg> m_window;
+    std::unique_ptr<CChartConveniences> m_layer;
     sControlFrame m_frame;
     QString m_symbol, m_notice;
     QString m_pictureFolder; // folder of the last saved picture

@@ -280,6 +280,17 @@ bool CChartDlg::DrawChart()
     return m_ready && m_lifecycle.DrawChart();
 }
 
+bool CChartDlg::AskAgain()
+{
+    return m_ready && m_lifecycle.AskAgain();
+}
+
+void CChartDlg::ShowDataType(int dataType)
+{
+    if (m_ready)
+        m_lifecycle.ShowDataType(dataType);
+}
+
 void CChartDlg::OpenPaneMenu(int pane, int x, int y)
 {
     if (m_ready)

@@ -75,6 +75,11 @@ public:
     void OnIntervalChanged();
     void OnResize();  // the client size or the height of the bars has changed
     bool DrawChart(); // false: no request was made
+    // Watches and requests the chart on show once more, on a new connection; the trendlines stay. False and
+    // without effect if no chart was requested.
+    bool AskAgain();
+    // Selects the type of the charts from now on without storing it.
+    void ShowDataType(int dataType);
     // Opens the context menu of a pane by keyboard, at a pixel of it.
     void OpenPaneMenu(int pane, int x, int y);
 
@@ -118,6 +123,7 @@ public:
     const std::string& CurrentSymbol() const { return m_lifecycle.CurrentSymbol(); }
     int Loading() const { return m_lifecycle.Loading() ? 1 : 0; }  // 1 while a chart loads
     bool CompleteAndDrawn() const;                                 // the reply is complete and on show
+    bool HasUnstoredChanges() const { return m_key.IsWaiting(); }  // of settings; they are tried again
     int ShownPanes() const { return PaneCount(m_settings.Panes); } // price pane and displayed studies
     int ClickedPane() const { return m_clickedPane; }              // pane of the last context menu
     const std::string& StatusPart(int part) const { return m_status.Part(part); } // 0 to 2

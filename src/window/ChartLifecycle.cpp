@@ -131,6 +131,11 @@ void CChartLifecycle::UnwatchAndClear()
 void CChartLifecycle::RequestChart()
 {
     m_trends.RemoveAll();
+    SendRequest();
+}
+
+void CChartLifecycle::SendRequest()
+{
     m_series->SetSymbol(m_currentSymbol);
     // The panes get the new type before they are cleared, because their axes and numbers of series depend on
     // it.
@@ -152,6 +157,16 @@ void CChartLifecycle::ReloadSeries()
     UnwatchAndClear();
     m_range.ExpectFirstFill();
     RequestChart();
+}
+
+bool CChartLifecycle::AskAgain()
+{
+    if (!m_requested || !m_series || m_series->GetSymbol() != m_currentSymbol)
+        return false;
+    UnwatchAndClear();
+    m_range.ExpectFirstFill();
+    SendRequest();
+    return true;
 }
 
 void CChartLifecycle::EnterLoading()
@@ -193,6 +208,15 @@ void CChartLifecycle::OnDataTypeChanged(int forced)
             DrawChart();
     }
     m_services.Interval.SetEnabled(request.DataType == MinuteData);
+}
+
+void CChartLifecycle::ShowDataType(int dataType)
+{
+    sRequestSettings& request = m_settings.Request;
+    request.DataType = dataType;
+    request.RequestType = request.RequestKinds.at(static_cast<std::size_t>(dataType));
+    m_services.Type.Select(dataType);
+    m_services.Interval.SetEnabled(dataType == MinuteData);
 }
 
 void CChartLifecycle::OnIntervalChanged()

@@ -44,10 +44,12 @@ public:
     void OnSymbolChanged();
     void OnDrawChart();
     void OnDataTypeChanged(int forced);
+    void ShowDataType(int dataType); // for the charts from now on; stores nothing
     void OnIntervalChanged();
     void OnTimer();
     bool DrawChart();    // false: no request was made
     void ReloadSeries(); // the same chart again: brings deleted points back
+    bool AskAgain();     // the same chart on a new connection, with its trendlines; false: there is none
 
     CChartHistRequest* Series() const { return m_series.get(); }
     bool Loading() const { return m_loading; }
@@ -58,6 +60,7 @@ private:
     void FitFixedScale(); // to the requested chart
     void DropChart();
     void RequestChart();
+    void SendRequest();
     void EnterLoading();
     void LeaveLoading();
     void UnwatchAndClear();

@@ -143,13 +143,15 @@ TEST_F(ChartErrors, ASymbolThatTheFeedDoesNotKnowEndsWithExitThree)
 
 TEST_F(ChartErrors, DataThatTheEmbeddedFeedLacksPointsToWhatItHas)
 {
-    sRun run = Chart({"GOOG", "--feed", "embedded", "--snapshot", "a.png", "--timeout", "1"});
+    sRun run =
+        Chart({"GOOG", "--feed", "embedded", "--snapshot", "a.png", "--timeout", "1", "--data", "tick"});
     EXPECT_EQ(run.ExitCode, 3);
     EXPECT_EQ(run.Err,
               "zantroq-chart: GOOG: the feed gave no complete reply in time (1 s); the embedded feed has no "
               "ticks of it, but daily prices, which --data daily shows\n");
     Write("MIN.minute.csv", "time,open,high,low,close,volume\n2024-01-02 09:31:00,1,2,1,2,10\n");
-    run = Chart({"MIN", "--feed", "embedded:.", "--snapshot", "a.png", "--timeout", "1"});
+    run = Chart(
+        {"MIN", "--feed", "embedded:.", "--snapshot", "a.png", "--timeout", "1", "--conveniences", "off"});
     EXPECT_EQ(run.ExitCode, 3);
     EXPECT_NE(run.Err.find("no ticks of it, but minutes, which --data minute shows"), std::string::npos)
         << run.Err;

@@ -36,7 +36,8 @@ CBarSeries NewestDays(std::size_t count)
 class Studies : public CPrograms
 {
 protected:
-    json Play(const std::string& steps, const QStringList& words = {"--feed", "embedded"})
+    json Play(const std::string& steps,
+              const QStringList& words = {"--feed", "embedded", "--conveniences", "off"})
     {
         Write("script.txt", steps + "snapshot state.json\n");
         const sRun run = Chart(QStringList({"--replay", "script.txt"}) + words);

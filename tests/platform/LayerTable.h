@@ -23,6 +23,7 @@ inline const LayerTable& MayInclude()
         {"trends", {"platform", "market", "settings", "scene", "drawing"}},
         {"search", {"platform", "market"}},
         {"window", {"platform", "market", "settings", "scene", "drawing", "studies", "trends", "search"}},
+        {"conveniences", {"platform", "market", "window"}},
         {"printing",
          {"platform", "market", "settings", "scene", "drawing", "studies", "trends", "search", "window"}},
         {"replay",
@@ -32,10 +33,10 @@ inline const LayerTable& MayInclude()
         {"feed", {"platform", "market"}},
         {"qt",
          {"platform", "market", "settings", "scene", "ink", "paint", "drawing", "studies", "trends", "search",
-          "window", "printing", "replay", "export", "feed"}},
+          "window", "conveniences", "printing", "replay", "export", "feed"}},
         {"control",
          {"platform", "market", "settings", "scene", "ink", "paint", "drawing", "studies", "trends", "search",
-          "window", "printing", "replay", "export", "feed", "qt"}},
+          "window", "conveniences", "printing", "replay", "export", "feed", "qt"}},
         {"resources", {}},
     };
     return table;

@@ -240,6 +240,35 @@ TEST(StatusLine, ALastTradeWithoutRoomLosesItsSizeAndNeverHalfANumber)
     EXPECT_EQ(shown("", 67), "");
 }
 
+TEST(StatusLine, ALastTradesPartGrowsAtTheCostOfTheFirst)
+{
+    CStatusLine line(nullptr);
+    line.resize(400, CStatusLine::LineHeight);
+    line.SetPart(2, "1015.20 x 123456789");
+    EXPECT_EQ(line.Room(2), CStatusLine::PartRect(2, 400)) << "it is off at the start";
+    line.SetGrowing(true);
+    EXPECT_GE(line.Room(2).width(), line.fontMetrics().horizontalAdvance("1015.20 x 123456789"));
+    EXPECT_EQ(line.Room(2).right(), 399);
+    EXPECT_EQ(line.Room(1).width(), CStatusLine::PartRect(1, 400).width());
+    EXPECT_EQ(line.Room(0).right() + 1, line.Room(1).left());
+    EXPECT_EQ(line.Room(1).right() + 1, line.Room(2).left());
+    line.SetPart(2, "1 x 1");
+    EXPECT_EQ(line.Room(0), CStatusLine::PartRect(0, 400)) << "a short text leaves the parts as they are";
+}
+
+TEST(StatusLine, AnotherLastTradeStandsInItsPartOnlyWhileThereIsOne)
+{
+    CStatusLine line(nullptr);
+    line.SetGrowing(true);
+    line.SetLastTrade("10.5 x 3");
+    EXPECT_EQ(line.LastTrade(), "") << "the setting is off";
+    line.SetPart(2, "10.5 x 999");
+    EXPECT_EQ(line.LastTrade(), "10.5 x 3");
+    EXPECT_EQ(line.Part(2), "10.5 x 999");
+    line.SetLastTrade({});
+    EXPECT_EQ(line.LastTrade(), "10.5 x 999");
+}
+
 TEST(MessageBoxPicture, EachKindHasOne)
 {
     for (const char* const name : {"question", "error"})

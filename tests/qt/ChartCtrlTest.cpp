@@ -1,7 +1,9 @@
 // The control with a real chart window and a real feed behind it.
+#include "export/ChartSnapshot.h"
 #include "qt/ChartFixture.h"
 #include "qt/dialogs/MessageBox.h"
 #include "qt/dialogs/PictureDialog.h"
+#include "trends/TrendPrompts.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -119,6 +121,84 @@ TEST_F(CChartCtrlTest, ControlWithPlusMinusOrTheWheelZooms)
     EXPECT_EQ(Window().Range().shown, 60);
     Wheel(120, Qt::ControlModifier);
     EXPECT_EQ(Window().Range().shown, 30);
+}
+
+TEST_F(CChartCtrlTest, EscapeRemovesAHalfDrawnTrendline)
+{
+    Draw();
+    Window().OnCommand(DrawSloping);
+    Window().OnChartMouseDown(FirstPaneControl, MouseLeft, 0, 200, 100);
+    Window().OnChartMouseMove(FirstPaneControl, MouseNone, 0, 300, 80);
+    ASSERT_EQ(Window().Trends().Count(), 1);
+    Key(Qt::Key_Escape);
+    EXPECT_EQ(Window().Trends().Count(), 0);
+    EXPECT_EQ(Window().Trends().State(), 0);
+    EXPECT_EQ(Window().StatusPart(0), "Ready");
+}
+
+TEST_F(CChartCtrlTest, EscapeEndsTheModeThatDeletesTrendlines)
+{
+    Draw();
+    Window().OnCommand(AskDeleteTrend);
+    ASSERT_NE(Window().Trends().State(), 0);
+    Key(Qt::Key_Escape);
+    EXPECT_EQ(Window().Trends().State(), 0);
+}
+
+TEST_F(CChartCtrlTest, EscapeClosesTheNoteAtAPoint)
+{
+    Draw();
+    CPaneLabel& note = Window().Pane(0).PaneLabels().Item(1);
+    int x = 0, y = 0;
+    Window().Pane(0).PaneGroups(1).PointToPixel(1, 15, x, y);
+    Window().OnChartMouseDown(FirstPaneControl, MouseLeft, 0, x, y);
+    ASSERT_TRUE(note.Shown());
+    Key(Qt::Key_Escape);
+    EXPECT_FALSE(note.Shown());
+}
+
+TEST_F(CChartCtrlTest, EscapeInTheSymbolBoxBringsBackTheSymbolOnShow)
+{
+    Draw();
+    CSymbolBox& box = View().Bars().Symbol();
+    box.TypeText("OTH");
+    QTest::keyClick(&box, Qt::Key_Escape);
+    EXPECT_EQ(box.Text(), "TEST");
+    EXPECT_EQ(Window().CurrentSymbol(), "TEST");
+    Body().SetConveniences(false);
+    box.TypeText("OTH");
+    QTest::keyClick(&box, Qt::Key_Escape);
+    EXPECT_EQ(box.Text(), "OTH");
+}
+
+TEST_F(CChartCtrlTest, APickFromTheSymbolBoxDraws)
+{
+    Draw();
+    CSymbolBox& box = View().Bars().Symbol();
+    box.SetItems({"WAVE", "TEST"});
+    for (const bool on : {false, true}) {
+        Body().SetConveniences(on);
+        box.setCurrentIndex(0);
+        emit box.activated(0);
+        EXPECT_EQ(Window().CurrentSymbol(), on ? "WAVE" : "TEST");
+    }
+}
+
+TEST_F(CChartCtrlTest, EscapeIsTheHostsWhereTheConveniencesAreOff)
+{
+    Draw();
+    Body().SetConveniences(false);
+    Window().OnCommand(DrawSloping);
+    Key(Qt::Key_Escape);
+    EXPECT_NE(Window().Trends().State(), 0);
+}
+
+TEST_F(CChartCtrlTest, TheStateIsTheSameWithTheConveniencesOnAndOff)
+{
+    Draw();
+    const std::string on = ChartSnapshotText(Window());
+    Body().SetConveniences(false);
+    EXPECT_EQ(ChartSnapshotText(Window()), on);
 }
 
 TEST_F(CChartCtrlTest, AHostCanSwitchTheConveniencesOff)

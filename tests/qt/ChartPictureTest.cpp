@@ -50,6 +50,28 @@ TEST_F(CChartPictureTest, HasTheClientSizeAtEveryScale)
     EXPECT_EQ(DrawChartPicture(Picture(), 2).size(), QSize(1400, 1000));
 }
 
+TEST_F(CChartPictureTest, WithTheConveniencesItCarriesNeitherScrollMarkNorStatusLine)
+{
+    Draw();
+    sChartPicture picture = Picture();
+    const QRect below(0, View().Scroll().y() + 1, 700, 499 - View().Scroll().y());
+    EXPECT_GT(Ink(DrawChartPicture(picture, 1), below), 500);
+    picture.Conveniences = true;
+    const QImage image = DrawChartPicture(picture, 1);
+    EXPECT_EQ(image.size(), QSize(700, 500));
+    EXPECT_EQ(Ink(image, below), 0);
+}
+
+TEST_F(CChartPictureTest, ASimulatedMarketIsNamedBeforeTheValues)
+{
+    Draw();
+    const QByteArray plain = Saved("plain.csv");
+    Body().SetNotice("TEST: simulated market");
+    EXPECT_EQ(Saved("named.csv"), "# TEST: simulated market\n" + plain);
+    Body().SetConveniences(false);
+    EXPECT_EQ(Saved("off.csv"), plain);
+}
+
 TEST_F(CChartPictureTest, PanesStandWhereTheWindowHasThem)
 {
     Draw();

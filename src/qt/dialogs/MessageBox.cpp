@@ -1,5 +1,6 @@
 #include "qt/dialogs/MessageBox.h"
 
+#include "conveniences/Questions.h"
 #include "qt/widgets/CommandIcons.h"
 
 #include <QAbstractButton>
@@ -44,7 +45,8 @@ BoxAnswer CMessageBox::Ask(const std::string& text, const std::string& caption, 
     QMessageBox box(&Over(m_parent));
     ShowPicture(box, icon);
     // Without a caption the title stays blank; the desktop would put the program's name there.
-    box.setWindowTitle(caption.empty() ? QString(" ") : QString::fromStdString(caption));
+    const std::string title = m_conveniences ? BoxTitle(text, caption) : caption;
+    box.setWindowTitle(title.empty() ? QString(" ") : QString::fromStdString(title));
     box.setTextFormat(Qt::PlainText);
     box.setText(QString::fromStdString(text));
     if (buttons == BoxButtons::Ok) {
@@ -55,6 +57,8 @@ BoxAnswer CMessageBox::Ask(const std::string& text, const std::string& caption, 
     }
     box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
     box.setEscapeButton(QMessageBox::No);
+    if (m_conveniences && AsksToDelete(text))
+        box.setDefaultButton(QMessageBox::No);
     ShowPlainButtons(box);
     return box.exec() == QMessageBox::Yes ? BoxAnswer::Yes : BoxAnswer::No;
 }

@@ -22,6 +22,9 @@ public:
     }
     ~CWindowDialogs() override { Drop(); }
 
+    // For the dialogs that are opened from now on.
+    void SetFeedKey(std::shared_ptr<ISettingsKey> feedKey) { m_feedKey = std::move(feedKey); }
+
     // Closes an open dialog as if it had never been there.
     void Drop();
 
@@ -39,7 +42,7 @@ private:
     void Open(CFormDialog& dialog);
 
     QWidget& m_over;
-    const std::shared_ptr<ISettingsKey> m_feedKey;
+    std::shared_ptr<ISettingsKey> m_feedKey;
     IMessageBox& m_box;
     QPointer<CFormDialog> m_dialog;
     std::unique_ptr<CFormDialogDriver> m_driver; // driver of m_dialog while it is open

@@ -31,6 +31,11 @@ constexpr int StatusHeight = 20;
 
 using PaintPane = std::function<void(int pane, const QRect& rect)>;
 
+PaneManner MannerOf(const sChartPicture& picture)
+{
+    return picture.Conveniences ? PaneManner::Convenient : PaneManner::Plain;
+}
+
 QFont TextFont(int size, bool bold)
 {
     QFont font("DejaVu Sans");
@@ -108,6 +113,8 @@ void PaintPicture(QPainter& painter, const sChartPicture& picture, const PaintPa
         if (at.Width > 0 && at.Height > 0)
             paintPane(pane, QRect(at.Left, at.Top, at.Width, at.Height));
     }
+    if (picture.Conveniences)
+        return;
     PaintScrollMark(painter, picture);
     PaintStatus(painter, picture);
 }
@@ -119,9 +126,10 @@ void PaintVectors(QPainter& painter, const sChartPicture& picture, int fine)
     PaintPicture(painter, picture, [&](int pane, const QRect& rect) {
         painter.save();
         painter.resetTransform();
-        CPanePainter(picture.Window.Pane(pane))
-            .PaintInto(painter, QRectF(rect.left() * fine, rect.top() * fine, rect.width() * fine,
-                                       rect.height() * fine));
+        CPanePainter pixels(picture.Window.Pane(pane));
+        pixels.SetManner(MannerOf(picture));
+        pixels.PaintInto(painter, QRectF(rect.left() * fine, rect.top() * fine, rect.width() * fine,
+                                         rect.height() * fine));
         painter.restore();
     });
 }
@@ -170,6 +178,14 @@ QByteArray PngBytes(const sChartPicture& picture, double devicePixelRatio)
     return !image.isNull() && image.save(&bytes, "PNG") ? bytes.data() : QByteArray();
 }
 
+QByteArray CsvBytes(const sChartPicture& picture)
+{
+    const QByteArray values = QByteArray::fromStdString(ShownValuesCsv(picture.Window));
+    if (!picture.Conveniences || picture.Notice.isEmpty())
+        return values;
+    return "# " + picture.Notice.simplified().toUtf8() + '\n' + values;
+}
+
 QByteArray PictureBytes(const sChartPicture& picture, SavedFileKind kind, double devicePixelRatio)
 {
     try {
@@ -193,7 +209,7 @@ QImage DrawPixels(const sChartPicture& picture, double devicePixelRatio)
         return {};
     bool whole = true;
     PaintPicture(painter, picture, [&](int pane, const QRect& rect) {
-        const QImage pixels = PanePicture(picture.Window.Pane(pane), devicePixelRatio);
+        const QImage pixels = PanePicture(picture.Window.Pane(pane), devicePixelRatio, {}, MannerOf(picture));
         whole = whole && !pixels.isNull();
         painter.drawImage(rect.topLeft(), pixels);
     });
@@ -222,7 +238,7 @@ QString SaveChartPicture(const sChartPicture& picture, const QString& path, doub
     if (*kind == SavedFileKind::State)
         return WritePictureFile(path, QByteArray::fromStdString(ChartSnapshotText(picture.Window)));
     if (*kind == SavedFileKind::Values)
-        return WritePictureFile(path, QByteArray::fromStdString(ShownValuesCsv(picture.Window)));
+        return WritePictureFile(path, CsvBytes(picture));
     const QByteArray bytes = PictureBytes(picture, *kind, devicePixelRatio);
     const double ratio = *kind == SavedFileKind::Png ? devicePixelRatio : 1;
     if (bytes.isEmpty())

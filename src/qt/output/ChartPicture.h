@@ -18,6 +18,9 @@ struct sChartPicture
     const CChartDlg& Window;
     QSize Size;     // client size of the chart window, in pixels
     QString Notice; // shown in the heading where not empty
+    // With the conveniences: neither a scroll mark nor a status line, panes in their convenient manner, and the
+    // notice also in a comment line before the values on show.
+    bool Conveniences = false;
 };
 
 // Returns a null image if memory is short.

@@ -1,5 +1,6 @@
 #include "qt/widgets/ChartView.h"
 
+#include "drawing/HistPriceChart.h"
 #include "window/ChartDlg.h"
 
 #include <QContextMenuEvent>
@@ -57,6 +58,7 @@ CChartView::CChartView(QWidget* parent)
       m_dragLine(new CDragLine(this)),
       m_top(*this)
 {
+    SetConveniences(true);
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName("Chart window");
     m_menu.ToGlobal = [this](int pane, int x, int y) {
@@ -92,6 +94,7 @@ void CChartView::Attach(CChartDlg& window)
     for (int number = 0; number < PaneControls; ++number)
         m_panes[static_cast<std::size_t>(number)] =
             new CPaneWidget(this, FirstPaneControl + number, window.Pane(number), *this);
+    SetConveniences(m_conveniences);
     setFocusProxy(m_panes.front()); // so that a symbol can be typed from the start
     m_dragLine->raise();
     m_timer.OnTick = [this](int id) { m_window->OnTimer(id); };
@@ -102,6 +105,7 @@ void CChartView::Attach(CChartDlg& window)
     m_bars->Commands().OnCommand = [this](int command) { m_window->OnCommand(command); };
     m_bars->Symbol().OnChanged = [this] { m_window->OnSymbolChanged(); };
     m_bars->Symbol().OnEnter = [this] { m_window->OnSymbolEnter(); };
+    m_bars->Symbol().OnEscape = [this] { BringSymbolBack(); };
     m_bars->Type().OnChosen = [this] { m_window->OnDataTypeChanged(0); };
     m_bars->Interval().OnChosen = [this] { m_window->OnIntervalChanged(); };
     m_menu.OnPicked = [this](int command) {
@@ -119,12 +123,22 @@ void CChartView::Detach()
     m_timer.OnTick = [](int) {};
     m_scroll->OnScroll = [](ScrollCode, int) {};
     m_bars->Commands().OnCommand = [](int) {};
-    m_bars->Symbol().OnChanged = m_bars->Symbol().OnEnter = [] {};
+    m_bars->Symbol().OnChanged = m_bars->Symbol().OnEnter = m_bars->Symbol().OnEscape = [] {};
     m_bars->Type().OnChosen = m_bars->Interval().OnChosen = [] {};
     for (CPaneWidget*& pane : m_panes) {
         delete pane;
         pane = nullptr;
     }
+}
+
+void CChartView::SetConveniences(bool on)
+{
+    m_conveniences = on;
+    m_bars->Symbol().SetConveniences(on);
+    m_status->SetGrowing(on);
+    for (CPaneWidget* pane : m_panes)
+        if (pane != nullptr)
+            pane->SetManner(on ? PaneManner::Convenient : PaneManner::Plain);
 }
 
 void CChartView::SetClientSize(int width, int height)
@@ -222,6 +236,26 @@ bool CChartView::MayRun(int command) const
            m_bars->Commands().IsEnabled(command);
 }
 
+void CChartView::BringSymbolBack()
+{
+    m_bars->Symbol().SetText(m_window->CurrentSymbol());
+    m_window->OnSymbolChanged();
+    m_panes.front()->setFocus(Qt::OtherFocusReason);
+}
+
+bool CChartView::Cancel()
+{
+    if (m_window->Trends().State() != 0) {
+        m_window->OnChartMouseDown(FirstPaneControl, MouseRight, 0, 0, 0);
+        return true;
+    }
+    CPaneLabels& labels = m_window->Pane(0).PaneLabels();
+    if (labels.Count() < ReadoutLabel || !labels.Item(ReadoutLabel).Shown())
+        return false;
+    labels.Item(ReadoutLabel).SetShown(false);
+    return true;
+}
+
 void CChartView::RunCommand(int command)
 {
     if (MayRun(command))
@@ -251,6 +285,8 @@ void CChartView::keyPressEvent(QKeyEvent* event)
         return scroll(ScrollCode::LeftEnd);
     case Qt::Key_End:
         return scroll(ScrollCode::RightEnd);
+    case Qt::Key_Escape:
+        return Cancel() ? event->accept() : QWidget::keyPressEvent(event);
     case Qt::Key_F10:
     case Qt::Key_Menu:
         return OpenMenuByKey();

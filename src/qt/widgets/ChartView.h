@@ -38,7 +38,7 @@ public:
     CContextMenuPopup& Menu() { return m_menu; }
 
     // Wheel, arrow keys, Ctrl with +, - and P, F10 and the menu key. On unless the host switches them off.
-    void SetConveniences(bool on) { m_conveniences = on; }
+    void SetConveniences(bool on);
     bool Conveniences() const { return m_conveniences; }
 
     bool MayRun(int command) const; // true if it is enabled and no chart is loading
@@ -75,6 +75,9 @@ private:
 
     void LayOut();
     void OpenMenuByKey();
+    void BringSymbolBack(); // the symbol on show, into its box
+    // A half-drawn line or a mode of the trendlines, else the note at a point; false: there is neither.
+    bool Cancel();
     bool MayScroll() const;
 
     CChartBars* m_bars;

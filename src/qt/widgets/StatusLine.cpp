@@ -83,7 +83,50 @@ void CStatusLine::SetPart(int part, const std::string& text)
         return;
     shown = wanted;
     setAccessibleDescription(m_texts[0]);
-    update(PartRect(part, width()));
+    if (m_growing && part == 2)
+        update();
+    else
+        update(PartRect(part, width()));
+}
+
+void CStatusLine::SetGrowing(bool growing)
+{
+    m_growing = growing;
+    update();
+}
+
+void CStatusLine::SetLastTrade(const QString& text)
+{
+    if (text == m_lastTrade)
+        return;
+    m_lastTrade = text;
+    update();
+}
+
+QString CStatusLine::LastTrade() const
+{
+    return m_growing && !m_lastTrade.isEmpty() && !m_texts[2].isEmpty() ? m_lastTrade : m_texts[2];
+}
+
+QRect CStatusLine::Room(int part) const
+{
+    QRect room = PartRect(part, width());
+    if (!m_growing)
+        return room;
+    const int wanted = fontMetrics().horizontalAdvance(LastTrade()) + Padding + 4;
+    const int more =
+        std::clamp(wanted - PartRect(2, width()).width(), 0, std::max(0, PartRect(0, width()).width()));
+    room.setLeft(room.left() - (part > 0 ? more : 0));
+    room.setRight(room.right() - (part < 2 ? more : 0));
+    return room;
+}
+
+void CStatusLine::SetStale(bool stale)
+{
+    if (stale == m_stale)
+        return;
+    m_stale = stale;
+    update(Room(2));
 }
 
 void CStatusLine::paintEvent(QPaintEvent*)
@@ -92,15 +135,16 @@ void CStatusLine::paintEvent(QPaintEvent*)
     painter.fillRect(rect(), palette().color(QPalette::Window));
     const QColor line = BarLineColor(palette());
     painter.fillRect(0, 0, width(), 1, line);
-    painter.setPen(palette().color(QPalette::WindowText));
     for (int part = 0; part < 3; ++part) {
-        const QRect room = PartRect(part, width());
+        const bool old = part == 2 && m_stale;
+        painter.setPen(palette().color(old ? QPalette::Disabled : QPalette::Active, QPalette::WindowText));
+        const QRect room = Room(part);
         if (part > 0)
             painter.fillRect(room.left(), 4, 1, LineHeight - 7, line);
         const int padding = part == 0 ? Padding : Padding / 2;
         const QRect inner = room.adjusted(padding, 1, -padding, 0);
-        const QString& whole = m_texts[static_cast<std::size_t>(part)];
-        const QString text = part == 2 ? ShortTrade(whole, font(), inner.width()) : whole;
+        const QString whole = part == 2 ? LastTrade() : m_texts[static_cast<std::size_t>(part)];
+        const QString text = part == 2 && !m_growing ? ShortTrade(whole, font(), inner.width()) : whole;
         const QFont shown = part == 0 ? font() : FittingFont(font(), text, inner.width());
         painter.setFont(shown);
         painter.drawText(inner, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
@@ -114,9 +158,10 @@ bool CStatusLine::event(QEvent* event)
         return QWidget::event(event);
     const auto* help = static_cast<QHelpEvent*>(event);
     for (int part = 0; part < 3; ++part) {
-        const QString& text = m_texts[static_cast<std::size_t>(part)];
-        if (PartRect(part, width()).contains(help->pos()) && !text.isEmpty())
-            QToolTip::showText(help->globalPos(), text, this);
+        const QString text = part == 2 ? LastTrade() : m_texts[static_cast<std::size_t>(part)];
+        if (Room(part).contains(help->pos()) && !text.isEmpty())
+            QToolTip::showText(help->globalPos(),
+                               part == 2 && m_stale ? text + " (old: the feed is lost)" : text, this);
     }
     return true;
 }

@@ -19,6 +19,16 @@ public:
 
     void SetPart(int part, const std::string& text) override;
     QString Part(int part) const { return m_texts.at(static_cast<std::size_t>(part)); }
+    // Whether the last trade's part grows with its text, at the cost of the first part, and shows the text of
+    // SetLastTrade where that is not empty. Off at the start.
+    void SetGrowing(bool growing);
+    void SetLastTrade(const QString& text);
+    // What the last part shows, and where.
+    QString LastTrade() const;
+    QRect Room(int part) const;
+    // Whether the last trade is known to be old: it is written in grey then.
+    void SetStale(bool stale);
+    bool Stale() const { return m_stale; }
     // Where a part stands in a line of this width.
     static QRect PartRect(int part, int width);
     // Shortens a last trade such as "101.25 x 1234567" to fit: with the size as "1.2M", or without the size.
@@ -31,6 +41,8 @@ protected:
 
 private:
     std::array<QString, 3> m_texts;
+    QString m_lastTrade;
+    bool m_stale = false, m_growing = false;
 };
 
 } // namespace zantroq

@@ -1,5 +1,6 @@
 #include "qt/widgets/SymbolBox.h"
 
+#include "conveniences/SymbolText.h"
 #include "qt/widgets/BarFont.h"
 #include "window/WindowTexts.h"
 
@@ -25,12 +26,15 @@ CSymbolBox::CSymbolBox(QWidget* parent) : QComboBox(parent)
     connect(this, &QComboBox::activated, this, [this](int item) {
         m_selection = item;
         OnChanged();
+        if (m_conveniences)
+            OnEnter();
     });
 }
 
 std::string CSymbolBox::Text() const
 {
-    return currentText().toStdString();
+    const std::string text = currentText().toStdString();
+    return m_conveniences ? TrimmedSymbol(text) : text;
 }
 
 void CSymbolBox::SetText(const std::string& text)
@@ -110,6 +114,10 @@ void CSymbolBox::wheelEvent(QWheelEvent* event)
 // The box has the keyboard focus and passes key events to its edit line.
 void CSymbolBox::keyPressEvent(QKeyEvent* event)
 {
+    if (event->key() == Qt::Key_Escape && m_conveniences) {
+        event->accept();
+        return OnEscape();
+    }
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
         return QComboBox::keyPressEvent(event);
     event->accept();

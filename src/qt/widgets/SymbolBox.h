@@ -17,6 +17,10 @@ public:
 
     std::function<void()> OnChanged; // text or selection
     std::function<void()> OnEnter;
+    // Blanks before and after the text count for nothing, a pick from the list draws as Enter does, and Escape
+    // is reported. Off at the start.
+    void SetConveniences(bool on) { m_conveniences = on; }
+    std::function<void()> OnEscape = [] {};
     // Types a text into the box as a user would, replacing what stands there.
     void TypeText(const QString& text);
 
@@ -35,6 +39,7 @@ protected:
 private:
     void OnEdited(const QString& typed);
 
+    bool m_conveniences = false;
     int m_selection = -1; // typing ends it, although the list may hold the very text
 };
 
