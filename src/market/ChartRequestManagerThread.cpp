@@ -19,6 +19,7 @@ CChartRequestManagerThread::CChartRequestManagerThread(std::shared_ptr<ISettings
     m_level1.OnTrade = [this](std::string_view symbol, double price, std::int64_t size) {
         m_status.NoteTrade(symbol, price, size);
     };
+    m_level1.OnSimulated = [this](std::string_view symbol) { m_status.NoteSimulated(symbol); };
     m_history.OnRefused = [this](std::int32_t handle, std::string_view reason) {
         m_status.NoteRefusal(handle, reason);
     };

@@ -70,4 +70,16 @@ std::optional<sLastTrade> CFeedStatus::LastTrade(std::string_view symbol) const
     return found == m_trades.end() ? std::nullopt : std::optional(found->second);
 }
 
+void CFeedStatus::NoteSimulated(std::string_view symbol)
+{
+    CLockGuard guard(m_lock);
+    m_simulated.emplace(symbol);
+}
+
+bool CFeedStatus::IsSimulated(std::string_view symbol) const
+{
+    CLockGuard guard(m_lock);
+    return m_simulated.contains(symbol);
+}
+
 } // namespace zantroq

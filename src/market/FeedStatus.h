@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -70,6 +71,9 @@ public:
     // The last trade that the feed reported of a symbol; empty before the first one.
     void NoteTrade(std::string_view symbol, double price, std::int64_t size);
     std::optional<sLastTrade> LastTrade(std::string_view symbol) const;
+    // The feed announced that the symbol's trades are simulated.
+    void NoteSimulated(std::string_view symbol);
+    bool IsSimulated(std::string_view symbol) const;
 
 private:
     sPortStatus& Of(FeedPort port) REQUIRES(m_lock) { return port == FeedPort::Lookup ? m_lookup : m_level1; }
@@ -78,6 +82,7 @@ private:
     sPortStatus m_lookup GUARDED_BY(m_lock), m_level1 GUARDED_BY(m_lock);
     std::map<std::int32_t, std::string> m_refusals GUARDED_BY(m_lock);          // by handle
     std::map<std::string, sLastTrade, std::less<>> m_trades GUARDED_BY(m_lock); // by symbol
+    std::set<std::string, std::less<>> m_simulated GUARDED_BY(m_lock);
 };
 
 } // namespace zantroq

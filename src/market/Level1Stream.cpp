@@ -43,6 +43,9 @@ void CLevel1Stream::OnLine(std::string_view line)
     // The empty line after each CR LF names no symbol.
     if (line.empty())
         return;
+    constexpr std::string_view Simulated = "S,SIMULATED,";
+    if (OnSimulated && line.starts_with(Simulated))
+        OnSimulated(line.substr(Simulated.size()));
     const char messageType = line.front();
     const std::string_view symbol = SymbolOf(line);
     if (!m_watches.Find(symbol, m_requests)) {

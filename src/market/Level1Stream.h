@@ -24,6 +24,9 @@ public:
     // empty.
     std::function<void(std::string_view symbol, double price, std::int64_t size)> OnTrade;
 
+    // Called when the feed announces that the trades of a symbol are simulated. May be empty.
+    std::function<void(std::string_view symbol)> OnSimulated;
+
     // Handles one line without its line end. Throws std::invalid_argument if the line is too short for a
     // request; the other requests of the symbol have merged it nevertheless.
     void OnLine(std::string_view line);

@@ -65,6 +65,11 @@ std::optional<sLastTrade> CManagerThreadHolder::LastTrade(std::string_view symbo
     return ManagerThread ? ManagerThread->Status().LastTrade(symbol) : std::nullopt;
 }
 
+bool CManagerThreadHolder::IsSimulated(std::string_view symbol) const
+{
+    return ManagerThread && ManagerThread->Status().IsSimulated(symbol);
+}
+
 std::optional<std::string> CManagerThreadHolder::Refusal(const CChartHistRequest& request) const
 {
     return ManagerThread ? ManagerThread->Status().Refusal(request.Handle()) : std::nullopt;

@@ -32,10 +32,12 @@ public:
     // previous key if it is null. Nothing is watched and requested on it yet. Does nothing without a running
     // worker. Waits until the old worker has ended, and then like StartManagerThread.
     void Reconnect(std::shared_ptr<ISettingsKey> feedKey = nullptr);
-    // The state of the connections, the last trade of a watched symbol, and the feed's reason if it refused
+    // The state of the connections, the last trade of a watched symbol, whether the feed announced that its
+    // trades are simulated, and the feed's reason if it refused
     // the request.
     sFeedStatus FeedStatus() const;
     std::optional<sLastTrade> LastTrade(std::string_view symbol) const;
+    bool IsSimulated(std::string_view symbol) const;
     std::optional<std::string> Refusal(const CChartHistRequest& request) const;
 
     // Stops and deletes the worker. Waits until it has ended.
