@@ -121,10 +121,16 @@ void CSession::MakeWindow()
     m_window = std::make_unique<CHostWindow>(setup);
     m_window->Chart().SetConveniences(m_line.Conveniences);
     if (person && m_line.Conveniences) {
-        m_window->Chart().Layer().SetReconnectByItself(true);
+        m_window->Control().setProperty("ReconnectByItself", true);
         if (m_feed == nullptr)
             m_window->Chart().Layer().OfferRecordedMarket([this] { UseRecordedMarket(); });
     }
+    // What the embedded feed simulates it says itself.
+    if (m_line.Conveniences)
+        m_window->Chart().Layer().OnSimulated = [this](const QString& symbol) {
+            if (m_feed == nullptr)
+                OnNotice(symbol + ": simulated live trades, not a genuine market");
+        };
     ApplyOptions();
     QObject::connect(m_window.get(), &QWidget::windowTitleChanged, qApp, [this] { WatchSymbol(); });
     if (m_line.NeedsDisplay())

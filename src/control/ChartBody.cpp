@@ -31,8 +31,9 @@ public:
     void Open(const sContextMenu&, int, int) override {}
 };
 
-// The name of the property with which a host switches the conveniences, and who listens to it.
+// The dynamic properties of a control with which a host switches the conveniences, and who listens to them.
 constexpr const char* SwitchName = "Conveniences";
+constexpr const char* ReconnectName = "ReconnectByItself";
 
 class CSwitchWatch : public QObject
 {
@@ -41,11 +42,14 @@ public:
 
     bool eventFilter(QObject* control, QEvent* event) override
     {
-        if (event->type() != QEvent::DynamicPropertyChange ||
-            static_cast<QDynamicPropertyChangeEvent*>(event)->propertyName() != SwitchName)
+        if (event->type() != QEvent::DynamicPropertyChange)
             return false;
-        const QVariant value = control->property(SwitchName);
-        m_body.SetConveniences(!value.isValid() || value.toBool());
+        const QByteArray name = static_cast<QDynamicPropertyChangeEvent*>(event)->propertyName();
+        const QVariant value = control->property(name);
+        if (name == SwitchName)
+            m_body.SetConveniences(!value.isValid() || value.toBool());
+        else if (name == ReconnectName)
+            m_body.Layer().SetReconnectByItself(value.toBool());
         return false;
     }
 
@@ -126,7 +130,7 @@ void CChartBody::CreateWindow()
     // Without visible dialogs nobody could close one, so printing counts as cancelled.
     if (m_setup.Popups)
         m_services->Dialogs.Print = [this] {
-            PrintWithDialog(*m_window, m_control, {Conveniences(), m_notice});
+            PrintWithDialog(*m_window, m_control, {Conveniences(), Notice()});
         };
     m_view->Attach(*m_window);
     m_view->Menu().Extend = [this](QMenu& popup) {
@@ -230,21 +234,26 @@ void CChartBody::SetClientSize(const QSize& size)
     m_view->SetClientSize(size.width(), size.height());
 }
 
+QString CChartBody::Notice() const
+{
+    return m_notice.isEmpty() ? m_layer->SimulatedNotice() : m_notice;
+}
+
 QImage CChartBody::Picture() const
 {
-    return DrawChartPicture({*m_window, m_view->size(), m_notice, Conveniences()},
+    return DrawChartPicture({*m_window, m_view->size(), Notice(), Conveniences()},
                             m_view->devicePixelRatioF());
 }
 
 QString CChartBody::SavePicture(const QString& path) const
 {
-    return SaveChartPicture({*m_window, m_view->size(), m_notice, Conveniences()}, path,
+    return SaveChartPicture({*m_window, m_view->size(), Notice(), Conveniences()}, path,
                             m_view->devicePixelRatioF());
 }
 
 QString CChartBody::PrintToFile(const QString& path)
 {
-    return PrintToPdf(*m_window, path, {Conveniences(), m_notice});
+    return PrintToPdf(*m_window, path, {Conveniences(), Notice()});
 }
 
 void CChartBody::CopyPicture()

@@ -81,6 +81,7 @@ public:
     QString PrintToFile(const QString& path);
 
 private:
+    QString Notice() const;
     void CreateWindow();
     void CopyPicture();
     void AskForPicture();

@@ -74,6 +74,11 @@ sStrip OtherDataStrip(const std::string& symbol, int dataType, int otherType)
             ShowButton(otherType), StripAction::ShowDataType, otherType};
 }
 
+sStrip SimulatedStrip(const std::string& symbol)
+{
+    return {symbol + ": simulated live trades, not a genuine market.", "", StripAction::None};
+}
+
 sStrip SettingsNotKeptStrip()
 {
     return {"The settings could not be kept: the settings file cannot be written.", "", StripAction::None};

@@ -43,5 +43,6 @@ sStrip NoDataStrip(const std::string& symbol, int dataType);
 sStrip EmptyRangeStrip(const std::string& symbol, int dataType);
 sStrip OtherDataStrip(const std::string& symbol, int dataType, int otherType);
 sStrip SettingsNotKeptStrip();
+sStrip SimulatedStrip(const std::string& symbol);
 
 } // namespace zantroq

@@ -88,7 +88,9 @@ sStrip CFeedWatch::StripFor(const sFeedObservation& seen)
         return RefusalStrip(seen);
     if (silent)
         return NoAnswerStrip(seen.Feed, NoAnswerSeconds);
-    return seen.SettingsWaiting ? SettingsNotKeptStrip() : sStrip();
+    if (seen.SettingsWaiting)
+        return SettingsNotKeptStrip();
+    return seen.Simulated ? SimulatedStrip(seen.Symbol) : sStrip();
 }
 
 sStrip CFeedWatch::AwayStrip(const sFeedObservation& seen) const

@@ -33,6 +33,7 @@ struct sFeedObservation
     bool Refused = false; // the feed answered with an error, or with no point at all
     ProbeState Probe = ProbeState::Open;
     int ProbeType = 0;
+    bool Simulated = false;       // the feed says so of the symbol, and nobody else tells the user
     bool SettingsWaiting = false; // a change could not be stored
 };
 

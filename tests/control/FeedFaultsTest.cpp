@@ -9,6 +9,8 @@
 
 #include <memory>
 #include <regex>
+#include <string>
+#include <vector>
 
 namespace zantroq::test {
 namespace {
@@ -169,7 +171,7 @@ TEST_F(FeedFaults, AFeedThatComesBackIsFoundByItselfWhereThatIsOn)
     DrawTicks();
     double now = 100;
     Layer().Clock = [&now] { return now; };
-    Layer().SetReconnectByItself(true);
+    m_control->setProperty("ReconnectByItself", true);
     KillFeed();
     ASSERT_TRUE(AwaitLost());
     EXPECT_EQ(m_feed.Lookup.Connections(), 1);
@@ -307,6 +309,33 @@ TEST_F(FeedFaults, SwitchedOffInTheMiddleTheStripGoes)
     m_control->setProperty("Conveniences", false);
     EXPECT_EQ(Said(), "");
     EXPECT_FALSE(Status().Stale());
+}
+
+TEST_F(FeedFaults, AnOutsideFeedThatSimulatesIsSaidToDoSo)
+{
+    m_feed.Level1.SetResponder([](std::string_view line) {
+        return line.starts_with("wAAA") ? std::string("S,SIMULATED,AAA\r\n") : std::string();
+    });
+    Open();
+    DrawTicks();
+    EXPECT_TRUE(AwaitSaid("AAA: simulated live trades, not a genuine market.")) << Said();
+    DrawTicks("BBB");
+    EXPECT_TRUE(AwaitSaid("")) << Said();
+}
+
+TEST_F(FeedFaults, AHostThatTellsOfSimulationItselfGetsTheSymbolOnce)
+{
+    m_feed.Level1.SetResponder([](std::string_view line) {
+        return line.starts_with("wAAA") ? std::string("S,SIMULATED,AAA\r\n") : std::string();
+    });
+    Open();
+    std::vector<std::string> told;
+    Layer().OnSimulated = [&told](const QString& symbol) { told.push_back(symbol.toStdString()); };
+    DrawTicks();
+    ASSERT_TRUE(PumpUntil([&told] { return !told.empty(); }));
+    Layer().Look();
+    EXPECT_EQ(told, std::vector<std::string>{"AAA"});
+    EXPECT_EQ(Said(), "");
 }
 
 TEST_F(FeedFaults, AHostsSymbolCountsWithoutTheBlanksAroundIt)

@@ -258,4 +258,14 @@ TEST(FeedWatch, SettingsThatWaitAreSaidWhenNothingElseIsWrong)
     EXPECT_EQ(watch.Observe(seen).Strip.Button, "Reconnect");
 }
 
+TEST(FeedWatch, ASimulatedMarketIsSaidWhenNothingIsWrong)
+{
+    CFeedWatch watch;
+    sFeedObservation seen = Chart(Standing());
+    seen.Simulated = true;
+    EXPECT_EQ(watch.Observe(seen).Strip.Sentence, "GOOG: simulated live trades, not a genuine market.");
+    seen.Feed = Feed(PortState::Lost, PortState::Lost);
+    EXPECT_EQ(watch.Observe(seen).Strip.Button, "Reconnect");
+}
+
 } // namespace zantroq::test

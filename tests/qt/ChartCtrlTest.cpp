@@ -178,10 +178,22 @@ TEST_F(CChartCtrlTest, APickFromTheSymbolBoxDraws)
     box.SetItems({"WAVE", "TEST"});
     for (const bool on : {false, true}) {
         Body().SetConveniences(on);
+        box.showPopup();
         box.setCurrentIndex(0);
         emit box.activated(0);
+        box.hidePopup();
         EXPECT_EQ(Window().CurrentSymbol(), on ? "WAVE" : "TEST");
     }
+}
+
+TEST_F(CChartCtrlTest, AnArrowKeyInTheSymbolBoxDrawsNothing)
+{
+    Draw();
+    CSymbolBox& box = View().Bars().Symbol();
+    box.SetItems({"WAVE", "OTHER", "TEST"});
+    QTest::keyClick(&box, Qt::Key_Down);
+    EXPECT_NE(box.Text(), "TEST");
+    EXPECT_EQ(Window().CurrentSymbol(), "TEST");
 }
 
 TEST_F(CChartCtrlTest, EscapeIsTheHostsWhereTheConveniencesAreOff)

@@ -72,6 +72,10 @@ sFeedObservation CChartConveniences::Observe()
     if (series == nullptr)
         return seen;
     seen.Symbol = series->GetSymbol();
+    const bool simulated = !seen.Symbol.empty() && holder.IsSimulated(seen.Symbol);
+    seen.Simulated = simulated && !OnSimulated;
+    if (simulated && OnSimulated && std::exchange(m_toldSimulated, seen.Symbol) != seen.Symbol)
+        OnSimulated(QString::fromStdString(seen.Symbol));
     seen.DataType = m_window.Settings().Request.DataType;
     seen.Loading = m_window.Loading() != 0;
     seen.Points = series->GetCount(FieldTime);
@@ -81,6 +85,14 @@ sFeedObservation CChartConveniences::Observe()
     seen.Probe = m_probe.State();
     seen.ProbeType = m_probe.FoundType();
     return seen;
+}
+
+QString CChartConveniences::SimulatedNotice() const
+{
+    const CChartHistRequest* const series = m_window.Series();
+    if (!m_timer.isActive() || series == nullptr || !ManagerThreadHolder().IsSimulated(series->GetSymbol()))
+        return {};
+    return QString::fromStdString(SimulatedStrip(series->GetSymbol()).Sentence);
 }
 
 void CChartConveniences::Look()
@@ -145,9 +157,11 @@ void CChartConveniences::PressButton()
     case StripAction::Connect:
         ManagerThreadHolder().Reconnect();
         break;
-    case StripAction::UseRecordedMarket:
-        m_startRecordedMarket();
+    case StripAction::UseRecordedMarket: {
+        const std::function<void()> start = m_startRecordedMarket; // which may withdraw the offer
+        start();
         break;
+    }
     case StripAction::ShowDataType:
         m_window.Services().Type.Select(m_shown.DataType);
         m_window.OnDataTypeChanged(0);

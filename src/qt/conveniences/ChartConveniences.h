@@ -30,6 +30,12 @@ public:
     // ever reached.
     void OfferRecordedMarket(std::function<void()> start);
 
+    // Called once for each chart of a symbol whose trades the feed announces as simulated. A host that sets it
+    // tells the user; otherwise the strip does.
+    std::function<void(const QString& symbol)> OnSimulated;
+    // The notice for pictures and pages of a simulated market; empty for any other.
+    QString SimulatedNotice() const;
+
     // Seconds of a clock that never goes back; tests replace it.
     std::function<double()> Clock;
 
@@ -50,6 +56,7 @@ private:
     CNoticeStrip& m_strip; // the view's child
     QTimer m_timer;
     sStrip m_shown;
+    std::string m_toldSimulated; // the symbol that OnSimulated was called for last
     std::function<void()> m_startRecordedMarket;
 };
 

@@ -9,6 +9,8 @@
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
+#include <utility>
+
 namespace zantroq {
 
 CSymbolBox::CSymbolBox(QWidget* parent) : QComboBox(parent)
@@ -26,7 +28,8 @@ CSymbolBox::CSymbolBox(QWidget* parent) : QComboBox(parent)
     connect(this, &QComboBox::activated, this, [this](int item) {
         m_selection = item;
         OnChanged();
-        if (m_conveniences)
+        // An arrow key steps through the symbols without a list; it draws none of them.
+        if (std::exchange(m_picking, false) && m_conveniences)
             OnEnter();
     });
 }
@@ -105,6 +108,12 @@ void CSymbolBox::OnEdited(const QString& typed)
     OnChanged();
 }
 
+void CSymbolBox::showPopup()
+{
+    m_picking = true;
+    QComboBox::showPopup();
+}
+
 // A wheel turned over the bars would change the symbol.
 void CSymbolBox::wheelEvent(QWheelEvent* event)
 {
@@ -114,6 +123,7 @@ void CSymbolBox::wheelEvent(QWheelEvent* event)
 // The box has the keyboard focus and passes key events to its edit line.
 void CSymbolBox::keyPressEvent(QKeyEvent* event)
 {
+    m_picking = false;
     if (event->key() == Qt::Key_Escape && m_conveniences) {
         event->accept();
         return OnEscape();

@@ -32,6 +32,8 @@ public:
     void Select(int item) override;
     void FocusAtEnd() override;
 
+    void showPopup() override;
+
 protected:
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -40,7 +42,8 @@ private:
     void OnEdited(const QString& typed);
 
     bool m_conveniences = false;
-    int m_selection = -1; // typing ends it, although the list may hold the very text
+    bool m_picking = false; // the list was opened, and no key was pressed in the box since
+    int m_selection = -1;   // typing ends it, although the list may hold the very text
 };
 
 } // namespace zantroq
