@@ -134,6 +134,8 @@ void CChartConveniences::ShowLastTrade()
         return;
     }
     const auto trade = ManagerThreadHolder().LastTrade(series->GetSymbol());
+    if (!trade && m_view.Status().Stale())
+        return; // an attempt to connect in vain must not take the last trade away
     const double price = trade ? trade->Price : series->GetCloseAt(series->GetCount(FieldTime) - 1);
     std::string text = CManagerDrawing(m_window.DrawManager()).PriceText(price);
     if (trade)

@@ -40,6 +40,15 @@ bool Fits(const QFont& font, const QString& text, int width)
     return QFontMetrics(font).horizontalAdvance(text) * Readable <= 100 * width;
 }
 
+// Grey, with a contrast of more than 4.5 on a light bar and on a dark one.
+QColor OldTextColor(const QPalette& palette)
+{
+    const QColor back = palette.color(QPalette::Window), text = palette.color(QPalette::WindowText);
+    const auto mix = [](int from, int to) { return (from * 9 + to * 11) / 20; };
+    return QColor(mix(back.red(), text.red()), mix(back.green(), text.green()),
+                  mix(back.blue(), text.blue()));
+}
+
 QString ShortNumber(double number)
 {
     for (const auto& [unit, letter] : {std::pair(1e9, 'B'), std::pair(1e6, 'M'), std::pair(1e3, 'K')})
@@ -137,7 +146,7 @@ void CStatusLine::paintEvent(QPaintEvent*)
     painter.fillRect(0, 0, width(), 1, line);
     for (int part = 0; part < 3; ++part) {
         const bool old = part == 2 && m_stale;
-        painter.setPen(palette().color(old ? QPalette::Disabled : QPalette::Active, QPalette::WindowText));
+        painter.setPen(old ? OldTextColor(palette()) : palette().color(QPalette::WindowText));
         const QRect room = Room(part);
         if (part > 0)
             painter.fillRect(room.left(), 4, 1, LineHeight - 7, line);
