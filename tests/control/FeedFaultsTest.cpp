@@ -292,9 +292,12 @@ TEST_F(FeedFaults, WithTheConveniencesOffALostFeedLooksLikeAQuietMarket)
     Open(*m_control);
     DrawTicks();
     Layer().SetReconnectByItself(true);
+    double now = 100;
+    Layer().Clock = [&now] { return now; };
     KillFeed();
     ASSERT_TRUE(PumpUntil([] { return !ManagerThreadHolder().FeedStatus().Connected(); }));
-    QTest::qWait(1500); // several looks, and the first attempt of a layer that is on
+    for (; now < 110; ++now)
+        Layer().Look();
     EXPECT_EQ(Said(), "");
     EXPECT_FALSE(Status().Stale());
     EXPECT_EQ(m_feed.Lookup.Connections(), 1);

@@ -320,6 +320,8 @@ TEST_F(CFeedTest, TheStateOfBothConnectionsIsKnown)
     EXPECT_EQ(status.Lookup.Port, m_feed.Lookup.Port());
     EXPECT_EQ(status.Level1.Port, m_feed.Level1.Port());
     EXPECT_EQ(status.Connection, 1);
+    ASSERT_TRUE(m_feed.Lookup.AwaitConnection());
+    ASSERT_TRUE(m_feed.Level1.AwaitConnection());
     m_feed.Level1.CloseConnection();
     EXPECT_TRUE(AwaitTrue([this] { return m_holder.FeedStatus().Level1.State == PortState::Lost; }));
     EXPECT_EQ(m_holder.FeedStatus().Lookup.State, PortState::Connected);
@@ -355,10 +357,12 @@ TEST_F(CFeedTest, AnErrorAnswerIsKeptUntilTheRequestIsSentAgain)
 TEST_F(CFeedTest, ReconnectMakesNewConnectionsWithTheirSetUp)
 {
     Start();
+    ASSERT_TRUE(m_feed.Lookup.AwaitReceived(ClientName)); // a port drops what an old client sent
+    ASSERT_TRUE(m_feed.Level1.AwaitReceived(Level1SetupText()));
     m_holder.Reconnect();
     EXPECT_TRUE(m_holder.FeedStatus().Connected());
     EXPECT_EQ(m_holder.FeedStatus().Connection, 2);
-    EXPECT_EQ(m_feed.Lookup.Connections(), 2);
+    EXPECT_TRUE(AwaitTrue([this] { return m_feed.Lookup.Connections() == 2; }));
     EXPECT_TRUE(m_feed.Lookup.AwaitReceived(std::string(ClientName) + ClientName));
     EXPECT_TRUE(m_feed.Level1.AwaitReceived(Level1SetupText() + Level1SetupText()));
 }
@@ -368,9 +372,9 @@ TEST_F(CFeedTest, ReconnectCanGoToAnotherFeedAndStaysThere)
     Start();
     CScriptedFeed other;
     m_holder.Reconnect(other.Key());
-    EXPECT_EQ(other.Lookup.Connections(), 1);
+    EXPECT_TRUE(AwaitTrue([&other] { return other.Lookup.Connections() == 1; }));
     m_holder.Reconnect();
-    EXPECT_EQ(other.Lookup.Connections(), 2);
+    EXPECT_TRUE(AwaitTrue([&other] { return other.Lookup.Connections() == 2; }));
     EXPECT_EQ(m_feed.Lookup.Connections(), 1);
     m_holder.StopManagerThread(); // before the feed goes
 }

@@ -1,9 +1,9 @@
 #include "qt/conveniences/ChartConveniences.h"
 
+#include "drawing/SeriesReader.h"
 #include "market/ManagerThreadHolder.h"
 #include "qt/widgets/ChartView.h"
 #include "window/ChartDlg.h"
-#include "window/ManagerDrawing.h"
 
 #include <QTime>
 
@@ -97,6 +97,8 @@ QString CChartConveniences::SimulatedNotice() const
 
 void CChartConveniences::Look()
 {
+    if (!m_timer.isActive())
+        return;
     if (!m_view.isVisible()) {
         m_strip.hide();
         return;
@@ -137,7 +139,8 @@ void CChartConveniences::ShowLastTrade()
     if (!trade && m_view.Status().Stale())
         return; // an attempt to connect in vain must not take the last trade away
     const double price = trade ? trade->Price : series->GetCloseAt(series->GetCount(FieldTime) - 1);
-    std::string text = CManagerDrawing(m_window.DrawManager()).PriceText(price);
+    const sPriceWords words = m_window.Prices().PriceWords();
+    std::string text = words.Formatter.Format(price, words.Code);
     if (trade)
         text += " x " + std::to_string(trade->Size);
     m_view.Status().SetLastTrade(QString::fromStdString(text));

@@ -39,7 +39,7 @@ public:
     // Seconds of a clock that never goes back; tests replace it.
     std::function<double()> Clock;
 
-    void Look(); // what each tick of the timer does
+    void Look(); // what each tick of the timer does; nothing while they are off
     CNoticeStrip& Strip() { return m_strip; }
 
 private:
