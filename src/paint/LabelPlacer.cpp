@@ -11,6 +11,12 @@ bool IsTitle(const CPaneLabel& label)
     return label.Attachment() == AttachToPaneTopLeft;
 }
 
+// The text of a trendline stands above a pixel; the header of a study hangs below one.
+bool IsLineText(const CPaneLabel& label)
+{
+    return label.Attachment() == AttachToPixel && (label.Side() >> 4) == 1;
+}
+
 std::vector<std::string_view> LinesOf(std::string_view text)
 {
     std::vector<std::string_view> lines;
@@ -33,8 +39,8 @@ void CLabelPlacer::Place()
     for (int number = 1; number <= labels.Count(); ++number) {
         const CPaneLabel& label = labels.Item(number);
         // The text of a line that is out of sight would stand at the edge as if the line were there.
-        const bool outOfSight = m_placement.Manner == PaneManner::Convenient &&
-                                label.Attachment() == AttachToPixel && !m_placement.Map.Empty() &&
+        const bool outOfSight = m_placement.Manner == PaneManner::Convenient && IsLineText(label) &&
+                                !m_placement.Map.Empty() &&
                                 (m_placement.Device(label.PixelY()) < plot.Top ||
                                  m_placement.Device(label.PixelY()) >= plot.Bottom);
         if (!outOfSight)
@@ -98,7 +104,8 @@ CLabelPlacer::sPoint CLabelPlacer::Corner(const CPaneLabel& label, const sPoint&
     if (label.Attachment() == AttachToData) { // a readout must be readable whole
         corner.X = std::max(0, std::min(corner.X, m_placement.Width - width));
         corner.Y = std::max(0, std::min(corner.Y, m_placement.Height - height));
-    } else if (m_placement.Manner == PaneManner::Convenient && !m_placement.Map.Empty()) {
+    } else if (m_placement.Manner == PaneManner::Convenient && IsLineText(label) &&
+               !m_placement.Map.Empty()) {
         const sPixelRect& plot = m_placement.Map.Plot;
         corner.X = std::max(plot.Left, std::min(corner.X, plot.Right - width));
         corner.Y = std::max(std::max(plot.Top, m_titleBottom), std::min(corner.Y, plot.Bottom - height));

@@ -16,8 +16,8 @@ namespace zantroq {
 enum class PaneManner
 {
     Plain,
-    // Level lines lie under the curves of their group, and a label at a pixel stays inside the plot, below the
-    // titles.
+    // Level lines lie under the curves of their group, and the text of a trendline, a label above a pixel, stays
+    // inside the plot, below the titles.
     Convenient
 };
 

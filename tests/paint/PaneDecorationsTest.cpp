@@ -64,6 +64,18 @@ TEST(PaneLabels, OfLinesAboveOrBelowThePlotAreNotPlacedInTheConvenientManner)
     EXPECT_TRUE(sPlaced(*pane, 1.0, PaneManner::Convenient).Placed.Labels.empty());
 }
 
+TEST(PaneLabels, TheHeaderOfAStudyStandsAboveItsPlotInBothManners)
+{
+    const Pane pane = test::LinePane(280, 180, {10, 50, 90});
+    AddLabel(*pane, "Volume, average: 7,903,658", AttachToPixel, AnchorBelowRight).SetPixelAnchor(58, 0);
+    for (const PaneManner manner : {PaneManner::Plain, PaneManner::Convenient}) {
+        const sPlaced placing(*pane, 1.0, manner);
+        ASSERT_EQ(placing.Placed.Labels.size(), 1u);
+        EXPECT_EQ(placing.Box(0).Top, 0);
+        EXPECT_EQ(placing.Box(0).Left, 58);
+    }
+}
+
 TEST(PaneLabels, OfLinesHangOverThePlotInThePlainManner)
 {
     const Pane pane = test::LinePane(280, 180, {10, 50, 90});
