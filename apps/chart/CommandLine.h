@@ -22,7 +22,7 @@ struct sCommandLine
 {
     std::string Symbol;
     std::optional<int> DataType;      // 0 to 4
-    std::optional<int> IntervalIndex; // place in the interval box
+    std::optional<int> IntervalIndex; // index in the interval box
     bool Conveniences = true;
     std::optional<QSize> Size; // client size of the chart window
     bool EmbeddedFeed = false;

@@ -13,7 +13,7 @@ namespace {
 // Market seconds per second: so slow that no simulated trade happens.
 constexpr double Standstill = 1e-9;
 
-// What is finer than the finest that a symbol has cannot be made.
+// Data finer than the finest of the symbol cannot be built.
 int FinestOf(const feed::IMarketSource& market)
 {
     if (!market.TickDays().empty())

@@ -31,8 +31,8 @@ public:
     // know. `preferred` where the feed has that. Reads the recordings again.
     std::optional<int> TypeFor(const std::string& symbol, int preferred) const;
 
-    // What to do when no complete reply came for a symbol, as half a sentence: what the feed has of it, and
-    // how to see that. `wait` is what would wait longer. Reads the recordings again.
+    // A clause that says what to do if no complete reply came for a symbol: what data the feed has for it and
+    // how to show them. `wait` is the way to wait longer. Reads the recordings again.
     std::string Advice(const std::string& symbol, int dataType, const std::string& wait) const;
 
 private:

@@ -34,7 +34,7 @@ private:
     void TakeFinestType(const std::string& symbol);
     void UseRecordedMarket();
     void ListenToFeed();
-    void ApplyOptions(); // data type, interval, size: before the symbol
+    void ApplyOptions(); // data type, interval and size; before the symbol
     void OnNotice(const QString& sentence);
     void OnEndAsked();
     void WatchSymbol();

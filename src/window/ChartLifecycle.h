@@ -48,7 +48,7 @@ public:
     void OnIntervalChanged();
     void OnTimer();
     bool DrawChart();    // false: no request was made
-    void ReloadSeries(); // the same chart again: brings deleted points back
+    void ReloadSeries(); // requests the same chart again, which restores deleted points
     bool AskAgain();     // the same chart on a new connection, with its trendlines; false: there is none
 
     CChartHistRequest* Series() const { return m_series.get(); }

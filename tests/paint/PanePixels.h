@@ -41,7 +41,7 @@ public:
         Paint();
     }
     void SetManner(PaneManner manner) { m_raster.SetManner(manner); }
-    // Returns the part that was painted.
+    // Returns the painted part.
     sPixelRect Paint() { return m_raster.Paint(Picture.Raster(), m_scale); }
 
     sPixels Picture;

@@ -1,4 +1,4 @@
-// The control with a real chart window and a real feed behind it.
+// The control with a real chart window and a real feed.
 #include "export/ChartSnapshot.h"
 #include "qt/ChartFixture.h"
 #include "qt/dialogs/MessageBox.h"

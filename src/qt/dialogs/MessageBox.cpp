@@ -44,7 +44,7 @@ BoxAnswer CMessageBox::Ask(const std::string& text, const std::string& caption, 
 {
     QMessageBox box(&Over(m_parent));
     ShowPicture(box, icon);
-    // Without a caption the title stays blank; the desktop would put the program's name there.
+    // Without a caption the title is blank; the desktop would show the program's name.
     const std::string title = m_conveniences ? BoxTitle(text, caption) : caption;
     box.setWindowTitle(title.empty() ? QString(" ") : QString::fromStdString(title));
     box.setTextFormat(Qt::PlainText);

@@ -25,7 +25,7 @@ public:
     // For the dialogs that are opened from now on.
     void SetFeedKey(std::shared_ptr<ISettingsKey> feedKey) { m_feedKey = std::move(feedKey); }
 
-    // Closes an open dialog as if it had never been there.
+    // Closes an open dialog without any effect.
     void Drop();
 
     bool HasSymbolSearch() const override { return true; }

@@ -17,7 +17,7 @@ struct sChartPicture
 {
     const CChartDlg& Window;
     QSize Size;     // client size of the chart window, in pixels
-    QString Notice; // shown in the heading where not empty
+    QString Notice; // shown in the heading unless empty
     // With the conveniences: neither a scroll mark nor a status line, panes in their convenient manner, and the
     // notice also in a comment line before the values on show.
     bool Conveniences = false;
@@ -26,9 +26,9 @@ struct sChartPicture
 // Returns a null image if memory is short.
 QImage DrawChartPicture(const sChartPicture& picture, double devicePixelRatio);
 
-// Writes the picture by the ending of the path, .png (at the ratio), .svg or .pdf, or for .json the window's
-// state, or for .csv the values on show. The same window writes the same bytes. Empty, or one sentence that
-// says what is wrong.
+// Writes a file of the kind given by its ending: .png (with `devicePixelRatio`), .svg, .pdf, .json for the
+// window's state, or .csv for the displayed values. The same window gives the same bytes. Returns an empty
+// text, or a sentence that says what is wrong.
 QString SaveChartPicture(const sChartPicture& picture, const QString& path, double devicePixelRatio);
 
 } // namespace zantroq

@@ -56,7 +56,8 @@ private:
     sPrintConveniences m_conveniences;
 };
 
-// The print command of a chart window; what went wrong is told in a message box.
+// The print command of a chart window. PrintWithDialog reports errors in a message box; PrintToPdf returns an
+// empty text or a sentence.
 void PrintWithDialog(CChartDlg& window, QWidget* parent, const sPrintConveniences& conveniences = {});
 QString PrintToPdf(CChartDlg& window, const QString& path, const sPrintConveniences& conveniences = {});
 

@@ -29,7 +29,7 @@ public:
     // The part painted by the last Picture(), in pane pixels: the part of a widget to repaint.
     QRect Damage() const;
     void SetManner(PaneManner manner);
-    // Drops the kept picture: the next one is painted from nothing.
+    // Drops the cached picture, so that the next one is painted completely.
     void Forget() { m_raster.Forget(); }
 
     // Paints the scene into a box of any painter, stretched to fill it, without caching. One unit of the
@@ -48,7 +48,7 @@ private:
     sPixelRect m_damage; // device pixels
 };
 
-// A picture of the scene from nothing.
+// A picture of the scene, painted completely.
 QImage PanePicture(const CChart2D& chart, double devicePixelRatio, const QString& family = {},
                    PaneManner manner = PaneManner::Plain);
 

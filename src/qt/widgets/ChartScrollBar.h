@@ -33,7 +33,7 @@ public:
     bool Visible() const override { return m_visible; }
 
 protected:
-    void wheelEvent(QWheelEvent* event) override { event->ignore(); } // the window's
+    void wheelEvent(QWheelEvent* event) override { event->ignore(); } // handled by the window
     void contextMenuEvent(QContextMenuEvent* event) override { event->accept(); }
 
 private:

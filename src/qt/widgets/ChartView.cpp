@@ -95,7 +95,7 @@ void CChartView::Attach(CChartDlg& window)
         m_panes[static_cast<std::size_t>(number)] =
             new CPaneWidget(this, FirstPaneControl + number, window.Pane(number), *this);
     SetConveniences(m_conveniences);
-    setFocusProxy(m_panes.front()); // so that a symbol can be typed from the start
+    setFocusProxy(m_panes.front()); // so that a symbol can be typed at once
     m_dragLine->raise();
     m_timer.OnTick = [this](int id) { m_window->OnTimer(id); };
     m_scroll->OnScroll = [this](ScrollCode code, int position) {

@@ -37,7 +37,7 @@ public:
     CPaneWidget* Pane(int number) { return m_panes.at(static_cast<std::size_t>(number)); }
     CContextMenuPopup& Menu() { return m_menu; }
 
-    // Wheel, arrow keys, Ctrl with +, - and P, F10 and the menu key. On unless the host switches them off.
+    // Enables the wheel, arrow keys, Ctrl with +, - and P, F10 and the menu key. Initially on.
     void SetConveniences(bool on);
     bool Conveniences() const { return m_conveniences; }
 

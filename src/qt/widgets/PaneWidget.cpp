@@ -61,7 +61,7 @@ void CPaneWidget::SetManner(PaneManner manner)
     update();
 }
 
-// Changes of one turn of the event loop are painted together.
+// Changes in one turn of the event loop are painted together.
 void CPaneWidget::PaneChanged()
 {
     if (m_refreshAsked || !isVisible())

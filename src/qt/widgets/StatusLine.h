@@ -29,7 +29,7 @@ public:
     // Whether the last trade is known to be old: it is written in grey then.
     void SetStale(bool stale);
     bool Stale() const { return m_stale; }
-    // Where a part stands in a line of this width.
+    // The position of a part in a line of this width.
     static QRect PartRect(int part, int width);
     // Shortens a last trade such as "101.25 x 1234567" to fit: with the size as "1.2M", or without the size.
     // A cut number would mislead.

@@ -114,7 +114,7 @@ void CSymbolBox::showPopup()
     QComboBox::showPopup();
 }
 
-// A wheel turned over the bars would change the symbol.
+// The wheel would change the symbol.
 void CSymbolBox::wheelEvent(QWheelEvent* event)
 {
     event->ignore();

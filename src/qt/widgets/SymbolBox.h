@@ -21,7 +21,7 @@ public:
     // is reported. Off at the start.
     void SetConveniences(bool on) { m_conveniences = on; }
     std::function<void()> OnEscape = [] {};
-    // Types a text into the box as a user would, replacing what stands there.
+    // Types a text into the box like a user, replacing its contents.
     void TypeText(const QString& text);
 
     std::string Text() const override;
@@ -43,7 +43,7 @@ private:
 
     bool m_conveniences = false;
     bool m_picking = false; // the list was opened, and no key was pressed in the box since
-    int m_selection = -1;   // typing ends it, although the list may hold the very text
+    int m_selection = -1;   // typing clears it, even if the list contains the text
 };
 
 } // namespace zantroq
