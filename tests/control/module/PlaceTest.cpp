@@ -17,7 +17,9 @@ class CServer
 public:
     CServer()
     {
-        m_pipe = popen("echo $$; exec Xvfb -displayfd 1 -screen 0 1280x960x24 -nolisten tcp 2>&1", "r");
+        // Only the number of the display is read: a server that finds a number taken says so on standard error.
+        m_pipe =
+            popen("echo $$; exec Xvfb -displayfd 1 -screen 0 1280x960x24 -nolisten tcp 2>/dev/null", "r");
         m_process = std::atoi(Line().c_str());
         setenv("DISPLAY", (":" + Line()).c_str(), 1);
     }
