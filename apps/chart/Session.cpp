@@ -128,7 +128,7 @@ void CSession::MakeWindow()
     // What the embedded feed simulates it says itself.
     if (m_line.Conveniences)
         m_window->Chart().Layer().OnSimulated = [this](const QString& symbol) {
-            if (m_feed == nullptr)
+            if (m_feed == nullptr && !IsSimulatedSymbol(symbol)) // of those the window says more already
                 OnNotice(symbol + ": simulated live trades, not a genuine market");
         };
     ApplyOptions();
